@@ -1,0 +1,28 @@
+# Warnings, sanitizers, and the faster compiler cache and linker where the machine has them.
+
+add_library(reglages INTERFACE)
+target_compile_options(reglages INTERFACE
+    -Werror -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
+    -Wold-style-cast -Wnon-virtual-dtor)
+
+if(DORVANE_ASSAINI)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+if(DORVANE_COUVERTURE)
+    add_compile_options(--coverage -O0)
+    add_link_options(--coverage)
+endif()
+if(DORVANE_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+find_program(MOLD mold)
+if(MOLD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_link_options(-fuse-ld=mold)
+endif()
