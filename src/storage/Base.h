@@ -1,0 +1,145 @@
+#pragma once
+
+#include "storage/Avancement.h"
+#include "storage/Colonnes.h"
+#include "storage/Disque.h"
+#include "storage/Documents.h"
+#include "storage/EnTete.h"
+#include "storage/Evenements.h"
+#include "storage/Listes.h"
+#include "storage/Marques.h"
+#include "storage/MotsCles.h"
+#include "storage/R_INDEX.h"
+#include "storage/R_TRI.h"
+#include "storage/Slots.h"
+#include "storage/Textes.h"
+#include "storage/Volume.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+
+namespace dorvane::storage {
+
+enum class Ouverture {
+    Faite,
+    Introuvable,  ///< no such file
+    Refusee,      ///< the system refuses to open, write or lock it
+    Occupee,      ///< another program has it open
+    PasUneBase,   ///< bears no version mark; nothing was written to it
+    Abimee,       ///< the journal could not be replayed
+};
+
+/// What a new base starts with.
+struct OptionsBase {
+    char TypeTri = '1';
+    bool OptPrenomUnique = false;
+    bool OptParticules = false;
+};
+
+/// One open genealogy database. Several may be open at a time, each on its own file. A base that
+/// goes without `Fermer` loses what came after the last commit.
+class Base {
+    /// Set before the columns, which hold it.
+    std::unique_ptr<Volume> volumePossede_;
+
+public:
+    Base(Disque& disque, std::filesystem::path chemin, std::unique_ptr<Verrou> verrou,
+         std::unique_ptr<Volume> volume);
+    ~Base();
+    Base(const Base&) = delete;
+    Base& operator=(const Base&) = delete;
+
+    EnTete entete;
+    Marques marques;
+    Volume& volume;
+
+    MotsCles motsCles;
+    ColonneCaracteres R_SEXE;
+    ColonneAnnees<NoOrdre> R_NAISS;
+    ColonneDeces R_DECES;
+    ColonneParents R_PERE;
+    ColonneParents R_MERE;
+    ColonneNoms R_NOM;
+    ColonneTextes<NoOrdre> R_TEXTE;
+    ListeEnfants R_ENFANT;
+    ListeNumeros<NoMariage> R_MARIAG;
+    ColonnePartenaires R_EPOUX;
+    ColonnePartenaires R_EPOUSE;
+    ColonneAnnees<NoMariage> R_DEBMAR;
+    ColonneAnnees<NoMariage> R_FINMAR;
+    ColonneTextes<NoMariage> R_TXTMAR;
+    Documents R_IMAGE;
+    ListeNumeros<NoDocument> R_LSTIMG;
+    ListeLiens R_LIEN;
+    Evenements R_EVT;
+    ListeEvenements R_LSTEVT;
+    MotsIndex R_INDEX;
+    TablesTri R_TRI;
+
+    /// Next number of a kind, with its counter; 0 once the limit is reached. The 32001st person
+    /// gets the base its overflow zone. Sort tables and cells are the caller's.
+    [[nodiscard]] NoOrdre NouvelIndividu();
+    [[nodiscard]] NoMariage NouveauMariage();
+    [[nodiscard]] NoEvenement NouvelEvenement();
+    [[nodiscard]] NoDocument NouveauDocument();
+    /// Raises the highest person number to `n` at once, for imports that keep numbers.
+    void FixerDernierIndividu(std::uint32_t n);
+
+    /// Slots of the two sheets with the labels of their keywords.
+    [[nodiscard]] DefinitionSlots DefinitionIndividu();
+    [[nodiscard]] DefinitionSlots DefinitionMariage();
+
+    /// Commits if any mark is set; the base stays open. False when the system refused: the file,
+    /// once opened again, is the previous commit, and this object can only be given up.
+    [[nodiscard]] bool Enregistrer();
+    /// Commits and gives up file and lock. Nothing may be called afterwards. False as above.
+    [[nodiscard]] bool Fermer();
+    /// A write was refused: nothing more can be saved.
+    [[nodiscard]] bool EnDefaut() const { return volume.EnDefaut(); }
+
+    [[nodiscard]] const std::filesystem::path& Chemin() const { return chemin_; }
+
+    /// Empties every cache of cells and records; the file is as it is.
+    void InitColonnes();
+
+private:
+    friend struct Ouvreur;
+
+    template <class Base_, class Faire>
+    static void PourRepertoires(Base_& base, Faire faire);
+    void LireEnTete();
+    void LireAnciensReglages();
+    void ReconstruireSlots();
+    void CreerContenu(const OptionsBase& options);
+    void ViderColonnes();
+    [[nodiscard]] bool EcrireEnTete();
+    void EcrireRepertoiresEvt();
+    void AllouerSuiteIndividus();
+    [[nodiscard]] std::vector<Zone> ZonesDuCommit() const;
+
+    Disque& disque_;
+    std::filesystem::path chemin_;
+    std::unique_ptr<Verrou> verrou_;
+};
+
+struct ResultatOuverture {
+    Ouverture etat = Ouverture::Refusee;
+    std::unique_ptr<Base> base;  ///< set when `etat` is `Faite`
+    bool reprise = false;        ///< a journal of a session that died was replayed
+};
+
+/// Opens the file at `chemin`: lock, version mark, journal, header, sort tables. `disque` outlives
+/// the base. `avancement` shows the replay of a journal.
+[[nodiscard]] ResultatOuverture OuvrirBase(Disque& disque, const std::filesystem::path& chemin,
+                                           Avancement& avancement);
+
+/// Makes a new base at `chemin`; a file that is there is emptied, a journal beside it removed. The
+/// file is a base from its first commit on.
+[[nodiscard]] ResultatOuverture NouvelleBase(Disque& disque, const std::filesystem::path& chemin,
+                                             const OptionsBase& options);
+
+/// The journal of a base: its last three letters replaced by "LOG".
+[[nodiscard]] std::filesystem::path CheminJournal(const std::filesystem::path& base);
+
+}  // namespace dorvane::storage

@@ -1,0 +1,153 @@
+#pragma once
+
+#include "storage/Avancement.h"
+#include "storage/Documents.h"
+#include "storage/EnTete.h"
+#include "storage/Evenements.h"
+#include "storage/Marques.h"
+#include "storage/Textes.h"
+#include "storage/Volume.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace dorvane::storage {
+
+/// A row of record numbers in display order, held whole in memory and stored in blocks of 1000.
+class TableTri {
+public:
+    TableTri(Volume& volume, std::uint32_t nbBlocs) : volume_{volume}, repertoire_(nbBlocs) {}
+
+    /// Entry `rang`, from 1; 0 past the end.
+    [[nodiscard]] std::uint32_t AuRang(std::uint32_t rang) const {
+        return rang - 1U < numeros_.size() ? numeros_[rang - 1] : 0;
+    }
+    [[nodiscard]] std::uint32_t Taille() const {
+        return static_cast<std::uint32_t>(numeros_.size());
+    }
+    /// Replaces entry `rang`, or adds it when `rang` is just behind the last. Else nothing.
+    void Fixer(std::uint32_t rang, std::uint32_t numero);
+    void Inserer(std::uint32_t rang, std::uint32_t numero);
+    void Retirer(std::uint32_t rang);
+    void Remplacer(std::vector<std::uint16_t> numeros) { numeros_ = std::move(numeros); }
+    [[nodiscard]] const std::vector<std::uint16_t>& Numeros() const { return numeros_; }
+
+    /// Reads the blocks of the directory and keeps `nombre` entries at most.
+    void Charger(std::uint32_t nombre);
+    /// Writes the blocks that differ from the file; the last one is padded with blanks.
+    void Vider(std::uint32_t nombre);
+    /// Empties table and directory.
+    void Init();
+
+    void FixerRepertoire(std::string_view octets, std::uint32_t premiere);
+    [[nodiscard]] std::string OctetsRepertoire(std::uint32_t premiere, std::uint32_t nombre) const;
+    [[nodiscard]] const std::vector<std::uint32_t>& Repertoire() const { return repertoire_; }
+
+private:
+    Volume& volume_;
+    std::vector<std::uint16_t> numeros_;
+    std::vector<std::uint32_t> repertoire_;
+    std::string surDisque_;  ///< the blocks as the file has them
+};
+
+/// What a person is sorted by.
+struct ElementTri {
+    std::string_view nom;
+    std::string_view prenom;
+    std::string_view annee;  ///< `AnneeTri` of the birth
+};
+
+/// Who has the names and years at hand during a full sort. The views live until the next call.
+class FournisseurNoms {
+public:
+    FournisseurNoms() = default;
+    virtual ~FournisseurNoms() = default;
+    FournisseurNoms(const FournisseurNoms&) = delete;
+    FournisseurNoms& operator=(const FournisseurNoms&) = delete;
+    [[nodiscard]] virtual ElementTri ElementDe(NoOrdre n) = 0;
+};
+
+/// The three tables: persons, documents, events. Ranks count from 1.
+class TablesTri {
+public:
+    TablesTri(Volume& volume, Marques& marques, EnTete& entete, ColonneNoms& noms,
+              ColonneAnnees<NoOrdre>& naissances, Evenements& evenements, Documents& documents);
+
+    /// The three loads at opening.
+    void ChargerTris();
+
+    /// The record at a rank; 0 for rank 0 and above the count of the header.
+    [[nodiscard]] NoOrdre IndividuAuRang(std::uint32_t rang) const;
+    [[nodiscard]] NoEvenement EvtAuRang(std::uint32_t rang) const;
+    [[nodiscard]] NoDocument DocumentAuRang(std::uint32_t rang) const;
+
+    /// Sets an entry; a rank just behind the last one appends. Sets the mark of the table.
+    void FixerRang(std::uint32_t rang, NoOrdre n);
+    void FixerRang(std::uint32_t rang, NoEvenement e);
+    void FixerRang(std::uint32_t rang, NoDocument d);
+
+    /// The rank of a person; 0 when not found under the key that the person has now.
+    [[nodiscard]] std::uint32_t RangIndividu(NoOrdre n);
+    /// The rank of an event or document, by a walk; 0 when there is none.
+    [[nodiscard]] std::uint32_t RangEvt(NoEvenement e) const;
+    [[nodiscard]] std::uint32_t RangDocument(NoDocument d) const;
+    /// The rank where a person who is not in the table goes: behind equal keys.
+    [[nodiscard]] std::uint32_t RangInsertion(NoOrdre n);
+
+    /// 'A' inserts `n` at the rank, 'S' removes it; any other does nothing. The caller changes
+    /// `NbTriIndividus`, before or after, and sets `ModifTriIndividus`. A removal that does not
+    /// find `n` is told as an incident and goes on.
+    void ModifierTri(std::uint32_t rang, NoOrdre n, char action);
+    /// The same with the count and the mark: the ordinary way to add or take away a person.
+    void AjouterIndividu(NoOrdre n);
+    void RetirerIndividu(NoOrdre n);
+    /// Removes an event or document, with the count and the mark.
+    void RetirerEvt(NoEvenement e);
+    void RetirerDocument(NoDocument d);
+    /// Adds an event or document at its place, with the count and the mark.
+    void AjouterEvt(NoEvenement e);
+    void AjouterDocument(NoDocument d);
+
+    /// Sorts the persons in the table by the key of `TypeTri`, equal keys in the order in which
+    /// they stand; "0" puts them by number. False when the user gave up: the table is as before.
+    bool TrierIndividus(Avancement& avancement);
+    /// The same with names and years that the caller has in memory.
+    bool TrierIndividus(FournisseurNoms& noms, Avancement& avancement);
+    /// Sorts the events by date, or the documents by folded title, equal ones as they stand.
+    void TrierEvenements();
+    void TrierDocuments();
+
+    /// Restores order when the entry at `de` belongs nearer to `vers`: neighbours are swapped on
+    /// the way where they stand wrong.
+    void DeplacerTriEvt(std::uint32_t de, std::uint32_t vers);
+    void DeplacerTriDocument(std::uint32_t de, std::uint32_t vers);
+
+    /// The key of a person under `TypeTri`; empty under "0".
+    [[nodiscard]] std::string CleDe(NoOrdre n);
+
+    /// Writes a table if its mark is set, and clears the mark.
+    void EcrireTriIndividus();
+    void EcrireTriEvenements();
+    void EcrireTriDocuments();
+
+    TableTri individus;
+    TableTri documents;
+    TableTri evenements;
+
+private:
+    template <class Plus>
+    void Deplacer(TableTri& table, std::uint32_t de, std::uint32_t vers, bool& modif, Plus plus);
+
+    Marques& marques_;
+    EnTete& entete_;
+    ColonneNoms& noms_;
+    ColonneAnnees<NoOrdre>& naissances_;
+    Evenements& evt_;
+    Documents& doc_;
+    NoOrdre noMemo_{};
+    std::uint32_t rangMemo_ = 0;
+};
+
+}  // namespace dorvane::storage

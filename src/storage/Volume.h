@@ -1,0 +1,107 @@
+#pragma once
+
+#include "storage/Disque.h"
+#include "storage/Journal.h"
+#include "values/Numeros.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace dorvane::storage {
+
+/// A stretch of the file, smaller than a block, that a commit overwrites in place.
+struct Zone {
+    Position debut{};
+    std::uint32_t longueur = 0;
+};
+
+/// The bytes of one base and its transaction: what is appended, what is overwritten, and the
+/// journal that can undo it.
+///
+/// Appended bytes lie beyond the end of the last commit and wait in a tail of about 1 MB; they need
+/// no image. Blocks that the last commit knows wait in memory (2 MB at most) until the commit; when
+/// there are too many, their images go to the journal, the journal is flushed, and only then are
+/// they overwritten. Nothing is appended once a write has been refused.
+class Volume {
+public:
+    /// `disque` outlives the volume. `finFichier` is the last byte in use; `nouveau`: there is no
+    /// commit to come back to.
+    Volume(Disque& disque, std::unique_ptr<Fichier> fichier, std::filesystem::path journal,
+           std::uint32_t finFichier, bool nouveau);
+    ~Volume();
+    Volume(const Volume&) = delete;
+    Volume& operator=(const Volume&) = delete;
+
+    /// Last byte in use; the next allocation starts behind it.
+    [[nodiscard]] std::uint32_t FinFichier() const { return finFichier_; }
+
+    /// Reads what stands at `debut`, wherever it waits. Answers how many bytes there are before
+    /// the end of the file; the rest is set to 0. Position 0 gives 0 bytes.
+    std::size_t Lire(Position debut, std::span<char> octets);
+
+    /// The text from `debut` up to the first byte `fin`, which is left out. Ends at the end of the
+    /// file, or once `limite` bytes are read. `*trouve` tells whether `fin` was seen.
+    [[nodiscard]] std::string LireTexte(Position debut, std::size_t limite, bool* trouve = nullptr,
+                                        char fin = '#');
+    /// The same, added to `sortie`. True when `fin` was seen.
+    bool LireTexteDans(std::string& sortie, Position debut, std::size_t limite, char fin = '#');
+
+    /// Appends and answers the position; 0 when the file is full (4 GB) or has refused a write.
+    Position Ajouter(std::string_view octets);
+    /// The same for two pieces that stand behind each other, such as a text and its "#".
+    Position Ajouter(std::string_view debut, std::string_view suite);
+
+    /// Overwrites an allocated area, with its image in the journal if the last commit knows it.
+    void EcrireBloc(Position debut, std::string_view octets);
+    /// Reads a block as the last `EcrireBloc` left it.
+    void LireBloc(Position debut, std::span<char> octets);
+
+    /// The areas of the last commit whose images must be taken before anything is overwritten.
+    void ProtegerZones(std::vector<Zone> zones) { zones_ = std::move(zones); }
+
+    /// Ends the transaction: all that waits, then `entete` at position 1. False when a write was
+    /// refused: the file on the disk, once reopened, is the previous commit.
+    [[nodiscard]] bool Commettre(std::string_view entete);
+
+    [[nodiscard]] bool EnDefaut() const;
+    /// Size of the file itself, without what waits.
+    [[nodiscard]] std::uint64_t TailleDisque() { return fichier_->Taille(); }
+
+private:
+    static constexpr std::size_t TaillePage = 4096;
+    static constexpr std::size_t NbPages = 512;
+    static constexpr std::size_t PagesParLecture = 16;
+
+    std::string_view Page(std::uint64_t decalage);
+    void OublierPages(std::uint64_t debut, std::uint64_t longueur);
+    void EcrireFichier(Position debut, std::string_view octets);
+    void ViderQueue();
+    void JournaliserBlocs();
+    void EcrireBlocs();
+    void RendreFinals();
+    [[nodiscard]] bool CommettrePremier(std::string_view entete);
+
+    Disque& disque_;
+    std::unique_ptr<Fichier> fichier_;
+    Journal journal_;
+    std::uint32_t finFichier_;
+    std::uint32_t finCommise_;  ///< last byte of the last commit; 0 when there is none
+    std::string queue_;         ///< appended bytes not yet written: they end at `finFichier_`
+    std::map<std::uint32_t, std::string> blocs_;  ///< overwritten blocks that wait, by position
+    std::size_t tailleBlocs_ = 0;
+    std::vector<Zone> zones_;
+    bool defaut_ = false;
+
+    std::vector<char> pages_;                ///< read cache, `NbPages` pages side by side
+    std::vector<std::uint32_t> noPage_;      ///< number of the page in each place, from 1; 0 empty
+    std::vector<std::uint16_t> taillePage_;  ///< bytes of it that the file has
+    std::uint32_t suivante_ = 0;             ///< page behind the last one read from the disk
+};
+
+}  // namespace dorvane::storage
