@@ -1,9 +1,11 @@
 #pragma once
 
 #include "shell/Catalogue.h"
+#include "values/Numeros.h"
 
 #include <cstdint>
-#include <optional>
+#include <functional>
+#include <map>
 #include <span>
 #include <string>
 #include <string_view>
@@ -28,5 +30,19 @@ struct RangTag {
 /// The tag of a label, compared whole and exactly; a tag, and a text that is no label, come back
 /// as they stand. Texts in code page 1252.
 [[nodiscard]] std::string TagDeLibelle(const Catalogue& catalogue, std::string_view texte);
+
+/// The same two conversions for a job that does many: the labels of one language, read once.
+/// What changes the catalogue makes it stale.
+class TableLibelles {
+public:
+    explicit TableLibelles(const Catalogue& catalogue);
+
+    [[nodiscard]] std::string_view LibelleDeTag(std::string_view tag) const;
+    [[nodiscard]] std::string_view TagDeLibelle(std::string_view texte) const;
+
+private:
+    std::map<std::string, std::string, std::less<>> libelles_;  ///< by tag
+    std::map<std::string, std::string, std::less<>> tags_;      ///< by label
+};
 
 }  // namespace dorvane::shell

@@ -1,9 +1,7 @@
 #pragma once
 
 #include <filesystem>
-#include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -36,6 +34,10 @@ public:
     /// Where a damaged file was moved to; empty when there was none.
     [[nodiscard]] const std::filesystem::path& MisDeCote() const { return misDeCote_; }
 
+    /// Takes these keys of a section as the file holds them now; no key named: the whole section.
+    /// What this program has changed and not yet written stays.
+    void Relire(std::string_view section, const std::vector<std::string>& cles = {});
+
     /// The value, empty when it is absent.
     [[nodiscard]] std::string Lire(std::string_view section, std::string_view cle) const;
 
@@ -48,7 +50,8 @@ public:
 
     [[nodiscard]] std::vector<std::string> Sections() const;
 
-    /// Changes a value in memory. Bytes that are not UTF-8 are replaced when written.
+    /// Changes a value in memory. A value equal to the one held is no change. Bytes that are not
+    /// UTF-8 are replaced when written.
     void Ecrire(std::string_view section, std::string_view cle, std::string_view valeur);
 
     void Supprimer(std::string_view section, std::string_view cle);
@@ -69,20 +72,23 @@ private:
     };
     using Contenu = std::vector<Section>;
 
-    /// Reads the file as it stands now.
+    struct Change {
+        std::string section;
+        std::string cle;
+        std::optional<std::string> valeur;  ///< nothing: the key was taken away
+    };
+
     [[nodiscard]] Etat LireFichier(Contenu& contenu) const;
-    [[nodiscard]] bool EcrireFichier(const Contenu& contenu) const;
     [[nodiscard]] bool MettreDeCote();
-    static Section* Trouver(Contenu& contenu, std::string_view section);
-    static void Poser(Contenu& contenu, std::string_view section, std::string_view cle,
-                      const std::optional<std::string>& valeur);
+    [[nodiscard]] const Section* Trouver(std::string_view section) const;
+    static void Poser(Contenu& contenu, const Change& change);
+    void Changer(Change change);
 
     std::filesystem::path fichier_;
     std::filesystem::path misDeCote_;
     Contenu contenu_;
-    // What this program has changed, in order: section, key, and the value, nothing for a removal.
-    std::vector<std::pair<std::pair<std::string, std::string>, std::optional<std::string>>>
-        changes_;
+    // What this program has changed and not yet written, in order.
+    std::vector<Change> changes_;
     bool fige_ = false;
 };
 

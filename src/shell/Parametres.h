@@ -1,6 +1,8 @@
 #pragma once
 
+#include "shell/Ini.h"
 #include "shell/Magasin.h"
+#include "values/Noms.h"
 
 #include <array>
 #include <cstdint>
@@ -65,14 +67,6 @@ struct Disposition {
 };
 [[nodiscard]] Disposition DispositionDe(int typePresentation);
 
-/// A word that may stand beside a name without being part of its sort form.
-struct MotParticule {
-    std::string mot;  ///< in code page 1252, in the case that a name takes
-    bool prenom;      ///< counts in given names
-    bool nom;         ///< counts in surnames
-    friend bool operator==(const MotParticule&, const MotParticule&) = default;
-};
-
 /// One role of a kind of event.
 struct RoleEvenement {
     bool principal;     ///< the person whom the event is about
@@ -90,15 +84,16 @@ struct ReglagesGeneraux {
     std::filesystem::path geneanet;         ///< folder of the hand-over
     int frequenceSauvegarde = 15;           ///< minutes
     bool assistant = false;
-    bool barreMenus = false;    ///< the icon bar shows
-    bool barreFenetres = true;  ///< the window bar shows
-    bool motClePrenom = false;  ///< what a new base starts with
-    bool motCleNom = false;     ///< what a new base starts with
-    std::string icones;         ///< button numbers joined by ",", 99 a separator
-    std::string affichageNom;   ///< name template, each token followed by "/"
-    std::string ordreDate;      ///< "dd/mm/yyyy" or one of the four others
-    Affichage affichage;        ///< what a new base starts with
-    std::vector<MotParticule> particules;
+    bool barreMenus = false;            ///< the icon bar shows
+    bool barreFenetres = true;          ///< the window bar shows
+    bool motClePrenom = false;          ///< what a new base starts with
+    bool motCleNom = false;             ///< what a new base starts with
+    std::string icones;                 ///< button numbers joined by ",", 99 a separator
+    std::string affichageNom;           ///< name template, each token followed by "/"
+    std::string ordreDate;              ///< "dd/mm/yyyy" or one of the four others
+    bool triImport = true;              ///< an import offers to sort the base
+    Affichage affichage;                ///< what a new base starts with
+    std::vector<Particule> particules;  ///< their order matters
     std::vector<std::filesystem::path> historique;  ///< at most 5, most recent first
 };
 
@@ -117,11 +112,17 @@ struct ReglagesBase {
     Affichage affichage;
 };
 
-/// The value of a key in an older settings file, trimmed; empty when it is not there. The first
-/// line that starts with the key behind the first line that holds "[section]" counts. `section`
-/// and `cle` are UTF-8, the file is in code page 1252 and the answer too.
-[[nodiscard]] std::string LireIni(const std::filesystem::path& fichier, std::string_view section,
-                                  std::string_view cle);
+/// The leading number of a text, blanks before it passed over; 0 when there is none. What would not
+/// fit is the nearest that does.
+[[nodiscard]] std::int32_t NombreIndulgent(std::string_view texte);
+
+/// A path as the settings keep it, UTF-8; bytes of it that are not UTF-8 go through private
+/// characters and come back.
+[[nodiscard]] std::string CheminVersUtf8(const std::filesystem::path& chemin);
+[[nodiscard]] std::filesystem::path Utf8VersChemin(std::string_view utf8);
+
+/// A path as it is shown, in code page 1252: what that lacks is shown as "?".
+[[nodiscard]] std::string CheminAffiche(const std::filesystem::path& chemin);
 
 /// The settings: what is on disk (`magasin`) and what the program works with.
 class Parametres {
@@ -142,15 +143,23 @@ public:
     /// Writes the options of the program. False when the system refuses.
     bool SauverParametres();
 
-    /// Puts the history at once into the store and on disk.
-    bool SauverHistorique();
+    /// Puts `chemin` at the head of the history, with what other programs have put there since,
+    /// and saves it. At most 5 stay. False when the system refuses.
+    bool MemoriserHistorique(const std::filesystem::path& chemin);
 
-    /// Saves one value of section `Defaut` at once. `valeur` in code page 1252.
-    bool SauverValeur(std::string_view cle, std::string_view valeur);
-
-    /// A value of any section, in code page 1252; `defaut` when it is absent.
+    /// A value of any section, `defaut` when it is absent. Section and key in UTF-8, values in code
+    /// page 1252.
     [[nodiscard]] std::string Valeur(std::string_view section, std::string_view cle,
                                      std::string_view defaut = {}) const;
+
+    /// Changes one value and saves it at once. False when the system refuses.
+    bool SauverValeur(std::string_view section, std::string_view cle, std::string_view valeur);
+
+    /// The keys of a section that is a list of words, in order, in code page 1252.
+    [[nodiscard]] std::vector<std::string> Mots(std::string_view section) const;
+    /// Adds a word to such a section, or takes it away, and saves. `mot` in code page 1252.
+    bool AjouterMot(std::string_view section, std::string_view mot, std::string_view valeur = {});
+    bool SupprimerMot(std::string_view section, std::string_view mot);
 
     /// The roles of a kind of event, in order; empty when the kind is not known. `type` in code
     /// page 1252.
@@ -170,7 +179,10 @@ public:
 
 private:
     void RemplirPremiereFois();
+    void RemplirListes(std::string_view ini);
     void LireGeneraux();
+    void EcrireGeneraux();
+    void EcrireHistorique();
 };
 
 }  // namespace dorvane::shell

@@ -6,6 +6,9 @@
 #include "shell/Horloge.h"
 #include "shell/Parametres.h"
 #include "shell/Progression.h"
+#include "values/FormesNom.h"
+#include "values/MotsDates.h"
+#include "values/Noms.h"
 #include "values/Numeros.h"
 
 #include <array>
@@ -18,7 +21,8 @@
 
 namespace dorvane::storage {
 class Base;
-}
+class Disque;
+}  // namespace dorvane::storage
 
 namespace dorvane::shell {
 
@@ -28,6 +32,7 @@ struct Ports {
     Progression& progression;
     Horloge& horloge;
     Ecran& ecran;
+    storage::Disque& disque;
 };
 
 /// One of the two reference persons and the numbers of the family around that person.
@@ -58,6 +63,7 @@ public:
     Progression& progression;
     Horloge& horloge;
     Ecran& ecran;
+    storage::Disque& disque;
 
     Parametres parametres;
     Catalogue catalogue;
@@ -80,6 +86,19 @@ public:
 
     [[nodiscard]] bool BaseOuverte() const { return base != nullptr; }
 
+    /// The words of dates in the language in use.
+    [[nodiscard]] const MotsDates& Mots() const { return motsDates_; }
+    /// The order in which a date is typed.
+    [[nodiscard]] OrdreDate Ordre() const { return ordreDate_; }
+    /// The template of display names.
+    [[nodiscard]] const ModeleNom& Modele() const { return modeleNom_; }
+    /// The rules of names: the particles of the settings, moved or not as the open base says.
+    [[nodiscard]] const ReglesNoms& Regles() const;
+
+    /// Takes over what was changed in `parametres.generaux` or in the catalogue: words of dates,
+    /// order of dates, name template, particles.
+    void AppliquerReglages();
+
     /// The working folder for temporary files, no trailing separator.
     [[nodiscard]] const std::filesystem::path& Travail() const {
         return parametres.generaux.travail;
@@ -89,6 +108,12 @@ public:
     [[nodiscard]] std::string Message(std::uint32_t no) const {
         return catalogue.Message(NoMessage{no});
     }
+
+private:
+    MotsDates motsDates_;
+    OrdreDate ordreDate_ = OrdreDate::JourMoisAnnee;
+    ModeleNom modeleNom_;
+    mutable ReglesNoms regles_;
 };
 
 }  // namespace dorvane::shell

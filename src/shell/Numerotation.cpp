@@ -1,0 +1,163 @@
+#include "shell/Numerotation.h"
+
+#include "storage/Base.h"
+
+#include <algorithm>
+
+namespace dorvane::shell {
+
+namespace {
+
+constexpr int DerniereGeneration = 13;
+constexpr int DerniereProfondeur = 9;
+constexpr std::size_t MaxUnions = 26;
+constexpr std::size_t MaxEnfants = 50;
+
+/// One numbering while it is made. Every walk is bounded by its depth, so that a person who is an
+/// ancestor of himself in a damaged base ends it like any other.
+class Numeroteur {
+public:
+    Numeroteur(storage::Base& base, DeCujus& cujus) : base_{base}, cujus_{cujus} {}
+
+    void Numeroter() {
+        cujus_.sosa.assign(std::size_t{base_.entete.DernierIndividu} + 1, 0);
+        cujus_.numerosAsc.assign(1, 0);
+        cujus_.numerosDesc.assign(1, {});
+        if (!Existe(cujus_.individu)) return;
+        cujus_.numerosAsc.push_back(1);
+        Pointeur(cujus_.individu) = 1;
+        VisiterAscendant(base_.R_PERE.LireCellule(cujus_.individu), 2, 1);
+        VisiterAscendant(base_.R_MERE.LireCellule(cujus_.individu), 3, 1);
+        DescendreDe(cujus_.individu, std::string{}, 0);
+    }
+
+private:
+    struct Union {
+        NoOrdre conjoint{};
+        int compteur = 0;
+    };
+
+    [[nodiscard]] bool Existe(NoOrdre n) const { return n && n.valeur < cujus_.sosa.size(); }
+    [[nodiscard]] std::int32_t& Pointeur(NoOrdre n) { return cujus_.sosa[n.valeur]; }
+
+    void VisiterAscendant(NoOrdre n, std::int32_t numero, int generation) {
+        if (!Existe(n)) return;
+        std::int32_t& pointeur = Pointeur(n);
+        if (pointeur > 0) {
+            std::int32_t& deja = cujus_.numerosAsc[static_cast<std::size_t>(pointeur)];
+            if (deja < numero) return;
+            deja = numero;
+        } else {
+            pointeur = static_cast<std::int32_t>(cujus_.numerosAsc.size());
+            cujus_.numerosAsc.push_back(numero);
+        }
+        if (generation >= DerniereGeneration) return;
+        const NoOrdre pere = base_.R_PERE.LireCellule(n);
+        const NoOrdre mere = base_.R_MERE.LireCellule(n);
+        VisiterAscendant(pere, 2 * numero, generation + 1);
+        VisiterAscendant(mere, 2 * numero + 1, generation + 1);
+    }
+
+    [[nodiscard]] std::vector<Union> UnionsDe(NoOrdre n, bool homme) {
+        std::vector<Union> unions;
+        for (const NoMariage mariage : base_.R_MARIAG.Elements(n)) {
+            if (unions.size() == MaxUnions) break;
+            unions.push_back(
+                {homme ? base_.R_EPOUSE.LireCellule(mariage) : base_.R_EPOUX.LireCellule(mariage)});
+        }
+        return unions;
+    }
+
+    void DescendreDe(NoOrdre parent, const std::string& prefixe, int profondeur) {
+        if (profondeur > DerniereProfondeur) return;
+        const bool homme = base_.R_SEXE.LireCellule(parent) == 'H';
+        std::vector<Union> unions = UnionsDe(parent, homme);
+        int commun = 0;
+        // Copied, for the walk below reads the lists of others.
+        const std::vector<NoOrdre> enfants = base_.R_ENFANT.Elements(parent);
+        for (std::size_t i = 0; i < std::min(enfants.size(), MaxEnfants); ++i) {
+            const NoOrdre enfant = enfants[i];
+            if (!Existe(enfant)) continue;
+            const NoOrdre autre =
+                homme ? base_.R_MERE.LireCellule(enfant) : base_.R_PERE.LireCellule(enfant);
+            const auto sienne = std::find_if(unions.begin(), unions.end(), [autre](const Union& u) {
+                return u.conjoint == autre;
+            });
+            std::string numero = prefixe;
+            if (sienne == unions.end()) {
+                numero += '*' + std::to_string(++commun);
+            } else {
+                numero +=
+                    unions.size() == 1 ? '.' : static_cast<char>('a' + (sienne - unions.begin()));
+                numero += std::to_string(++sienne->compteur);
+            }
+            if (Inscrire(enfant, std::move(numero), homme))
+                DescendreDe(enfant, cujus_.numerosDesc[static_cast<std::size_t>(-Pointeur(enfant))],
+                            profondeur + 1);
+        }
+    }
+
+    /// Gives a descendant its string. False when the walk does not go on below.
+    bool Inscrire(NoOrdre enfant, std::string numero, bool parentHomme) {
+        std::int32_t& pointeur = Pointeur(enfant);
+        if (pointeur != 0 && !parentHomme) return false;
+        if (pointeur < 0) {
+            cujus_.numerosDesc[static_cast<std::size_t>(-pointeur)] = std::move(numero);
+            return true;
+        }
+        // The reference person and the ascendants keep their Sosa number: a child of one's own who
+        // is also one's ancestor stands in a base that is wrong.
+        if (pointeur > 0) return false;
+        pointeur = -static_cast<std::int32_t>(cujus_.numerosDesc.size());
+        cujus_.numerosDesc.push_back(std::move(numero));
+        return true;
+    }
+
+    storage::Base& base_;
+    DeCujus& cujus_;
+};
+
+std::string Libelle(Session& session, const DeCujus& cujus, bool premier) {
+    std::string nom = "...";
+    if (session.base && cujus.individu) {
+        const storage::LigneNom ligne = session.base->R_NOM.LireNom(cujus.individu);
+        nom = std::string{ligne.nom} + ' ' + std::string{ligne.prenom};
+    }
+    return premier ? "[" + nom + "]" : "{" + nom + "}";
+}
+
+}  // namespace
+
+void NumeroterDeCujus(Session& session, int k) {
+    DeCujus& cujus = session.deCujus[k == 1 ? 0 : 1];
+    cujus.perime = false;
+    cujus.sosa.clear();
+    cujus.numerosAsc.clear();
+    cujus.numerosDesc.clear();
+    if (session.base && cujus.individu.valeur > session.base->entete.DernierIndividu)
+        cujus.individu = NoOrdre{};
+    if (session.base && cujus.individu) Numeroteur{*session.base, cujus}.Numeroter();
+    cujus.libelle = Libelle(session, cujus, k == 1);
+}
+
+bool MnuDeCujus(Session& session, int k) {
+    if (!session.base) return false;
+    DeCujus& cujus = session.deCujus[k == 1 ? 0 : 1];
+    const NoOrdre choisi = session.dialogue.ChoisirPersonne(
+        {cujus.individu ? cujus.individu : session.PersonneEnCours, {}, {}});
+    if (!choisi) return false;
+    cujus.individu = choisi;
+    NumeroterDeCujus(session, k);
+    session.base->marques.AffichagePerime = true;
+    session.ecran.Actualiser();
+    return true;
+}
+
+void AgrandirNumerotations(Session& session) {
+    if (!session.base) return;
+    const std::size_t taille = std::size_t{session.base->entete.DernierIndividu} + 1;
+    for (DeCujus& cujus : session.deCujus)
+        if (!cujus.sosa.empty() && cujus.sosa.size() < taille) cujus.sosa.resize(taille, 0);
+}
+
+}  // namespace dorvane::shell
