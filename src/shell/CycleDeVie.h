@@ -6,6 +6,10 @@
 #include <string>
 #include <string_view>
 
+namespace dorvane::storage {
+enum class Ouverture;
+}
+
 namespace dorvane::shell {
 
 /// The paths that follow from the path of a base.
@@ -24,6 +28,10 @@ struct CheminsBase {
 /// The path of the base that a backup restores: cut at the first dot of the name, then ".LGD".
 [[nodiscard]] std::filesystem::path CheminRestauration(const std::filesystem::path& sauvegarde);
 
+/// A temporary file of the session in the working folder: `debut`, the name of the base, ".tmp".
+[[nodiscard]] std::filesystem::path FichierTemporaire(const Session& session,
+                                                      std::string_view debut);
+
 /// A heavy command may start: no long job runs (message 503 otherwise), and the person sheet is
 /// closed or had nothing unsaved.
 [[nodiscard]] bool CommandePermise(Session& session);
@@ -35,6 +43,19 @@ bool OuvrirBase(Session& session);
 /// Saves the settings of the base, commits, closes and moves the path to the head of the history.
 /// False when the commit was refused: the file holds the previous commit, and the user was told.
 bool FermerEtMemoriser(Session& session);
+
+/// Closes the base and forgets it: paths, current person, numberings, windows. Nothing when none
+/// is open. False as above.
+bool Clore(Session& session);
+
+/// Takes over a base that an import or another command has just made and closed, or opened by hand:
+/// closes what is open, then opens `chemin` and shows its person. False when it cannot be opened.
+bool OuvrirChemin(Session& session, const std::filesystem::path& chemin);
+
+/// Makes `base` the open base of the session, with its paths, settings, numberings and person. For
+/// the imports, which fill a new base that they hold.
+void Adopter(Session& session, std::unique_ptr<storage::Base> base,
+             const std::filesystem::path& chemin);
 
 /// The menu commands. Each begins with `CommandePermise`.
 void MnuNouveau(Session& session);
@@ -54,11 +75,15 @@ bool Sauvegarder(Session& session);
 /// One tick of the timer, every 60 seconds.
 void Minuterie1(Session& session);
 
+/// Tells the user why a base could not be opened; nothing for `Faite`.
+void DireOuverture(Session& session, storage::Ouverture etat, const std::filesystem::path& chemin);
+
 /// The title of the main window, in code page 1252: the title of the document of the base, else
 /// its path, else the name of the program.
 [[nodiscard]] std::string TitrePrincipal(const Session& session);
 
-/// Whether a menu entry is enabled. `nom` is the name of the entry, UTF-8.
+/// Whether a menu entry is enabled. `nom` is the name of the entry, UTF-8, with or without the
+/// index of an array in parentheses.
 [[nodiscard]] bool EtatMenu(bool baseOuverte, std::string_view nom);
 
 }  // namespace dorvane::shell

@@ -34,7 +34,7 @@ void OuvrirFichierDepose(Session& session, const std::filesystem::path& chemin);
 [[nodiscard]] std::vector<Langue> LanguesOffertes(const Session& session);
 
 /// Changes the catalogue in use. `nom` is the stem of a ".mes" file, UTF-8. The windows translate
-/// themselves afterwards.
-void ChoisirLangue(Session& session, const std::string& nom);
+/// themselves afterwards. False when there is no such file: the language stays.
+bool ChoisirLangue(Session& session, const std::string& nom);
 
 }  // namespace dorvane::shell

@@ -12,6 +12,9 @@ constexpr int DerniereGeneration = 13;
 constexpr int DerniereProfondeur = 9;
 constexpr std::size_t MaxUnions = 26;
 constexpr std::size_t MaxEnfants = 50;
+// No family comes near: a damaged base in which everybody is a child of everybody would be walked
+// for years.
+constexpr int MaxVisites = 2'000'000;
 
 /// One numbering while it is made. Every walk is bounded by its depth, so that a person who is an
 /// ancestor of himself in a damaged base ends it like any other.
@@ -69,7 +72,7 @@ private:
     }
 
     void DescendreDe(NoOrdre parent, const std::string& prefixe, int profondeur) {
-        if (profondeur > DerniereProfondeur) return;
+        if (profondeur > DerniereProfondeur || ++visites_ > MaxVisites) return;
         const bool homme = base_.R_SEXE.LireCellule(parent) == 'H';
         std::vector<Union> unions = UnionsDe(parent, homme);
         int commun = 0;
@@ -115,6 +118,7 @@ private:
 
     storage::Base& base_;
     DeCujus& cujus_;
+    int visites_ = 0;
 };
 
 std::string Libelle(Session& session, const DeCujus& cujus, bool premier) {

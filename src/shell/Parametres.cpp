@@ -222,6 +222,11 @@ void Parametres::EcrireGeneraux() {
     });
 }
 
+bool Parametres::SauverTravail() {
+    magasin.Ecrire(Defaut, "Travail", CheminVersUtf8(generaux.travail));
+    return magasin.Enregistrer();
+}
+
 bool Parametres::SauverParametres() {
     EcrireGeneraux();
     std::vector<Magasin::Entree> particules;
@@ -233,13 +238,14 @@ bool Parametres::SauverParametres() {
     return magasin.Enregistrer();
 }
 
-void Parametres::LireParametresBase(const std::filesystem::path& chemin) {
+bool Parametres::LireParametresBase(const std::filesystem::path& chemin) {
     base = {};
     base.affichage = generaux.affichage;
     const std::string section = SectionDe(chemin);
     // Another program may have had this base open since we started.
     magasin.Relire(section);
-    if (!magasin.Lire(section, "Personne en cours").empty()) {
+    const bool connue = !magasin.Lire(section, "Personne en cours").empty();
+    if (connue) {
         ParcourirBase(base, [this, &section](std::string_view cle, auto&& champ) {
             if (const std::optional<std::string> valeur = magasin.Chercher(section, cle))
                 Prendre(champ, *valeur);
@@ -261,6 +267,7 @@ void Parametres::LireParametresBase(const std::filesystem::path& chemin) {
         });
     }
     Redresser(base.affichage);
+    return connue;
 }
 
 bool Parametres::SauverParametresBase(const std::filesystem::path& chemin) {

@@ -134,11 +134,14 @@ public:
     Magasin::Etat ChargerParametres();
 
     /// Reads the options of a base when it is opened or created: from its section, else from an
-    /// older ".ini", else the defaults.
-    void LireParametresBase(const std::filesystem::path& chemin);
+    /// older ".ini", else the defaults. True when it has a section.
+    bool LireParametresBase(const std::filesystem::path& chemin);
 
     /// Writes the options of the base in its section. False when the system refuses.
     bool SauverParametresBase(const std::filesystem::path& chemin);
+
+    /// Saves the working folder at once. False when the system refuses.
+    bool SauverTravail();
 
     /// Writes the options of the program. False when the system refuses.
     bool SauverParametres();

@@ -12,6 +12,29 @@ std::string DeCujus::NumeroDe(NoOrdre personne) const {
     return {};
 }
 
+/// Hears what happens in the base.
+class Session::Veilleur final : public storage::Observateur {
+public:
+    explicit Veilleur(Session& session) : session_{session} {}
+
+    void ParentChange(NoOrdre enfant, NoOrdre parent) override {
+        for (DeCujus& cujus : session_.deCujus) {
+            const std::vector<std::int32_t>& sosa = cujus.sosa;
+            if (enfant.valeur >= sosa.size() || parent.valeur >= sosa.size()) continue;
+            if (sosa[enfant.valeur] != 0 || sosa[parent.valeur] != 0) cujus.perime = true;
+        }
+    }
+
+    void Signaler(storage::Incident incident, std::uint32_t numero) override {
+        constexpr std::size_t MaxIncidents = 100;
+        if (session_.incidents.size() < MaxIncidents)
+            session_.incidents.emplace_back(incident, numero);
+    }
+
+private:
+    Session& session_;
+};
+
 Session::Session(const Lieux& lieux, const Ports& ports)
     : dialogue{ports.dialogue},
       progression{ports.progression},
@@ -23,7 +46,10 @@ Session::Session(const Lieux& lieux, const Ports& ports)
     deCujus[1].libelle = "{...}";
 }
 
-Session::~Session() = default;
+Session::~Session() {
+    // Before what it tells.
+    base.reset();
+}
 
 const ReglesNoms& Session::Regles() const {
     regles_.deplacer = base ? base->entete.OptParticules : parametres.generaux.motCleNom;
@@ -36,6 +62,16 @@ void Session::AppliquerReglages() {
     ordreDate_ = LireOrdreDate(generaux.ordreDate).value_or(OrdreDate::JourMoisAnnee);
     modeleNom_ = LireModeleNom(generaux.affichageNom);
     regles_.particules = generaux.particules;
+    if (base) base->regles.particules = generaux.particules;
+}
+
+void Session::PoserBase(std::unique_ptr<storage::Base> nouvelle) {
+    base = std::move(nouvelle);
+    incidents.clear();
+    if (!base) return;
+    base->marques.observateur = veilleur_.get();
+    base->regles.particules = parametres.generaux.particules;
+    TypeTri = base->entete.TypeTri;
 }
 
 }  // namespace dorvane::shell

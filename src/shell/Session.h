@@ -17,11 +17,13 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace dorvane::storage {
 class Base;
 class Disque;
+enum class Incident;
 }  // namespace dorvane::storage
 
 namespace dorvane::shell {
@@ -80,6 +82,10 @@ public:
     NoOrdre PersonneFiche{};              ///< person of the person sheet; 0 when none
     std::array<DeCujus, 2> deCujus;       ///< `De Cujus` 1 and 2 at 0 and 1
     int compteurMinuterie = 0;            ///< ticks since the last automatic save
+    char TypeTri = '1';                   ///< sort order that the next new base starts with
+    bool sansReglages = false;            ///< the user knows that the settings cannot be saved
+    /// What the base has reported since it was opened, with the number of the record. At most 100.
+    std::vector<std::pair<storage::Incident, std::uint32_t>> incidents;
 
     /// Imports a ".LGR" or ".GED" file, set by the floor above. Empty: such files are ignored.
     std::function<void(const std::filesystem::path&)> importer;
@@ -99,6 +105,9 @@ public:
     /// order of dates, name template, particles.
     void AppliquerReglages();
 
+    /// Takes an open base over as the one of the session, or gives it up with null.
+    void PoserBase(std::unique_ptr<storage::Base> nouvelle);
+
     /// The working folder for temporary files, no trailing separator.
     [[nodiscard]] const std::filesystem::path& Travail() const {
         return parametres.generaux.travail;
@@ -110,10 +119,13 @@ public:
     }
 
 private:
+    class Veilleur;
+
     MotsDates motsDates_;
     OrdreDate ordreDate_ = OrdreDate::JourMoisAnnee;
     ModeleNom modeleNom_;
     mutable ReglesNoms regles_;
+    std::unique_ptr<Veilleur> veilleur_;
 };
 
 }  // namespace dorvane::shell

@@ -1,0 +1,440 @@
+#include "shell/CycleDeVie.h"
+
+#include "shell/Numerotation.h"
+#include "shell/RelaisAvancement.h"
+#include "storage/Base.h"
+#include "values/Texte1252.h"
+
+#include <algorithm>
+#include <array>
+
+namespace dorvane::shell {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view FiltreBase = "Généalogie (*.lgd) |*.lgd|"_1252;
+
+/// A path with its last three letters replaced.
+fs::path AvecTroisLettres(const fs::path& chemin, std::string_view lettres) {
+    std::string texte = chemin.native();
+    texte.resize(texte.size() - std::min<std::size_t>(3, texte.size()));
+    return fs::path{texte.append(lettres)};
+}
+
+/// A path cut at the first dot of the file name. A dot in a folder does not count.
+fs::path AuPremierPoint(const fs::path& chemin, std::string_view extension) {
+    std::string nom = chemin.filename().native();
+    nom.resize(std::min(nom.find('.'), nom.size()));
+    return chemin.parent_path() / fs::path{nom.append(extension)};
+}
+
+fs::path CheminEntier(const fs::path& chemin) {
+    std::error_code erreur;
+    const fs::path entier = fs::absolute(chemin, erreur);
+    return (erreur ? chemin : entier).lexically_normal();
+}
+
+void Dire(Session& session, std::uint32_t message, const fs::path& chemin) {
+    session.dialogue.Informer(Msg(message, CheminAffiche(chemin)));
+}
+
+/// Settings that cannot be saved are told once: the automatic save would tell it every time.
+void DireReglagesRefuses(Session& session) {
+    if (session.sansReglages) return;
+    session.sansReglages = true;
+    session.dialogue.Informer(Msg(2402));
+}
+
+void SauverReglagesBase(Session& session) {
+    ReglagesBase& reglages = session.parametres.base;
+    reglages.personneEnCours = session.PersonneEnCours.valeur;
+    reglages.deCujus1 = session.deCujus[0].individu.valeur;
+    reglages.deCujus2 = session.deCujus[1].individu.valeur;
+    if (!session.parametres.SauverParametresBase(session.CheminBase)) DireReglagesRefuses(session);
+}
+
+void PoserChemins(Session& session, const fs::path& chemin) {
+    const CheminsBase chemins = chemin.empty() ? CheminsBase{} : DeriverChemins(chemin);
+    session.CheminBase = chemin;
+    session.CheminEchange = chemins.echange;
+    session.CheminJournal = chemins.journal;
+    session.CheminGedcom = chemins.gedcom;
+    session.NomBase = chemins.nom;
+}
+
+/// Forgets all that belongs to a base.
+void Oublier(Session& session) {
+    session.PoserBase(nullptr);
+    PoserChemins(session, {});
+    session.PersonneEnCours = session.PersonneFiche = NoOrdre{};
+    for (int k = 1; k <= 2; ++k) {
+        session.deCujus[static_cast<std::size_t>(k - 1)].individu = NoOrdre{};
+        NumeroterDeCujus(session, k);
+    }
+}
+
+bool EstDansLOrdre(storage::Base& base, NoOrdre n) {
+    return n && n.valeur <= base.entete.DernierIndividu && base.R_TRI.RangIndividu(n) != 0;
+}
+
+/// Options that a file older than 3.0 holds in its header, for a base whose settings are new.
+void ReprendreAnciens(Session& session, const storage::AnciensReglages& anciens) {
+    ReglagesBase& reglages = session.parametres.base;
+    Affichage& affichage = reglages.affichage;
+    if (anciens.personneEnCours != 0) reglages.personneEnCours = anciens.personneEnCours;
+    if (anciens.typePresentation >= 1 && anciens.typePresentation <= 4)
+        affichage.typePresentation = anciens.typePresentation;
+    for (std::size_t i = 0; i < anciens.polices.size(); ++i) {
+        if (anciens.polices[i].nom.empty()) continue;
+        affichage.presentations[i].nomPolice = anciens.polices[i].nom;
+        affichage.presentations[i].taillePolice =
+            std::max(0, NombreIndulgent(anciens.polices[i].taille));
+        affichage.presentations[i].proportionnel = anciens.polices[i].proportionnelle == "1";
+    }
+    if (!anciens.couleursPresentes) return;
+    const std::array<std::uint32_t*, 7> couleurs{&affichage.couleurFond,
+                                                 &affichage.couleurCadreHomme,
+                                                 &affichage.couleurCadreFemme,
+                                                 &affichage.couleurCadreIndetermine,
+                                                 &affichage.couleurPoliceHomme,
+                                                 &affichage.couleurPoliceFemme,
+                                                 &affichage.couleurPoliceIndetermine};
+    for (std::size_t i = 0; i < couleurs.size(); ++i)
+        *couleurs[i] = anciens.couleurs[i] & 0xFFFFFFU;
+}
+
+/// The settings of the base just opened, its numberings and the person shown.
+void ReprendreReglages(Session& session) {
+    storage::Base& base = *session.base;
+    const bool connue = session.parametres.LireParametresBase(session.CheminBase);
+    if (!connue && base.entete.anciens) ReprendreAnciens(session, *base.entete.anciens);
+    const ReglagesBase& reglages = session.parametres.base;
+    session.deCujus[0].individu = NoOrdre{reglages.deCujus1};
+    session.deCujus[1].individu = NoOrdre{reglages.deCujus2};
+    NumeroterDeCujus(session, 1);
+    NumeroterDeCujus(session, 2);
+    const NoOrdre memorisee{reglages.personneEnCours};
+    session.PersonneEnCours =
+        EstDansLOrdre(base, memorisee) ? memorisee : base.R_TRI.IndividuAuRang(1);
+}
+
+/// Copies beside, then puts in place: whoever reads the target sees the old one or the new one.
+bool CopierSurement(storage::Disque& disque, const fs::path& source, const fs::path& cible,
+                    const fs::path& journalPerdu) {
+    fs::path aCote = cible;
+    aCote += ".nouveau";
+    // The journal goes first: replayed over the new file it would ruin it.
+    const bool fait =
+        disque.Copier(source, aCote) &&
+        (journalPerdu.empty() || !disque.Existe(journalPerdu) || disque.Supprimer(journalPerdu)) &&
+        disque.Renommer(aCote, cible);
+    if (!fait) {
+        if (disque.Existe(aCote)) static_cast<void>(disque.Supprimer(aCote));
+        return false;
+    }
+    disque.ViderDossier(cible);
+    return true;
+}
+
+bool EstUneBase(storage::Disque& disque, const fs::path& chemin) {
+    const std::unique_ptr<storage::Fichier> fichier =
+        disque.Ouvrir(chemin, storage::ModeOuverture::LectureSeule);
+    if (!fichier) return false;
+    std::array<char, 30> marque{};
+    const std::size_t lus = fichier->Lire(Position{1}, marque);
+    return lus == marque.size() && storage::PorteMarque({marque.data(), marque.size()});
+}
+
+/// The commit of the open base with its bookkeeping, without the tests of a menu command.
+bool Enregistrer(Session& session) {
+    if (!session.base || !session.base->marques.Modifie()) return true;
+    const Attente attente{session.progression};
+    SauverReglagesBase(session);
+    const bool fait = session.base->Enregistrer();
+    if (!session.parametres.MemoriserHistorique(session.CheminBase)) DireReglagesRefuses(session);
+    if (!fait) Dire(session, 2406, session.CheminBase);
+    return fait;
+}
+
+/// The target of a restoration is free of other programs and may be replaced.
+bool CiblePermise(Session& session, const fs::path& cible) {
+    if (!session.disque.Existe(cible)) return true;
+    const Question question{Msg(537), Msg(538), Boutons::OuiNon, Reponse::Non, true};
+    return session.dialogue.Confirmer(question);
+}
+
+}  // namespace
+
+CheminsBase DeriverChemins(const fs::path& base) {
+    return {AvecTroisLettres(base, "LGR"), AvecTroisLettres(base, "LOG"),
+            AvecTroisLettres(base, "GED"), CheminAffiche(base.stem())};
+}
+
+fs::path CheminSauvegarde(const fs::path& base) {
+    return AuPremierPoint(base, ".SAV");
+}
+
+fs::path CheminRestauration(const fs::path& sauvegarde) {
+    return AuPremierPoint(sauvegarde, ".LGD");
+}
+
+fs::path FichierTemporaire(const Session& session, std::string_view debut) {
+    std::string nom{debut};
+    nom += session.CheminBase.stem().native();
+    return session.Travail() / fs::path{nom.append(".tmp")};
+}
+
+bool CommandePermise(Session& session) {
+    if (session.progression.EnCours()) {
+        session.dialogue.Informer(Msg(503));
+        return false;
+    }
+    return session.ecran.FermerFiche();
+}
+
+void DireOuverture(Session& session, storage::Ouverture etat, const fs::path& chemin) {
+    switch (etat) {
+        case storage::Ouverture::Faite:
+            return;
+        case storage::Ouverture::Introuvable:
+            session.dialogue.Informer(Msg(700));
+            return;
+        case storage::Ouverture::Occupee:
+            Dire(session, 2403, chemin);
+            return;
+        case storage::Ouverture::PasUneBase:
+            Dire(session, 2404, chemin);
+            return;
+        case storage::Ouverture::Refusee:
+        case storage::Ouverture::Abimee:
+            Dire(session, 2405, chemin);
+            return;
+    }
+}
+
+bool OuvrirBase(Session& session) {
+    storage::ResultatOuverture resultat;
+    {
+        const Attente attente{session.progression};
+        session.PoserBase(nullptr);
+        RelaisAvancement avancement{session.progression};
+        resultat = storage::OuvrirBase(session.disque, session.CheminBase, avancement);
+        if (resultat.base) session.PoserBase(std::move(resultat.base));
+    }
+    DireOuverture(session, resultat.etat, session.CheminBase);
+    return session.BaseOuverte();
+}
+
+bool FermerEtMemoriser(Session& session) {
+    if (!session.base) return true;
+    bool fait = false;
+    {
+        const Attente attente{session.progression};
+        SauverReglagesBase(session);
+        session.TypeTri = session.base->entete.TypeTri;
+        fait = session.base->Fermer();
+        session.PoserBase(nullptr);
+    }
+    if (!session.parametres.MemoriserHistorique(session.CheminBase)) DireReglagesRefuses(session);
+    if (!fait) Dire(session, 2406, session.CheminBase);
+    return fait;
+}
+
+bool Clore(Session& session) {
+    if (!session.base) return true;
+    session.ecran.FermerFenetres();
+    const bool fait = FermerEtMemoriser(session);
+    Oublier(session);
+    return fait;
+}
+
+bool OuvrirChemin(Session& session, const fs::path& chemin) {
+    Clore(session);
+    session.ecran.FermerFenetres();
+    PoserChemins(session, CheminEntier(chemin));
+    session.PersonneEnCours = NoOrdre{};
+    const bool ouverte = OuvrirBase(session);
+    if (ouverte)
+        ReprendreReglages(session);
+    else
+        Oublier(session);
+    session.ecran.Actualiser();
+    return ouverte;
+}
+
+void Adopter(Session& session, std::unique_ptr<storage::Base> base, const fs::path& chemin) {
+    Clore(session);
+    PoserChemins(session, CheminEntier(chemin));
+    session.PoserBase(std::move(base));
+    ReprendreReglages(session);
+    session.ecran.Actualiser();
+}
+
+void MnuNouveau(Session& session) {
+    if (!CommandePermise(session)) return;
+    const fs::path depart = session.CheminBase;
+    const bool fermee = Clore(session);
+    session.ecran.Actualiser();
+    if (!fermee) return;
+    const std::optional<fs::path> choisi = session.dialogue.ChoisirFichier(
+        {DemandeFichier::Sorte::Enregistrer, {}, std::string{FiltreBase}, ".LGD", depart});
+    if (!choisi) return;
+
+    const fs::path chemin = CheminEntier(*choisi);
+    const ReglagesGeneraux& generaux = session.parametres.generaux;
+    storage::ResultatOuverture resultat = storage::NouvelleBase(
+        session.disque, chemin, {session.TypeTri, generaux.motClePrenom, generaux.motCleNom});
+    if (!resultat.base) {
+        Dire(session, resultat.etat == storage::Ouverture::Occupee ? 2403 : 2409, chemin);
+        return;
+    }
+    PoserChemins(session, chemin);
+    session.PoserBase(std::move(resultat.base));
+    // An empty file is no base: the close of a base that was left as it was created must write it.
+    session.base->marques.ModifBase = true;
+    static_cast<void>(session.parametres.LireParametresBase(chemin));
+    for (int k = 1; k <= 2; ++k) {
+        session.deCujus[static_cast<std::size_t>(k - 1)].individu = NoOrdre{};
+        NumeroterDeCujus(session, k);
+    }
+    session.PersonneEnCours = NoOrdre{};
+    session.ecran.Actualiser();
+}
+
+void MnuOuvrir(Session& session) {
+    if (!CommandePermise(session)) return;
+    const std::optional<fs::path> choisi = session.dialogue.ChoisirFichier(
+        {DemandeFichier::Sorte::Ouvrir, {}, std::string{FiltreBase}, ".LGD", session.CheminBase});
+    if (choisi) OuvrirChemin(session, *choisi);
+}
+
+void MnuOuvrir(Session& session, const fs::path& chemin) {
+    if (CommandePermise(session)) OuvrirChemin(session, chemin);
+}
+
+void MnuHisto(Session& session, int rang) {
+    if (!CommandePermise(session)) return;
+    const std::vector<fs::path>& historique = session.parametres.generaux.historique;
+    if (rang < 0 || static_cast<std::size_t>(rang) >= historique.size()) return;
+    const fs::path chemin = historique[static_cast<std::size_t>(rang)];
+    if (!session.disque.Existe(chemin)) {
+        session.dialogue.Informer(Msg(700));
+        return;
+    }
+    std::error_code erreur;
+    fs::current_path(chemin.parent_path(), erreur);
+    OuvrirChemin(session, chemin);
+}
+
+void MnuFermer(Session& session) {
+    if (!CommandePermise(session)) return;
+    Clore(session);
+    session.ecran.Actualiser();
+}
+
+bool MnuEnregistrer(Session& session) {
+    if (!CommandePermise(session)) return false;
+    const bool fait = Enregistrer(session);
+    session.ecran.Actualiser();
+    return fait;
+}
+
+bool Sauvegarder(Session& session) {
+    if (!session.base) return false;
+    session.dialogue.Annoncer(Msg(41));
+    const fs::path cible = CheminSauvegarde(session.CheminBase);
+    // After a refused commit the file waits for its journal: a copy of it alone would be no base.
+    const bool fermee = FermerEtMemoriser(session);
+    bool copiee = false;
+    if (fermee && cible != session.CheminBase) {
+        const Attente attente{session.progression};
+        copiee = CopierSurement(session.disque, session.CheminBase, cible, {});
+    }
+    session.dialogue.Annoncer({});
+    if (fermee && !copiee) Dire(session, 2407, cible);
+    if (!copiee || !OuvrirBase(session)) {
+        session.ecran.FermerFenetres();
+        Oublier(session);
+    }
+    return copiee;
+}
+
+void MnuSauvegarde(Session& session) {
+    if (!CommandePermise(session) || !session.base) return;
+    const fs::path cible = CheminSauvegarde(session.CheminBase);
+    const bool copiee = Sauvegarder(session);
+    session.ecran.Actualiser();
+    if (copiee) session.dialogue.Annoncer(Msg(2412, CheminAffiche(cible)));
+}
+
+void MnuRestauration(Session& session) {
+    if (!CommandePermise(session)) return;
+    const std::optional<fs::path> choisi = session.dialogue.ChoisirFichier(
+        {DemandeFichier::Sorte::Ouvrir, Msg(836), session.Message(2411), ".SAV",
+         session.CheminBase.parent_path()});
+    if (!choisi) return;
+    const fs::path source = CheminEntier(*choisi);
+    const fs::path cible = CheminRestauration(source);
+    if (!EstUneBase(session.disque, source) || source == cible) {
+        Dire(session, 2404, source);
+        return;
+    }
+    if (!CiblePermise(session, cible)) return;
+
+    Clore(session);
+    bool copiee = false;
+    {
+        const Attente attente{session.progression};
+        const storage::ResultatVerrou verrou = session.disque.Verrouiller(cible);
+        if (verrou.etat == storage::EtatVerrou::Occupe) {
+            Dire(session, 2403, cible);
+            session.ecran.Actualiser();
+            return;
+        }
+        copiee = CopierSurement(session.disque, source, cible, storage::CheminJournal(cible));
+    }
+    if (copiee) {
+        OuvrirChemin(session, cible);
+    } else {
+        Dire(session, 2408, source);
+        session.ecran.Actualiser();
+    }
+}
+
+void Minuterie1(Session& session) {
+    if (session.base) {
+        // Below the limit nothing waits in the buffers of the system that a restart would miss:
+        // what was committed is flushed, and what was not needs its commit first.
+        if (session.compteurMinuterie <= session.parametres.generaux.frequenceSauvegarde) {
+            ++session.compteurMinuterie;
+        } else {
+            Enregistrer(session);
+            session.compteurMinuterie = 0;
+        }
+    }
+    for (int k = 1; k <= 2; ++k)
+        if (session.deCujus[static_cast<std::size_t>(k - 1)].perime) NumeroterDeCujus(session, k);
+}
+
+std::string TitrePrincipal(const Session& session) {
+    if (!session.base) return "Dorvane";
+    if (const NoDocument document = session.base->entete.DocBase) {
+        std::string titre = session.base->R_IMAGE.TitreDoc(document);
+        if (!titre.empty()) return titre;
+    }
+    return CheminAffiche(session.CheminBase);
+}
+
+bool EtatMenu(bool baseOuverte, std::string_view nom) {
+    constexpr std::array<std::string_view, 16> SansBase{
+        "MnuNouveau",          "MnuOuvrir",     "MnuRestauration", "MnuHisto",
+        "MnuImporter",         "MnuBaptème",    "MnuSépulture",    "MnuRelevéMariage",
+        "MnuRelevéAscendance", "MnuLng",        "MnuParametres",   "MnuUsuels",
+        "MnuGraphisme",        "MnuCalendrier", "MnuCommunes",     "MnuQuitter"};
+    const std::string_view seul = nom.substr(0, nom.find('('));
+    return baseOuverte || std::find(SansBase.begin(), SansBase.end(), seul) != SansBase.end();
+}
+
+}  // namespace dorvane::shell
