@@ -1,0 +1,122 @@
+#include "interchange/Importer.h"
+
+#include "interchange/ImportGedcom.h"
+#include "shell/CycleDeVie.h"
+#include "shell/FichierSur.h"
+#include "values/Texte1252.h"
+
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+namespace dorvane::interchange {
+namespace {
+
+std::string NomAffichable(const std::filesystem::path& chemin) {
+    return Utf8VersTexte(chemin.string()).octets;
+}
+
+/// The extension in small letters, with its dot.
+std::string Extension(const std::filesystem::path& chemin) {
+    std::string extension = chemin.extension().string();
+    for (char& c : extension)
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    return extension;
+}
+
+/// Tells what stopped an import; nothing when it was done.
+void Expliquer(shell::Session& session, IssueImport issue, const std::filesystem::path& fichier,
+               const std::filesystem::path& base) {
+    switch (issue) {
+        case IssueImport::Fait:
+            return;
+        case IssueImport::Illisible:
+            session.dialogue.Informer(shell::Msg(2240, NomAffichable(fichier)));
+            return;
+        case IssueImport::Inexploitable:
+            session.dialogue.Informer(shell::Litteral("Fichier GEDCOM inexploitable"_1252));
+            return;
+        case IssueImport::Abandonne:
+            session.dialogue.Informer(shell::Msg(2241));
+            return;
+        case IssueImport::Occupee:
+            session.dialogue.Informer(shell::Msg(2403, NomAffichable(base)));
+            return;
+        case IssueImport::Refuse:
+            session.dialogue.Informer(shell::Msg(2242, NomAffichable(base)));
+            return;
+    }
+}
+
+/// Limits that left records out are told at once, not only in the report.
+void AvertirLimites(shell::Session& session, const RapportImport& rapport) {
+    if (rapport.Nombre(Constat::Limite, "INDI") > 0) session.dialogue.Informer(shell::Msg(625));
+    if (rapport.Nombre(Constat::Limite, "SOUR") > 0 && rapport.evenements >= storage::MaxEvenements)
+        session.dialogue.Informer(shell::Msg(709));
+    if (rapport.Nombre(Constat::Limite, "NOTE") > 0 && rapport.documents >= storage::MaxDocuments)
+        session.dialogue.Informer(shell::Msg(707));
+}
+
+bool PeutRemplacer(shell::Session& session, const std::filesystem::path& base) {
+    std::error_code erreur;
+    if (!std::filesystem::exists(base, erreur)) return true;
+    shell::Question question;
+    question.texte = shell::Msg(536);
+    question.titre = shell::Msg(538);
+    question.defaut = shell::Reponse::Non;
+    question.grave = true;
+    return session.dialogue.Confirmer(question);
+}
+
+}  // namespace
+
+Importation ImporterVers(shell::Session& session, const std::filesystem::path& fichier,
+                         const std::filesystem::path& base) {
+    Importation importation;
+    const IssueImport issue = ImporterGedcom(session, fichier, base, importation.rapport);
+    Expliquer(session, issue, fichier, base);
+    importation.faite = issue == IssueImport::Fait;
+    if (!importation.faite) return importation;
+
+    AvertirLimites(session, importation.rapport);
+    importation.texte =
+        ComposerRapport(importation.rapport, session, NomAffichable(fichier.filename()));
+    std::filesystem::path chemin = session.Travail() / base.stem();
+    chemin += ".IMPORT.TXT";
+    if (shell::EcrireTout(chemin, TexteVersUtf8(importation.texte)))
+        importation.fichierRapport = chemin;
+    else
+        session.dialogue.Informer(shell::Msg(2244));
+    return importation;
+}
+
+void ImporterFichier(shell::Session& session, const std::filesystem::path& fichier,
+                     const MontrerRapport& montrer) {
+    if (!shell::CommandePermise(session) || Extension(fichier) != ".ged") return;
+    std::filesystem::path base = fichier;
+    base.replace_extension(".LGD");
+    if (!PeutRemplacer(session, base)) return;
+    if (session.BaseOuverte() && !shell::FermerEtMemoriser(session)) return;
+    session.ecran.FermerFenetres();
+    const Importation importation = ImporterVers(session, fichier, base);
+    if (!importation.faite) {
+        session.ecran.Actualiser();
+        return;
+    }
+    shell::MnuOuvrir(session, base);
+    session.dialogue.Annoncer(shell::Msg(2243, NomAffichable(base.filename())));
+    if (montrer) montrer(session.Message(2246), importation.texte);
+}
+
+void MnuImporter(shell::Session& session, const MontrerRapport& montrer) {
+    if (!shell::CommandePermise(session)) return;
+    shell::DemandeFichier demande;
+    demande.titre = shell::Msg(774);
+    demande.filtre = session.Message(2245);
+    demande.extension = ".ged";
+    demande.depart = session.CheminGedcom;
+    if (const auto fichier = session.dialogue.ChoisirFichier(demande))
+        ImporterFichier(session, *fichier, montrer);
+}
+
+}  // namespace dorvane::interchange

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "interchange/FicheGedcom.h"
+#include "interchange/LiensImport.h"
+
+#include <string>
+#include <string_view>
+
+namespace dorvane::interchange {
+
+/// The name of a NAME line in its parts, and the words by which the person is found.
+struct NomLu {
+    std::string nom;
+    std::string prenom;    ///< the first of the given names
+    std::string autres;    ///< the other given names
+    std::string motsCles;  ///< "|" and the surname, a blank, "¶" and the given names; may be empty
+
+    /// The name line, without its dates: three fields, separators replaced.
+    [[nodiscard]] std::string Ligne() const;
+};
+
+/// Takes the value of a NAME line apart: the surname stands between slashes. `prenomUnique`: blanks
+/// between given names stay blanks in the keyword, so that only the first is one.
+[[nodiscard]] NomLu LireNomGedcom(std::string_view valeur, bool prenomUnique);
+
+/// Reads the records of persons, first pass.
+class LecteurIndividu {
+public:
+    struct Reglages {
+        bool prenomUnique = false;
+    };
+    struct Reference {
+        std::string_view cle;
+        std::string_view chemin;
+        std::uint32_t ligne;
+    };
+
+    LecteurIndividu(const ContexteImport& contexte, SlotsImport& slots, LiensImport& liens,
+                    Reglages reglages)
+        : contexte_{contexte}, liens_{liens}, fiche_{contexte, slots}, reglages_{reglages} {}
+
+    void Commencer(NoOrdre individu);
+    /// A line of level 1 or deeper.
+    void Lire(const LigneGedcom& ligne);
+    /// Writes the cells and records of the person. The text stays in `Texte` until the next one.
+    void Terminer();
+
+    [[nodiscard]] const std::string& Texte() const { return texte_; }
+    [[nodiscard]] const NomLu& Nom() const { return nom_; }
+    [[nodiscard]] char Sexe() const { return sexe_; }
+    [[nodiscard]] std::string_view AnneeNaissance() const {
+        return fiche_.Lire(FicheGedcom::Rang::Premier).date.annee;
+    }
+    /// The families that persons name, to be looked for once all are known.
+    [[nodiscard]] const std::vector<Reference>& Familles() const { return familles_; }
+
+private:
+    void LireNiveau1(const LigneGedcom& ligne);
+    bool LireEvenement(const LigneGedcom& ligne);
+    bool LireTexte(const LigneGedcom& ligne);
+    void LireNom(const LigneGedcom& ligne);
+    bool LireSousLigne(const LigneGedcom& ligne);
+    bool LireNote(const LigneGedcom& ligne);
+    bool LireSource(const LigneGedcom& ligne);
+    bool LireFiliation(const LigneGedcom& ligne);
+    bool LireSousNom(const LigneGedcom& ligne);
+
+    ContexteImport contexte_;
+    LiensImport& liens_;
+    FicheGedcom fiche_;
+    Reglages reglages_;
+
+    NoOrdre individu_;
+    char sexe_ = 'I';
+    bool nomVu_ = false;
+    NomLu nom_;
+    std::string_view prenomSeul_;  ///< GIVN and SURN under an empty NAME
+    std::string_view nomSeul_;
+    std::string texte_;
+    std::string_view derniereSource_;
+    bool lienOuvert_ = false;
+    bool roleOuvert_ = false;
+    std::vector<Reference> familles_;
+};
+
+}  // namespace dorvane::interchange
