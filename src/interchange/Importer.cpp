@@ -3,6 +3,7 @@
 #include "interchange/ImportGedcom.h"
 #include "shell/CycleDeVie.h"
 #include "shell/FichierSur.h"
+#include "storage/EnTete.h"
 #include "values/Texte1252.h"
 
 #include <string_view>

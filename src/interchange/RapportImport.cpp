@@ -33,6 +33,13 @@ std::string EcrireNumeros(const std::vector<std::uint32_t>& numeros) {
     return texte + '\n';
 }
 
+/// The message that tells why a set was taken; others where the file declares none.
+std::uint32_t RaisonEnClair(const ChoixDeJeu& choix) {
+    if (choix.declare.empty() && choix.raison == RaisonDuJeu::ContenuUtf8) return 2235;
+    if (choix.declare.empty() && choix.raison == RaisonDuJeu::Defaut) return 2236;
+    return PremiereRaison + static_cast<std::uint32_t>(choix.raison);
+}
+
 /// Puts the lines of one report together.
 class Redaction {
 public:
@@ -103,8 +110,8 @@ std::string ComposerRapport(const RapportImport& rapport, const shell::Session& 
     if (!rapport.finTrouvee) redaction.Ligne(2205);
 
     redaction.Sauter();
-    redaction.Ligne(PremiereRaison + static_cast<std::uint32_t>(rapport.jeu.raison),
-                    std::string{NomDeJeu(rapport.jeu.jeu)}, rapport.jeu.declare);
+    redaction.Ligne(RaisonEnClair(rapport.jeu), std::string{NomDeJeu(rapport.jeu.jeu)},
+                    rapport.jeu.declare);
     redaction.Compter(2207, rapport.translitteres);
     redaction.Compter(2208, rapport.perdus);
     redaction.Compter(2209, rapport.octetsNuls);
