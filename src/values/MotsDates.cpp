@@ -167,7 +167,7 @@ std::string MontrerJetons(std::string s, const MotsDates& mots) {
             // text, and stored dates are read with that.
             const std::size_t tete = s.find(" MAI ");
             const std::string garde = tete == std::string::npos ? "" : s.substr(0, tete + 1);
-            s = garde + mots.mois[m].mot + s.substr(place + cherche.size() - 1);
+            s.replace(0, place + cherche.size() - 1, garde + mots.mois[m].mot);
         } else {
             s.replace(place + 1, cherche.size() - 2, mots.mois[m].mot);
         }

@@ -18,7 +18,13 @@ constexpr std::array<std::string_view, 41> MotsInitiaux{
     "van", "VI",   "VII",   "VIII", "von",  "XI",    "XII", "XIII", "XIV", "XIX", "XV",
     "XVI", "XVII", "XVIII", "XX",   "XXIX", "XXVII", "y",   "zu"};
 
-constexpr std::string_view Separateurs = " '-_’´"_1252;
+/// One place for each byte: true for the separators.
+constexpr std::array<bool, 256> Separateurs = [] {
+    std::array<bool, 256> table{};
+    for (const char octet : " '-_’´"_1252)
+        table[static_cast<unsigned char>(octet)] = true;
+    return table;
+}();
 
 /// True when the word at `place` of `texte`, which may be followed by other words, stands between
 /// separators (or at the head).
@@ -95,18 +101,24 @@ std::string CapitaliseNom(std::string_view texte, std::string_view mode, const R
 
 std::string CleNom(std::string_view nom, const ReglesNoms& regles) {
     std::string cle;
+    CleNomDans(cle, nom, regles);
+    return cle;
+}
+
+void CleNomDans(std::string& sortie, std::string_view nom, const ReglesNoms& regles) {
+    const auto debut = static_cast<std::ptrdiff_t>(sortie.size());
     if (regles.deplacer) {
         const std::string avecBlanc = std::string(nom) + ' ';
         std::string_view reste = avecBlanc;
         const std::string otees = OterParticules(reste, regles);
-        cle = reste;
-        if (!otees.empty()) cle.append(1, '(').append(SansBlancs(otees)).append(1, ')');
-        cle = std::string(SansBlancs(cle));
+        if (otees.empty())
+            sortie += SansBlancs(reste);
+        else
+            sortie.append(SansBlancsAGauche(reste)).append(1, '(').append(SansBlancs(otees)) += ')';
     } else {
-        cle = SansBlancs(nom);
+        sortie += SansBlancs(nom);
     }
-    std::ranges::replace_if(cle, EstSeparateur, '.');
-    return cle;
+    std::replace_if(sortie.begin() + debut, sortie.end(), EstSeparateur, '.');
 }
 
 std::string CleTri(std::string_view nom, std::string_view prenom, std::string_view naissance,

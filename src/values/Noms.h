@@ -43,6 +43,9 @@ struct ReglesNoms {
 /// "Tour.(de.la)" when particles are moved. Callers fold it.
 [[nodiscard]] std::string CleNom(std::string_view nom, const ReglesNoms& regles);
 
+/// Appends the same form to `sortie`, without an allocation of its own unless particles move.
+void CleNomDans(std::string& sortie, std::string_view nom, const ReglesNoms& regles);
+
 /// How the table of persons is ordered, with the values that the file keeps.
 enum class TypeTri : char {
     Creation = '0',   ///< new persons at the end; there is no key
