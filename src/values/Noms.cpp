@@ -74,7 +74,7 @@ ReglesNoms ReglesInitiales() {
 }
 
 bool EstSeparateur(char octet) {
-    return Separateurs.find(octet) != std::string_view::npos;
+    return Separateurs[static_cast<unsigned char>(octet)];
 }
 
 std::string CapitaliseNom(std::string_view texte, std::string_view mode, const ReglesNoms& regles) {
