@@ -118,7 +118,10 @@ std::string Catalogue::Composer(const Phrase& phrase) const {
             texte += modele[i];
         }
     }
-    if (phrase.suite) texte += "\n" + Message(phrase.suite);
+    if (phrase.suite) {
+        texte += '\n';
+        texte += Message(phrase.suite);
+    }
     return texte;
 }
 

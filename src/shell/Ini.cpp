@@ -19,7 +19,8 @@ std::string_view PrendreLigne(std::string_view& reste) {
 
 /// What follows the line that holds the section in brackets; empty when there is none.
 std::string_view TrouverSection(std::string_view texte, std::string_view section) {
-    const std::string crochets = "[" + Utf8VersTexte(section).octets + "]";
+    std::string crochets{'['};
+    crochets.append(Utf8VersTexte(section).octets).append(1, ']');
     while (!texte.empty())
         if (PrendreLigne(texte).find(crochets) != std::string_view::npos) return texte;
     return {};

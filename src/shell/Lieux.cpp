@@ -76,7 +76,8 @@ fs::path Parametres::DossierTemp() const {
         if (parent.empty()) continue;
         const fs::path dossier = parent / "Temp";
         fs::create_directories(dossier, erreur);
-        if (access(dossier.c_str(), W_OK | X_OK) == 0) return dossier;
+        if (fs::is_directory(dossier, erreur) && access(dossier.c_str(), W_OK | X_OK) == 0)
+            return dossier;
     }
     return {};
 }
