@@ -1,0 +1,52 @@
+#include "app/Atelier.h"
+
+#include "shell/CycleDeVie.h"
+#include "shell/Demarrage.h"
+#include "shell/RelaisAvancement.h"
+#include "storage/Base.h"
+#include "values/Texte1252.h"
+
+#include <system_error>
+
+namespace dorvane::outil {
+
+Atelier::Atelier(const std::string& langue)
+    : session{shell::LieuxDuSysteme(), {dialogue, progression, horloge_, ecran_, disque_}} {
+    dialogue.catalogue = &session.catalogue;
+    shell::Demarrage(session);
+    if (!langue.empty()) shell::ChoisirLangue(session, langue);
+}
+
+int Atelier::Ouvrir(const std::filesystem::path& chemin) {
+    shell::RelaisAvancement avancement{progression};
+    storage::ResultatOuverture resultat = storage::OuvrirBase(session.disque, chemin, avancement);
+    shell::DireOuverture(session, resultat.etat, chemin);
+    switch (resultat.etat) {
+        case storage::Ouverture::Faite:
+            break;
+        case storage::Ouverture::Introuvable:
+        case storage::Ouverture::Refusee:
+            return RefusSysteme;
+        case storage::Ouverture::Occupee:
+        case storage::Ouverture::PasUneBase:
+        case storage::Ouverture::Abimee:
+            return Refus;
+    }
+    const shell::CheminsBase chemins = shell::DeriverChemins(chemin);
+    session.CheminBase = chemin;
+    session.NomBase = chemins.nom;
+    session.PoserBase(std::move(resultat.base));
+    session.parametres.LireParametresBase(chemin);
+    return Fait;
+}
+
+int Atelier::Fermer() {
+    if (!session.BaseOuverte()) return Fait;
+    const bool fermee = session.base->Fermer();
+    session.PoserBase(nullptr);
+    if (fermee) return Fait;
+    dialogue.Informer(shell::Msg(2406, Utf8VersTexte(session.CheminBase.string()).octets));
+    return RefusSysteme;
+}
+
+}  // namespace dorvane::outil

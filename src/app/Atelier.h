@@ -1,0 +1,43 @@
+#pragma once
+
+#include "app/Terminal.h"
+#include "shell/Ecran.h"
+#include "shell/Horloge.h"
+#include "shell/Session.h"
+#include "storage/DisqueReel.h"
+
+#include <filesystem>
+#include <string>
+
+namespace dorvane::outil {
+
+/// What a command ends with.
+inline constexpr int Fait = 0;
+inline constexpr int Refus = 1;  ///< refused, or findings
+inline constexpr int MauvaisUsage = 2;
+inline constexpr int RefusSysteme = 3;  ///< the file system said no
+
+/// A session for one command: settings and texts, no windows.
+class Atelier {
+public:
+    /// `langue`: stem of a catalogue, UTF-8; empty for the one of the settings.
+    explicit Atelier(const std::string& langue);
+
+    /// Opens a base for the command; tells why when it cannot. The answer is an exit status.
+    [[nodiscard]] int Ouvrir(const std::filesystem::path& chemin);
+    /// Gives the base up; a change is committed. The answer is an exit status.
+    [[nodiscard]] int Fermer();
+
+    DialogueTerminal dialogue;
+    ProgressionMuette progression;
+
+private:
+    shell::HorlogeSysteme horloge_;
+    shell::EcranAbsent ecran_;
+    storage::DisqueReel disque_;
+
+public:
+    shell::Session session;
+};
+
+}  // namespace dorvane::outil

@@ -1,0 +1,84 @@
+#include "app/Atelier.h"
+#include "app/Commandes.h"
+#include "app/DecrirePersonne.h"
+#include "interchange/Importer.h"
+#include "values/Texte1252.h"
+
+#include <array>
+#include <iostream>
+#include <system_error>
+
+namespace dorvane::outil {
+namespace {
+
+namespace fs = std::filesystem;
+using interchange::Constat;
+
+constexpr std::array<std::pair<Constat, const char*>, 10> NomsDesConstats{
+    {{Constat::NonRepris, "nonRepris"},
+     {Constat::SansPlace, "sansPlace"},
+     {Constat::DansLaNote, "dansLaNote"},
+     {Constat::Remplace, "remplaces"},
+     {Constat::Reference, "references"},
+     {Constat::Doublon, "doublons"},
+     {Constat::Limite, "limites"},
+     {Constat::SansParent, "sansParent"},
+     {Constat::Illisible, "illisibles"},
+     {Constat::SansUnion, "sansUnion"}}};
+
+Json DecrireRapport(const interchange::RapportImport& rapport) {
+    Json constats = Json::object();
+    for (const auto& [constat, nom] : NomsDesConstats) {
+        Json liste = Json::object();
+        for (const auto& [chemin, mention] : rapport.Liste(constat))
+            liste[TexteVersUtf8(chemin)] = {{"nombre", mention.nombre}, {"lignes", mention.lignes}};
+        if (!liste.empty()) constats[nom] = std::move(liste);
+    }
+    return constats;
+}
+
+Json DecrireImport(const interchange::Importation& importation, const fs::path& base) {
+    const interchange::RapportImport& r = importation.rapport;
+    return {{"base", base.string()},
+            {"individus", r.individus},
+            {"unions", r.unions},
+            {"evenements", r.evenements},
+            {"documents", r.documents},
+            {"lignes", r.lignes},
+            {"jeu", NomDeJeu(r.jeu.jeu)},
+            {"jeuDeclare", TexteVersUtf8(r.jeu.declare)},
+            {"translitteres", r.translitteres},
+            {"perdus", r.perdus},
+            {"octetsNuls", r.octetsNuls},
+            {"rapport", importation.fichierRapport.string()},
+            {"constats", DecrireRapport(r)}};
+}
+
+/// The exit status of an import that was not done: only what the system refused is its fault.
+int StatutDuRefus(NoMessage dernier) {
+    return dernier == NoMessage{2240} || dernier == NoMessage{2242} ? RefusSysteme : Refus;
+}
+
+}  // namespace
+
+int Importer(const OptionsImport& options) {
+    Atelier atelier{options.langue};
+    fs::path base = options.base;
+    if (base.empty()) base = fs::path{options.fichier}.replace_extension(".LGD");
+    std::error_code erreur;
+    if (fs::exists(base, erreur) && !options.remplacer) {
+        atelier.dialogue.Informer(shell::Msg(2247, Utf8VersTexte(base.string()).octets));
+        return Refus;
+    }
+    atelier.dialogue.reponse = options.trier ? shell::Reponse::Oui : shell::Reponse::Non;
+    const interchange::Importation importation =
+        interchange::ImporterVers(atelier.session, options.fichier, base);
+    if (!importation.faite) return StatutDuRefus(atelier.dialogue.dernier);
+    if (options.json)
+        std::cout << DecrireImport(importation, base).dump(2) << '\n';
+    else
+        std::cout << TexteVersUtf8(importation.texte);
+    return Fait;
+}
+
+}  // namespace dorvane::outil
