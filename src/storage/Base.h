@@ -14,6 +14,7 @@
 #include "storage/Slots.h"
 #include "storage/Textes.h"
 #include "storage/Volume.h"
+#include "values/Noms.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -27,7 +28,7 @@ enum class Ouverture {
     Refusee,      ///< the system refuses to open, write or lock it
     Occupee,      ///< another program has it open
     PasUneBase,   ///< bears no version mark; nothing was written to it
-    Abimee,       ///< the journal could not be replayed
+    Abimee,       ///< a journal is there and could not be replayed
 };
 
 /// What a new base starts with.
@@ -53,6 +54,9 @@ public:
     EnTete entete;
     Marques marques;
     Volume& volume;
+    /// Particles of names, for the sort keys. The initial ones until the floor above sets its own;
+    /// `deplacer` follows `EnTete::OptParticules` by itself.
+    ReglesNoms regles;
 
     MotsCles motsCles;
     ColonneCaracteres R_SEXE;
@@ -106,12 +110,13 @@ public:
 private:
     friend struct Ouvreur;
 
-    template <class Base_, class Faire>
-    static void PourRepertoires(Base_& base, Faire faire);
+    [[nodiscard]] DefinitionSlots Definition(const Slots& slots);
     void LireEnTete();
     void LireAnciensReglages();
     void ReconstruireSlots();
-    void CreerContenu(const OptionsBase& options);
+    /// Drops directory entries that lie outside a file of `taille` bytes; answers the last byte of
+    /// the blocks that are left.
+    [[nodiscard]] std::uint64_t VerifierRepertoires(std::uint64_t taille);
     void ViderColonnes();
     [[nodiscard]] bool EcrireEnTete();
     void EcrireRepertoiresEvt();
@@ -138,6 +143,10 @@ struct ResultatOuverture {
 /// file is a base from its first commit on.
 [[nodiscard]] ResultatOuverture NouvelleBase(Disque& disque, const std::filesystem::path& chemin,
                                              const OptionsBase& options);
+
+/// Removes the journal that lies beside a base which is about to be replaced: it belongs to no one
+/// and must not be replayed. False when there is one and the system refuses.
+[[nodiscard]] bool SupprimerJournal(Disque& disque, const std::filesystem::path& base);
 
 /// The journal of a base: its last three letters replaced by "LOG".
 [[nodiscard]] std::filesystem::path CheminJournal(const std::filesystem::path& base);

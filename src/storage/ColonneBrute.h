@@ -1,6 +1,7 @@
 #pragma once
 
 #include "storage/Marques.h"
+#include "storage/Repertoire.h"
 #include "storage/Volume.h"
 #include "values/Numeros.h"
 
@@ -36,17 +37,16 @@ public:
     /// Forgets both blocks without writing.
     void InitColonne();
     /// Where block `bloc` (from 1) stands; 0 when it was never written or there is no such block.
-    [[nodiscard]] Position PositionBloc(std::uint32_t bloc) const;
+    [[nodiscard]] Position PositionBloc(std::uint32_t bloc) const {
+        return repertoire.PositionBloc(bloc);
+    }
     /// Highest number that has a cell.
     [[nodiscard]] std::uint32_t Portee() const {
         return geometrie_.nbBlocs * geometrie_.cellulesParBloc;
     }
 
-    /// Takes over entries `premiere` (from 0) on of the directory from a row of `Num4`.
-    void FixerRepertoire(std::string_view octets, std::uint32_t premiere);
-    /// Entries `premiere` on as a row of `Num4`, 0 past the end of the directory.
-    [[nodiscard]] std::string OctetsRepertoire(std::uint32_t premiere, std::uint32_t nombre) const;
-    [[nodiscard]] std::span<const std::uint32_t> Repertoire() const { return repertoire_; }
+    /// The directory; changed from outside only when a base is opened or made.
+    Repertoire repertoire;
     [[nodiscard]] std::uint32_t TailleBloc() const {
         return geometrie_.largeur * geometrie_.cellulesParBloc;
     }
@@ -86,7 +86,6 @@ private:
     Geometrie geometrie_;
     std::array<Emplacement, 2> emplacements_;
     std::uint8_t dernier_ = 1;  ///< the one touched last; the other is pushed out
-    std::vector<std::uint32_t> repertoire_;
     std::array<char, 16> neuves_;
 };
 

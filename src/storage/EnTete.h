@@ -42,8 +42,9 @@ struct AnciensReglages {
     std::uint16_t personneEnCours = 0;
     std::uint16_t secondePersonne = 0;
     std::uint16_t typePresentation = 0;
-    std::array<Police, 4> polices;
-    char drapeau68 = '1';  ///< '1' or '2'
+    std::array<Position, 4> positionsPolices{};  ///< records of 50 bytes
+    std::array<Police, 4> polices;               ///< read from there
+    char drapeau68 = '1';                        ///< '1' or '2'
     char drapeau69 = ' ';
     bool couleursPresentes = false;
     std::array<std::uint32_t, 7> couleurs{};

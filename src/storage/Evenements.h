@@ -65,6 +65,8 @@ public:
     void InitColonne();
 
 private:
+    static constexpr std::size_t MaxNumeros = 65535;  ///< no list of the file has more entries
+
     struct Tete {
         std::uint32_t cle = 0;
         Position note{};
@@ -74,6 +76,9 @@ private:
     };
     const Tete& LireTete(NoEvenement e);
     std::string LireListe(Position debut, std::size_t taille);
+    Position AjouterListe(std::string_view entrees);
+    Position AjouterDescription(const DescriptionEvt& description);
+    void Oublier();
     Position AjouterLiens(const std::vector<LienEvenement>& liens);
 
     NoEvenement noTete_{};

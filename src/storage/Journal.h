@@ -32,8 +32,8 @@ public:
     /// Nothing has been taken in this transaction.
     [[nodiscard]] bool Vide() const { return pris_.empty(); }
 
-    /// Adds `longueur` bytes of `base` from `debut` on to the batch, in pieces of 1000; the last
-    /// piece is drawn back to end with the area when `reculer` and the area holds 1000 bytes.
+    /// Adds `longueur` bytes of `base` from `debut` on to the batch, in pieces of 1000. The last
+    /// piece is drawn back so as to end with the area, unless the area is shorter than a piece.
     void Prendre(Fichier& base, Position debut, std::uint32_t longueur);
 
     /// Writes the batch and returns once it is on the disk. `finCommise`: last byte of the last

@@ -20,6 +20,8 @@ struct CelluleMot {
     friend bool operator==(const CelluleMot&, const CelluleMot&) = default;
 };
 
+/// The token at the head of `suite`: up to a blank, a return or the end, cut at 4095 bytes.
+[[nodiscard]] std::string_view JetonDe(std::string_view suite);
 /// The words behind `symbole` in `texte`, folded, in the order of the text. Rich text is read as
 /// plain text. Empty words are left out; one that folds to blanks stands as written.
 [[nodiscard]] std::vector<std::string> MotsDuTexte(std::string_view texte, char symbole);
@@ -69,6 +71,7 @@ private:
     Recherche Chercher(const std::vector<NoIndex>& mots, std::string_view mot);
     void RetirerMot(std::vector<NoIndex>& mots, NoOrdre n, std::string_view mot);
     void AjouterMot(std::vector<NoIndex>& mots, NoOrdre n, std::string_view mot);
+    void PlacerPersonne(std::vector<NoOrdre>& personnes, NoOrdre n);
     void EcrirePersonnes(NoIndex e, CelluleMot cellule, const std::vector<NoOrdre>& personnes);
 
     EnTete& entete_;

@@ -5,8 +5,10 @@
 #include "storage/EnTete.h"
 #include "storage/Evenements.h"
 #include "storage/Marques.h"
+#include "storage/Repertoire.h"
 #include "storage/Textes.h"
 #include "storage/Volume.h"
+#include "values/Noms.h"
 
 #include <cstdint>
 #include <string>
@@ -18,7 +20,8 @@ namespace dorvane::storage {
 /// A row of record numbers in display order, held whole in memory and stored in blocks of 1000.
 class TableTri {
 public:
-    TableTri(Volume& volume, std::uint32_t nbBlocs) : volume_{volume}, repertoire_(nbBlocs) {}
+    TableTri(Volume& volume, std::uint32_t nbBlocs)
+        : repertoire{nbBlocs, TailleBloc}, volume_{volume} {}
 
     /// Entry `rang`, from 1; 0 past the end.
     [[nodiscard]] std::uint32_t AuRang(std::uint32_t rang) const {
@@ -41,14 +44,14 @@ public:
     /// Empties table and directory.
     void Init();
 
-    void FixerRepertoire(std::string_view octets, std::uint32_t premiere);
-    [[nodiscard]] std::string OctetsRepertoire(std::uint32_t premiere, std::uint32_t nombre) const;
-    [[nodiscard]] const std::vector<std::uint32_t>& Repertoire() const { return repertoire_; }
+    /// The directory; changed from outside only when a base is opened or made.
+    Repertoire repertoire;
 
 private:
+    static constexpr std::uint32_t TailleBloc = 2000;
+
     Volume& volume_;
     std::vector<std::uint16_t> numeros_;
-    std::vector<std::uint32_t> repertoire_;
     std::string surDisque_;  ///< the blocks as the file has them
 };
 
@@ -56,7 +59,7 @@ private:
 struct ElementTri {
     std::string_view nom;
     std::string_view prenom;
-    std::string_view annee;  ///< `AnneeTri` of the birth
+    std::string_view annee;  ///< year of birth as its cell holds it
 };
 
 /// Who has the names and years at hand during a full sort. The views live until the next call.
@@ -72,8 +75,9 @@ public:
 /// The three tables: persons, documents, events. Ranks count from 1.
 class TablesTri {
 public:
-    TablesTri(Volume& volume, Marques& marques, EnTete& entete, ColonneNoms& noms,
-              ColonneAnnees<NoOrdre>& naissances, Evenements& evenements, Documents& documents);
+    TablesTri(Volume& volume, Marques& marques, EnTete& entete, ReglesNoms& regles,
+              ColonneNoms& noms, ColonneAnnees<NoOrdre>& naissances, Evenements& evenements,
+              Documents& documents);
 
     /// The three loads at opening.
     void ChargerTris();
@@ -137,11 +141,14 @@ public:
     TableTri evenements;
 
 private:
-    template <class Plus>
-    void Deplacer(TableTri& table, std::uint32_t de, std::uint32_t vers, bool& modif, Plus plus);
+    template <class CleDeNumero>
+    void Deplacer(TableTri& table, std::uint32_t de, std::uint32_t vers, bool& modif,
+                  CleDeNumero cleDe);
+    const ReglesNoms& Regles();
 
     Marques& marques_;
     EnTete& entete_;
+    ReglesNoms& regles_;
     ColonneNoms& noms_;
     ColonneAnnees<NoOrdre>& naissances_;
     Evenements& evt_;

@@ -41,6 +41,9 @@ public:
     /// Last byte in use; the next allocation starts behind it.
     [[nodiscard]] std::uint32_t FinFichier() const { return finFichier_; }
 
+    /// Only right after the opening, once the header is read: the end of the last commit.
+    void FixerFin(std::uint32_t fin) { finFichier_ = finCommise_ = fin; }
+
     /// Reads what stands at `debut`, wherever it waits. Answers how many bytes there are before
     /// the end of the file; the rest is set to 0. Position 0 gives 0 bytes.
     std::size_t Lire(Position debut, std::span<char> octets);
@@ -78,17 +81,22 @@ private:
     static constexpr std::size_t NbPages = 512;
     static constexpr std::size_t PagesParLecture = 16;
 
+    /// Bytes of one page of the file, from an offset on.
     std::string_view Page(std::uint64_t decalage);
+    /// What stands at an offset, in the file or in the tail; as much as lies together.
+    std::string_view Morceau(std::uint64_t decalage);
     void OublierPages(std::uint64_t debut, std::uint64_t longueur);
     void EcrireFichier(Position debut, std::string_view octets);
     void ViderQueue();
-    void JournaliserBlocs();
+    void ViderBlocs();
     void EcrireBlocs();
-    void RendreFinals();
+    [[nodiscard]] bool Journaliser();
+    [[nodiscard]] bool Protegee(Position debut, std::size_t longueur) const;
     [[nodiscard]] bool CommettrePremier(std::string_view entete);
 
     Disque& disque_;
     std::unique_ptr<Fichier> fichier_;
+    std::filesystem::path chemin_;
     Journal journal_;
     std::uint32_t finFichier_;
     std::uint32_t finCommise_;  ///< last byte of the last commit; 0 when there is none

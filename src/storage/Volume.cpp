@@ -1,0 +1,236 @@
+#include "storage/Volume.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace dorvane::storage {
+namespace {
+
+constexpr std::size_t TailleQueue = 1U << 20U;    // appended bytes that wait
+constexpr std::size_t TailleAttente = 2U << 20U;  // overwritten blocks that wait
+constexpr std::uint64_t TailleMax = 0xFFFFFFFFU;  // positions have 4 bytes
+
+}  // namespace
+
+Volume::Volume(Disque& disque, std::unique_ptr<Fichier> fichier, std::filesystem::path journal,
+               std::uint32_t finFichier, bool nouveau)
+    : disque_{disque},
+      fichier_{std::move(fichier)},
+      chemin_{journal},
+      journal_{disque, std::move(journal)},
+      finFichier_{finFichier},
+      finCommise_{nouveau ? 0 : finFichier},
+      pages_(TaillePage * NbPages),
+      noPage_(NbPages),
+      taillePage_(NbPages) {}
+
+Volume::~Volume() = default;
+
+bool Volume::EnDefaut() const {
+    return defaut_ || fichier_->EnDefaut();
+}
+
+void Volume::OublierPages(std::uint64_t debut, std::uint64_t longueur) {
+    if (longueur == 0) return;
+    std::uint64_t page = debut / TaillePage;
+    const std::uint64_t derniere = (debut + longueur - 1) / TaillePage;
+    if (derniere - page >= NbPages) {
+        std::fill(noPage_.begin(), noPage_.end(), 0);
+        return;
+    }
+    for (; page <= derniere; ++page)
+        if (noPage_[page % NbPages] == page + 1) noPage_[page % NbPages] = 0;
+}
+
+std::string_view Volume::Page(std::uint64_t decalage) {
+    const auto page = static_cast<std::uint32_t>(decalage / TaillePage);
+    const std::size_t place = page % NbPages;
+    if (noPage_[place] != page + 1) {
+        // A walk through the file reads ahead; a lone record costs one page.
+        const std::size_t nombre =
+            page == suivante_ ? std::min(PagesParLecture, NbPages - place) : 1;
+        std::size_t lus =
+            fichier_->Lire(Position{static_cast<std::uint32_t>(page * TaillePage + 1)},
+                           std::span{pages_}.subspan(place * TaillePage, nombre * TaillePage));
+        for (std::size_t i = 0; i < nombre; ++i) {
+            const std::size_t taille = std::min(lus, TaillePage);
+            noPage_[place + i] = page + static_cast<std::uint32_t>(i) + 1;
+            taillePage_[place + i] = static_cast<std::uint16_t>(taille);
+            lus -= taille;
+        }
+        suivante_ = page + static_cast<std::uint32_t>(nombre);
+    }
+    const std::size_t debut = decalage % TaillePage;
+    if (debut >= taillePage_[place]) return {};
+    return std::string_view{pages_.data() + place * TaillePage, taillePage_[place]}.substr(debut);
+}
+
+std::string_view Volume::Morceau(std::uint64_t decalage) {
+    const std::uint64_t debutQueue = finFichier_ - queue_.size();
+    if (!queue_.empty() && decalage >= debutQueue)
+        return decalage < finFichier_ ? std::string_view{queue_}.substr(decalage - debutQueue)
+                                      : std::string_view{};
+    if (decalage >= TailleMax) return {};
+    std::string_view morceau = Page(decalage);
+    if (!queue_.empty() && morceau.size() > debutQueue - decalage)
+        morceau = morceau.substr(0, debutQueue - decalage);
+    return morceau;
+}
+
+std::size_t Volume::Lire(Position debut, std::span<char> octets) {
+    std::size_t lus = 0;
+    if (debut) {
+        while (lus < octets.size()) {
+            const std::string_view morceau = Morceau(debut.valeur - 1ULL + lus);
+            if (morceau.empty()) break;
+            const std::size_t n = std::min(morceau.size(), octets.size() - lus);
+            std::memcpy(octets.data() + lus, morceau.data(), n);
+            lus += n;
+        }
+    }
+    std::fill(octets.begin() + static_cast<std::ptrdiff_t>(lus), octets.end(), '\0');
+    return lus;
+}
+
+bool Volume::LireTexteDans(std::string& sortie, Position debut, std::size_t limite, char fin) {
+    if (!debut) return false;
+    std::uint64_t decalage = debut.valeur - 1ULL;
+    while (limite > 0) {
+        const std::string_view morceau = Morceau(decalage).substr(0, limite);
+        if (morceau.empty()) return false;
+        const std::size_t place = morceau.find(fin);
+        sortie.append(morceau.substr(0, place));
+        if (place != std::string_view::npos) return true;
+        decalage += morceau.size();
+        limite -= morceau.size();
+    }
+    return false;
+}
+
+std::string Volume::LireTexte(Position debut, std::size_t limite, bool* trouve, char fin) {
+    std::string texte;
+    const bool vu = LireTexteDans(texte, debut, limite, fin);
+    if (trouve != nullptr) *trouve = vu;
+    return texte;
+}
+
+Position Volume::Ajouter(std::string_view debut, std::string_view suite) {
+    const std::uint64_t taille = debut.size() + suite.size();
+    if (finFichier_ + taille >= TailleMax) defaut_ = true;
+    if (EnDefaut()) return {};
+    queue_.append(debut).append(suite);
+    const Position position{finFichier_ + 1};
+    finFichier_ += static_cast<std::uint32_t>(taille);
+    if (queue_.size() >= TailleQueue) ViderQueue();
+    return position;
+}
+
+Position Volume::Ajouter(std::string_view octets) {
+    return Ajouter(octets, {});
+}
+
+void Volume::EcrireFichier(Position debut, std::string_view octets) {
+    OublierPages(debut.valeur - 1ULL, octets.size());
+    fichier_->Ecrire(debut, octets);
+}
+
+void Volume::ViderQueue() {
+    if (queue_.empty()) return;
+    EcrireFichier(Position{finFichier_ - static_cast<std::uint32_t>(queue_.size()) + 1}, queue_);
+    queue_.clear();
+}
+
+void Volume::EcrireBloc(Position debut, std::string_view octets) {
+    if (!debut || octets.empty() || EnDefaut()) return;
+    if (debut.valeur <= finCommise_) {
+        std::string& bloc = blocs_[debut.valeur];
+        tailleBlocs_ = tailleBlocs_ - bloc.size() + octets.size();
+        bloc = octets;
+        if (tailleBlocs_ > TailleAttente) ViderBlocs();
+        return;
+    }
+    // Allocated in this transaction: in the tail, or already written beyond the last commit.
+    const std::uint64_t debutQueue = finFichier_ - queue_.size();
+    const std::uint64_t decalage = debut.valeur - 1ULL;
+    if (decalage < debutQueue) {
+        const std::string_view avant = octets.substr(0, debutQueue - decalage);
+        EcrireFichier(debut, avant);
+        octets.remove_prefix(avant.size());
+        if (!octets.empty()) queue_.replace(0, std::min(octets.size(), queue_.size()), octets);
+    } else if (decalage + octets.size() <= finFichier_) {
+        queue_.replace(decalage - debutQueue, octets.size(), octets);
+    }
+}
+
+void Volume::LireBloc(Position debut, std::span<char> octets) {
+    const auto bloc = blocs_.find(debut.valeur);
+    if (bloc == blocs_.end() || bloc->second.size() != octets.size())
+        Lire(debut, octets);
+    else
+        std::copy(bloc->second.begin(), bloc->second.end(), octets.begin());
+}
+
+bool Volume::Protegee(Position debut, std::size_t longueur) const {
+    return std::any_of(zones_.begin(), zones_.end(), [&](const Zone& zone) {
+        return debut >= zone.debut && debut.valeur - zone.debut.valeur + longueur <= zone.longueur;
+    });
+}
+
+bool Volume::Journaliser() {
+    if (journal_.Vide())
+        for (const Zone& zone : zones_)
+            journal_.Prendre(*fichier_, zone.debut, zone.longueur);
+    for (const auto& [position, octets] : blocs_) {
+        const Position debut{position};
+        if (!journal_.Contient(debut) && !Protegee(debut, octets.size()))
+            journal_.Prendre(*fichier_, debut, static_cast<std::uint32_t>(octets.size()));
+    }
+    if (fichier_->EnDefaut() || !journal_.Ecrire(finCommise_)) defaut_ = true;
+    return !defaut_;
+}
+
+void Volume::EcrireBlocs() {
+    for (const auto& [position, octets] : blocs_)
+        EcrireFichier(Position{position}, octets);
+    blocs_.clear();
+    tailleBlocs_ = 0;
+}
+
+void Volume::ViderBlocs() {
+    if (Journaliser()) EcrireBlocs();
+}
+
+bool Volume::CommettrePremier(std::string_view entete) {
+    // There is no earlier state to come back to: the file is no base until its mark stands, and the
+    // mark is written once all the rest is on the disk.
+    constexpr std::size_t TailleMarque = 30;
+    ViderQueue();
+    EcrireFichier(Position{TailleMarque + 1}, entete.substr(TailleMarque));
+    fichier_->Vider();
+    EcrireFichier(Position{1}, entete.substr(0, TailleMarque));
+    fichier_->Vider();
+    if (EnDefaut()) return false;
+    disque_.ViderDossier(chemin_);
+    finCommise_ = finFichier_;
+    return true;
+}
+
+bool Volume::Commettre(std::string_view entete) {
+    if (EnDefaut()) return false;
+    if (finCommise_ == 0) return CommettrePremier(entete);
+    if (!Journaliser()) return false;
+    ViderQueue();
+    EcrireBlocs();
+    EcrireFichier(Position{1}, entete);
+    fichier_->Vider();
+    if (EnDefaut()) return false;
+    if (!journal_.Supprimer()) {
+        defaut_ = true;
+        return false;
+    }
+    finCommise_ = finFichier_;
+    return true;
+}
+
+}  // namespace dorvane::storage
