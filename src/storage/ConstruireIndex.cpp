@@ -103,7 +103,8 @@ public:
         std::vector<std::string_view> vues;
         std::uint32_t fait = 0;
         for (const std::uint32_t i : ordre) {
-            if (fait++ % PasCompteur == 0 && !avancement.Avancer(fait, total)) return false;
+            if (fait % PasCompteur == 0 && !avancement.Avancer(fait, total)) return false;
+        ++fait;
             personnes_[i].debut = static_cast<std::uint32_t>(jetons_.size());
             vues.clear();
             textes.TextesDe(personnes_[i].no, vues);

@@ -43,7 +43,8 @@ bool PreparerCles(const std::vector<std::uint16_t>& numeros, FournisseurNoms& no
     cles.resize(total);
     std::uint32_t fait = 0;
     for (const std::uint32_t rang : ordre) {
-        if (fait++ % PasCompteur == 0 && !avancement.Avancer(fait, total)) return false;
+        if (fait % PasCompteur == 0 && !avancement.Avancer(fait, total)) return false;
+        ++fait;
         const ElementTri element = noms.ElementDe(NoOrdre{numeros[rang]});
         const std::size_t debut = arene.size();
         CleTriDans(arene, element.nom, element.prenom, element.annee, tri, regles);
