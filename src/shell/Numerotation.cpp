@@ -71,7 +71,8 @@ private:
         return unions;
     }
 
-    void DescendreDe(NoOrdre parent, const std::string& prefixe, int profondeur) {
+    // `prefixe` is a copy: the walk below moves the strings about.
+    void DescendreDe(NoOrdre parent, std::string prefixe, int profondeur) {
         if (profondeur > DerniereProfondeur || ++visites_ > MaxVisites) return;
         const bool homme = base_.R_SEXE.LireCellule(parent) == 'H';
         std::vector<Union> unions = UnionsDe(parent, homme);

@@ -41,7 +41,8 @@ Session::Session(const Lieux& lieux, const Ports& ports)
       horloge{ports.horloge},
       ecran{ports.ecran},
       disque{ports.disque},
-      parametres{lieux} {
+      parametres{lieux},
+      veilleur_{std::make_unique<Veilleur>(*this)} {
     deCujus[0].libelle = "[...]";
     deCujus[1].libelle = "{...}";
 }
