@@ -7,23 +7,22 @@
 namespace dorvane::storage {
 namespace {
 
-constexpr std::size_t TailleQueue = 1U << 20U;    // appended bytes that wait
-constexpr std::size_t TailleAttente = 2U << 20U;  // overwritten blocks that wait
 constexpr std::uint64_t TailleMax = 0xFFFFFFFFU;  // positions have 4 bytes
 
 }  // namespace
 
 Volume::Volume(Disque& disque, std::unique_ptr<Fichier> fichier, std::filesystem::path journal,
                std::uint32_t finFichier, bool nouveau)
-    : disque_{disque},
-      fichier_{std::move(fichier)},
-      chemin_{journal},
+    : fichier_{std::move(fichier)},
       journal_{disque, std::move(journal)},
       finFichier_{finFichier},
       finCommise_{nouveau ? 0 : finFichier},
       pages_(TaillePage * NbPages),
       noPage_(NbPages),
-      taillePage_(NbPages) {}
+      taillePage_(NbPages) {
+    // The image of a header without a mark: until the first commit is whole the file is no base.
+    if (nouveau) zones_ = {{Position{1}, 200}};
+}
 
 Volume::~Volume() = default;
 
@@ -122,7 +121,7 @@ Position Volume::Ajouter(std::string_view debut, std::string_view suite) {
     queue_.append(debut).append(suite);
     const Position position{finFichier_ + 1};
     finFichier_ += static_cast<std::uint32_t>(taille);
-    if (queue_.size() >= TailleQueue) ViderQueue();
+    if (queue_.size() >= maxQueue_) ViderQueue();
     return position;
 }
 
@@ -147,7 +146,7 @@ void Volume::EcrireBloc(Position debut, std::string_view octets) {
         std::string& bloc = blocs_[debut.valeur];
         tailleBlocs_ = tailleBlocs_ - bloc.size() + octets.size();
         bloc = octets;
-        if (tailleBlocs_ > TailleAttente) ViderBlocs();
+        if (tailleBlocs_ > maxAttente_) ViderBlocs();
         return;
     }
     // Allocated in this transaction: in the tail, or already written beyond the last commit.
@@ -201,24 +200,8 @@ void Volume::ViderBlocs() {
     if (Journaliser()) EcrireBlocs();
 }
 
-bool Volume::CommettrePremier(std::string_view entete) {
-    // There is no earlier state to come back to: the file is no base until its mark stands, and the
-    // mark is written once all the rest is on the disk.
-    constexpr std::size_t TailleMarque = 30;
-    ViderQueue();
-    EcrireFichier(Position{TailleMarque + 1}, entete.substr(TailleMarque));
-    fichier_->Vider();
-    EcrireFichier(Position{1}, entete.substr(0, TailleMarque));
-    fichier_->Vider();
-    if (EnDefaut()) return false;
-    disque_.ViderDossier(chemin_);
-    finCommise_ = finFichier_;
-    return true;
-}
-
 bool Volume::Commettre(std::string_view entete) {
     if (EnDefaut()) return false;
-    if (finCommise_ == 0) return CommettrePremier(entete);
     if (!Journaliser()) return false;
     ViderQueue();
     EcrireBlocs();

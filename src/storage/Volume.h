@@ -73,6 +73,11 @@ public:
     [[nodiscard]] bool Commettre(std::string_view entete);
 
     [[nodiscard]] bool EnDefaut() const;
+    /// How many bytes may wait in memory: appended ones, and overwritten blocks.
+    void FixerTampons(std::size_t queue, std::size_t attente) {
+        maxQueue_ = queue;
+        maxAttente_ = attente;
+    }
     /// Size of the file itself, without what waits.
     [[nodiscard]] std::uint64_t TailleDisque() { return fichier_->Taille(); }
 
@@ -92,17 +97,16 @@ private:
     void EcrireBlocs();
     [[nodiscard]] bool Journaliser();
     [[nodiscard]] bool Protegee(Position debut, std::size_t longueur) const;
-    [[nodiscard]] bool CommettrePremier(std::string_view entete);
 
-    Disque& disque_;
     std::unique_ptr<Fichier> fichier_;
-    std::filesystem::path chemin_;
     Journal journal_;
     std::uint32_t finFichier_;
     std::uint32_t finCommise_;  ///< last byte of the last commit; 0 when there is none
     std::string queue_;         ///< appended bytes not yet written: they end at `finFichier_`
     std::map<std::uint32_t, std::string> blocs_;  ///< overwritten blocks that wait, by position
     std::size_t tailleBlocs_ = 0;
+    std::size_t maxQueue_ = 1U << 20U;
+    std::size_t maxAttente_ = 2U << 20U;
     std::vector<Zone> zones_;
     bool defaut_ = false;
 

@@ -1,0 +1,108 @@
+// A real process that edits and commits on the real disk is killed at a moment of chance; what is
+// opened again is one of its commits, at least the last one that it had announced.
+#include "doublures/Inventaire.h"
+#include "doublures/SeanceEssai.h"
+#include "storage/Base.h"
+#include "storage/DisqueReel.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <string>
+#include <thread>
+
+#include <doctest/doctest.h>
+
+using namespace dorvane;
+using namespace dorvane::storage;
+
+namespace {
+
+constexpr int NbCommits = 60;
+constexpr int Gestes = 5;
+constexpr std::uint32_t Graine = 42;
+
+struct Dossier {
+    Dossier() {
+        std::string modele = (std::filesystem::temp_directory_path() / "tues-XXXXXX").string();
+        REQUIRE(::mkdtemp(modele.data()) != nullptr);
+        chemin = modele;
+    }
+    ~Dossier() { std::filesystem::remove_all(chemin); }
+    Dossier(const Dossier&) = delete;
+    Dossier& operator=(const Dossier&) = delete;
+    std::filesystem::path chemin;
+};
+
+/// Works on the base; announces each commit by one byte when `annonce` is a descriptor, and puts
+/// down what the base says when `etats` is given.
+void Travailler(const std::filesystem::path& chemin, int annonce, std::vector<std::string>* etats) {
+    DisqueReel disque;
+    const ResultatOuverture resultat = NouvelleBase(disque, chemin, {});
+    if (!resultat.base || !resultat.base->Enregistrer()) return;
+    SeanceEssai seance{*resultat.base, Graine};
+    for (int c = 0; c <= NbCommits; ++c) {
+        if (c > 0) {
+            for (int g = 0; g < Gestes; ++g)
+                seance.Agir();
+            if (!resultat.base->Enregistrer()) return;
+        }
+        if (etats != nullptr) etats->push_back(Inventaire{*resultat.base}.Texte());
+        if (annonce >= 0 && ::write(annonce, "x", 1) != 1) return;
+    }
+}
+
+}  // namespace
+
+TEST_CASE(
+    "Killed: a process killed at any moment leaves one of its commits, the announced one or the "
+    "next") {
+    const Dossier dossier;
+    std::vector<std::string> etats;
+    Travailler(dossier.chemin / "temoin.LGD", -1, &etats);
+    REQUIRE(etats.size() == NbCommits + 1);
+    std::mt19937 hasard{7};
+    int enRoute = 0;
+    for (int essai = 0; essai < 40; ++essai) {
+        CAPTURE(essai);
+        const std::filesystem::path chemin =
+            dossier.chemin / ("b" + std::to_string(essai) + ".LGD");
+        std::array<int, 2> tube{};
+        REQUIRE(::pipe(tube.data()) == 0);
+        const pid_t fils = ::fork();
+        REQUIRE(fils >= 0);
+        if (fils == 0) {
+            ::close(tube[0]);
+            Travailler(chemin, tube[1], nullptr);
+            ::_exit(0);
+        }
+        ::close(tube[1]);
+        std::size_t annonces = 0;
+        char octet = 0;
+        // Lets it come to a commit of chance, then strikes some microseconds later.
+        const std::size_t jusque = 1 + hasard() % NbCommits;
+        while (annonces < jusque && ::read(tube[0], &octet, 1) == 1)
+            ++annonces;
+        std::this_thread::sleep_for(std::chrono::microseconds(hasard() % 3000));
+        ::kill(fils, SIGKILL);
+        while (::read(tube[0], &octet, 1) == 1)
+            ++annonces;
+        ::close(tube[0]);
+        ::waitpid(fils, nullptr, 0);
+        if (annonces <= NbCommits) ++enRoute;
+
+        DisqueReel disque;
+        AvancementMuet muet;
+        const ResultatOuverture resultat = OuvrirBase(disque, chemin, muet);
+        REQUIRE(resultat.etat == Ouverture::Faite);
+        const std::string lu = Inventaire{*resultat.base}.Texte();
+        const bool dernier = lu == etats[annonces - 1];
+        const bool suivant = annonces < etats.size() && lu == etats[annonces];
+        CHECK((dernier || suivant));
+    }
+    CHECK(enRoute > 20);
+}
