@@ -17,7 +17,7 @@ Volume::Volume(Disque& disque, std::unique_ptr<Fichier> fichier, std::filesystem
       journal_{disque, std::move(journal)},
       finFichier_{finFichier},
       finCommise_{nouveau ? 0 : finFichier},
-      pages_(TaillePage * NbPages),
+      pages_{std::make_unique_for_overwrite<char[]>(TaillePage * NbPages)},
       noPage_(NbPages),
       taillePage_(NbPages) {
     // The image of a header without a mark: until the first commit is whole the file is no base.
@@ -51,7 +51,7 @@ std::string_view Volume::Page(std::uint64_t decalage) {
             page == suivante_ ? std::min(PagesParLecture, NbPages - place) : 1;
         std::size_t lus =
             fichier_->Lire(Position{static_cast<std::uint32_t>(page * TaillePage + 1)},
-                           std::span{pages_}.subspan(place * TaillePage, nombre * TaillePage));
+                           std::span{pages_.get() + place * TaillePage, nombre * TaillePage});
         for (std::size_t i = 0; i < nombre; ++i) {
             const std::size_t taille = std::min(lus, TaillePage);
             noPage_[place + i] = page + static_cast<std::uint32_t>(i) + 1;
@@ -62,7 +62,7 @@ std::string_view Volume::Page(std::uint64_t decalage) {
     }
     const std::size_t debut = decalage % TaillePage;
     if (debut >= taillePage_[place]) return {};
-    return std::string_view{pages_.data() + place * TaillePage, taillePage_[place]}.substr(debut);
+    return std::string_view{pages_.get() + place * TaillePage, taillePage_[place]}.substr(debut);
 }
 
 std::string_view Volume::Morceau(std::uint64_t decalage) {
@@ -142,6 +142,7 @@ void Volume::ViderQueue() {
 
 void Volume::EcrireBloc(Position debut, std::string_view octets) {
     if (!debut || octets.empty() || EnDefaut()) return;
+    OublierBloc(debut);
     if (debut.valeur <= finCommise_) {
         std::string& bloc = blocs_[debut.valeur];
         tailleBlocs_ = tailleBlocs_ - bloc.size() + octets.size();
@@ -163,11 +164,30 @@ void Volume::EcrireBloc(Position debut, std::string_view octets) {
 }
 
 void Volume::LireBloc(Position debut, std::span<char> octets) {
-    const auto bloc = blocs_.find(debut.valeur);
-    if (bloc == blocs_.end() || bloc->second.size() != octets.size())
-        Lire(debut, octets);
-    else
-        std::copy(bloc->second.begin(), bloc->second.end(), octets.begin());
+    const auto servir = [&octets](const std::string& bloc) {
+        if (bloc.size() != octets.size()) return false;
+        std::copy(bloc.begin(), bloc.end(), octets.begin());
+        return true;
+    };
+    if (const auto bloc = blocs_.find(debut.valeur); bloc != blocs_.end() && servir(bloc->second))
+        return;
+    if (const auto lu = blocsLus_.find(debut.valeur); lu != blocsLus_.end() && servir(lu->second))
+        return;
+    Lire(debut, octets);
+    if (tailleBlocsLus_ + octets.size() > MaxBlocsLus) {
+        blocsLus_.clear();
+        tailleBlocsLus_ = 0;
+    }
+    const bool nouveau =
+        blocsLus_.emplace(debut.valeur, std::string{octets.data(), octets.size()}).second;
+    if (nouveau) tailleBlocsLus_ += octets.size();
+}
+
+void Volume::OublierBloc(Position debut) {
+    const auto lu = blocsLus_.find(debut.valeur);
+    if (lu == blocsLus_.end()) return;
+    tailleBlocsLus_ -= lu->second.size();
+    blocsLus_.erase(lu);
 }
 
 bool Volume::Protegee(Position debut, std::size_t longueur) const {

@@ -11,6 +11,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace dorvane::storage {
@@ -28,6 +29,10 @@ struct Zone {
 /// no image. Blocks that the last commit knows wait in memory (2 MB at most) until the commit; when
 /// there are too many, their images go to the journal, the journal is flushed, and only then are
 /// they overwritten. Nothing is appended once a write has been refused.
+///
+/// Reading goes through pages of 4 KB (16 MB of them at most, taken as they are touched) and, for
+/// blocks, through copies of whole blocks (6 MB at most), so that a walk in any order asks the
+/// system for each byte about once.
 class Volume {
 public:
     /// `disque` outlives the volume. `finFichier` is the last byte in use; `nouveau`: there is no
@@ -83,13 +88,15 @@ public:
 
 private:
     static constexpr std::size_t TaillePage = 4096;
-    static constexpr std::size_t NbPages = 512;
+    static constexpr std::size_t NbPages = 4096;
+    static constexpr std::size_t MaxBlocsLus = 6U << 20U;
     static constexpr std::size_t PagesParLecture = 16;
 
     /// Bytes of one page of the file, from an offset on.
     std::string_view Page(std::uint64_t decalage);
     /// What stands at an offset, in the file or in the tail; as much as lies together.
     std::string_view Morceau(std::uint64_t decalage);
+    void OublierBloc(Position debut);
     void OublierPages(std::uint64_t debut, std::uint64_t longueur);
     void EcrireFichier(Position debut, std::string_view octets);
     void ViderQueue();
@@ -110,7 +117,9 @@ private:
     std::vector<Zone> zones_;
     bool defaut_ = false;
 
-    std::vector<char> pages_;                ///< read cache, `NbPages` pages side by side
+    std::unordered_map<std::uint32_t, std::string> blocsLus_;  ///< read cache of whole blocks
+    std::size_t tailleBlocsLus_ = 0;
+    std::unique_ptr<char[]> pages_;          ///< read cache, `NbPages` pages side by side
     std::vector<std::uint32_t> noPage_;      ///< number of the page in each place, from 1; 0 empty
     std::vector<std::uint16_t> taillePage_;  ///< bytes of it that the file has
     std::uint32_t suivante_ = 0;             ///< page behind the last one read from the disk
