@@ -75,7 +75,7 @@ int Importer(const OptionsImport& options) {
         interchange::ImporterVers(atelier.session, options.fichier, base);
     if (!importation.faite) return StatutDuRefus(atelier.dialogue.dernier);
     if (options.json)
-        std::cout << DecrireImport(importation, base).dump(2) << '\n';
+        std::cout << EnTexte(DecrireImport(importation, base)) << '\n';
     else
         std::cout << TexteVersUtf8(importation.texte);
     return Fait;

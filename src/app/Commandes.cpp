@@ -52,14 +52,15 @@ void EcrireEnClair(std::ostream& sortie, const Json& objet, const std::string& r
             EcrireEnClair(sortie, valeur, retrait + "  ");
         } else {
             sortie << retrait << (objet.is_array() ? "- " : cle + ": ")
-                   << (valeur.is_string() ? valeur.get<std::string>() : valeur.dump()) << '\n';
+                   << (valeur.is_string() ? valeur.get<std::string>() : EnTexte(valeur, -1))
+                   << '\n';
         }
     }
 }
 
 void Ecrire(const Json& objet, bool json) {
     if (json)
-        std::cout << objet.dump(2) << '\n';
+        std::cout << EnTexte(objet) << '\n';
     else
         EcrireEnClair(std::cout, objet);
 }
@@ -108,7 +109,7 @@ int Lister(const fs::path& base, bool json) {
         if (!n) continue;
         const Json ligne = DecrireLigne(ouverte, n);
         if (json)
-            std::cout << (premiere ? "\n" : ",\n") << ligne.dump();
+            std::cout << (premiere ? "\n" : ",\n") << EnTexte(ligne, -1);
         else
             EcrireLigne(std::cout, ligne);
         premiere = false;

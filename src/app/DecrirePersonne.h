@@ -3,11 +3,17 @@
 #include "storage/Base.h"
 
 #include <nlohmann/json.hpp>
+#include <string>
 
 namespace dorvane::outil {
 
 /// Texts are UTF-8; dates are the stored texts; numbers that are none are null.
 using Json = nlohmann::ordered_json;
+
+/// The text of a document; bytes that are no UTF-8, as a path may hold, are replaced.
+[[nodiscard]] inline std::string EnTexte(const Json& objet, int retrait = 2) {
+    return objet.dump(retrait, ' ', false, Json::error_handler_t::replace);
+}
 
 /// What `infos` tells of a base.
 [[nodiscard]] Json DecrireBase(storage::Base& base);

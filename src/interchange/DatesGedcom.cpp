@@ -61,9 +61,9 @@ std::optional<DateLue> LireDateSimple(std::string_view valeur) {
     return date;
 }
 
-/// "44 BC" at the end of a text becomes "-44".
+/// "44 BC" at the end of a folded text becomes "-44"; folding has made "B C" of "B.C.".
 void ConvertirAvantJC(std::string& texte) {
-    const std::size_t longueur = texte.ends_with("BC") ? 2 : texte.ends_with("B.C.") ? 4 : 0;
+    const std::size_t longueur = texte.ends_with("BC") ? 2 : texte.ends_with("B C") ? 3 : 0;
     if (longueur == 0) return;
     texte.resize(texte.size() - longueur);
     while (!texte.empty() && texte.back() == ' ')

@@ -6,7 +6,6 @@
 #include "interchange/MemoireImport.h"
 #include "shell/FichierSur.h"
 #include "shell/Parametres.h"
-#include "shell/RelaisAvancement.h"
 #include "storage/ConstruireIndex.h"
 #include "storage/Disque.h"
 
@@ -21,6 +20,28 @@ namespace dorvane::interchange {
 namespace {
 
 constexpr std::uint32_t PasDeProgression = 100;  ///< records between two steps of the frame
+
+/// Shows a job of the storage floor as one more phase of the frame that is already there.
+class PhaseDImport final : public storage::Avancement {
+public:
+    /// `progression` outlives the object.
+    explicit PhaseDImport(shell::Progression& progression) : progression_{progression} {}
+
+    void Commencer(const storage::TexteAvancement& titre,
+                   const storage::TexteAvancement& /*texte*/) override {
+        Phase(titre);
+    }
+    void Phase(const storage::TexteAvancement& texte) override {
+        progression_.Phase({texte.message, std::string{texte.litteral}, {}, {}});
+    }
+    [[nodiscard]] bool Avancer(std::uint32_t fait, std::uint32_t total) override {
+        return progression_.Avancer(fait, total);
+    }
+    void Terminer() override {}
+
+private:
+    shell::Progression& progression_;
+};
 
 /// The two passes over one text, already in code page 1252.
 class Import {
@@ -299,13 +320,9 @@ ReglesNoms Import::Regles() const {
 
 bool Import::Trier() {
     const bool demander = session_.parametres.Valeur("Defaut", "Tri Import", "1") != "0";
-    shell::RelaisAvancement avancement{session_.progression};
-    if (demander && session_.dialogue.Confirmer(shell::Msg(1079))) {
-        const bool fait = base_.R_TRI.TrierIndividus(memoire_, avancement);
-        // The sort hides the frame when it is done; the index still has to be built.
-        session_.progression.Commencer(shell::Msg(774), shell::Msg(968));
-        return fait;
-    }
+    PhaseDImport avancement{session_.progression};
+    if (demander && session_.dialogue.Confirmer(shell::Msg(1079)))
+        return base_.R_TRI.TrierIndividus(memoire_, avancement);
     // A table out of order would mislead every search by rank.
     if (!memoire_.EstTriee(base_.entete.TypeTri, Regles())) base_.entete.TypeTri = '0';
     return true;
@@ -317,7 +334,7 @@ bool Import::Indexer() {
         if (base_.motsCles.LibelleType(NoMotCle{k}).indexe ||
             base_.motsCles.LibelleType(NoMotCle{k}).symbole == '|')
             types.emplace_back(k);
-    shell::RelaisAvancement avancement{session_.progression};
+    PhaseDImport avancement{session_.progression};
     return storage::ConstruireIndex(base_, types, memoire_, avancement);
 }
 
@@ -377,7 +394,12 @@ IssueImport ImporterGedcom(shell::Session& session, const std::filesystem::path&
                            const std::filesystem::path& base, RapportImport& rapport) {
     std::optional<std::string> octets = shell::LireTout(fichier);
     if (!octets) return IssueImport::Illisible;
-    const std::string_view texte = Preparer(*octets, rapport);
+    return ImporterTexte(session, std::move(*octets), base, rapport);
+}
+
+IssueImport ImporterTexte(shell::Session& session, std::string octets,
+                          const std::filesystem::path& base, RapportImport& rapport) {
+    const std::string_view texte = Preparer(octets, rapport);
     const std::optional<FinDeLigne> fin = ChercherFinDeLigne(texte);
     if (!fin) return IssueImport::Inexploitable;
 

@@ -180,7 +180,7 @@ NoMariage LecteurFamille::Terminer() {
     texte_.clear();
     Participer();
     if (!epoux_ || !epouse_) {
-        if (contenu_) contexte_.rapport.Noter(Constat::SansUnion, "FAM", debut_.numero);
+        contexte_.rapport.Noter(Constat::SansUnion, contenu_ ? "FAM +" : "FAM", debut_.numero);
         return {};
     }
     const NoMariage m = familles_.Unir(epoux_, epouse_, debut_);

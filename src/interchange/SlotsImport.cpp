@@ -11,11 +11,11 @@ namespace {
 /// Every marker, by rank; the first five belong to names and places.
 constexpr std::string_view Marqueurs = "|¶$@~\\°^%¤²µ£§¬±¹»×÷‡ˆ‹•›"_1252;
 
-/// A day and month "d/m" that a year may follow.
-bool EstJourMois(std::string_view texte) {
-    const std::size_t barre = texte.find('/');
-    return barre != std::string_view::npos && barre > 0 && EstChiffre(texte.front()) &&
-           barre + 1 < texte.size();
+/// A whole day of the calendar, so that day, month and year can be joined by "/". A year of one or
+/// two digits would be read as one of our own time.
+bool EstJourEntier(const DateLue& date) {
+    return date.annee.size() >= 3 && !date.jourMois.empty() && EstChiffre(date.jourMois.front()) &&
+           !DateEntiere(date).empty();
 }
 
 }  // namespace
@@ -71,7 +71,7 @@ void SlotsImport::Composer(std::string& texte) const {
         if (!v.utilise) continue;
         texte.append(definitions_[i].libelle).append(1, ' ');
         texte += v.date.jourMois;
-        if (EstJourMois(v.date.jourMois) && !v.date.annee.empty()) {
+        if (EstJourEntier(v.date)) {
             texte.append(1, '/').append(v.date.annee);
         } else {
             if (!v.date.jourMois.empty()) texte += ' ';

@@ -1,0 +1,173 @@
+#include "interchange/LecteurIndividu.h"
+
+#include "interchange/EssaiImport.h"
+
+using namespace dorvane;
+using namespace dorvane::interchange;
+using doublures::EssaiImport;
+
+TEST_CASE("LireNomGedcom: the surname between slashes") {
+    const NomLu nom = LireNomGedcom("Jean Pierre Marie /de la Tour/", false);
+    CHECK(nom.Ligne() == "de la Tour;Jean;Pierre Marie");
+    CHECK(nom.motsCles == "|de.la.Tour ¶Jean.Pierre.Marie"_1252);
+}
+
+TEST_CASE("LireNomGedcom: a surname alone has an empty given part") {
+    const NomLu nom = LireNomGedcom("/Dupont/", false);
+    CHECK(nom.Ligne() == "Dupont;;");
+    CHECK(nom.motsCles == "|Dupont");
+}
+
+TEST_CASE("LireNomGedcom: a first name and two slashes give the record of the first name alone") {
+    CHECK(LireNomGedcom("Jean //", false).Ligne() == "Jean;;");
+    CHECK(LireNomGedcom("Jean //", false).motsCles.empty());
+    CHECK(LireNomGedcom("//", false).Ligne() == "?;;");
+    CHECK(LireNomGedcom("Jean Dupont", false).Ligne() == "Jean Dupont;;");
+}
+
+TEST_CASE("LireNomGedcom: given names behind the surname when it comes first") {
+    CHECK(LireNomGedcom("/Dupont/ Jean Paul", false).Ligne() == "Dupont;Jean;Paul");
+    CHECK(LireNomGedcom("Jean /Dupont/ Jr", false).Ligne() == "Dupont;Jean;");
+    CHECK(LireNomGedcom("Jean /Dupont", false).Ligne() == "Dupont;Jean;");
+}
+
+TEST_CASE("LireNomGedcom: with the first name alone as keyword the blanks stay") {
+    CHECK(LireNomGedcom("Jean Pierre /Dupont/", true).motsCles == "|Dupont ¶Jean Pierre"_1252);
+}
+
+TEST_CASE("NomLu: separators and over-long names cannot break the name line") {
+    CHECK(LireNomGedcom("Jean;Paul /Du#pont/", false).Ligne() == "Du-pont;Jean,Paul;");
+    CHECK(LireNomGedcom(std::string(5000, 'a') + " /Dupont/", false).Ligne().size() < 1000);
+}
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "An individual: sex M is a man, any other value a woman, none neither") {
+    Importer("0 @I1@ INDI\n1 SEX M\n0 @I2@ INDI\n1 SEX U\n0 @I3@ INDI\n1 SEX m\n0 @I4@ INDI\n");
+    CHECK(base->R_SEXE.LireCellule(NoOrdre{1}) == 'H');
+    CHECK(base->R_SEXE.LireCellule(NoOrdre{2}) == 'F');
+    CHECK(base->R_SEXE.LireCellule(NoOrdre{3}) == 'F');
+    CHECK(base->R_SEXE.LireCellule(NoOrdre{4}) == 'I');
+}
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "An individual: birth and death go to cells, name line and keywords") {
+    Importer(
+        "0 @I1@ INDI\n1 NAME Jean /Dupont/\n1 NOTE avant\n1 BIRT\n2 DATE 12 MAR 1820\n"
+        "2 PLAC Saint Malo\n1 DEAT\n2 DATE ABT 1880\n2 PLAC Rennes\n");
+    CHECK(Nom(1) == "Dupont;Jean;;12/3;ABT");
+    CHECK(base->R_NAISS.LireCellule(NoOrdre{1}) == "1820");
+    CHECK(base->R_DECES.LireCellule(NoOrdre{1}) == "1880");
+    CHECK(Texte(1) == "|Dupont ¶Jean $Saint.Malo ~Rennes\r\navant"_1252);
+    CHECK(storage::LieuNaissance(*base, NoOrdre{1}) == "Saint Malo");
+    CHECK(storage::NoteDe(*base, NoOrdre{1}) == "avant");
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: four digits under a birth or an event are a year") {
+    Importer("0 @I1@ INDI\n1 NAME A /B/\n1 BIRT\n2 DATE 1820\n1 CHR\n2 DATE 1821\n");
+    CHECK(base->R_NAISS.LireCellule(NoOrdre{1}) == "1820");
+    const storage::TableSlots slots = storage::SlotsDe(*base, NoOrdre{1});
+    REQUIRE(slots.size() >= 1);
+    CHECK(slots[0].annee == "1821");
+    CHECK(slots[0].jourMois.empty());
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: an event row holds date, place and word") {
+    Importer(
+        "0 @I1@ INDI\n1 NAME A /B/\n1 CHR\n2 DATE 13 MAR 1820\n2 PLAC Saint Malo\n"
+        "1 OCCU tailleur de pierre\n2 DATE 1845\n2 PLAC Rennes\n");
+    CHECK(Texte(1) ==
+          "|B ¶A\r\nCHR 13/3/1820 °Saint.Malo\r\n"
+          "OCCU 1845 \\Rennes.tailleur.de.pierre\r\n"_1252);
+    const storage::TableSlots slots = storage::SlotsDe(*base, NoOrdre{1});
+    CHECK(slots[0] == storage::ValeurSlot{"13/3", "1820", "Saint Malo"});
+    CHECK(slots[1] == storage::ValeurSlot{"", "1845", "Rennes tailleur de pierre"});
+}
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "An individual: an eleventh tag of the file finds no row and is lost") {
+    std::string lignes = "0 @I1@ INDI\n1 NAME A /B/\n";
+    for (const char* tag :
+         {"OCCU", "CHR", "BURI", "CREM", "CONF", "EMIG", "IMMI", "CENS", "ORDN", "BLES", "BARM"})
+        lignes += std::string{"1 "} + tag + "\n2 DATE 1830\n";
+    Importer(lignes + "0 @I2@ INDI\n1 BARM\n2 DATE 1860\n0 @I3@ INDI\n1 BLES\n2 DATE 1861\n");
+    CHECK(Texte(1).find("BLES 1830") != std::string::npos);
+    CHECK(Texte(1).find("BARM") == std::string::npos);
+    CHECK(Texte(2).empty());
+    CHECK(Texte(3).find("BLES 1861") != std::string::npos);
+    CHECK(importation.rapport.Nombre(Constat::SansPlace, "INDI.BARM") == 2);
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: BAPM and CHRA are christenings") {
+    Importer("0 @I1@ INDI\n1 BAPM\n2 DATE 1820\n0 @I2@ INDI\n1 CHRA\n2 DATE 1821\n");
+    CHECK(Texte(1) == "\r\nCHR 1820\r\n");
+    CHECK(Texte(2) == "\r\nCHR 1821\r\n");
+}
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "An individual: a second event of one kind goes to the note, not lost") {
+    Importer(
+        "0 @I1@ INDI\n1 NAME A /B/\n1 OCCU forgeron\n1 OCCU maire\n2 DATE 1850\n2 PLAC Vitré\n"_1252);
+    CHECK(Texte(1) == "|B ¶A\r\nOCCU      \\forgeron\r\nProfession: 1850, Vitré, maire"_1252);
+    CHECK(Constats(Constat::DansLaNote) == 1);
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: an EVEN is kept in the note under its type") {
+    Importer("0 @I1@ INDI\n1 EVEN\n2 TYPE Voyage\n2 DATE 12 MAY 1800\n2 PLAC Brest\n");
+    CHECK(storage::NoteDe(*base, NoOrdre{1}) == "Voyage: 12/5/1800, Brest");
+}
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "An individual: texts come with their message, and the event's label") {
+    Importer(
+        "0 @I1@ INDI\n1 DEAT\n2 CAUS noyade\n2 AGE 60y\n2 AGNC Mairie\n1 REFN 12\n"
+        "1 ADDR Rue Haute\n2 CITY Rennes\n1 ALIA le Grand\n");
+    CHECK(storage::NoteDe(*base, NoOrdre{1}) ==
+          "Décès - Cause: noyade\r\nDécès - 60 ans\r\nDécès - Autorité: Mairie\r\n"
+          "Document: 12\r\nAdresse postale: Rue Haute, Rennes"_1252);
+    CHECK(importation.rapport.Nombre(Constat::NonRepris, "INDI.ALIA") == 1);
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: CONT begins a line, CONC a blank") {
+    Importer("0 @I1@ INDI\n1 NOTE un\n2 CONC deux\n2 CONT trois\n2 CONT\n2 CONT quatre\n");
+    CHECK(Texte(1) == "\r\nun deux\r\ntrois\r\n\r\nquatre");
+}
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "An individual: a date under a source or a change is no birth date") {
+    Importer(
+        "0 @I1@ INDI\n1 NAME A /B/\n1 BIRT\n2 SOUR @S1@\n3 DATA\n4 DATE 1900\n1 CHAN\n"
+        "2 DATE 3 MAY 2003\n3 TIME 12:00\n");
+    CHECK(base->R_NAISS.LireCellule(NoOrdre{1}).empty());
+    CHECK(storage::NoteDe(*base, NoOrdre{1}) == "Modification: 3 MAY 2003 - 12:00");
+    CHECK(importation.rapport.Nombre(Constat::NonRepris, "INDI.BIRT.SOUR.DATA.DATE") == 1);
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: pieces of the name serve when NAME is empty") {
+    Importer(
+        "0 @I1@ INDI\n1 NAME\n2 GIVN Jean Paul\n2 SURN Dupont\n0 @I2@ INDI\n"
+        "1 NAME Luc /Petit/\n2 GIVN Autre\n2 SURN Autre\n2 NICK Lulu\n");
+    CHECK(Nom(1) == "Dupont;Jean;Paul");
+    CHECK(Nom(2) == "Petit;Luc;");
+    CHECK(Texte(2).find("NICK") != std::string::npos);
+}
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "An individual: what stands under an unknown line is named in the report") {
+    Importer("0 @I1@ INDI\n1 OBJE\n2 FILE a.jpg\n2 TITL Portrait\n1 NAME A /B/\n");
+    CHECK(importation.rapport.Nombre(Constat::NonRepris, "INDI.OBJE") == 1);
+    CHECK(importation.rapport.Nombre(Constat::NonRepris, "INDI.OBJE.FILE") == 1);
+    CHECK(importation.rapport.Nombre(Constat::NonRepris, "INDI.OBJE.TITL") == 1);
+    CHECK(Nom(1) == "B;A;");
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: a line whose level jumps belongs to nothing") {
+    Importer("0 @I1@ INDI\n1 BIRT\n3 DATE 1821\n1 NAME A /B/\n99 NOTE x\n");
+    CHECK(base->R_NAISS.LireCellule(NoOrdre{1}).empty());
+    CHECK(Constats(Constat::SansParent) == 2);
+    CHECK(Nom(1) == "B;A;");
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: a number sign cannot cut a record") {
+    Importer("0 @I1@ INDI\n1 NAME A /B/\n1 NOTE n#1\n1 BIRT\n2 PLAC D # E\n");
+    CHECK(Texte(1) == "|B ¶A $D.-.E\r\nn-1"_1252);
+}
