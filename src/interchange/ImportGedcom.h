@@ -27,4 +27,8 @@ enum class IssueImport : std::uint8_t {
                                          const std::filesystem::path& fichier,
                                          const std::filesystem::path& base, RapportImport& rapport);
 
+/// The same from the bytes of a file.
+[[nodiscard]] IssueImport ImporterTexte(shell::Session& session, std::string octets,
+                                        const std::filesystem::path& base, RapportImport& rapport);
+
 }  // namespace dorvane::interchange

@@ -40,7 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     doublures::ProgressionScript progression;
     doublures::HorlogeFixe horloge;
     doublures::EcranScript ecran;
-    doublures::DisqueMemoire disque;
+    storage::DisqueMemoire disque;
     const std::filesystem::path nulle = "/nulle-part";
     shell::Session session{{nulle, nulle, nulle}, {dialogue, progression, horloge, ecran, disque}};
     if (octets[0] % 2 == 0) dialogue.reponses = {shell::Reponse::Oui};
