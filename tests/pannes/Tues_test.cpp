@@ -1,5 +1,6 @@
 // A real process that edits and commits on the real disk is killed at a moment of chance; what is
 // opened again is one of its commits, at least the last one that it had announced.
+#include "doublures/DossierTemporaire.h"
 #include "doublures/Inventaire.h"
 #include "doublures/SeanceEssai.h"
 #include "storage/Base.h"
@@ -12,8 +13,10 @@
 #include <chrono>
 #include <csignal>
 #include <filesystem>
+#include <random>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include <doctest/doctest.h>
 
@@ -25,18 +28,6 @@ namespace {
 constexpr int NbCommits = 60;
 constexpr int Gestes = 5;
 constexpr std::uint32_t Graine = 42;
-
-struct Dossier {
-    Dossier() {
-        std::string modele = (std::filesystem::temp_directory_path() / "tues-XXXXXX").string();
-        REQUIRE(::mkdtemp(modele.data()) != nullptr);
-        chemin = modele;
-    }
-    ~Dossier() { std::filesystem::remove_all(chemin); }
-    Dossier(const Dossier&) = delete;
-    Dossier& operator=(const Dossier&) = delete;
-    std::filesystem::path chemin;
-};
 
 /// Works on the base; announces each commit by one byte when `annonce` is a descriptor, and puts
 /// down what the base says when `etats` is given.
@@ -61,7 +52,7 @@ void Travailler(const std::filesystem::path& chemin, int annonce, std::vector<st
 TEST_CASE(
     "Killed: a process killed at any moment leaves one of its commits, the announced one or the "
     "next") {
-    const Dossier dossier;
+    const doublures::DossierTemporaire dossier;
     std::vector<std::string> etats;
     Travailler(dossier.chemin / "temoin.LGD", -1, &etats);
     REQUIRE(etats.size() == NbCommits + 1);
