@@ -74,7 +74,7 @@ fs::path Parametres::DossierTemp() const {
     std::error_code erreur;
     for (const fs::path& parent : {lieux.repertoire, lieux.cache}) {
         if (parent.empty()) continue;
-        const fs::path dossier = parent / "Temp";
+        fs::path dossier = parent / "Temp";
         fs::create_directories(dossier, erreur);
         if (fs::is_directory(dossier, erreur) && access(dossier.c_str(), W_OK | X_OK) == 0)
             return dossier;

@@ -71,8 +71,8 @@ private:
         return unions;
     }
 
-    // `prefixe` is a copy: the walk below moves the strings about.
-    void DescendreDe(NoOrdre parent, std::string prefixe, int profondeur) {
+    /// `prefixe` is no string of the table: the walk below moves those about.
+    void DescendreDe(NoOrdre parent, const std::string& prefixe, int profondeur) {
         if (profondeur > DerniereProfondeur || ++visites_ > MaxVisites) return;
         const bool homme = base_.R_SEXE.LireCellule(parent) == 'H';
         std::vector<Union> unions = UnionsDe(parent, homme);
@@ -95,25 +95,23 @@ private:
                     unions.size() == 1 ? '.' : static_cast<char>('a' + (sienne - unions.begin()));
                 numero += std::to_string(++sienne->compteur);
             }
-            if (Inscrire(enfant, std::move(numero), homme))
-                DescendreDe(enfant, cujus_.numerosDesc[static_cast<std::size_t>(-Pointeur(enfant))],
-                            profondeur + 1);
+            if (Inscrire(enfant, numero, homme)) DescendreDe(enfant, numero, profondeur + 1);
         }
     }
 
     /// Gives a descendant its string. False when the walk does not go on below.
-    bool Inscrire(NoOrdre enfant, std::string numero, bool parentHomme) {
+    bool Inscrire(NoOrdre enfant, const std::string& numero, bool parentHomme) {
         std::int32_t& pointeur = Pointeur(enfant);
         if (pointeur != 0 && !parentHomme) return false;
         if (pointeur < 0) {
-            cujus_.numerosDesc[static_cast<std::size_t>(-pointeur)] = std::move(numero);
+            cujus_.numerosDesc[static_cast<std::size_t>(-pointeur)] = numero;
             return true;
         }
         // The reference person and the ascendants keep their Sosa number: a child of one's own who
         // is also one's ancestor stands in a base that is wrong.
         if (pointeur > 0) return false;
         pointeur = -static_cast<std::int32_t>(cujus_.numerosDesc.size());
-        cujus_.numerosDesc.push_back(std::move(numero));
+        cujus_.numerosDesc.push_back(numero);
         return true;
     }
 

@@ -230,6 +230,7 @@ bool Parametres::SauverTravail() {
 bool Parametres::SauverParametres() {
     EcrireGeneraux();
     std::vector<Magasin::Entree> particules;
+    particules.reserve(generaux.particules.size());
     for (const Particule& particule : generaux.particules)
         particules.emplace_back(
             TexteVersUtf8(particule.mot),
