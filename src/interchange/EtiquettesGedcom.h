@@ -31,23 +31,21 @@ class PileEtiquettes {
 public:
     /// Opens a line and closes those of its level and deeper. False when no line of the level just
     /// above is open: the line belongs to nothing.
-    bool Entrer(std::uint32_t niveau, std::string_view etiquette) {
+    bool Entrer(std::uint32_t niveau, std::string_view etiquette, CodeEtiquette code) {
         const std::size_t rang = Rang(niveau);
         for (std::size_t i = rang; i < Profondeur; ++i)
-            etiquettes_[i] = {};
-        if (rang > 0 && etiquettes_[rang - 1].empty()) return false;
-        etiquettes_[rang] = etiquette;
+            lignes_[i].code = 0;
+        if (rang > 0 && lignes_[rang - 1].code == 0) return false;
+        lignes_[rang] = {etiquette, code};
         rang_ = rang;
         return true;
     }
 
     /// Tag of the line that the line entered last stands under; 0 for a line of level 0.
-    [[nodiscard]] CodeEtiquette Parent() const { return rang_ > 0 ? Code(rang_ - 1) : 0; }
-    /// Tag of the open line of a level.
-    [[nodiscard]] CodeEtiquette Code(std::size_t rang) const {
-        return CoderEtiquette(etiquettes_[rang]);
+    [[nodiscard]] CodeEtiquette Parent() const { return rang_ > 0 ? lignes_[rang_ - 1].code : 0; }
+    [[nodiscard]] std::string_view Etiquette(std::size_t rang) const {
+        return lignes_[rang].etiquette;
     }
-    [[nodiscard]] std::string_view Etiquette(std::size_t rang) const { return etiquettes_[rang]; }
     /// Level of the line entered last, at most 5.
     [[nodiscard]] std::size_t Niveau() const { return rang_; }
 
@@ -57,7 +55,11 @@ public:
 
 private:
     static constexpr std::size_t Profondeur = 6;
-    std::array<std::string_view, Profondeur> etiquettes_;
+    struct Ouverte {
+        std::string_view etiquette;
+        CodeEtiquette code = 0;  ///< 0: no line of this level is open
+    };
+    std::array<Ouverte, Profondeur> lignes_;
     std::size_t rang_ = 0;
 };
 

@@ -1,5 +1,6 @@
 #include "interchange/FamillesImport.h"
 
+#include "values/Annees.h"
 #include "values/Octets.h"
 
 #include <algorithm>
@@ -64,7 +65,7 @@ void FamillesImport::EcrireEnfants() {
         std::uint16_t parent;
         std::uint16_t enfant;
         std::uint32_t rang;
-        std::string annee;
+        QuatreOctets annee;
     };
     std::vector<Lien> liens;
     liens.reserve(personnes_.size() * 2);
@@ -75,7 +76,7 @@ void FamillesImport::EcrireEnfants() {
         if (p.parents[0] != 0) base.R_PERE.EcrireCellule(enfant, NoOrdre{p.parents[0]});
         if (p.parents[1] != 0) base.R_MERE.EcrireCellule(enfant, NoOrdre{p.parents[1]});
         if (p.parents[0] == 0 && p.parents[1] == 0) continue;
-        const std::string annee = base.R_NAISS.AnneeTri(enfant);
+        const QuatreOctets annee = AnneeTri(base.R_NAISS.LireCellule(enfant));
         for (std::size_t cote = 0; cote < 2; ++cote) {
             if (p.parents[cote] == 0 || (cote == 1 && p.parents[1] == p.parents[0])) continue;
             liens.push_back(
@@ -84,7 +85,7 @@ void FamillesImport::EcrireEnfants() {
     }
     std::ranges::sort(liens, [](const Lien& a, const Lien& b) {
         if (a.parent != b.parent) return a.parent < b.parent;
-        const int annees = a.annee.compare(b.annee);
+        const int annees = TexteDe(a.annee).compare(TexteDe(b.annee));
         return annees != 0 ? annees < 0 : a.rang < b.rang;
     });
     for (std::size_t i = 0; i < liens.size();) {

@@ -243,7 +243,7 @@ bool FicheGedcom::LireAdoption(const LigneGedcom& ligne) {
 
 bool FicheGedcom::LireCitation(const LigneGedcom& ligne) {
     if (contexte_.pile.Parent() != "SOUR"_tag) return false;
-    if (CoderEtiquette(ligne.etiquette) == "QUAY"_tag) {
+    if (ligne.code == "QUAY"_tag) {
         const bool connue =
             ligne.valeur.size() == 1 && ligne.valeur[0] >= '0' && ligne.valeur[0] <= '3';
         AjouterTexte(889, connue ? std::string_view{contexte_.textes.Message(
@@ -259,7 +259,7 @@ bool FicheGedcom::LireCitation(const LigneGedcom& ligne) {
 }
 
 bool FicheGedcom::LireSousLigne(const LigneGedcom& ligne) {
-    switch (CoderEtiquette(ligne.etiquette)) {
+    switch (ligne.code) {
         case "CONT"_tag:
             Continuer(ligne, true);
             return true;

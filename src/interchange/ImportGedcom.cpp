@@ -115,7 +115,6 @@ private:
     ClesImport cles_;
     std::vector<Famille> debuts_;
     Genre genre_ = Genre::Aucun;
-    bool lireEnregistrement_ = false;
 };
 
 bool Import::Avancer(std::size_t ou, std::uint32_t nombre) {
@@ -138,7 +137,7 @@ void Import::OuvrirIndividu(const LigneGedcom& ligne) {
 }
 
 void Import::OuvrirAnnexe(const LigneGedcom& ligne) {
-    const CodeEtiquette code = CoderEtiquette(ligne.etiquette);
+    const CodeEtiquette code = ligne.code;
     std::uint32_t numero = 0;
     bool cleNeuve = true;
     if (code == "SOUR"_tag) {
@@ -159,7 +158,7 @@ void Import::OuvrirAnnexe(const LigneGedcom& ligne) {
 
 void Import::OuvrirEnregistrement(const LigneGedcom& ligne, std::size_t debut) {
     genre_ = Genre::Aucun;
-    switch (CoderEtiquette(ligne.etiquette)) {
+    switch (ligne.code) {
         case "INDI"_tag:
             OuvrirIndividu(ligne);
             break;
@@ -182,7 +181,8 @@ void Import::FermerEnregistrement() {
     if (genre_ == Genre::Individu) {
         individu_.Terminer();
         familles_.AjouterIndividu(individu_.Sexe());
-        memoire_.AjouterIndividu(individu_.Nom(), individu_.AnneeNaissance(), individu_.Texte());
+        memoire_.AjouterIndividu(individu_.LigneNom(), individu_.AnneeNaissance(),
+                                 individu_.Texte());
         const NoOrdre n{base_.entete.DernierIndividu};
         base_.R_TRI.FixerRang(n.valeur, n);
         base_.entete.NbTriIndividus = n.valeur;
@@ -192,7 +192,7 @@ void Import::FermerEnregistrement() {
 
 void Import::LireLigne(const LigneGedcom& ligne) {
     if (genre_ == Genre::Famille) return;
-    if (!pile_.Entrer(ligne.niveau, ligne.etiquette)) {
+    if (!pile_.Entrer(ligne.niveau, ligne.etiquette, ligne.code)) {
         rapport_.Noter(Constat::SansParent, ligne.etiquette, ligne.numero);
         return;
     }
@@ -225,7 +225,7 @@ bool Import::PremierePasse() {
                     break;
                 }
                 FermerEnregistrement();
-                pile_.Entrer(0, ligne.etiquette);
+                pile_.Entrer(0, ligne.etiquette, ligne.code);
                 OuvrirEnregistrement(ligne, lecteur.Debut());
                 if (!Avancer(lecteur.Debut(), base_.entete.DernierIndividu)) return false;
         }
@@ -262,7 +262,7 @@ void Import::LireFamille(LecteurFamille& lecteur, const Famille& famille) {
          sorte = lignes.Lire(ligne)) {
         if (sorte != LecteurDeLignes::Sorte::Ligne) continue;
         if (ligne.niveau == 0 && !premiere) break;
-        if (!pile_.Entrer(ligne.niveau, ligne.etiquette)) {
+        if (!pile_.Entrer(ligne.niveau, ligne.etiquette, ligne.code)) {
             rapport_.Noter(Constat::SansParent, ligne.etiquette, ligne.numero);
             continue;
         }

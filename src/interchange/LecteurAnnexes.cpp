@@ -41,7 +41,7 @@ std::string Champ(std::string_view texte) {
 }  // namespace
 
 void LecteurAnnexes::Commencer(const LigneGedcom& ligne, std::uint32_t numero) {
-    genre_ = CoderEtiquette(ligne.etiquette);
+    genre_ = ligne.code;
     cle_ = ligne.cle;
     numero_ = numero;
     evenement_ = {};
@@ -64,7 +64,7 @@ void LecteurAnnexes::Ecarter(const LigneGedcom& ligne) {
 }
 
 void LecteurAnnexes::Lire(const LigneGedcom& ligne) {
-    const CodeEtiquette code = CoderEtiquette(ligne.etiquette);
+    const CodeEtiquette code = ligne.code;
     const std::size_t niveau = contexte_.pile.Niveau();
     if (niveauEcarte_ != 0 && niveau > niveauEcarte_) {
         if (genre_ != "HEAD"_tag) contexte_.Noter(Constat::NonRepris, ligne);
@@ -98,7 +98,7 @@ void LecteurAnnexes::Lire(const LigneGedcom& ligne) {
 
 bool LecteurAnnexes::LireEnTete(const LigneGedcom& ligne) {
     if (contexte_.pile.Niveau() != 1) return false;
-    switch (CoderEtiquette(ligne.etiquette)) {
+    switch (ligne.code) {
         case "NOTE"_tag:
             AjouterLigne(entete_.note, ligne.valeur);
             Suivre(entete_.note);
@@ -113,7 +113,7 @@ bool LecteurAnnexes::LireEnTete(const LigneGedcom& ligne) {
 
 bool LecteurAnnexes::LireDeposant(const LigneGedcom& ligne) {
     if (!deposantRetenu_) return false;
-    switch (CoderEtiquette(ligne.etiquette)) {
+    switch (ligne.code) {
         case "NAME"_tag:
             entete_.auteur = ligne.valeur;
             std::erase(entete_.auteur, '/');
@@ -161,7 +161,7 @@ bool LecteurAnnexes::LireTexte(const LigneGedcom& ligne, std::string& note) {
         Suivre(note);
         return true;
     };
-    switch (CoderEtiquette(ligne.etiquette)) {
+    switch (ligne.code) {
         case "AUTH"_tag:
             return ajouter(900);
         case "CORP"_tag:
@@ -204,7 +204,7 @@ bool LecteurAnnexes::LireNoteDeSource(const LigneGedcom& ligne) {
 }
 
 bool LecteurAnnexes::LireSource(const LigneGedcom& ligne) {
-    switch (CoderEtiquette(ligne.etiquette)) {
+    switch (ligne.code) {
         case "DATA"_tag:
             return true;
         case "EVEN"_tag:
@@ -233,7 +233,7 @@ bool LecteurAnnexes::LireSource(const LigneGedcom& ligne) {
 }
 
 bool LecteurAnnexes::LireDocument(const LigneGedcom& ligne) {
-    const CodeEtiquette code = CoderEtiquette(ligne.etiquette);
+    const CodeEtiquette code = ligne.code;
     if (code == "REFN"_tag && contexte_.pile.Niveau() == 1) {
         if (!ligne.valeur.empty()) document_.fichier = ligne.valeur;
         return true;

@@ -62,7 +62,7 @@ void LecteurFamille::LireEnfant(const LigneGedcom& ligne) {
 }
 
 void LecteurFamille::LireNiveau1(const LigneGedcom& ligne) {
-    switch (CoderEtiquette(ligne.etiquette)) {
+    switch (ligne.code) {
         case "HUSB"_tag:
             LirePartenaire(ligne, 'H');
             return;
@@ -76,7 +76,7 @@ void LecteurFamille::LireNiveau1(const LigneGedcom& ligne) {
             break;
     }
     contenu_ = true;
-    switch (CoderEtiquette(ligne.etiquette)) {
+    switch (ligne.code) {
         case "MARR"_tag:
             fiche_.OuvrirPrincipal(FicheGedcom::Rang::Premier, ligne);
             return;
@@ -128,7 +128,7 @@ void LecteurFamille::LireSource(const LigneGedcom& ligne) {
 
 bool LecteurFamille::LireSousLigne(const LigneGedcom& ligne) {
     const CodeEtiquette parent = contexte_.pile.Parent();
-    switch (CoderEtiquette(ligne.etiquette)) {
+    switch (ligne.code) {
         case "NOTE"_tag:
             return LireNote(ligne);
         case "SOUR"_tag:

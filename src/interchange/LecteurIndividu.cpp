@@ -15,7 +15,7 @@ constexpr std::size_t NomLePlusLong = 300;
 /// "@@" is how a file writes one "@".
 std::string SansDoubleArobase(std::string_view valeur) {
     std::string texte{valeur};
-    RemplacerTout(texte, "@@", "@");
+    if (texte.find('@') != std::string::npos) RemplacerTout(texte, "@@", "@");
     return texte;
 }
 
@@ -37,10 +37,21 @@ NomLu FaireNom(std::string_view nom, std::string_view donne, bool prenomUnique) 
 }  // namespace
 
 std::string NomLu::Ligne() const {
-    const auto champ = [](const std::string& texte) {
-        return storage::SansSeparateur(std::string_view{texte}.substr(0, NomLePlusLong));
+    std::string ligne;
+    ligne.reserve(nom.size() + prenom.size() + autres.size() + 2);
+    const auto ajouter = [&](std::string_view texte) {
+        texte = texte.substr(0, NomLePlusLong);
+        if (texte.find_first_of("#;") == std::string_view::npos)
+            ligne += texte;
+        else
+            ligne += storage::SansSeparateur(texte);
     };
-    return champ(nom) + ';' + champ(prenom) + ';' + champ(autres);
+    ajouter(nom);
+    ligne += ';';
+    ajouter(prenom);
+    ligne += ';';
+    ajouter(autres);
+    return ligne;
 }
 
 NomLu LireNomGedcom(std::string_view valeur, bool prenomUnique) {
@@ -86,7 +97,7 @@ void LecteurIndividu::Lire(const LigneGedcom& ligne) {
 
 void LecteurIndividu::LireNiveau1(const LigneGedcom& ligne) {
     if (LireEvenement(ligne) || LireTexte(ligne)) return;
-    switch (CoderEtiquette(ligne.etiquette)) {
+    switch (ligne.code) {
         case "NAME"_tag:
             LireNom(ligne);
             return;
@@ -101,16 +112,15 @@ void LecteurIndividu::LireNiveau1(const LigneGedcom& ligne) {
         case "ALIA"_tag:
             if (const std::string_view cle = CleDeReference(ligne.valeur); !cle.empty()) {
                 liens_.Lier(individu_, cle, ligne);
-                lienOuvert_ = CoderEtiquette(ligne.etiquette) == "ASSO"_tag;
+                lienOuvert_ = ligne.code == "ASSO"_tag;
                 return;
             }
             break;
         case "FAMC"_tag:
         case "FAMS"_tag:
-            familles_.push_back(
-                {CleDeReference(ligne.valeur),
-                 CoderEtiquette(ligne.etiquette) == "FAMC"_tag ? "INDI.FAMC" : "INDI.FAMS",
-                 ligne.numero});
+            familles_.push_back({CleDeReference(ligne.valeur),
+                                 ligne.code == "FAMC"_tag ? "INDI.FAMC" : "INDI.FAMS",
+                                 ligne.numero});
             return;
         default:
             break;
@@ -119,7 +129,7 @@ void LecteurIndividu::LireNiveau1(const LigneGedcom& ligne) {
 }
 
 bool LecteurIndividu::LireEvenement(const LigneGedcom& ligne) {
-    switch (CoderEtiquette(ligne.etiquette)) {
+    switch (ligne.code) {
         case "BIRT"_tag:
             fiche_.OuvrirPrincipal(FicheGedcom::Rang::Premier, ligne);
             return true;
@@ -193,7 +203,7 @@ bool LecteurIndividu::LireEvenement(const LigneGedcom& ligne) {
 }
 
 bool LecteurIndividu::LireTexte(const LigneGedcom& ligne) {
-    switch (CoderEtiquette(ligne.etiquette)) {
+    switch (ligne.code) {
         case "AGNC"_tag:
             fiche_.AjouterTexte(877, ligne.valeur);
             return true;
@@ -244,7 +254,7 @@ void LecteurIndividu::LireNom(const LigneGedcom& ligne) {
 }
 
 bool LecteurIndividu::LireSousNom(const LigneGedcom& ligne) {
-    switch (CoderEtiquette(ligne.etiquette)) {
+    switch (ligne.code) {
         case "GIVN"_tag:
             prenomSeul_ = ligne.valeur;
             break;
@@ -309,7 +319,7 @@ bool LecteurIndividu::LireFiliation(const LigneGedcom& ligne) {
 bool LecteurIndividu::LireSousLigne(const LigneGedcom& ligne) {
     const CodeEtiquette parent = contexte_.pile.Parent();
     if (parent == "NAME"_tag && LireSousNom(ligne)) return true;
-    switch (CoderEtiquette(ligne.etiquette)) {
+    switch (ligne.code) {
         case "NOTE"_tag:
             return LireNote(ligne);
         case "SOUR"_tag:
@@ -357,7 +367,8 @@ void LecteurIndividu::Terminer() {
     const FicheGedcom::Principal& naissance = fiche_.Lire(FicheGedcom::Rang::Premier);
     const FicheGedcom::Principal& deces = fiche_.Lire(FicheGedcom::Rang::Second);
     storage::Base& base = contexte_.base;
-    std::string ligne = nom_.Ligne();
+    std::string& ligne = ligneNom_;
+    ligne = nom_.Ligne();
     if (!naissance.date.jourMois.empty() || !deces.date.jourMois.empty())
         ligne.append(1, ';').append(
             storage::SansSeparateur(std::string_view{naissance.date.jourMois}.substr(0, 90)));

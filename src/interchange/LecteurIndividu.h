@@ -46,7 +46,8 @@ public:
     void Terminer();
 
     [[nodiscard]] const std::string& Texte() const { return texte_; }
-    [[nodiscard]] const NomLu& Nom() const { return nom_; }
+    /// The name line, likewise.
+    [[nodiscard]] const std::string& LigneNom() const { return ligneNom_; }
     [[nodiscard]] char Sexe() const { return sexe_; }
     [[nodiscard]] std::string_view AnneeNaissance() const {
         return fiche_.Lire(FicheGedcom::Rang::Premier).date.annee;
@@ -77,6 +78,7 @@ private:
     std::string_view prenomSeul_;  ///< GIVN and SURN under an empty NAME
     std::string_view nomSeul_;
     std::string texte_;
+    std::string ligneNom_;
     std::string_view derniereSource_;
     bool lienOuvert_ = false;
     bool roleOuvert_ = false;

@@ -32,6 +32,27 @@ std::string_view PrendreMot(std::string_view& texte) {
     return mot;
 }
 
+/// The shape of nearly every line, "1 NAME value", without the care that the others need. False for
+/// those, with nothing changed that counts.
+bool CouperSimple(std::string_view brut, LigneGedcom& ligne) {
+    if (brut.size() < 3 || brut[0] < '0' || brut[0] > '9' || brut[1] != ' ' || brut[2] < 'A' ||
+        brut[2] > 'Z')
+        return false;
+    std::size_t fin = 2;
+    CodeEtiquette code = 0;
+    for (; fin < brut.size() && fin < 6 && !EstBlanc(brut[fin]); ++fin)
+        code = code << 8U | static_cast<unsigned char>(brut[fin]);
+    if (fin < brut.size() &&
+        (!EstBlanc(brut[fin]) || fin + 1 == brut.size() || EstBlanc(brut[fin + 1])))
+        return false;
+    ligne.niveau = static_cast<std::uint32_t>(brut[0] - '0');
+    ligne.cle = {};
+    ligne.etiquette = brut.substr(2, fin - 2);
+    ligne.code = code;
+    ligne.valeur = brut.substr(fin < brut.size() ? fin + 1 : fin);
+    return true;
+}
+
 /// A level of one to three digits; nothing for anything else.
 std::optional<std::uint32_t> LireNiveau(std::string_view mot) {
     if (mot.empty() || mot.size() > 3) return std::nullopt;
@@ -58,6 +79,7 @@ bool Couper(std::string_view brut, LigneGedcom& ligne) {
         if (brut.empty()) return false;
     }
     ligne.etiquette = PrendreMot(brut);
+    ligne.code = CoderEtiquette(ligne.etiquette);
     ligne.valeur = brut;
     return true;
 }
@@ -105,8 +127,9 @@ LecteurDeLignes::Sorte LecteurDeLignes::Lire(LigneGedcom& ligne) {
     if (ou_ >= texte_.size()) return Sorte::Fin;
     std::string_view brut = LireBrut();
     ligne.numero = numero_;
-    SauterBlancs(brut);
     RognerFin(brut);
+    if (CouperSimple(brut, ligne)) return Sorte::Ligne;
+    SauterBlancs(brut);
     if (brut.find_first_not_of(std::string_view{"\0\x1A", 2}) == std::string_view::npos)
         return Sorte::Vide;
     if (Couper(brut, ligne)) return Sorte::Ligne;

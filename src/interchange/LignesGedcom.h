@@ -1,5 +1,7 @@
 #pragma once
 
+#include "interchange/EtiquettesGedcom.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -13,6 +15,7 @@ struct LigneGedcom {
     std::uint32_t niveau = 0;    ///< levels above 99 are no level
     std::string_view cle;        ///< identifier without its "@" marks, on a line "0 @X@ TAG"
     std::string_view etiquette;  ///< tag, upper and lower case told apart
+    CodeEtiquette code = 0;      ///< the tag in one number
     std::string_view valeur;     ///< what follows the tag
 };
 

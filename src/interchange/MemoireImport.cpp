@@ -4,10 +4,9 @@
 
 namespace dorvane::interchange {
 
-void MemoireImport::AjouterIndividu(const NomLu& nom, std::string_view annee,
+void MemoireImport::AjouterIndividu(std::string_view ligneNom, std::string_view annee,
                                     std::string_view texte) {
-    const std::string ligne = nom.Ligne();
-    const storage::LigneNom champs = storage::DecouperNom(ligne);
+    const storage::LigneNom champs = storage::DecouperNom(ligneNom);
     personnes_.push_back({octets_.size(), static_cast<std::uint32_t>(champs.nom.size()),
                           static_cast<std::uint32_t>(champs.prenom.size()),
                           static_cast<std::uint32_t>(texte.size()), AnneeTri(annee)});

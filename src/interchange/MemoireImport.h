@@ -1,7 +1,6 @@
 #pragma once
 
 #include "interchange/FamillesImport.h"
-#include "interchange/LecteurIndividu.h"
 #include "storage/ConstruireIndex.h"
 #include "storage/R_TRI.h"
 #include "values/Annees.h"
@@ -26,7 +25,7 @@ public:
     void Prevoir(std::size_t octets) { octets_.reserve(octets); }
 
     /// Persons and unions come in the order of their numbers.
-    void AjouterIndividu(const NomLu& nom, std::string_view annee, std::string_view texte);
+    void AjouterIndividu(std::string_view ligneNom, std::string_view annee, std::string_view texte);
     void AjouterUnion(std::string_view texte);
 
     [[nodiscard]] storage::ElementTri ElementDe(NoOrdre n) override;

@@ -96,6 +96,9 @@ std::optional<std::string> LireTout(const std::filesystem::path& chemin) {
     const Descripteur entree{chemin, O_RDONLY};
     if (!entree.Ouvert()) return std::nullopt;
     std::string octets;
+    std::error_code erreur;
+    const std::uintmax_t taille = std::filesystem::file_size(chemin, erreur);
+    if (!erreur && taille <= octets.max_size() / 2) octets.reserve(taille);
     std::array<char, 65536> tampon;
     for (;;) {
         const ssize_t n = entree.Lire(tampon.data(), tampon.size());

@@ -1,0 +1,106 @@
+// Times inside one process, on a base made by an import. DORVANE_BENCH_LGD names the base.
+#include "doublures/SessionEssai.h"
+#include "records/NomsAffiches.h"
+#include "shell/CycleDeVie.h"
+#include "shell/Demarrage.h"
+#include "shell/Numerotation.h"
+#include "shell/RelaisAvancement.h"
+#include "storage/Base.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <random>
+
+using namespace dorvane;
+
+namespace {
+
+/// A session on a copy of the base, which the benchmarks may change.
+struct Banc : doublures::SessionEssai {
+    Banc() {
+        const char* source = std::getenv("DORVANE_BENCH_LGD");
+        if (source == nullptr) std::abort();
+        std::filesystem::copy_file(source, dossier / "banc.LGD");
+        shell::Demarrage(session);
+        shell::MnuOuvrir(session, dossier / "banc.LGD");
+        if (!session.BaseOuverte()) std::abort();
+    }
+    storage::Base& B() { return *session.base; }
+};
+
+Banc& LeBanc() {
+    static Banc banc;
+    return banc;
+}
+
+void OuvrirEtPremierePage(benchmark::State& etat) {
+    Banc& banc = LeBanc();
+    const std::filesystem::path chemin = banc.dossier / "page.LGD";
+    std::filesystem::copy_file(std::getenv("DORVANE_BENCH_LGD"), chemin,
+                               std::filesystem::copy_options::overwrite_existing);
+    storage::AvancementMuet muet;
+    for (auto _ : etat) {
+        const storage::ResultatOuverture ouverte = storage::OuvrirBase(banc.disque, chemin, muet);
+        std::size_t octets = 0;
+        for (std::uint32_t rang = 1; rang <= 50; ++rang) {
+            const NoOrdre n = ouverte.base->R_TRI.IndividuAuRang(rang);
+            octets += ouverte.base->R_NOM.LireTexte(n).size();
+            octets += ouverte.base->R_NAISS.LireCellule(n).size();
+        }
+        benchmark::DoNotOptimize(octets);
+    }
+}
+BENCHMARK(OuvrirEtPremierePage)->Unit(benchmark::kMillisecond);
+
+void ParcourirTous(benchmark::State& etat) {
+    storage::Base& base = LeBanc().B();
+    for (auto _ : etat) {
+        std::size_t somme = 0;
+        for (std::uint32_t n = 1; n <= base.entete.DernierIndividu; ++n) {
+            const NoOrdre i{n};
+            somme += base.R_NOM.LireNom(i).nom.size() + base.R_NAISS.LireCellule(i).size() +
+                     base.R_PERE.LireCellule(i).valeur + base.R_MERE.LireCellule(i).valeur;
+        }
+        benchmark::DoNotOptimize(somme);
+    }
+}
+BENCHMARK(ParcourirTous)->Unit(benchmark::kMillisecond);
+
+void NomsAuHasard(benchmark::State& etat) {
+    Banc& banc = LeBanc();
+    std::mt19937 hasard{1};
+    std::uniform_int_distribution<std::uint32_t> tirer{1, banc.B().entete.DernierIndividu};
+    for (auto _ : etat) {
+        std::size_t somme = 0;
+        for (int i = 0; i < 10000; ++i)
+            somme += records::NomAffiche(banc.session, NoOrdre{tirer(hasard)}).size();
+        benchmark::DoNotOptimize(somme);
+    }
+}
+BENCHMARK(NomsAuHasard)->Unit(benchmark::kMillisecond);
+
+void Numeroter(benchmark::State& etat) {
+    Banc& banc = LeBanc();
+    banc.session.deCujus[0].individu = NoOrdre{banc.B().entete.DernierIndividu};
+    for (auto _ : etat)
+        shell::NumeroterDeCujus(banc.session, 1);
+}
+BENCHMARK(Numeroter)->Unit(benchmark::kMillisecond);
+
+void ModifierEtEnregistrer(benchmark::State& etat) {
+    storage::Base& base = LeBanc().B();
+    std::uint32_t n = 1;
+    for (auto _ : etat) {
+        n = n % base.entete.DernierIndividu + 1;
+        base.R_NAISS.EcrireCellule(NoOrdre{n}, "1801");
+        base.R_NOM.EcrireNom(NoOrdre{n}, "Dupont;Jean;;;");
+        if (!base.Enregistrer()) std::abort();
+    }
+}
+BENCHMARK(ModifierEtEnregistrer)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();
