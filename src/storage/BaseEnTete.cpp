@@ -18,6 +18,7 @@ constexpr std::uint32_t EntreesRepertoire = 32;
 constexpr std::uint32_t TailleRepMotsCles = 200;
 constexpr std::uint32_t PosRepIndex = 2193;
 constexpr std::uint32_t EntreesIndex = 64;  // in the fixed zone; 96 more behind
+constexpr std::uint32_t TailleRepIndex = 4 * EntreesIndex;
 constexpr std::uint32_t EntreesSuiteIndex = 96;
 constexpr std::uint32_t TailleSuiteIndividus = 1664;
 constexpr std::uint32_t TailleSuiteMariages = 640;
@@ -120,7 +121,7 @@ std::uint64_t Base::VerifierRepertoires(std::uint64_t taille) {
 void Base::LireEnTete() {
     const std::string octets = LireOctets(volume, 1, TailleEnTete);
     R_INDEX.repertoire.Vider();
-    R_INDEX.repertoire.Decoder(LireOctets(volume, PosRepIndex, EntreesIndex * 4), 0);
+    R_INDEX.repertoire.Decoder(LireOctets(volume, PosRepIndex, TailleRepIndex), 0);
     entete = DecoderEnTete(octets, R_INDEX.PositionBloc(1));
     const std::uint64_t taille = volume.TailleDisque();
     // A zone that a damaged header puts outside the file is no zone.
@@ -239,7 +240,7 @@ bool Base::EcrireEnTete() {
     ComposerRepertoires(PlacesIndividus(*this), fixe, individus);
     ComposerRepertoires(PlacesMariages(*this), fixe, mariages);
     ComposerRepertoires(PlacesSimples(*this), fixe, aucune);
-    fixe.replace(PosRepIndex - DebutRepertoires, EntreesIndex * 4,
+    fixe.replace(PosRepIndex - DebutRepertoires, TailleRepIndex,
                  R_INDEX.repertoire.Octets(0, EntreesIndex));
     volume.EcrireBloc(Position{DebutRepertoires}, fixe);
     if (!individus.empty()) {

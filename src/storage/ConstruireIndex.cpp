@@ -104,7 +104,7 @@ public:
         std::uint32_t fait = 0;
         for (const std::uint32_t i : ordre) {
             if (fait % PasCompteur == 0 && !avancement.Avancer(fait, total)) return false;
-        ++fait;
+            ++fait;
             personnes_[i].debut = static_cast<std::uint32_t>(jetons_.size());
             vues.clear();
             textes.TextesDe(personnes_[i].no, vues);

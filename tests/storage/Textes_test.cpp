@@ -69,7 +69,7 @@ TEST_CASE_FIXTURE(Essai, "A text without an end gives what there is before the e
 TEST_CASE_FIXTURE(Essai, "Texts of all lengths read back across pages and tail") {
     std::vector<std::string> textes;
     for (std::uint32_t n = 1; n <= 300; ++n) {
-        textes.push_back(std::string(n * 37 % 9000, static_cast<char>('a' + n % 26)));
+        textes.emplace_back(n * 37 % 9000, static_cast<char>('a' + n % 26));
         base->R_TEXTE.EcrireTexte(NoOrdre{n}, textes.back());
     }
     for (int tour = 0; tour < 2; ++tour) {
