@@ -16,20 +16,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view FiltreBase = "Généalogie (*.lgd) |*.lgd|"_1252;
 
-/// A path with its last three letters replaced.
-fs::path AvecTroisLettres(const fs::path& chemin, std::string_view lettres) {
-    std::string texte = chemin.native();
-    texte.resize(texte.size() - std::min<std::size_t>(3, texte.size()));
-    return fs::path{texte.append(lettres)};
-}
-
-/// A path cut at the first dot of the file name. A dot in a folder does not count.
-fs::path AuPremierPoint(const fs::path& chemin, std::string_view extension) {
-    std::string nom = chemin.filename().native();
-    nom.resize(std::min(nom.find('.'), nom.size()));
-    return chemin.parent_path() / fs::path{nom.append(extension)};
-}
-
 fs::path CheminEntier(const fs::path& chemin) {
     std::error_code erreur;
     const fs::path entier = fs::absolute(chemin, erreur);
@@ -166,25 +152,6 @@ bool CiblePermise(Session& session, const fs::path& cible) {
 }
 
 }  // namespace
-
-CheminsBase DeriverChemins(const fs::path& base) {
-    return {AvecTroisLettres(base, "LGR"), AvecTroisLettres(base, "LOG"),
-            AvecTroisLettres(base, "GED"), CheminAffiche(base.stem())};
-}
-
-fs::path CheminSauvegarde(const fs::path& base) {
-    return AuPremierPoint(base, ".SAV");
-}
-
-fs::path CheminRestauration(const fs::path& sauvegarde) {
-    return AuPremierPoint(sauvegarde, ".LGD");
-}
-
-fs::path FichierTemporaire(const Session& session, std::string_view debut) {
-    std::string nom{debut};
-    nom += session.CheminBase.stem().native();
-    return session.Travail() / fs::path{nom.append(".tmp")};
-}
 
 bool CommandePermise(Session& session) {
     if (session.progression.EnCours()) {
