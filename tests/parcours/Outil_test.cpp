@@ -1,0 +1,147 @@
+// Whole journeys through `dorvane-outil` as built: a file comes in, is looked at, saved and
+// restored.
+#include "doublures/DossierTemporaire.h"
+
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include <doctest/doctest.h>
+
+using namespace dorvane::doublures;
+
+namespace {
+
+struct Reponse {
+    int statut = -1;
+    std::string sortie;
+    std::string messages;
+};
+
+/// One folder, one configuration, and the program run in it.
+struct Poste {
+    Poste() {
+        setenv("XDG_CONFIG_HOME", (dossier / "config").c_str(), 1);
+        setenv("XDG_CACHE_HOME", (dossier / "cache").c_str(), 1);
+        EcrireFichier(dossier / "famille.ged",
+                      "0 HEAD\n1 CHAR UTF-8\n0 @I1@ INDI\n1 NAME Jean /Dupont/\n1 SEX M\n1 BIRT\n"
+                      "2 DATE 12 MAR 1820\n2 PLAC Saint Malo\n1 OCCU forgeron\n0 @I2@ INDI\n"
+                      "1 NAME Hélène /Martin/\n1 SEX F\n0 @I3@ INDI\n1 NAME Luc /Dupont/\n1 BIRT\n"
+                      "2 DATE 1845\n1 OBJE\n2 FILE a.jpg\n0 @F1@ FAM\n1 HUSB @I1@\n1 WIFE @I2@\n"
+                      "1 CHIL @I3@\n1 MARR\n2 DATE 1844\n0 TRLR\n");
+    }
+
+    Reponse Lancer(const std::string& arguments, const std::string& entree = {}) const {
+        EcrireFichier(dossier / "entree", entree);
+        const std::string commande = "cd '" + dossier.chemin.string() + "' && '" OUTIL "' " +
+                                     arguments + " < entree > sortie 2> messages";
+        const int statut = std::system(commande.c_str());
+        return {WIFEXITED(statut) ? WEXITSTATUS(statut) : -1, LireFichier(dossier / "sortie"),
+                LireFichier(dossier / "messages")};
+    }
+
+    DossierTemporaire dossier;
+};
+
+bool Contient(const std::string& texte, const std::string& morceau) {
+    return texte.find(morceau) != std::string::npos;
+}
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Poste, "A file is imported, listed, shown, saved and restored") {
+    const Reponse import = Lancer("importer famille.ged --trier");
+    CHECK(import.statut == 0);
+    CHECK(Contient(import.sortie, "Personnes : 3   Unions : 1"));
+    CHECK(Contient(import.sortie, "INDI.OBJE.FILE"));
+
+    const Reponse liste = Lancer("lister famille.LGD");
+    CHECK(liste.statut == 0);
+    CHECK(liste.sortie ==
+          "2\tMartin\tHélène\tF\t\t\t\t\n"
+          "1\tDupont\tJean\tH\t12/3/1820\tSaint Malo\t\t\n"
+          "3\tDupont\tLuc\tI\t1845\t\t\t\n");
+
+    const Reponse personne = Lancer("personne famille.LGD 1 --json");
+    CHECK(Contient(personne.sortie, "\"jourmois\": \"12/3\""));
+    CHECK(Contient(personne.sortie, "\"lieu\": \"forgeron\""));
+    CHECK(Contient(personne.sortie, "\"enfants\": [\n    3\n  ]"));
+
+    const std::string avant = LireFichier(dossier / "famille.LGD");
+    const Reponse sauvegarde = Lancer("sauvegarder famille.LGD");
+    CHECK(sauvegarde.statut == 0);
+    CHECK(LireFichier(dossier / "famille.SAV") == avant);
+
+    SUBCASE("restoring over a base asks first, and no is the default") {
+        EcrireFichier(dossier / "famille.LGD", "abîmé");
+        CHECK(Lancer("restaurer famille.SAV").statut == 1);
+        CHECK(LireFichier(dossier / "famille.LGD") == "abîmé");
+        CHECK(Lancer("restaurer famille.SAV --remplacer").statut == 0);
+        CHECK(LireFichier(dossier / "famille.LGD") == avant);
+    }
+    SUBCASE("looking at a base changes none of its bytes") {
+        CHECK(Lancer("infos famille.LGD --json").statut == 0);
+        CHECK(LireFichier(dossier / "famille.LGD") == avant);
+    }
+    SUBCASE("an existing base is replaced only when asked") {
+        CHECK(Lancer("importer famille.ged").statut == 1);
+        CHECK(LireFichier(dossier / "famille.LGD") == avant);
+        CHECK(Lancer("importer famille.ged --remplacer").statut == 0);
+    }
+}
+
+TEST_CASE_FIXTURE(Poste, "A new base is empty and can be opened") {
+    CHECK(Lancer("nouveau vide.LGD").statut == 0);
+    CHECK(Lancer("nouveau vide.LGD").statut == 1);
+    const Reponse infos = Lancer("infos vide.LGD --json");
+    CHECK(infos.statut == 0);
+    CHECK(Contient(infos.sortie, "\"individus\": 0"));
+    CHECK(Lancer("lister vide.LGD --json").sortie == "[\n]\n");
+    CHECK(Lancer("personne vide.LGD 1").statut == 1);
+}
+
+TEST_CASE_FIXTURE(Poste, "Exit statuses: usage, refusals, and what the file system says") {
+    CHECK(Lancer("").statut == 2);
+    CHECK(Lancer("inconnu").statut == 2);
+    CHECK(Lancer("infos").statut == 2);
+    CHECK(Lancer("infos absent.LGD").statut == 3);
+    CHECK(Lancer("importer absent.ged").statut == 3);
+    CHECK(Lancer("infos famille.ged").statut == 1);
+    CHECK(Lancer("--help").statut == 0);
+    EcrireFichier(dossier / "prose.ged", "sans fin de ligne");
+    const Reponse prose = Lancer("importer prose.ged");
+    CHECK(prose.statut == 1);
+    CHECK(Contient(prose.messages, "Fichier GEDCOM inexploitable"));
+}
+
+TEST_CASE_FIXTURE(Poste, "Values are worked out one at a time or line by line") {
+    CHECK(Lancer("calculer ClePhonetique DUPONT").sortie == "DBM0\n");
+    CHECK(Lancer("calculer AnneeTri -44").sortie == "-044\n");
+    CHECK(Lancer("calculer Inconnue x").statut == 2);
+    const Reponse lignes = Lancer("calculer -", "Replie\tÉvêque\nAnneeTri\t1820\n");
+    CHECK(lignes.statut == 0);
+    CHECK(lignes.sortie == "EVEQUE\n1820\n");
+    CHECK(Lancer("calculer --langue English CvtDateAffichage 12/3").sortie == "12 March\n");
+}
+
+TEST_CASE_FIXTURE(Poste, "Catalogues are compiled and listed") {
+    EcrireFichier(dossier / "t.tsv", "number\tfr\ten\n21\tQuitter ?\tQuit?\n1001\tÉté\tSummer\n");
+    CHECK(Lancer("catalogue compiler t.tsv --vers .").statut == 0);
+    CHECK(Lancer("catalogue lister Français.mes").sortie == "21\tQuitter ?\n1001\tÉté\n");
+    EcrireFichier(dossier / "t.tsv", "number\tfr\ten\n21\tα\tQuit?\n");
+    CHECK(Lancer("catalogue compiler t.tsv --vers .").statut == 1);
+    CHECK(Lancer("catalogue lister English.mes").sortie == "21\tQuit?\n1001\tSummer\n");
+}
+
+TEST_CASE_FIXTURE(Poste,
+                  "The import report is written to the working folder, in the language asked for") {
+    const Reponse import = Lancer("importer famille.ged --langue English --json");
+    CHECK(import.statut == 0);
+    CHECK(Contient(import.sortie, "\"INDI.OBJE\""));
+    const std::size_t ou = import.sortie.find("\"rapport\": \"") + 12;
+    const std::string chemin = import.sortie.substr(ou, import.sortie.find('"', ou) - ou);
+    CHECK(Contient(chemin, "famille.IMPORT.TXT"));
+    CHECK(Contient(LireFichier(chemin), "Persons: 3"));
+}
