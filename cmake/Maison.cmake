@@ -22,6 +22,8 @@ function(maison_dossier nom)
     target_link_libraries(${nom} PUBLIC ${D_DEPEND} PRIVATE reglages ${D_PRIVE})
     if(D_QT)
         set_target_properties(${nom} PROPERTIES AUTOMOC ON AUTOUIC ON)
+        # "slots" and "signals" are words of ours below the windows.
+        target_compile_definitions(${nom} PUBLIC QT_NO_KEYWORDS)
     endif()
 endfunction()
 
