@@ -218,6 +218,15 @@ ModeleFamille ConstruireFamille(storage::Base& base, NoOrdre individu, Generatio
     }
 }
 
+NoOrdre VoisinDansLOrdre(const storage::Base& base, NoOrdre individu, int pas) {
+    const std::vector<std::uint16_t>& numeros = base.R_TRI.individus.Numeros();
+    const auto place = std::find(numeros.begin(), numeros.end(), individu.valeur);
+    if (!individu || place == numeros.end()) return {};
+    const auto rang = static_cast<std::size_t>(place - numeros.begin());
+    if (pas < 0) return rang == 0 ? NoOrdre{} : NoOrdre{numeros[rang - 1]};
+    return rang + 1 == numeros.size() ? NoOrdre{} : NoOrdre{numeros[rang + 1]};
+}
+
 NoOrdre ParentDe(storage::Base& base, NoOrdre individu, Parente parente, NoOrdre apres) {
     const auto existant = [&base](NoOrdre n) { return Existe(base, n) ? n : NoOrdre{}; };
     switch (parente) {

@@ -83,6 +83,10 @@ inline constexpr double EcartFamilles = 0.3;
 /// A person of the base: its number has been given and it stands in the sort table.
 [[nodiscard]] bool Existe(storage::Base& base, NoOrdre individu);
 
+/// `MnuPrécédent` (-1) and `MnuSuivant` (1): the neighbour of a person in the sort order; 0 at the
+/// ends and for who is not in it.
+[[nodiscard]] NoOrdre VoisinDansLOrdre(const storage::Base& base, NoOrdre individu, int pas);
+
 /// What the arrow keys walk to.
 enum class Parente { Pere, Mere, Enfant, ConjointSuivant };
 

@@ -291,3 +291,16 @@ TEST_CASE_FIXTURE(Scene, "EntreesFamille: person, parents, spouses, children, li
     CHECK((EntreesFamille(*base, jean) == attendues));
     CHECK(EntreesFamille(*base, NoOrdre{99}).empty());
 }
+
+TEST_CASE_FIXTURE(Scene,
+                  "VoisinDansLOrdre: before and after in the sort order, nothing at the ends") {
+    const NoOrdre vieux = Homme("Vieux", "1700");
+    const NoOrdre jeune = Homme("Jeune", "1900");
+    const NoOrdre moyen = Homme("Moyen", "1800");
+    CHECK(VoisinDansLOrdre(*base, vieux, 1) == moyen);
+    CHECK(VoisinDansLOrdre(*base, jeune, -1) == moyen);
+    CHECK_FALSE(VoisinDansLOrdre(*base, jeune, 1));
+    CHECK_FALSE(VoisinDansLOrdre(*base, vieux, -1));
+    CHECK_FALSE(VoisinDansLOrdre(*base, NoOrdre{77}, 1));
+    CHECK_FALSE(VoisinDansLOrdre(*base, NoOrdre{}, 1));
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QDialog>
+
+namespace dorvane::shell {
+class Session;
+}
+
+namespace dorvane::windows {
+
+/// Size and place of a window as it was last left, kept in the settings under its name. Nothing
+/// when there is none; false then.
+bool RestaurerPlace(QWidget& fenetre, const shell::Session& session);
+void MemoriserPlace(const QWidget& fenetre, shell::Session& session);
+
+/// A window beside the main one: it translates itself, keeps its place, and Escape closes it.
+class FenetreFille : public QDialog {
+    Q_OBJECT
+
+public:
+    /// `session` outlives the window. `nom` is the name of the form.
+    FenetreFille(shell::Session& session, const QString& nom, QWidget* parent);
+
+    /// Takes over the language in use. Called once the controls are there, and after a change.
+    virtual void Traduire();
+
+protected:
+    void showEvent(QShowEvent* evenement) override;
+    void done(int resultat) override;
+
+    [[nodiscard]] shell::Session& S() const { return session_; }
+
+private:
+    shell::Session& session_;
+    bool placee_ = false;
+};
+
+}  // namespace dorvane::windows

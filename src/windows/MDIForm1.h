@@ -1,0 +1,146 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include "records/ModeleFamille.h"
+#include "windows/PaletteGraphe.h"
+
+#include <array>
+
+class QActionGroup;
+class QLabel;
+class QMenu;
+class QStackedWidget;
+class QToolBar;
+class QTranslator;
+
+namespace dorvane::shell {
+class Session;
+}
+
+namespace dorvane::windows {
+
+class Accueil;
+class CadreAvancement;
+class FenetreFille;
+class FrmDebut;
+
+/// The main window: menus, bars, the family chart.
+class MDIForm1 final : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// `session` outlives the window. It is started once the window is attached to its ports.
+    explicit MDIForm1(shell::Session& session);
+    ~MDIForm1() override;
+
+    /// Reads everything again that the window shows.
+    void Actualiser();
+
+    /// Closes the windows beside this one.
+    void FermerFenetres();
+
+    /// A text in the status bar; empty clears it.
+    void Annoncer(const QString& texte);
+
+    /// `texte` in code page 1252.
+    void MontrerRapport(const std::string& titre, const std::string& texte);
+
+    /// The first start asks for the colours of the chart, once.
+    void DemanderPalette();
+
+    /// Moves to a person of the base, after the question for an unsaved sheet. Nothing for the
+    /// current person and for who has no record.
+    void AllerA(NoOrdre individu);
+
+    [[nodiscard]] CadreAvancement& Cadre() { return *cadre_; }
+    [[nodiscard]] FrmDebut& Graphe() { return *graphe_; }
+
+protected:
+    void closeEvent(QCloseEvent* evenement) override;
+    void dragEnterEvent(QDragEnterEvent* evenement) override;
+    void dropEvent(QDropEvent* evenement) override;
+
+private:
+    struct Definition;
+    using Action = void (MDIForm1::*)();
+
+    // The menus.
+    void FaireMenus();
+    void FaireBarres();
+    QMenu* FaireMenu(QWidget* parent, const char* nom);
+    QAction* FaireAction(QMenu* menu, const char* nom, const char* touches, Action action);
+    void FaireFichier();
+    void FairePersonne();
+    void FaireAffichage();
+    void FaireOutils();
+    void PoserLangues();
+    void PoserHistorique();
+    void PoserIcones();
+    void PoserEtats();
+    [[nodiscard]] QAction* ActionNommee(const QString& nom) const;
+
+    // What the entries do.
+    void Nouveau();
+    void Ouvrir();
+    void Fermer();
+    void Enregistrer();
+    void Sauvegarde();
+    void Restauration();
+    void Importer();
+    void Quitter();
+    void Precedent();
+    void Suivant();
+    void Noms();
+    void AllerDeCujus1();
+    void AllerDeCujus2();
+    void ChoisirDeCujus1();
+    void ChoisirDeCujus2();
+    void Agrandir();
+    void Diminuer();
+    void Ajuster();
+    void Gauche();
+    void Droite();
+    void BarreIcones();
+    void BarreFenetres();
+    void Calendrier();
+
+    void Histo(int rang);
+    void Presentation(int presentation);
+    void PoserPalette(Palette palette);
+    void ChangerLangue(const QString& nom);
+    void Traduire();
+    void TraduireQt();
+    void PasVers(records::Parente parente);
+    void MenuIndividu(NoOrdre individu, const QPoint& point);
+    void DireGenerations();
+    void SuivreFenetres();
+    void Minuterie();
+    void ActualiserEtat();
+    [[nodiscard]] QList<FenetreFille*> Filles() const;
+
+    shell::Session& session_;
+    QStackedWidget* pages_;
+    Accueil* accueil_;
+    FrmDebut* graphe_;
+    QToolBar* icones_;
+    QToolBar* fenetres_;
+    QLabel* etatPersonne_;
+    QLabel* etatDeCujus_;
+    CadreAvancement* cadre_;
+    QMenu* menuFichier_ = nullptr;
+    QMenu* menuLangues_ = nullptr;
+    QAction* traitHistorique_ = nullptr;
+    QActionGroup* presentations_ = nullptr;
+    QActionGroup* palettes_ = nullptr;
+    std::array<QAction*, 5> historique_{};
+    QTimer Minuterie1_;
+    QTimer Minuterie2_;
+    QTranslator* traducteur_ = nullptr;
+    NoOrdre conjointPrecedent_{};  ///< from whom the last step to a spouse came
+    bool arrete_ = false;          ///< the session has been closed
+    const void* baseMontree_ = nullptr;
+};
+
+}  // namespace dorvane::windows

@@ -1,0 +1,57 @@
+#include "windows/Vignettes.h"
+
+#include <QImageReader>
+#include <QPixmapCache>
+
+#include "shell/Session.h"
+#include "storage/Base.h"
+#include "values/Texte1252.h"
+#include "windows/DialogueQt.h"
+
+#include <algorithm>
+#include <system_error>
+
+namespace dorvane::windows {
+
+namespace {
+
+bool EstFichier(const std::filesystem::path& chemin) {
+    std::error_code erreur;
+    return std::filesystem::is_regular_file(chemin, erreur);
+}
+
+}  // namespace
+
+std::filesystem::path FichierDeDocument(const std::filesystem::path& base,
+                                        const std::string& fichier) {
+    std::string nom = TexteVersUtf8(fichier);
+    if (nom.empty()) return {};
+    const std::filesystem::path dossier = base.parent_path();
+    if (EstFichier(dossier / nom)) return dossier / nom;
+    std::replace(nom.begin(), nom.end(), '\\', '/');
+    if (EstFichier(dossier / nom)) return dossier / nom;
+    const std::filesystem::path aCote = dossier / std::filesystem::path{nom}.filename();
+    return EstFichier(aCote) ? aCote : std::filesystem::path{};
+}
+
+QPixmap VignetteDe(const shell::Session& session, NoOrdre individu, int cote) {
+    const NoDocument document = session.base->R_LSTIMG.ElementListe(individu, 1);
+    if (!document) return {};
+    const std::filesystem::path chemin =
+        FichierDeDocument(session.CheminBase, session.base->R_IMAGE.FichierDoc(document));
+    if (chemin.empty()) return {};
+
+    const QString cle = QStringLiteral("vignette/%1/").arg(cote) + CheminVersQt(chemin);
+    QPixmap image;
+    if (QPixmapCache::find(cle, &image)) return image;
+    QImageReader lecteur{CheminVersQt(chemin)};
+    lecteur.setAutoTransform(true);
+    lecteur.setDecideFormatFromContent(true);
+    const QSize taille = lecteur.size();
+    if (taille.isValid()) lecteur.setScaledSize(taille.scaled(cote, cote, Qt::KeepAspectRatio));
+    image = QPixmap::fromImage(lecteur.read());
+    QPixmapCache::insert(cle, image);
+    return image;
+}
+
+}  // namespace dorvane::windows
