@@ -9,6 +9,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <random>
@@ -83,9 +84,21 @@ BENCHMARK(NomsAuHasard)->Unit(benchmark::kMillisecond);
 
 void Numeroter(benchmark::State& etat) {
     Banc& banc = LeBanc();
-    banc.session.deCujus[0].individu = NoOrdre{banc.B().entete.DernierIndividu};
+    shell::DeCujus& deCujus = banc.session.deCujus[0];
+    // The largest family among many persons: most have only a few numbered relatives.
+    NoOrdre plusGrande{};
+    std::size_t taille = 0;
+    for (std::uint32_t n = 1; n <= banc.B().entete.DernierIndividu; n += 97) {
+        deCujus.individu = NoOrdre{n};
+        shell::NumeroterDeCujus(banc.session, 1);
+        const std::size_t nombre = deCujus.numerosAsc.size() + deCujus.numerosDesc.size();
+        if (nombre > taille) plusGrande = deCujus.individu;
+        taille = std::max(taille, nombre);
+    }
+    deCujus.individu = plusGrande;
     for (auto _ : etat)
         shell::NumeroterDeCujus(banc.session, 1);
+    etat.counters["numbered"] = static_cast<double>(taille);
 }
 BENCHMARK(Numeroter)->Unit(benchmark::kMillisecond);
 
