@@ -68,7 +68,7 @@ struct ModeleFamille {
 inline constexpr std::size_t MaxCases = 4000;
 
 /// Distance of two spouses, and what parts the boxes of two families, in places.
-inline constexpr double EcartConjoints = 1.45;
+inline constexpr double EcartConjoints = 1.3;
 inline constexpr double EcartFamilles = 0.3;
 
 [[nodiscard]] ModeleFamille ConstruireFamille(storage::Base& base, NoOrdre individu,

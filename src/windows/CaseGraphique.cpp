@@ -153,7 +153,9 @@ void CaseGraphique::PeindreInconnu(QPainter& peintre) const {
 
 void CaseGraphique::PeindreTextes(QPainter& peintre) const {
     const CouleursSexe& couleurs = style_.palette.DeSexe(contenu_.sexe);
-    const QColor doux = Meler(couleurs.texte, couleurs.fond, 0.22);
+    // Colours of the settings may be near one another: they are taken as they are.
+    const QColor doux =
+        style_.palette.policesReglees ? couleurs.texte : Meler(couleurs.texte, couleurs.fond, 0.22);
     if (!contenu_.vignette.isNull()) {
         const double cote = style_.mesures.hauteur - 2 * Marge;
         const QRectF place{boite_.left() + Marge, boite_.top() + Marge, cote, cote};

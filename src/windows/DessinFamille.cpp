@@ -18,7 +18,7 @@ constexpr MesuresGraphe Mesures[] = {
     {250, 92, 16, 76, 16, 13, false, true},
     {196, 50, 12, 66, 13, 12, false, false},
     {176, 36, 9, 60, 12, 11, false, false},
-    {214, 24, 7, 54, 12, 11, true, false},
+    {300, 24, 7, 54, 12, 11, true, false},
 };
 
 /// A spouse stands this much narrower than its column: the line of the couple runs beside it.

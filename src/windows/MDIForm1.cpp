@@ -117,7 +117,6 @@ void MDIForm1::Actualiser() {
     PoserLangues();
     Traduire();
     icones_->setVisible(generaux.barreMenus);
-    fenetres_->setVisible(generaux.barreFenetres);
     ActionNommee(QStringLiteral("MnuBarreIcones"))->setChecked(generaux.barreMenus);
     ActionNommee(QStringLiteral("MnuBarreFenetres"))->setChecked(generaux.barreFenetres);
     PoserHistorique();
@@ -142,8 +141,10 @@ void MDIForm1::ActualiserEtat() {
     const bool graphe = session_.BaseOuverte() && session_.PersonneEnCours;
     graphe_->Actualiser();
     accueil_->Actualiser();
-    pages_->setCurrentWidget(graphe ? static_cast<QWidget*>(graphe_) : accueil_);
-    if (graphe && QApplication::focusWidget() == nullptr) graphe_->setFocus();
+    if (graphe != (pages_->currentWidget() == graphe_)) {
+        pages_->setCurrentWidget(graphe ? static_cast<QWidget*>(graphe_) : accueil_);
+        if (graphe) graphe_->setFocus();
+    }
     const QString titre = TexteVersQt(shell::TitrePrincipal(session_));
     setWindowTitle(session_.BaseOuverte() ? titre + QStringLiteral(" \u2014 Dorvane") : titre);
     etatPersonne_->setText(graphe ? graphe_->windowTitle() : QString{});
@@ -201,8 +202,13 @@ void MDIForm1::SuivreFenetres() {
         pareil =
             boutons[i]->data().value<QWidget*>() == ouvertes[i] &&
             boutons[i]->text() == ouvertes[i]->windowTitle().replace(u'&', QStringLiteral("&&"));
+    // One window needs no bar to choose it.
+    fenetres_->setVisible(session_.parametres.generaux.barreFenetres && ouvertes.size() > 1);
     if (pareil) return;
-    fenetres_->clear();
+    for (QAction* bouton : boutons) {
+        fenetres_->removeAction(bouton);
+        bouton->deleteLater();
+    }
     for (QWidget* fenetre : ouvertes) {
         QAction* bouton =
             fenetres_->addAction(fenetre->windowTitle().replace(u'&', QStringLiteral("&&")));

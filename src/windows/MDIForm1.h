@@ -63,7 +63,6 @@ protected:
     void dropEvent(QDropEvent* evenement) override;
 
 private:
-    struct Definition;
     using Action = void (MDIForm1::*)();
 
     // The menus.
@@ -135,6 +134,7 @@ private:
     QActionGroup* presentations_ = nullptr;
     QActionGroup* palettes_ = nullptr;
     std::array<QAction*, 5> historique_{};
+    QString numerosIcones_;
     QTimer Minuterie1_;
     QTimer Minuterie2_;
     QTranslator* traducteur_ = nullptr;

@@ -176,7 +176,7 @@ void MDIForm1::BarreIcones() {
 void MDIForm1::BarreFenetres() {
     bool& montree = session_.parametres.generaux.barreFenetres;
     montree = !montree;
-    fenetres_->setVisible(montree);
+    SuivreFenetres();
 }
 
 void MDIForm1::Calendrier() {

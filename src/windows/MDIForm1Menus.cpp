@@ -82,7 +82,7 @@ void MDIForm1::FaireFichier() {
     menu->addSeparator();
     FaireAction(menu, "MnuEnregistrer", "Ctrl+S", &MDIForm1::Enregistrer);
     FaireAction(menu, "MnuSauvegarde", "Ctrl+B", &MDIForm1::Sauvegarde);
-    FaireAction(menu, "MnuRestauration", nullptr, &MDIForm1::Restauration);
+    FaireAction(menu, "MnuRestauration", "Ctrl+R", &MDIForm1::Restauration);
     menu->addSeparator();
     FaireAction(menu, "MnuImporter", "Ctrl+I", &MDIForm1::Importer);
     traitHistorique_ = menu->addSeparator();
@@ -151,8 +151,11 @@ void MDIForm1::FaireOutils() {
 }
 
 void MDIForm1::PoserIcones() {
-    icones_->clear();
     const QString numeros = QString::fromStdString(session_.parametres.generaux.icones);
+    // The button just pressed lives in the bar: it is filled again only for another setting.
+    if (numeros == numerosIcones_) return;
+    numerosIcones_ = numeros;
+    icones_->clear();
     bool trait = false;
     for (const QString& texte : numeros.split(u',', Qt::SkipEmptyParts)) {
         const int no = texte.trimmed().toInt();
@@ -174,7 +177,10 @@ void MDIForm1::PoserLangues() {
         action->setObjectName(QStringLiteral("MnuLng(%1)").arg(nom));
         action->setCheckable(true);
         action->setChecked(langue.courante);
-        connect(action, &QAction::triggered, this, [this, nom] { ChangerLangue(nom); });
+        // Queued, because the menu is filled again and its entries go.
+        connect(
+            action, &QAction::triggered, this, [this, nom] { ChangerLangue(nom); },
+            Qt::QueuedConnection);
     }
 }
 
