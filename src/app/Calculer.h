@@ -17,7 +17,8 @@ struct Calcul {
 
 /// Works out one operation on values (`Replie`, `CleNom`, `CvtSaisieDate`...). Arguments and
 /// answers are UTF-8; in both, `\t`, `\n`, `\r`, `\\` and `\xHH` (a byte of code page 1252) stand
-/// for what a line cannot hold. A character that the code page lacks counts as "?".
+/// for what a line cannot hold. A character that the code page lacks counts as its
+/// nearest equivalent, or as "?".
 ///
 /// `true` and `false` answer a question; a calendar answers day, month and year positions, or
 /// `message N` for a refusal; no date has an empty serial.

@@ -1,6 +1,7 @@
 #include "interchange/JeuxDeCaracteres.h"
 
 #include "interchange/TablesDeCaracteres.h"
+#include "values/Equivalents.h"
 #include "values/Texte1252.h"
 
 #include <algorithm>
@@ -151,8 +152,6 @@ public:
 
     [[nodiscard]] TexteDecode Rendre() { return std::move(decode_); }
 
-    static bool EstMarque(char32_t code) { return code >= 0x300 && code < 0x370; }
-
 private:
     /// Joins the mark to the letter laid down last, or drops it.
     void PoserMarque(char32_t marque) {
@@ -162,12 +161,6 @@ private:
             decode_.octets.back() = compose;
         else
             ++decode_.translitteres;
-    }
-
-    static bool EstInvisible(char32_t code) {
-        return (code >= 0x200B && code <= 0x200F) || (code >= 0x202A && code <= 0x202E) ||
-               (code >= 0x2060 && code <= 0x206F) || code == 0xFEFF ||
-               (code >= 0xFE00 && code <= 0xFE0F);
     }
 
     TexteDecode decode_;
@@ -233,7 +226,7 @@ TexteDecode DecoderAnsel(std::string_view texte) {
     };
     for (const char c : texte) {
         const char32_t code = Octet(c) < 0x80 ? Octet(c) : CodeDeAnsel(Octet(c));
-        if (Compositeur::EstMarque(code) && marques.size() < 8) {
+        if (EstMarque(code) && marques.size() < 8) {
             marques.push_back(code);
             continue;
         }
