@@ -32,11 +32,10 @@ int Atelier::Ouvrir(const std::filesystem::path& chemin) {
         case storage::Ouverture::Abimee:
             return Refus;
     }
-    const shell::CheminsBase chemins = shell::DeriverChemins(chemin);
-    session.CheminBase = chemin;
-    session.NomBase = chemins.nom;
+    session.CheminBase = shell::CheminEntier(chemin);
+    session.NomBase = shell::DeriverChemins(session.CheminBase).nom;
     session.PoserBase(std::move(resultat.base));
-    session.parametres.LireParametresBase(chemin);
+    session.parametres.LireParametresBase(session.CheminBase);
     return Fait;
 }
 

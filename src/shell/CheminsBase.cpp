@@ -24,6 +24,12 @@ fs::path AuPremierPoint(const fs::path& chemin, std::string_view extension) {
 
 }  // namespace
 
+fs::path CheminEntier(const fs::path& chemin) {
+    std::error_code erreur;
+    const fs::path entier = fs::absolute(chemin, erreur);
+    return (erreur ? chemin : entier).lexically_normal();
+}
+
 CheminsBase DeriverChemins(const fs::path& base) {
     return {AvecTroisLettres(base, "LGR"), AvecTroisLettres(base, "LOG"),
             AvecTroisLettres(base, "GED"), CheminAffiche(base.stem())};

@@ -1,5 +1,6 @@
 #include "shell/CycleDeVie.h"
 
+#include "shell/CycleInterne.h"
 #include "shell/Numerotation.h"
 #include "shell/RelaisAvancement.h"
 #include "storage/Base.h"
@@ -16,49 +17,12 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view FiltreBase = "Généalogie (*.lgd) |*.lgd|"_1252;
 
-fs::path CheminEntier(const fs::path& chemin) {
-    std::error_code erreur;
-    const fs::path entier = fs::absolute(chemin, erreur);
-    return (erreur ? chemin : entier).lexically_normal();
-}
-
-void Dire(Session& session, std::uint32_t message, const fs::path& chemin) {
-    session.dialogue.Informer(Msg(message, CheminAffiche(chemin)));
-}
-
-/// Settings that cannot be saved are told once: the automatic save would tell it every time.
-void DireReglagesRefuses(Session& session) {
-    if (session.sansReglages) return;
-    session.sansReglages = true;
-    session.dialogue.Informer(Msg(2402));
-}
-
 void SauverReglagesBase(Session& session) {
     ReglagesBase& reglages = session.parametres.base;
     reglages.personneEnCours = session.PersonneEnCours.valeur;
     reglages.deCujus1 = session.deCujus[0].individu.valeur;
     reglages.deCujus2 = session.deCujus[1].individu.valeur;
     if (!session.parametres.SauverParametresBase(session.CheminBase)) DireReglagesRefuses(session);
-}
-
-void PoserChemins(Session& session, const fs::path& chemin) {
-    const CheminsBase chemins = chemin.empty() ? CheminsBase{} : DeriverChemins(chemin);
-    session.CheminBase = chemin;
-    session.CheminEchange = chemins.echange;
-    session.CheminJournal = chemins.journal;
-    session.CheminGedcom = chemins.gedcom;
-    session.NomBase = chemins.nom;
-}
-
-/// Forgets all that belongs to a base.
-void Oublier(Session& session) {
-    session.PoserBase(nullptr);
-    PoserChemins(session, {});
-    session.PersonneEnCours = session.PersonneFiche = NoOrdre{};
-    for (int k = 1; k <= 2; ++k) {
-        session.deCujus[static_cast<std::size_t>(k - 1)].individu = NoOrdre{};
-        NumeroterDeCujus(session, k);
-    }
 }
 
 bool EstDansLOrdre(storage::Base& base, NoOrdre n) {
@@ -106,33 +70,6 @@ void ReprendreReglages(Session& session) {
         EstDansLOrdre(base, memorisee) ? memorisee : base.R_TRI.IndividuAuRang(1);
 }
 
-/// Copies beside, then puts in place: whoever reads the target sees the old one or the new one.
-bool CopierSurement(storage::Disque& disque, const fs::path& source, const fs::path& cible,
-                    const fs::path& journalPerdu) {
-    fs::path aCote = cible;
-    aCote += ".nouveau";
-    // The journal goes first: replayed over the new file it would ruin it.
-    const bool fait =
-        disque.Copier(source, aCote) &&
-        (journalPerdu.empty() || !disque.Existe(journalPerdu) || disque.Supprimer(journalPerdu)) &&
-        disque.Renommer(aCote, cible);
-    if (!fait) {
-        if (disque.Existe(aCote)) static_cast<void>(disque.Supprimer(aCote));
-        return false;
-    }
-    disque.ViderDossier(cible);
-    return true;
-}
-
-bool EstUneBase(storage::Disque& disque, const fs::path& chemin) {
-    const std::unique_ptr<storage::Fichier> fichier =
-        disque.Ouvrir(chemin, storage::ModeOuverture::LectureSeule);
-    if (!fichier) return false;
-    std::array<char, 30> marque{};
-    const std::size_t lus = fichier->Lire(Position{1}, marque);
-    return lus == marque.size() && storage::PorteMarque({marque.data(), marque.size()});
-}
-
 /// The commit of the open base with its bookkeeping, without the tests of a menu command.
 bool Enregistrer(Session& session) {
     if (!session.base || !session.base->marques.Modifie()) return true;
@@ -144,14 +81,37 @@ bool Enregistrer(Session& session) {
     return fait;
 }
 
-/// The target of a restoration is free of other programs and may be replaced.
-bool CiblePermise(Session& session, const fs::path& cible) {
-    if (!session.disque.Existe(cible)) return true;
-    const Question question{Msg(537), Msg(538), Boutons::OuiNon, Reponse::Non, true};
-    return session.dialogue.Confirmer(question);
+}  // namespace
+
+void Dire(Session& session, std::uint32_t message, const fs::path& chemin) {
+    session.dialogue.Informer(Msg(message, CheminAffiche(chemin)));
 }
 
-}  // namespace
+// The automatic save would tell it every time.
+void DireReglagesRefuses(Session& session) {
+    if (session.sansReglages) return;
+    session.sansReglages = true;
+    session.dialogue.Informer(Msg(2402));
+}
+
+void PoserChemins(Session& session, const fs::path& chemin) {
+    const CheminsBase chemins = chemin.empty() ? CheminsBase{} : DeriverChemins(chemin);
+    session.CheminBase = chemin;
+    session.CheminEchange = chemins.echange;
+    session.CheminJournal = chemins.journal;
+    session.CheminGedcom = chemins.gedcom;
+    session.NomBase = chemins.nom;
+}
+
+void Oublier(Session& session) {
+    session.PoserBase(nullptr);
+    PoserChemins(session, {});
+    session.PersonneEnCours = session.PersonneFiche = NoOrdre{};
+    for (int k = 1; k <= 2; ++k) {
+        session.deCujus[static_cast<std::size_t>(k - 1)].individu = NoOrdre{};
+        NumeroterDeCujus(session, k);
+    }
+}
 
 bool CommandePermise(Session& session) {
     if (session.progression.EnCours()) {
@@ -231,6 +191,15 @@ bool OuvrirChemin(Session& session, const fs::path& chemin) {
     return ouverte;
 }
 
+void ReprendreAvantRemplacement(Session& session, const fs::path& chemin) {
+    if (!session.disque.Existe(chemin) || !session.disque.Existe(storage::CheminJournal(chemin)))
+        return;
+    RelaisAvancement avancement{session.progression};
+    const storage::ResultatOuverture ancienne =
+        storage::OuvrirBase(session.disque, chemin, avancement);
+    if (ancienne.base) static_cast<void>(ancienne.base->Fermer());
+}
+
 void Adopter(Session& session, std::unique_ptr<storage::Base> base, const fs::path& chemin) {
     Clore(session);
     PoserChemins(session, CheminEntier(chemin));
@@ -308,72 +277,8 @@ bool MnuEnregistrer(Session& session) {
     return fait;
 }
 
-bool Sauvegarder(Session& session) {
-    if (!session.base) return false;
-    session.dialogue.Annoncer(Msg(41));
-    const fs::path cible = CheminSauvegarde(session.CheminBase);
-    // After a refused commit the file waits for its journal: a copy of it alone would be no base.
-    const bool fermee = FermerEtMemoriser(session);
-    bool copiee = false;
-    if (fermee && cible != session.CheminBase) {
-        const Attente attente{session.progression};
-        copiee = CopierSurement(session.disque, session.CheminBase, cible, {});
-    }
-    session.dialogue.Annoncer({});
-    if (fermee && !copiee) Dire(session, 2407, cible);
-    if (!copiee || !OuvrirBase(session)) {
-        session.ecran.FermerFenetres();
-        Oublier(session);
-    }
-    return copiee;
-}
-
-void MnuSauvegarde(Session& session) {
-    if (!CommandePermise(session) || !session.base) return;
-    const fs::path cible = CheminSauvegarde(session.CheminBase);
-    const bool copiee = Sauvegarder(session);
-    session.ecran.Actualiser();
-    if (copiee) session.dialogue.Annoncer(Msg(2412, CheminAffiche(cible)));
-}
-
-void MnuRestauration(Session& session) {
-    if (!CommandePermise(session)) return;
-    const std::optional<fs::path> choisi = session.dialogue.ChoisirFichier(
-        {DemandeFichier::Sorte::Ouvrir, Msg(836), session.Message(2411), ".SAV",
-         session.CheminBase.parent_path()});
-    if (!choisi) return;
-    const fs::path source = CheminEntier(*choisi);
-    const fs::path cible = CheminRestauration(source);
-    if (!EstUneBase(session.disque, source) || source == cible) {
-        Dire(session, 2404, source);
-        return;
-    }
-    if (!CiblePermise(session, cible)) return;
-
-    Clore(session);
-    bool copiee = false;
-    {
-        const Attente attente{session.progression};
-        const storage::ResultatVerrou verrou = session.disque.Verrouiller(cible);
-        if (verrou.etat == storage::EtatVerrou::Occupe) {
-            Dire(session, 2403, cible);
-            session.ecran.Actualiser();
-            return;
-        }
-        copiee = CopierSurement(session.disque, source, cible, storage::CheminJournal(cible));
-    }
-    if (copiee) {
-        OuvrirChemin(session, cible);
-    } else {
-        Dire(session, 2408, source);
-        session.ecran.Actualiser();
-    }
-}
-
 void Minuterie1(Session& session) {
     if (session.base) {
-        // Below the limit nothing waits in the buffers of the system that a restart would miss:
-        // what was committed is flushed, and what was not needs its commit first.
         if (session.compteurMinuterie <= session.parametres.generaux.frequenceSauvegarde) {
             ++session.compteurMinuterie;
         } else {
@@ -383,25 +288,6 @@ void Minuterie1(Session& session) {
     }
     for (int k = 1; k <= 2; ++k)
         if (session.deCujus[static_cast<std::size_t>(k - 1)].perime) NumeroterDeCujus(session, k);
-}
-
-std::string TitrePrincipal(const Session& session) {
-    if (!session.base) return "Dorvane";
-    if (const NoDocument document = session.base->entete.DocBase) {
-        std::string titre = session.base->R_IMAGE.TitreDoc(document);
-        if (!titre.empty()) return titre;
-    }
-    return CheminAffiche(session.CheminBase);
-}
-
-bool EtatMenu(bool baseOuverte, std::string_view nom) {
-    constexpr std::array<std::string_view, 16> SansBase{
-        "MnuNouveau",          "MnuOuvrir",     "MnuRestauration", "MnuHisto",
-        "MnuImporter",         "MnuBaptème",    "MnuSépulture",    "MnuRelevéMariage",
-        "MnuRelevéAscendance", "MnuLng",        "MnuParametres",   "MnuUsuels",
-        "MnuGraphisme",        "MnuCalendrier", "MnuCommunes",     "MnuQuitter"};
-    const std::string_view seul = nom.substr(0, nom.find('('));
-    return baseOuverte || std::find(SansBase.begin(), SansBase.end(), seul) != SansBase.end();
 }
 
 }  // namespace dorvane::shell

@@ -12,6 +12,9 @@ enum class Ouverture;
 
 namespace dorvane::shell {
 
+/// The absolute form of a path: settings know a base by it.
+[[nodiscard]] std::filesystem::path CheminEntier(const std::filesystem::path& chemin);
+
 /// The paths that follow from the path of a base.
 struct CheminsBase {
     std::filesystem::path echange;  ///< last three letters "LGR"
@@ -51,6 +54,14 @@ bool Clore(Session& session);
 /// Takes over a base that an import or another command has just made and closed, or opened by hand:
 /// closes what is open, then opens `chemin` and shows its person. False when it cannot be opened.
 bool OuvrirChemin(Session& session, const std::filesystem::path& chemin);
+
+/// Brings a base that is about to be replaced back to its last commit, if a session that died left
+/// a journal beside it: it then stays whole until the new one takes its place. Nothing when it is
+/// no base, or is open elsewhere.
+void ReprendreAvantRemplacement(Session& session, const std::filesystem::path& chemin);
+
+/// Tells once that the settings cannot be saved.
+void DireReglagesRefuses(Session& session);
 
 /// Makes `base` the open base of the session, with its paths, settings, numberings and person. For
 /// the imports, which fill a new base that they hold.
