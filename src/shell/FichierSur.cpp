@@ -93,12 +93,14 @@ bool Remplacer(const std::filesystem::path& chemin, std::string_view suffixe, Re
 }  // namespace
 
 std::optional<std::string> LireTout(const std::filesystem::path& chemin) {
-    const Descripteur entree{chemin, O_RDONLY};
-    if (!entree.Ouvert()) return std::nullopt;
+    // Without O_NONBLOCK a pipe that nobody writes to would hold the program for ever.
+    const Descripteur entree{chemin, O_RDONLY | O_NONBLOCK};
+    struct stat etat {};
+    if (!entree.Ouvert() || fstat(entree.No(), &etat) != 0 || !S_ISREG(etat.st_mode))
+        return std::nullopt;
     std::string octets;
-    std::error_code erreur;
-    const std::uintmax_t taille = std::filesystem::file_size(chemin, erreur);
-    if (!erreur && taille <= octets.max_size() / 2) octets.reserve(taille);
+    const auto taille = static_cast<std::uintmax_t>(etat.st_size);
+    if (taille <= octets.max_size() / 2) octets.reserve(taille);
     std::array<char, 65536> tampon;
     for (;;) {
         const ssize_t n = entree.Lire(tampon.data(), tampon.size());

@@ -7,7 +7,7 @@
 
 namespace dorvane::shell {
 
-/// The whole file, or nothing when it cannot be read.
+/// The whole file, or nothing when it cannot be read or is no file: a folder, a pipe, a device.
 [[nodiscard]] std::optional<std::string> LireTout(const std::filesystem::path& chemin);
 
 /// Replaces a file so that whoever opens it sees the old bytes or the new ones, never a part:
