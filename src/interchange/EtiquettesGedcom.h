@@ -43,6 +43,8 @@ public:
 
     /// Tag of the line that the line entered last stands under; 0 for a line of level 0.
     [[nodiscard]] CodeEtiquette Parent() const { return rang_ > 0 ? lignes_[rang_ - 1].code : 0; }
+    /// Tag of the record.
+    [[nodiscard]] CodeEtiquette Racine() const { return lignes_[0].code; }
     [[nodiscard]] std::string_view Etiquette(std::size_t rang) const {
         return lignes_[rang].etiquette;
     }

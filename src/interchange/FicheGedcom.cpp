@@ -54,6 +54,13 @@ void FicheGedcom::OuvrirPrincipal(Rang rang, const LigneGedcom& ligne) {
     principal.vu = true;
     principal_ = rang;
     OuvrirStructure(Structure::Principal, ligne.etiquette);
+    GarderValeur(ligne);
+}
+
+// "Y" only says that the event took place. Other words are no place and no date: they follow the
+// label of the event in the note.
+void FicheGedcom::GarderValeur(const LigneGedcom& ligne) {
+    if (!ligne.valeur.empty() && ligne.valeur != "Y") AjouterApresLibelle(ligne.valeur);
 }
 
 void FicheGedcom::OuvrirSlot(const LigneGedcom& ligne, std::string_view etiquette,
@@ -72,8 +79,11 @@ void FicheGedcom::OuvrirSlot(const LigneGedcom& ligne, std::string_view etiquett
     aSlot_ = true;
     slot_ = rang;
     OuvrirStructure(Structure::Slot, libelle);
-    // "Y" only says that the event took place.
-    if (!evenement || ligne.valeur != "Y") valeur.valeur = ligne.valeur;
+    if (evenement) {
+        GarderValeur(ligne);
+        return;
+    }
+    valeur.valeur = ligne.valeur;
     courant_ = &valeur.valeur;
     courantTient_ = true;
 }
@@ -147,8 +157,6 @@ bool FicheGedcom::LireDate(const LigneGedcom& ligne) {
         return true;
     }
     if (!SousEvenement()) return false;
-    if (ligne.valeur.find("@#") != std::string_view::npos)
-        contexte_.Noter(Constat::Remplace, ligne);
     courant_ = nullptr;
     DateLue* date = &dateAutre_;
     if (structure_ == Structure::Principal) {
@@ -288,6 +296,15 @@ bool FicheGedcom::LireSousLigne(const LigneGedcom& ligne) {
             return true;
         case "TEMP"_tag:
             AjouterTexte(897, ligne.valeur);
+            return true;
+        case "AUTH"_tag:
+            AjouterTexte(900, ligne.valeur);
+            return true;
+        case "CORP"_tag:
+            AjouterTexte(901, ligne.valeur);
+            return true;
+        case "PUBL"_tag:
+            AjouterTexte(905, ligne.valeur);
             return true;
         case "NAME"_tag:
             AjouterTexte(865, ligne.valeur);

@@ -84,6 +84,7 @@ private:
     [[nodiscard]] std::string& Notes() {
         return structure_ == Structure::Autre ? notesAutre_ : notes_;
     }
+    void GarderValeur(const LigneGedcom& ligne);
     void OuvrirStructure(Structure structure, std::string_view libelle);
     void Continuer(const LigneGedcom& ligne, bool nouvelleLigne);
     bool LireDate(const LigneGedcom& ligne);

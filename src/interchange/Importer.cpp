@@ -97,7 +97,10 @@ void ImporterFichier(shell::Session& session, const std::filesystem::path& fichi
     std::filesystem::path base = fichier;
     base.replace_extension(".LGD");
     if (!PeutRemplacer(session, base)) return;
-    if (session.BaseOuverte() && !shell::FermerEtMemoriser(session)) return;
+    if (!shell::Clore(session)) {
+        session.ecran.Actualiser();
+        return;
+    }
     session.ecran.FermerFenetres();
     const Importation importation = ImporterVers(session, fichier, base);
     if (!importation.faite) {

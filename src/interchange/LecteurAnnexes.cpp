@@ -48,6 +48,7 @@ void LecteurAnnexes::Commencer(const LigneGedcom& ligne, std::uint32_t numero) {
     document_ = {};
     courant_ = nullptr;
     adresse_.clear();
+    lignesAdresse_ = 0;
     niveauEcarte_ = 0;
     deposantRetenu_ = genre_ == "SUBM"_tag && entete_.auteur.empty() && entete_.adresse.empty() &&
                       (entete_.cleDeposant.empty() || entete_.cleDeposant == cle_);
@@ -72,6 +73,10 @@ void LecteurAnnexes::Lire(const LigneGedcom& ligne) {
     }
     niveauEcarte_ = 0;
     if ((code == "CONT"_tag || code == "CONC"_tag) && courant_ != nullptr) {
+        if (courant_ == &adresse_ && code == "CONT"_tag) {
+            AjouterAdresse(ligne);
+            return;
+        }
         courant_->append(code == "CONT"_tag ? "\r\n" : " ").append(ligne.valeur);
         return;
     }
@@ -100,6 +105,8 @@ bool LecteurAnnexes::LireEnTete(const LigneGedcom& ligne) {
     if (contexte_.pile.Niveau() != 1) return false;
     switch (ligne.code) {
         case "NOTE"_tag:
+            // A reference names a document that is there anyway.
+            if (!CleDeReference(ligne.valeur).empty()) return true;
             AjouterLigne(entete_.note, ligne.valeur);
             Suivre(entete_.note);
             return true;
@@ -109,6 +116,11 @@ bool LecteurAnnexes::LireEnTete(const LigneGedcom& ligne) {
         default:
             return false;
     }
+}
+
+void LecteurAnnexes::AjouterAdresse(const LigneGedcom& ligne) {
+    AjouterLigne(adresse_, ligne.valeur);
+    if (++lignesAdresse_ > MaxLignesAdresse) contexte_.Noter(Constat::Limite, ligne);
 }
 
 bool LecteurAnnexes::LireDeposant(const LigneGedcom& ligne) {
@@ -126,7 +138,7 @@ bool LecteurAnnexes::LireDeposant(const LigneGedcom& ligne) {
         case "POST"_tag:
         case "CTRY"_tag:
         case "PHON"_tag:
-            if (!ligne.valeur.empty()) AjouterLigne(adresse_, ligne.valeur);
+            if (!ligne.valeur.empty()) AjouterAdresse(ligne);
             Suivre(adresse_);
             return true;
         default:
@@ -174,6 +186,8 @@ bool LecteurAnnexes::LireTexte(const LigneGedcom& ligne, std::string& note) {
             return ajouter(878);
         case "CHAN"_tag:
             return ajouter(879);
+        case "GODP"_tag:
+            return ajouter(805);
         case "TEMP"_tag:
             return ajouter(897);
         case "NAME"_tag:

@@ -42,6 +42,7 @@ private:
     [[nodiscard]] bool LireNoteDeSource(const LigneGedcom& ligne);
     [[nodiscard]] bool LireDocument(const LigneGedcom& ligne);
     [[nodiscard]] bool LireTexte(const LigneGedcom& ligne, std::string& note);
+    void AjouterAdresse(const LigneGedcom& ligne);
     void LireDateDeSource(const LigneGedcom& ligne);
     void LireTypeDeSource(std::string_view valeur);
     void Ecarter(const LigneGedcom& ligne);
@@ -58,6 +59,7 @@ private:
     storage::Document document_;
     std::string* courant_ = nullptr;
     std::string adresse_;
+    std::size_t lignesAdresse_ = 0;
     std::size_t niveauEcarte_ = 0;
 };
 

@@ -107,8 +107,13 @@ void LecteurFamille::LireNiveau1(const LigneGedcom& ligne) {
 }
 
 bool LecteurFamille::LireNote(const LigneGedcom& ligne) {
-    // A union holds no documents.
-    if (!CleDeReference(ligne.valeur).empty()) return false;
+    if (const std::string_view cle = CleDeReference(ligne.valeur); !cle.empty()) {
+        // A union holds no documents, but the event of a source does.
+        if (contexte_.pile.Parent() != "SOUR"_tag || sources_.empty()) return false;
+        fiche_.Ignorer();
+        liens_.AttacherAEvenement(sources_.back().cle, cle, ligne);
+        return true;
+    }
     if (contexte_.pile.Niveau() == 1)
         fiche_.AjouterNote(ligne.valeur);
     else
@@ -123,7 +128,7 @@ void LecteurFamille::LireSource(const LigneGedcom& ligne) {
         return;
     }
     fiche_.Ignorer();
-    sources_.push_back({cle, ligne, {}});
+    sources_.push_back({cle, ligne, std::nullopt});
 }
 
 bool LecteurFamille::LireSousLigne(const LigneGedcom& ligne) {
@@ -145,7 +150,7 @@ bool LecteurFamille::LireSousLigne(const LigneGedcom& ligne) {
             return true;
         case "ROLE"_tag:
             if (sources_.empty() || (parent != "SOUR"_tag && parent != "EVEN"_tag)) return false;
-            sources_.back().role = ligne.valeur;
+            sources_.back().role = ligne;
             return true;
         case "EVEN"_tag:
         case "DATA"_tag:
@@ -168,8 +173,8 @@ void LecteurFamille::Participer() {
         if (epoux_) liens_.Participer(epoux_, source.cle, "HUSB", source.ligne);
         if (epouse_ && epouse_ != epoux_)
             liens_.Participer(epouse_, source.cle, "WIFE", source.ligne);
-        if (!source.role.empty())
-            liens_.NommerDernierRole(source.role,
+        if (source.role)
+            liens_.NommerDernierRole(*source.role,
                                      (epoux_ ? 1U : 0U) + (epouse_ && epouse_ != epoux_ ? 1U : 0U));
     }
 }

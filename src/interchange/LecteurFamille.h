@@ -5,6 +5,7 @@
 #include "interchange/LiensImport.h"
 #include "interchange/TableCles.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -45,7 +46,7 @@ private:
     struct Source {
         std::string_view cle;
         LigneGedcom ligne;
-        std::string role;
+        std::optional<LigneGedcom> role;
     };
     ContexteImport contexte_;
     LiensImport& liens_;

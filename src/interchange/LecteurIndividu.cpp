@@ -2,82 +2,17 @@
 
 #include "storage/Textes.h"
 #include "values/Comparaison.h"
-#include "values/Texte1252.h"
 
 #include <algorithm>
 
 namespace dorvane::interchange {
-namespace {
-
-/// A name line is never read past 1000 bytes, dates included.
-constexpr std::size_t NomLePlusLong = 300;
-
-/// "@@" is how a file writes one "@".
-std::string SansDoubleArobase(std::string_view valeur) {
-    std::string texte{valeur};
-    if (texte.find('@') != std::string::npos) RemplacerTout(texte, "@@", "@");
-    return texte;
-}
-
-NomLu FaireNom(std::string_view nom, std::string_view donne, bool prenomUnique) {
-    NomLu lu;
-    lu.nom = SansBlancs(nom);
-    donne = SansBlancs(donne);
-    const std::size_t blanc = std::min(donne.find(' '), donne.size());
-    lu.prenom = donne.substr(0, blanc);
-    lu.autres = SansBlancs(donne.substr(blanc));
-    if (!lu.nom.empty()) lu.motsCles.append("|"_1252).append(BlancsEnPoints(lu.nom));
-    if (!donne.empty()) {
-        lu.motsCles.append(lu.motsCles.empty() ? "" : " ").append("¶"_1252);
-        lu.motsCles += prenomUnique ? std::string{donne} : BlancsEnPoints(donne);
-    }
-    return lu;
-}
-
-}  // namespace
-
-std::string NomLu::Ligne() const {
-    std::string ligne;
-    ligne.reserve(nom.size() + prenom.size() + autres.size() + 2);
-    const auto ajouter = [&](std::string_view texte) {
-        texte = texte.substr(0, NomLePlusLong);
-        if (texte.find_first_of("#;") == std::string_view::npos)
-            ligne += texte;
-        else
-            ligne += storage::SansSeparateur(texte);
-    };
-    ajouter(nom);
-    ligne += ';';
-    ajouter(prenom);
-    ligne += ';';
-    ajouter(autres);
-    return ligne;
-}
-
-NomLu LireNomGedcom(std::string_view valeur, bool prenomUnique) {
-    NomLu lu;
-    const std::size_t barre = valeur.find('/');
-    if (barre == std::string_view::npos) {
-        lu.nom = SansBlancs(valeur);
-        return lu;
-    }
-    const std::string_view avant = valeur.substr(0, barre);
-    const std::string_view reste = valeur.substr(barre + 1);
-    if (reste == "/") {
-        lu.nom = SansBlancs(avant);
-        if (lu.nom.empty()) lu.nom = "?";
-        return lu;
-    }
-    const std::size_t fin = std::min(reste.find('/'), reste.size());
-    const std::string_view apres = reste.substr(std::min(fin + 1, reste.size()));
-    return FaireNom(reste.substr(0, fin), barre == 0 ? apres : avant, prenomUnique);
-}
 
 void LecteurIndividu::Commencer(NoOrdre individu) {
     individu_ = individu;
     fiche_.Commencer();
     sexe_ = 'I';
     nomVu_ = false;
+    valeurNom_ = {};
     nom_ = {};
     prenomSeul_ = nomSeul_ = derniereSource_ = {};
     lienOuvert_ = roleOuvert_ = false;
@@ -103,6 +38,9 @@ void LecteurIndividu::LireNiveau1(const LigneGedcom& ligne) {
             return;
         case "SEX"_tag:
             sexe_ = ligne.valeur == "M" ? 'H' : 'F';
+            // "U" and "MALE" make a woman, and that must not pass unseen.
+            if (ligne.valeur != "M" && ligne.valeur != "F")
+                contexte_.Noter(Constat::Remplace, ligne);
             return;
         case "NOTE"_tag:
         case "SOUR"_tag:
@@ -118,14 +56,17 @@ void LecteurIndividu::LireNiveau1(const LigneGedcom& ligne) {
             break;
         case "FAMC"_tag:
         case "FAMS"_tag:
-            familles_.push_back({CleDeReference(ligne.valeur),
-                                 ligne.code == "FAMC"_tag ? "INDI.FAMC" : "INDI.FAMS",
-                                 ligne.numero});
+            NoterFamille(ligne);
             return;
         default:
             break;
     }
     fiche_.Ecarter(ligne);
+}
+
+void LecteurIndividu::NoterFamille(const LigneGedcom& ligne) {
+    familles_.push_back({CleDeReference(ligne.valeur),
+                         ligne.code == "FAMC"_tag ? "INDI.FAMC" : "INDI.FAMS", ligne.numero});
 }
 
 bool LecteurIndividu::LireEvenement(const LigneGedcom& ligne) {
@@ -190,8 +131,12 @@ bool LecteurIndividu::LireEvenement(const LigneGedcom& ligne) {
         case "STAT"_tag:
         case "SPFX"_tag:
         case "SURN"_tag:
-        case "TITL"_tag:
         case "WILL"_tag:
+            fiche_.OuvrirSlot(ligne, ligne.etiquette, ligne.etiquette, false);
+            return true;
+        case "TITL"_tag:
+            // A reference is a document, as a NOTE has them.
+            if (!CleDeReference(ligne.valeur).empty()) return LireNote(ligne);
             fiche_.OuvrirSlot(ligne, ligne.etiquette, ligne.etiquette, false);
             return true;
         case "EVEN"_tag:
@@ -205,35 +150,18 @@ bool LecteurIndividu::LireEvenement(const LigneGedcom& ligne) {
 bool LecteurIndividu::LireTexte(const LigneGedcom& ligne) {
     switch (ligne.code) {
         case "AGNC"_tag:
-            fiche_.AjouterTexte(877, ligne.valeur);
-            return true;
         case "CAUS"_tag:
-            fiche_.AjouterTexte(878, ligne.valeur);
-            return true;
         case "CHAN"_tag:
-            fiche_.AjouterTexte(879, ligne.valeur);
-            return true;
         case "GODP"_tag:
-            fiche_.AjouterTexte(805, ligne.valeur);
-            return true;
         case "TEMP"_tag:
-            fiche_.AjouterTexte(897, ligne.valeur);
-            return true;
+        case "AUTH"_tag:
+        case "CORP"_tag:
+        case "PUBL"_tag:
+        case "REFN"_tag:
+            return fiche_.LireSousLigne(ligne);
         case "ADDR"_tag:
         case "PHON"_tag:
             fiche_.AjouterTexte(899, ligne.valeur);
-            return true;
-        case "AUTH"_tag:
-            fiche_.AjouterTexte(900, ligne.valeur);
-            return true;
-        case "CORP"_tag:
-            fiche_.AjouterTexte(901, ligne.valeur);
-            return true;
-        case "PUBL"_tag:
-            fiche_.AjouterTexte(905, ligne.valeur);
-            return true;
-        case "REFN"_tag:
-            fiche_.AjouterTexte(646, ligne.valeur);
             return true;
         default:
             return false;
@@ -248,7 +176,12 @@ void LecteurIndividu::LireNom(const LigneGedcom& ligne) {
     }
     nomVu_ = true;
     fiche_.Ignorer();
+    valeurNom_ = ligne.valeur;
     nom_ = LireNomGedcom(SansDoubleArobase(ligne.valeur), reglages_.prenomUnique);
+    if (!nom_.entier) {
+        contexte_.Noter(Constat::DansLaNote, ligne);
+        fiche_.AjouterTexte(865, ligne.valeur);
+    }
     if (std::max({nom_.nom.size(), nom_.prenom.size(), nom_.autres.size()}) > NomLePlusLong)
         contexte_.Noter(Constat::Remplace, ligne);
 }
@@ -271,6 +204,8 @@ bool LecteurIndividu::LireSousNom(const LigneGedcom& ligne) {
             return false;
     }
     fiche_.Ignorer();
+    if (!SansBlancs(valeurNom_).empty() && !RepeteLeNom(ligne.valeur, valeurNom_))
+        contexte_.Noter(Constat::NonRepris, ligne);
     return true;
 }
 
@@ -322,6 +257,8 @@ bool LecteurIndividu::LireSousLigne(const LigneGedcom& ligne) {
     switch (ligne.code) {
         case "NOTE"_tag:
             return LireNote(ligne);
+        case "TITL"_tag:
+            return !CleDeReference(ligne.valeur).empty() && LireNote(ligne);
         case "SOUR"_tag:
             return LireSource(ligne);
         case "PEDI"_tag:
@@ -332,11 +269,11 @@ bool LecteurIndividu::LireSousLigne(const LigneGedcom& ligne) {
             return true;
         case "RELA"_tag:
             if (!lienOuvert_ || parent != "ASSO"_tag) return false;
-            liens_.NommerDernierLien(ligne.valeur);
+            liens_.NommerDernierLien(ligne);
             return true;
         case "ROLE"_tag:
             if (!roleOuvert_ || (parent != "SOUR"_tag && parent != "EVEN"_tag)) return false;
-            liens_.NommerDernierRole(ligne.valeur, 1);
+            liens_.NommerDernierRole(ligne, 1);
             return true;
         case "EVEN"_tag:
         case "DATA"_tag:
@@ -352,7 +289,9 @@ bool LecteurIndividu::LireSousLigne(const LigneGedcom& ligne) {
             // Under an adoption or a baptism it says by which family; the family record says it
             // too.
             fiche_.Ignorer();
-            return fiche_.EnEvenement();
+            if (!fiche_.EnEvenement()) return false;
+            NoterFamille(ligne);
+            return true;
         default:
             return fiche_.LireSousLigne(ligne);
     }

@@ -2,26 +2,12 @@
 
 #include "interchange/FicheGedcom.h"
 #include "interchange/LiensImport.h"
+#include "interchange/NomGedcom.h"
 
 #include <string>
 #include <string_view>
 
 namespace dorvane::interchange {
-
-/// The name of a NAME line in its parts, and the words by which the person is found.
-struct NomLu {
-    std::string nom;
-    std::string prenom;    ///< the first of the given names
-    std::string autres;    ///< the other given names
-    std::string motsCles;  ///< "|" and the surname, a blank, "¶" and the given names; may be empty
-
-    /// The name line, without its dates: three fields, separators replaced.
-    [[nodiscard]] std::string Ligne() const;
-};
-
-/// Takes the value of a NAME line apart: the surname stands between slashes. `prenomUnique`: blanks
-/// between given names stay blanks in the keyword, so that only the first is one.
-[[nodiscard]] NomLu LireNomGedcom(std::string_view valeur, bool prenomUnique);
 
 /// Reads the records of persons, first pass.
 class LecteurIndividu {
@@ -59,6 +45,7 @@ private:
     void LireNiveau1(const LigneGedcom& ligne);
     bool LireEvenement(const LigneGedcom& ligne);
     bool LireTexte(const LigneGedcom& ligne);
+    void NoterFamille(const LigneGedcom& ligne);
     void LireNom(const LigneGedcom& ligne);
     bool LireSousLigne(const LigneGedcom& ligne);
     bool LireNote(const LigneGedcom& ligne);
@@ -75,6 +62,7 @@ private:
     char sexe_ = 'I';
     bool nomVu_ = false;
     NomLu nom_;
+    std::string_view valeurNom_;
     std::string_view prenomSeul_;  ///< GIVN and SURN under an empty NAME
     std::string_view nomSeul_;
     std::string texte_;

@@ -27,8 +27,15 @@ void LiensImport::Lier(NoOrdre individu, std::string_view cle, const LigneGedcom
     liens_.push_back({individu, cle, {}, ligne.numero});
 }
 
-void LiensImport::NommerDernierLien(std::string_view libelle) {
-    if (!liens_.empty()) liens_.back().texte = contexte_.textes.Tag(libelle);
+std::string LiensImport::TagDe(const LigneGedcom& ligne) const {
+    std::string tag = contexte_.textes.Tag(SansParentheses(ligne.valeur));
+    if (tag.size() > storage::MaxTexteElement)
+        contexte_.rapport.Noter(Constat::Remplace, ligne.etiquette, ligne.numero);
+    return tag;
+}
+
+void LiensImport::NommerDernierLien(const LigneGedcom& ligne) {
+    if (!liens_.empty()) liens_.back().texte = TagDe(ligne);
 }
 
 void LiensImport::Participer(NoOrdre individu, std::string_view cle, std::string_view role,
@@ -36,10 +43,11 @@ void LiensImport::Participer(NoOrdre individu, std::string_view cle, std::string
     participations_.push_back({individu, cle, std::string{role}, ligne.numero});
 }
 
-void LiensImport::NommerDernierRole(std::string_view role, std::size_t combien) {
+void LiensImport::NommerDernierRole(const LigneGedcom& ligne, std::size_t combien) {
+    const std::string role = TagDe(ligne);
     combien = std::min(combien, participations_.size());
     for (std::size_t i = participations_.size() - combien; i < participations_.size(); ++i)
-        participations_[i].texte = contexte_.textes.Tag(SansParentheses(role));
+        participations_[i].texte = role;
 }
 
 void LiensImport::Attacher(NoOrdre individu, std::string_view cleNote, const LigneGedcom& ligne) {
@@ -73,7 +81,11 @@ void LiensImport::EcrireLiens(const ClesImport& cles) {
     std::vector<Cote> cotes;
     for (const Lien& lien : liens_) {
         const NoOrdre autre{Resoudre(cles.individus, lien.cle, lien.ligne, "INDI.ASSO")};
-        if (!autre || autre == lien.individu) continue;
+        if (!autre) continue;
+        if (autre == lien.individu) {
+            contexte_.rapport.Noter(Constat::NonRepris, "INDI.ASSO", lien.ligne);
+            continue;
+        }
         const std::string* libelle = lien.texte.empty() ? &parDefaut : &lien.texte;
         cotes.push_back({lien.individu, autre, libelle, lien.ligne});
         cotes.push_back({autre, lien.individu, libelle, lien.ligne});

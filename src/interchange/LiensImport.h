@@ -28,14 +28,14 @@ public:
 
     /// A link from `individu` to the person of an identifier.
     void Lier(NoOrdre individu, std::string_view cle, const LigneGedcom& ligne);
-    /// Label of the link made last, in any form.
-    void NommerDernierLien(std::string_view libelle);
+    /// Label of the link made last, as a RELA line has it.
+    void NommerDernierLien(const LigneGedcom& ligne);
 
     /// `individu` takes part in the event of a source. `role`: a tag, or empty.
     void Participer(NoOrdre individu, std::string_view cle, std::string_view role,
                     const LigneGedcom& ligne);
     /// Role of the `combien` participations made last, as a ROLE line has it.
-    void NommerDernierRole(std::string_view role, std::size_t combien);
+    void NommerDernierRole(const LigneGedcom& ligne, std::size_t combien);
 
     void Attacher(NoOrdre individu, std::string_view cleNote, const LigneGedcom& ligne);
     void AttacherAEvenement(std::string_view cleSource, std::string_view cleNote,
@@ -64,6 +64,8 @@ private:
     void EcrireEvenements(const ClesImport& cles);
     void EcrireParticipations(std::vector<std::vector<storage::LienEvenement>>& personnes,
                               const ClesImport& cles);
+    /// The tag of a role or label. One that is too long for a record will be cut, and is noted.
+    [[nodiscard]] std::string TagDe(const LigneGedcom& ligne) const;
     std::uint32_t Resoudre(const TableCles& table, std::string_view cle, std::uint32_t ligne,
                            std::string_view chemin);
 

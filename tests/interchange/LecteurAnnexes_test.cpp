@@ -69,3 +69,20 @@ TEST_CASE_FIXTURE(EssaiImport, "A record of another kind is named with all its l
     Importer("0 @X@ _PLAC\n1 NAME perdu\n2 DATE 1820\n0 @O@ OBJE\n1 FILE a\n");
     CHECK(Constats(Constat::NonRepris) == 5);
 }
+
+TEST_CASE_FIXTURE(EssaiImport, "An address keeps seven lines, the rest is told by line") {
+    Importer(
+        "0 @S@ SUBM\n1 NAME A\n1 ADDR 1\n2 CONT 2\n2 CONT 3\n2 CONT 4\n2 CITY 5\n2 POST 6\n"
+        "2 CTRY 7\n1 PHON 8\n");
+    session.parametres.LireParametresBase(chemin);
+    CHECK(session.parametres.base.adresse[3] == "4");
+    CHECK(session.parametres.base.adresse[6] == "7");
+    CHECK(session.parametres.base.adresse[7].empty());
+    CHECK(importation.rapport.Nombre(Constat::Limite, "SUBM.PHON") == 1);
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "A header that names a note record makes no document of its own") {
+    ImporterOctets("0 HEAD\n1 NOTE @N1@\n0 @N1@ NOTE un\n0 TRLR\n");
+    CHECK(base->entete.DernierDocument == 1);
+    CHECK(base->R_IMAGE.NoteDoc(NoDocument{1}) == "un");
+}

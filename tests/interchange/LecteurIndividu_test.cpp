@@ -6,40 +6,6 @@ using namespace dorvane;
 using namespace dorvane::interchange;
 using doublures::EssaiImport;
 
-TEST_CASE("LireNomGedcom: the surname between slashes") {
-    const NomLu nom = LireNomGedcom("Jean Pierre Marie /de la Tour/", false);
-    CHECK(nom.Ligne() == "de la Tour;Jean;Pierre Marie");
-    CHECK(nom.motsCles == "|de.la.Tour ¶Jean.Pierre.Marie"_1252);
-}
-
-TEST_CASE("LireNomGedcom: a surname alone has an empty given part") {
-    const NomLu nom = LireNomGedcom("/Dupont/", false);
-    CHECK(nom.Ligne() == "Dupont;;");
-    CHECK(nom.motsCles == "|Dupont");
-}
-
-TEST_CASE("LireNomGedcom: a first name and two slashes give the record of the first name alone") {
-    CHECK(LireNomGedcom("Jean //", false).Ligne() == "Jean;;");
-    CHECK(LireNomGedcom("Jean //", false).motsCles.empty());
-    CHECK(LireNomGedcom("//", false).Ligne() == "?;;");
-    CHECK(LireNomGedcom("Jean Dupont", false).Ligne() == "Jean Dupont;;");
-}
-
-TEST_CASE("LireNomGedcom: given names behind the surname when it comes first") {
-    CHECK(LireNomGedcom("/Dupont/ Jean Paul", false).Ligne() == "Dupont;Jean;Paul");
-    CHECK(LireNomGedcom("Jean /Dupont/ Jr", false).Ligne() == "Dupont;Jean;");
-    CHECK(LireNomGedcom("Jean /Dupont", false).Ligne() == "Dupont;Jean;");
-}
-
-TEST_CASE("LireNomGedcom: with the first name alone as keyword the blanks stay") {
-    CHECK(LireNomGedcom("Jean Pierre /Dupont/", true).motsCles == "|Dupont ¶Jean Pierre"_1252);
-}
-
-TEST_CASE("NomLu: separators and over-long names cannot break the name line") {
-    CHECK(LireNomGedcom("Jean;Paul /Du#pont/", false).Ligne() == "Du-pont;Jean,Paul;");
-    CHECK(LireNomGedcom(std::string(5000, 'a') + " /Dupont/", false).Ligne().size() < 1000);
-}
-
 TEST_CASE_FIXTURE(EssaiImport,
                   "An individual: sex M is a man, any other value a woman, none neither") {
     Importer("0 @I1@ INDI\n1 SEX M\n0 @I2@ INDI\n1 SEX U\n0 @I3@ INDI\n1 SEX m\n0 @I4@ INDI\n");
@@ -47,6 +13,7 @@ TEST_CASE_FIXTURE(EssaiImport,
     CHECK(base->R_SEXE.LireCellule(NoOrdre{2}) == 'F');
     CHECK(base->R_SEXE.LireCellule(NoOrdre{3}) == 'F');
     CHECK(base->R_SEXE.LireCellule(NoOrdre{4}) == 'I');
+    CHECK(importation.rapport.Nombre(Constat::Remplace, "INDI.SEX") == 2);
 }
 
 TEST_CASE_FIXTURE(EssaiImport,
@@ -170,4 +137,97 @@ TEST_CASE_FIXTURE(EssaiImport, "An individual: a line whose level jumps belongs 
 TEST_CASE_FIXTURE(EssaiImport, "An individual: a number sign cannot cut a record") {
     Importer("0 @I1@ INDI\n1 NAME A /B/\n1 NOTE n#1\n1 BIRT\n2 PLAC D # E\n");
     CHECK(Texte(1) == "|B ¶A $D.-.E\r\nn-1"_1252);
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: a suffix behind the surname goes to the note") {
+    Importer("0 @I1@ INDI\n1 NAME Jean /Dupont/ fils\n1 OCCU maire\n");
+    CHECK(Nom(1) == "Dupont;Jean;");
+    CHECK(storage::NoteDe(*base, NoOrdre{1}) == session.Message(865) + ": Jean /Dupont/ fils");
+    CHECK(importation.rapport.Nombre(Constat::DansLaNote, "INDI.NAME") == 1);
+}
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "An individual: words on the line of an event follow its label in the note") {
+    Importer(
+        "0 @I1@ INDI\n1 NAME A /B/\n1 BIRT peut-être ici\n2 CONT ou là\n2 DATE 1820\n1 DEAT Y\n"
+        "1 CHR à la maison\n2 PLAC Rennes\n1 BURI Y\n2 PLAC Vitré\n"_1252);
+    CHECK(base->R_NAISS.LireCellule(NoOrdre{1}) == "1820");
+    CHECK(Texte(1) ==
+          "|B ¶A\r\nCHR      °Rennes\r\nBURI      ^Vitré\r\n"
+          "Naissance - peut-être ici\r\nou là\r\nBaptême - à la maison"_1252);
+}
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "An individual: a TITL that is a reference hangs a document on the person") {
+    Importer(
+        "0 @I1@ INDI\n1 TITL @T1@\n1 TITL Comte\n1 SOUR @S1@\n2 TITL @N1@\n0 @T1@ TITL Acte\n"
+        "0 @N1@ NOTE Copie\n0 @S1@ SOUR\n");
+    CHECK(base->R_LSTIMG.Elements(NoOrdre{1}) == std::vector{NoDocument{1}});
+    CHECK(base->R_EVT.Documents(NoEvenement{1}) == std::vector{NoDocument{2}});
+    CHECK(Texte(1) == "\r\nTITL      µComte\r\n"_1252);
+}
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "An individual: pieces of a name that say something else are in the report") {
+    Importer(
+        "0 @I1@ INDI\n1 NAME Luc Émile /De Petit/\n2 GIVN LUC, Emile\n2 SURN petit\n"
+        "0 @I2@ INDI\n1 NAME Luc /Petit/\n2 GIVN Lucien\n2 SURN Petit\n"_1252);
+    CHECK(Constats(Constat::NonRepris) == 1);
+    CHECK(importation.rapport.Nombre(Constat::NonRepris, "INDI.NAME.GIVN") == 1);
+}
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "An individual: what a record cannot hold as it stands is in the report") {
+    Importer(
+        "0 @I1@ INDI\n1 NAME A;C /B/\n1 NOTE n#1\n1 BIRT\n2 DATE 12 MAR 1820; ou 1821\n"
+        "1 OCCU maire #2\n1 RESI L'Haÿ\n0 @S1@ SOUR\n1 PLAC L'Haÿ\n0 @N1@ NOTE n#2\n0 @I2@ INDI\n"
+        "0 @F1@ FAM\n1 HUSB @I1@\n1 WIFE @I2@\n1 NOTE n#3\n"_1252);
+    CHECK(Constats(Constat::Remplace) == 7);
+    CHECK(Nom(1).starts_with("B;A,C;;"));
+    CHECK(importation.rapport.Nombre(Constat::Remplace, "SOUR.PLAC") == 1);
+    CHECK(importation.rapport.Nombre(Constat::Remplace, "INDI.RESI") == 0);
+    CHECK(importation.rapport.Nombre(Constat::Remplace, "NOTE") == 1);
+    CHECK(importation.rapport.Nombre(Constat::Remplace, "FAM.NOTE") == 1);
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: the cemetery of a burial has a row of its own") {
+    Importer("0 @I1@ INDI\n1 BURI\n2 DATE 1850\n2 CEME Saint Louis\n");
+    CHECK(Texte(1).find("BURP") != std::string::npos);
+    CHECK(Texte(1).find("Saint.Louis") != std::string::npos);
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: who adopted is told by the label of the parent") {
+    Importer(
+        "0 @I1@ INDI\n1 ADOP\n2 DATE 1850\n2 FAMC @F1@\n3 ADOP HUSB\n0 @I2@ INDI\n1 ADOP\n"
+        "2 ADOP WIFE\n0 @I3@ INDI\n1 ADOP\n2 ADOP BOTH\n2 FAMC @F9@\n0 @F1@ FAM\n");
+    const auto note = [&](std::uint32_t n) { return storage::NoteDe(*base, NoOrdre{n}); };
+    CHECK(note(1) == "Adoption - Adoption: Père"_1252);
+    CHECK(note(2) == "Adoption - Adoption: Mère"_1252);
+    CHECK(note(3).starts_with("Adoption - Adoption: "));
+    CHECK(importation.rapport.Nombre(Constat::Reference, "INDI.FAMC @F9@") == 1);
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: quality, page and filiation in the user's words") {
+    Importer(
+        "0 @I1@ INDI\n1 SOUR Acte\n2 PAGE 12\n2 QUAY 0\n1 SOUR Acte\n2 QUAY 3\n1 SOUR x\n2 QUAY 7\n"
+        "1 FAMC @F1@\n2 PEDI adopted\n1 FAMC @F1@\n2 PEDI inconnu\n0 @F1@ FAM\n");
+    const std::string note = storage::NoteDe(*base, NoOrdre{1});
+    const auto message = [&](std::uint32_t n) { return session.Message(n); };
+    CHECK(note == message(894) + ": Acte " + message(744) + " - 12\r\n" + message(889) + ": " +
+                      message(890) + "\r\n" + message(894) + ": Acte\r\n" + message(889) + ": " +
+                      message(893) + "\r\n" + message(894) + ": x\r\n" + message(889) + ": 7\r\n" +
+                      message(885) + ": " + message(886) + "\r\n" + message(885) + ": inconnu");
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: ages as words and as years, months and days") {
+    Importer(
+        "0 @I1@ INDI\n1 DEAT\n2 AGE CHILD\n0 @I2@ INDI\n1 DEAT\n2 AGE INFANT\n0 @I3@ INDI\n1 DEAT\n"
+        "2 AGE STILLBORN\n0 @I4@ INDI\n1 DEAT\n2 AGE > 3y 2m 1d\n");
+    const auto note = [&](std::uint32_t n) { return storage::NoteDe(*base, NoOrdre{n}); };
+    const auto message = [&](std::uint32_t n) { return session.Message(n); };
+    const std::string debut = message(755) + " - ";
+    CHECK(note(1) == debut + message(750));
+    CHECK(note(2) == debut + message(872));
+    CHECK(note(3) == debut + message(873));
+    CHECK(note(4) == debut + "> 3" + message(874) + " 2" + message(866) + " 1" + message(875));
 }

@@ -76,3 +76,21 @@ TEST_CASE_FIXTURE(EssaiImport, "Past 200 entries of a person the rest is told") 
     CHECK(base->R_LIEN.NbElements(Un) == 200);
     CHECK(Constats(Constat::Limite) == 15);
 }
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "A label in parentheses comes without them; one that is too long is told") {
+    Importer("0 @I1@ INDI\n1 ASSO @I2@\n2 RELA (voisin)\n1 ASSO @I3@\n2 RELA " +
+             std::string(60, 'x') + "\n1 ASSO @I1@\n0 @I2@ INDI\n0 @I3@ INDI\n");
+    CHECK(base->R_LIEN.NbElements(Un) == 2);
+    CHECK(base->R_LIEN.TexteElement(Un, 1) == "voisin");
+    CHECK(importation.rapport.Nombre(Constat::Remplace, "RELA") == 1);
+    CHECK(importation.rapport.Nombre(Constat::NonRepris, "INDI.ASSO") == 1);
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "A note record under the source of a family hangs on its event") {
+    Importer(
+        "0 @I1@ INDI\n0 @I2@ INDI\n0 @F1@ FAM\n1 HUSB @I1@\n1 WIFE @I2@\n1 SOUR @S1@\n"
+        "2 NOTE @N1@\n1 NOTE @N1@\n0 @N1@ NOTE un\n0 @S1@ SOUR\n");
+    CHECK(base->R_EVT.Documents(NoEvenement{1}) == std::vector{NoDocument{1}});
+    CHECK(importation.rapport.Nombre(Constat::NonRepris, "FAM.NOTE") == 1);
+}

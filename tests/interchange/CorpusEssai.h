@@ -1,0 +1,56 @@
+#pragma once
+
+#include "doublures/DossierTemporaire.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace dorvane::doublures {
+
+/// A row of a table with a heading, by column.
+using Rang = std::map<std::string, std::string>;
+
+/// Where the files of other programs lie; empty when they are not there.
+inline std::filesystem::path DossierCorpus() {
+    const std::filesystem::path dossier =
+        std::filesystem::path{RACINE_SOURCES} / ".." / "shared" / "data" / "gedcom";
+    return std::filesystem::exists(dossier / "index.tsv") ? dossier : std::filesystem::path{};
+}
+
+inline std::vector<Rang> LireIndex(const std::filesystem::path& fichier) {
+    const auto couper = [](const std::string& ligne) {
+        std::vector<std::string> champs;
+        std::istringstream flux{ligne};
+        for (std::string champ; std::getline(flux, champ, '\t');)
+            champs.push_back(champ);
+        return champs;
+    };
+    std::ifstream flux{fichier};
+    std::string ligne;
+    std::getline(flux, ligne);
+    const std::vector<std::string> noms = couper(ligne);
+    std::vector<Rang> rangs;
+    while (std::getline(flux, ligne)) {
+        const std::vector<std::string> champs = couper(ligne);
+        Rang rang;
+        for (std::size_t i = 0; i < noms.size(); ++i)
+            rang[noms[i]] = i < champs.size() ? champs[i] : "";
+        rangs.push_back(rang);
+    }
+    return rangs;
+}
+
+inline std::string LireFichierOuGz(const std::filesystem::path& fichier,
+                                   const std::filesystem::path& brouillon) {
+    if (fichier.extension() != ".gz") return LireFichier(fichier);
+    const std::string commande =
+        "gzip -dc '" + fichier.string() + "' > '" + brouillon.string() + "'";
+    return std::system(commande.c_str()) == 0 ? LireFichier(brouillon) : std::string{};
+}
+
+}  // namespace dorvane::doublures
