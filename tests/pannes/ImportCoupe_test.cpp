@@ -1,0 +1,144 @@
+// An import that replaces a base, cut at every operation on the disk in turn. Whatever the failure,
+// what stands under the name of the base is the old one or the new one, whole.
+#include "doublures/DialogueScript.h"
+#include "doublures/DisqueMemoire.h"
+#include "doublures/DossierTemporaire.h"
+#include "doublures/EcranScript.h"
+#include "doublures/HorlogeFixe.h"
+#include "doublures/Inventaire.h"
+#include "doublures/ProgressionScript.h"
+#include "doublures/SeanceEssai.h"
+#include "interchange/ImportGedcom.h"
+#include "storage/Base.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <doctest/doctest.h>
+
+using namespace dorvane;
+using namespace dorvane::storage;
+using interchange::IssueImport;
+
+namespace {
+
+constexpr const char* Chemin = "/famille.LGD";
+constexpr const char* CheminLog = "/famille.LOG";
+constexpr const char* Provisoire = "/famille.LGD~imp";
+
+std::string Gedcom() {
+    std::string texte = "0 HEAD\n1 NOTE base\n";
+    for (int i = 1; i <= 12; ++i) {
+        const std::string n = std::to_string(i);
+        texte += "0 @I" + n + "@ INDI\n1 NAME Jean /Neuf" + n + "/\n1 SEX M\n1 BIRT\n2 DATE 18" +
+                 std::to_string(50 - i) +
+                 "\n2 PLAC Vitré\n1 OCCU maire\n1 SOUR @S1@\n1 NOTE @N1@\n";
+    }
+    return texte +
+           "0 @F1@ FAM\n1 HUSB @I12@\n1 WIFE @I11@\n1 CHIL @I1@\n1 MARR\n2 DATE 1840\n"
+           "0 @S1@ SOUR\n1 DATE 1 JAN 1840\n1 TITL acte\n0 @N1@ NOTE note\n0 TRLR\n";
+}
+
+/// A session on a disk, and one import in it.
+IssueImport Importer(DisqueMemoire& disque) {
+    const doublures::DossierTemporaire dossier;
+    doublures::DialogueScript dialogue;
+    dialogue.reponses = {shell::Reponse::Oui};
+    doublures::ProgressionScript progression;
+    doublures::HorlogeFixe horloge;
+    doublures::EcranScript ecran;
+    shell::Session session{{dossier.chemin, dossier.chemin, dossier.chemin},
+                           {dialogue, progression, horloge, ecran, disque}};
+    interchange::RapportImport rapport;
+    const IssueImport issue = interchange::ImporterTexte(session, Gedcom(), Chemin, rapport);
+    CHECK(progression.cadres == 0);
+    return issue;
+}
+
+/// What the base says once it is opened; "" when there is none.
+std::string Relire(DisqueMemoire& disque) {
+    AvancementMuet muet;
+    const ResultatOuverture resultat = OuvrirBase(disque, Chemin, muet);
+    return resultat.base ? Inventaire{*resultat.base}.Texte() : std::string{};
+}
+
+/// A disk with a base on it; `enSuspens`: a session died while it committed more.
+std::unique_ptr<DisqueMemoire> Preparer(bool enSuspens) {
+    DisqueMemoire disque;
+    {
+        const ResultatOuverture resultat = NouvelleBase(disque, Chemin, {});
+        SeanceEssai seance{*resultat.base, 5};
+        for (int i = 0; i < 30; ++i)
+            seance.Agir();
+        REQUIRE(resultat.base->Enregistrer());
+    }
+    if (!enSuspens) return disque.Survivre();
+    for (int n = 1;; ++n) {
+        const auto essai = disque.Survivre();
+        AvancementMuet muet;
+        const ResultatOuverture resultat = OuvrirBase(*essai, Chemin, muet);
+        SeanceEssai seance{*resultat.base, 6};
+        for (int i = 0; i < 30; ++i)
+            seance.Agir();
+        const std::string avant = essai->Octets(Chemin);
+        essai->panne = Panne::Arret;
+        essai->panneA = essai->operations + n;
+        REQUIRE_FALSE((resultat.base->Enregistrer() && !essai->Mort()));
+        // Late enough for the file to be half way between two commits.
+        if (essai->Existe(CheminLog) && essai->Octets(Chemin) != avant && n > 8)
+            return essai->Survivre();
+    }
+}
+
+void CouperPartout(bool enSuspens) {
+    const auto depart = Preparer(enSuspens);
+    const std::string ancienne = Relire(*depart->Survivre());
+    REQUIRE_FALSE(ancienne.empty());
+
+    const auto temoin = depart->Survivre();
+    REQUIRE(Importer(*temoin) == IssueImport::Fait);
+    const int total = temoin->operations;
+    const std::string nouvelle = Relire(*temoin);
+    REQUIRE(nouvelle != ancienne);
+    REQUIRE(total > 10);
+
+    int anciennes = 0;
+    int nouvelles = 0;
+    for (const Panne panne :
+         {Panne::Refus, Panne::Plein, Panne::Dechirure, Panne::Arret, Panne::ArretDechire}) {
+        for (int n = 1; n <= total; ++n) {
+            CAPTURE(static_cast<int>(panne));
+            CAPTURE(n);
+            const auto disque = depart->Survivre();
+            disque->panne = panne;
+            disque->panneA = n;
+            const IssueImport issue = Importer(*disque);
+            const auto apres = disque->Survivre();
+            const std::string lu = Relire(*apres);
+            const bool estNouvelle = lu == nouvelle;
+            CHECK((estNouvelle || lu == ancienne));
+            if (!disque->Mort()) CHECK(estNouvelle == (issue == IssueImport::Fait));
+            if (panne == Panne::Refus && issue != IssueImport::Fait)
+                CHECK_FALSE(apres->Existe(Provisoire));
+            (estNouvelle ? nouvelles : anciennes) += 1;
+            for (std::uint32_t graine = 1; disque->Mort() && graine <= 2; ++graine) {
+                const std::string coupe = Relire(*disque->CouperCourant(graine));
+                CHECK((coupe == nouvelle || coupe == ancienne));
+            }
+        }
+    }
+    CHECK(anciennes > 0);
+    CHECK(nouvelles > 0);
+}
+
+}  // namespace
+
+TEST_CASE("Import cut: the old base or the new one stands whole, whatever the disk refuses") {
+    CouperPartout(false);
+}
+
+TEST_CASE(
+    "Import cut: a base that waited for its journal stands whole too, until the new one does") {
+    CouperPartout(true);
+}
