@@ -128,6 +128,11 @@ bool Base::Enregistrer() {
     return true;
 }
 
+bool Base::ViderSurDisque() {
+    volume.ViderSurDisque();
+    return !EnDefaut();
+}
+
 bool Base::Fermer() {
     const bool fait = Enregistrer();
     verrou_.reset();

@@ -99,6 +99,9 @@ public:
     [[nodiscard]] bool Enregistrer();
     /// Commits and gives up file and lock. Nothing may be called afterwards. False as above.
     [[nodiscard]] bool Fermer();
+    /// Returns once what the file holds is on the disk itself, as closing and opening it again
+    /// would. Changes no byte and commits nothing. False when the system refuses.
+    [[nodiscard]] bool ViderSurDisque();
     /// A write was refused: nothing more can be saved.
     [[nodiscard]] bool EnDefaut() const { return volume.EnDefaut(); }
 

@@ -157,10 +157,11 @@ private:
     }
 
     void LireTexte(std::string_view texte) {
+        CoupeJetons coupe{texte};
         for (std::size_t i = 0; i < texte.size(); ++i) {
             const int groupe = groupes_[static_cast<unsigned char>(texte[i])];
             if (groupe == SansGroupe) continue;
-            const std::string_view jeton = JetonDe(texte.substr(i + 1));
+            const std::string_view jeton = coupe.JetonA(i + 1);
             if (jeton.empty()) continue;
             const auto g = static_cast<std::uint32_t>(groupe);
             // As written first: most tokens come again and need no folding then.

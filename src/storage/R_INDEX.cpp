@@ -8,6 +8,7 @@
 #include "values/TexteRiche.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace dorvane::storage {
 namespace {
@@ -16,7 +17,9 @@ constexpr std::uint32_t TailleCellule = 10;
 constexpr std::uint32_t CellulesParBloc = 400;
 constexpr std::uint32_t NbBlocsIndex = 160;
 constexpr std::size_t MaxPersonnes = 65535;
-constexpr std::size_t MaxMot = 4095;  // what is longer is no word; also bounds the work on it
+// What is longer is no word. A run full of symbols is a token for each of them: the limit also
+// bounds what comes of it.
+constexpr std::size_t MaxMot = 4095;
 
 template <class N>
 std::vector<N> LireNumeros(Volume& volume, Position position, std::uint32_t nombre) {
@@ -38,37 +41,52 @@ std::string OctetsDe(const std::vector<N>& numeros) {
     return octets;
 }
 
-/// Takes out of both lists the words that they have in common, one for one.
+/// Takes out of both lists the words that they have in common, one for one, the first ones first.
 void AnnulerPaires(std::vector<std::string>& anciens, std::vector<std::string>& nouveaux) {
+    std::unordered_map<std::string_view, std::size_t> libres;
+    for (const std::string& mot : nouveaux)
+        ++libres[mot];
+    std::unordered_map<std::string, std::size_t> annules;
     std::erase_if(anciens, [&](const std::string& mot) {
-        const auto pareil = std::find(nouveaux.begin(), nouveaux.end(), mot);
-        if (pareil == nouveaux.end()) return false;
-        nouveaux.erase(pareil);
+        const auto pareil = libres.find(mot);
+        if (pareil == libres.end() || pareil->second == 0) return false;
+        --pareil->second;
+        ++annules[mot];
+        return true;
+    });
+    std::erase_if(nouveaux, [&](const std::string& mot) {
+        const auto annule = annules.find(mot);
+        if (annule == annules.end() || annule->second == 0) return false;
+        --annule->second;
         return true;
     });
 }
 
 }  // namespace
 
-std::string_view JetonDe(std::string_view suite) {
-    suite = suite.substr(0, MaxMot);
-    return suite.substr(0, suite.find_first_of(" \r"));
+std::string_view CoupeJetons::JetonA(std::size_t debut) {
+    if (fin_ < debut) fin_ = std::min(texte_.find_first_of(" \r", debut), texte_.size());
+    return fin_ - debut > MaxMot ? std::string_view{} : texte_.substr(debut, fin_ - debut);
 }
 
 std::string FormeIndexee(std::string_view jeton) {
-    const std::string replie = Replie(jeton);
-    const std::string_view mot = SansBlancsADroite(replie);
+    // Rich text may spell a "#", which would end the word record.
+    std::string brut{jeton};
+    std::replace(brut.begin(), brut.end(), '#', '-');
+    std::string mot = Replie(brut);
+    mot.resize(SansBlancsADroite(mot).size());
     // Of dots alone nothing would be left: the token then stands for itself.
-    return std::string{mot.empty() ? jeton : mot};
+    return mot.empty() ? brut : mot;
 }
 
 std::vector<std::string> MotsDuTexte(std::string_view texte, char symbole) {
     std::vector<std::string> mots;
     std::string tampon;
     const std::string_view brut = TexteSansRtf(texte, tampon);
+    CoupeJetons coupe{brut};
     for (std::size_t i = brut.find(symbole); i != std::string_view::npos;
          i = brut.find(symbole, i + 1)) {
-        std::string mot = FormeIndexee(JetonDe(brut.substr(i + 1)));
+        std::string mot = FormeIndexee(coupe.JetonA(i + 1));
         if (!mot.empty()) mots.push_back(std::move(mot));
     }
     return mots;

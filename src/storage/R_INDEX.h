@@ -20,8 +20,20 @@ struct CelluleMot {
     friend bool operator==(const CelluleMot&, const CelluleMot&) = default;
 };
 
-/// The token at the head of `suite`: up to a blank, a return or the end, cut at 4095 bytes.
-[[nodiscard]] std::string_view JetonDe(std::string_view suite);
+/// Cuts the tokens of one text, asked for from left to right; each byte is looked at once.
+class CoupeJetons {
+public:
+    /// `texte` outlives the object and the tokens.
+    explicit CoupeJetons(std::string_view texte) : texte_{texte} {}
+    /// What stands from `debut` (not 0) up to a blank, a return or the end. Empty when that is
+    /// longer than 4095 bytes: such a run is no word.
+    [[nodiscard]] std::string_view JetonA(std::size_t debut);
+
+private:
+    std::string_view texte_;
+    std::size_t fin_ = 0;  ///< where the run ends that was cut last
+};
+
 /// The words behind `symbole` in `texte`, folded, in the order of the text. Rich text is read as
 /// plain text. Empty words are left out; one that folds to blanks stands as written.
 [[nodiscard]] std::vector<std::string> MotsDuTexte(std::string_view texte, char symbole);

@@ -51,8 +51,7 @@ void LireDateDeSlot(std::string_view valeur, ValeurSlot& slot) {
     const std::optional<DateCivile> date =
         EstChiffre(nette[0]) ? LireDate(nette, OrdreDate::JourMoisAnnee) : std::nullopt;
     if (date) {
-        const std::string annee = std::to_string(date->annee);
-        slot.annee = std::string(TailleAnnee - std::min(TailleAnnee, annee.size()), '0') + annee;
+        slot.annee = std::to_string(date->annee);
         slot.jourMois = std::to_string(date->jour) + '/' + std::to_string(date->mois);
         return;
     }

@@ -77,6 +77,9 @@ public:
     /// refused: the file on the disk, once reopened, is the previous commit.
     [[nodiscard]] bool Commettre(std::string_view entete);
 
+    /// Flushes what has been written; what waits in memory goes on waiting.
+    void ViderSurDisque() { fichier_->Vider(); }
+
     [[nodiscard]] bool EnDefaut() const;
     /// How many bytes may wait in memory: appended ones, and overwritten blocks.
     void FixerTampons(std::size_t queue, std::size_t attente) {

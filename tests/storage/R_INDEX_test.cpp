@@ -1,40 +1,9 @@
 #include "storage/R_INDEX.h"
 
-#include "storage/ConstruireIndex.h"
-#include "storage/Essai.h"
-#include "values/Octets.h"
-
-#include <map>
+#include "storage/BureauIndex.h"
 
 using namespace dorvane;
 using namespace dorvane::storage;
-
-namespace {
-
-using Mots = std::vector<std::string>;
-using Index = std::map<std::string, std::vector<std::uint32_t>>;
-
-struct Bureau : Essai {
-    void Ecrire(std::uint32_t n, const std::string& texte) const {
-        base->R_INDEX.MajIndex(NoOrdre{n}, base->R_TEXTE.LireTexte(NoOrdre{n}), texte);
-        base->R_TEXTE.EcrireTexte(NoOrdre{n}, texte);
-    }
-    [[nodiscard]] Index De(std::uint32_t k) const {
-        Index index;
-        for (const NoIndex e : base->R_INDEX.ListeMots(NoMotCle{k}))
-            for (const NoOrdre n : base->R_INDEX.PersonnesIndex(e))
-                index[base->R_INDEX.MotIndex(e)].push_back(n.valeur);
-        return index;
-    }
-    [[nodiscard]] Mots MotsDe(std::uint32_t k) const {
-        Mots mots;
-        for (const NoIndex e : base->R_INDEX.ListeMots(NoMotCle{k}))
-            mots.push_back(base->R_INDEX.MotIndex(e));
-        return mots;
-    }
-};
-
-}  // namespace
 
 TEST_CASE("MotsDuTexte: tokens, folding and the places where a token ends") {
     CHECK(MotsDuTexte("|Durand $Saint.Malo ~Rennes\r\nnote", '$') == Mots{"SAINT MALO"});
@@ -124,69 +93,48 @@ TEST_CASE_FIXTURE(Bureau, "MajIndex: the 64001st entry is left out and told once
     CHECK(observateur.incidents == std::vector{std::pair{Incident::IndexPlein, 0U}});
 }
 
-TEST_CASE_FIXTURE(Bureau, "ConstruireIndex: building anew gives the lists of the running index") {
-    const char* textes[] = {"|DURAND \xB6Jean $Brest", "|ABEL \xB6Jean", "|DURAND \xB6Paul |...",
-                            "|Zo\xEB |DURAND"};
-    const char* annees[] = {"1850", "1800", "", "1850"};
-    for (std::uint32_t n = 1; n <= 4; ++n) {
-        Creer("X;Y", annees[n - 1]);
-        Ecrire(n, textes[n - 1]);
-    }
-    const NoMariage m = base->NouveauMariage();
-    base->R_TXTMAR.EcrireTexte(m, "1/1@Lyon");
-    for (const std::uint32_t n : {1U, 2U}) {
-        base->R_MARIAG.ModifierListe(NoOrdre{n}, m, 'A');
-        base->R_INDEX.MajIndex(NoOrdre{n}, "", "1/1@Lyon");
-    }
-    std::vector<Index> avant;
-    for (std::uint32_t k = 1; k <= 11; ++k)
-        avant.push_back(De(k));
-    CHECK(avant[3] == Index{{"LYON", {2, 1}}});
-    std::vector<NoMotCle> types;
-    for (std::uint32_t k = 1; k <= 11; ++k)
-        types.emplace_back(k);
-    CHECK(ConstruireIndex(*base, types, muet));
-    for (std::uint32_t k = 1; k <= 11; ++k) {
-        CAPTURE(k);
-        CHECK(De(k) == avant[k - 1]);
-    }
-    CHECK(ConstruireIndex(*base, '@', muet));
-    CHECK(De(4) == avant[3]);
+TEST_CASE("MotsDuTexte: a run of more than 4095 bytes is no word, what follows it is read") {
+    CHECK(MotsDuTexte("$" + std::string(4095, 'a') + " $b", '$') ==
+          Mots{std::string(4095, 'A'), "B"});
+    CHECK(MotsDuTexte("$" + std::string(4096, 'a') + " $b", '$') == Mots{"B"});
+}
+
+TEST_CASE("MotsDuTexte: a hostile run of symbols gives no more than its last 4095 bytes") {
+    std::string texte;
+    for (int i = 0; i < 200000; ++i)
+        texte += "$a";
+    CHECK(MotsDuTexte(texte, '$').size() == 2048);
+}
+
+TEST_CASE_FIXTURE(Bureau, "MajIndex: a # that rich text spells cuts no word record") {
+    const std::string texte = "x {\\rtf1 |A\\'23B}";
+    Ecrire(1, texte);
+    CHECK(De(1) == Index{{"A B", {1}}});
+    Ecrire(1, "{\\rtf1 |\\'23 }");
+    CHECK(De(1) == Index{{"-", {1}}});
+    Ecrire(1, "");
+    CHECK(De(1).empty());
 }
 
 TEST_CASE_FIXTURE(Bureau,
-                  "ConstruireIndex: the word list stands first, then each word with its persons") {
-    Creer("X;Y", "1850");
-    base->R_TEXTE.EcrireTexte(NoOrdre{1}, "|B |A");
-    REQUIRE(base->Enregistrer());
+                  "MajIndex: as many equal words as there are go in pairs, the rest change") {
+    Ecrire(1, "|A |B |A |C");
+    CHECK(De(1) == Index{{"A", {1, 1}}, {"B", {1}}, {"C", {1}}});
     const std::uint32_t fin = base->volume.FinFichier();
-    const NoMotCle k{1};
-    CHECK(ConstruireIndex(*base, std::span{&k, 1}, muet));
-    REQUIRE(base->Enregistrer());
-    const std::string attendu = std::string("\0\2\0\1\0\2", 6) + "A#" + std::string("\0\1", 2) +
-                                "B#" + std::string("\0\1", 2);
-    CHECK(Lire().Brut(fin + 1, attendu.size()) == attendu);
-    CHECK(base->motsCles.PosMotsType(k) == Position{fin + 1});
+    base->R_INDEX.MajIndex(NoOrdre{1}, "|A |B |A |C", "|C |A |B |A .");
+    CHECK(base->volume.FinFichier() == fin);
+    Ecrire(1, "|A |A |A");
+    CHECK(De(1) == Index{{"A", {1, 1, 1}}});
 }
 
-TEST_CASE_FIXTURE(Bureau, "ConstruireIndex: given up by the user it changes nothing") {
-    class Stop final : public Avancement {
-    public:
-        void Commencer(const TexteAvancement& titre, const TexteAvancement& texte) override {
-            vu = std::string{titre.litteral} + " " + std::to_string(texte.message.valeur);
-        }
-        void Phase(const TexteAvancement& /*texte*/) override {}
-        [[nodiscard]] bool Avancer(std::uint32_t /*fait*/, std::uint32_t /*total*/) override {
-            return false;
-        }
-        void Terminer() override {}
-        std::string vu;
-    } stop;
-    Creer("X;Y", "1850");
-    base->R_TEXTE.EcrireTexte(NoOrdre{1}, "|B");
+TEST_CASE_FIXTURE(Bureau,
+                  "MajIndex: a long text with a thousand words costs one change for one word") {
+    std::string texte;
+    for (int i = 0; i < 60000; ++i)
+        texte += "$m" + std::to_string(i % 40) + " ";
+    base->R_TEXTE.EcrireTexte(NoOrdre{1}, texte);
     const std::uint32_t fin = base->volume.FinFichier();
-    CHECK_FALSE(ConstruireIndex(*base, '|', stop));
-    CHECK(base->volume.FinFichier() == fin);
-    CHECK(stop.vu == "BIRN 968");
-    CHECK(De(1).empty());
+    base->R_INDEX.MajIndex(NoOrdre{1}, texte, texte + "$nouveau");
+    CHECK(MotsDe(3) == Mots{"NOUVEAU"});
+    CHECK(base->volume.FinFichier() < fin + 100);
 }

@@ -53,6 +53,8 @@ TEST_CASE("Slots: a dated slot with a place") {
     REQUIRE(d.slots.size() == 3);
     CHECK(d.slots[2] == V{"12/5", "1850", "Paris"});
     CHECK(d.note.empty());
+    CHECK(Decouper("BURI 12/5/850\r\n").slots[2] == V{"12/5", "850", ""});
+    CHECK(Decouper("BURI 12/5/ 850\r\n").slots[2] == V{"12/5", "850", ""});
 }
 
 TEST_CASE("Slots: a value that is no date gives its last four characters as the year") {
