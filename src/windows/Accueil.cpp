@@ -78,6 +78,8 @@ void Accueil::Actualiser() {
     const bool ouverte = session_.BaseOuverte();
     titre_->setText(TexteEcran(session_, ouverte ? 2043 : 2040));
     texte_->setText(TexteEcran(session_, ouverte ? 2044 : 2041));
+    // Centred in its column, the label would get one line only.
+    texte_->setMinimumHeight(texte_->heightForWidth(LargeurColonne));
     nouveau_->setVisible(!ouverte);
     PoserRecentes();
 }

@@ -7,11 +7,15 @@
 #include "windows/Legendes.h"
 #include "windows/Unicode.h"
 
+#include <algorithm>
+#include <array>
+
 namespace dorvane::windows {
 
 namespace {
 
 constexpr int NbMoisGregoriens = 12;
+constexpr int LargeurInitiale = 480;  ///< has room for what is told beside a field
 
 void Souligner(QLabel& etiquette) {
     // A warning colour that can be read on light and dark windows alike, beside the words.
@@ -55,6 +59,7 @@ FrmCalendrier::FrmCalendrier(shell::Session& session, QWidget* parent)
     connect(ui_->CmdRG, &QPushButton::clicked, this, &FrmCalendrier::CmdRGClique);
     connect(ui_->CmdFermer, &QPushButton::clicked, this, &QDialog::close);
     Traduire();
+    resize(LargeurInitiale, sizeHint().height());
     ui_->T_JourG->setFocus();
 }
 
@@ -64,6 +69,14 @@ void FrmCalendrier::Traduire() {
     FenetreFille::Traduire();
     EffacerRefus(gregorien_);
     EffacerRefus(republicain_);
+    // The two forms line up, whatever the language.
+    const std::array<QLabel*, 6> etiquettes{ui_->LblJourG, ui_->LblMoisG, ui_->LblAnnéeG,
+                                            ui_->LblJourR, ui_->LblMoisR, ui_->LblAnnéeR};
+    int largeur = 0;
+    for (const QLabel* etiquette : etiquettes)
+        largeur = std::max(largeur, etiquette->sizeHint().width());
+    for (QLabel* etiquette : etiquettes)
+        etiquette->setMinimumWidth(largeur);
 }
 
 /// The other date follows as soon as all three fields are filled; what is wrong is told at once,

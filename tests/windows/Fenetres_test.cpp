@@ -242,9 +242,9 @@ TEST_CASE_FIXTURE(FenetreEssai,
     auto* vide = fenetre.findChild<QLabel*>(QStringLiteral("LblVide"));
     auto* choisir = fenetre.findChild<QPushButton*>(QStringLiteral("CmdChoisir"));
     CHECK(fenetre.Choisie() == NoOrdre{3});
-    CHECK(nombre->text() == "8 personnes");
+    CHECK(nombre->text() == QStringLiteral("Personnes\u00A0: 8"));
     QTest::keyClicks(filtre, QStringLiteral("EVRARD"));
-    CHECK(nombre->text() == "1 personnes sur 8");
+    CHECK(nombre->text() == QStringLiteral("Personnes\u00A0: 1 sur 8"));
     CHECK(fenetre.Choisie() == NoOrdre{4});
     QTest::keyClicks(filtre, QStringLiteral(" 1825"));
     CHECK(fenetre.Choisie() == NoOrdre{4});
@@ -254,7 +254,7 @@ TEST_CASE_FIXTURE(FenetreEssai,
     CHECK(vide->text().contains(QStringLiteral("EVRARD 1825 zz")));
     CHECK_FALSE(choisir->isEnabled());
     filtre->clear();
-    CHECK(nombre->text() == "8 personnes");
+    CHECK(nombre->text() == QStringLiteral("Personnes\u00A0: 8"));
     // The arrows walk in the list while the filter has the focus.
     QTest::keyClick(filtre, Qt::Key_PageUp);
     QTest::keyClick(filtre, Qt::Key_Down);
