@@ -65,7 +65,11 @@ void AnnulerPaires(std::vector<std::string>& anciens, std::vector<std::string>& 
 }  // namespace
 
 std::string_view CoupeJetons::JetonA(std::size_t debut) {
-    if (fin_ < debut) fin_ = std::min(texte_.find_first_of(" \r", debut), texte_.size());
+    if (fin_ < debut) {
+        fin_ = debut;
+        while (fin_ < texte_.size() && texte_[fin_] != ' ' && texte_[fin_] != '\r')
+            ++fin_;
+    }
     return fin_ - debut > MaxMot ? std::string_view{} : texte_.substr(debut, fin_ - debut);
 }
 
