@@ -280,6 +280,8 @@ bool MnuEnregistrer(Session& session) {
 void Minuterie1(Session& session) {
     if (session.base) {
         if (session.compteurMinuterie <= session.parametres.generaux.frequenceSauvegarde) {
+            // A refusal shows, and is told, at the commit.
+            static_cast<void>(session.base->ViderSurDisque());
             ++session.compteurMinuterie;
         } else {
             Enregistrer(session);

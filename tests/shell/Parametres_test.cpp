@@ -430,7 +430,7 @@ TEST_CASE_FIXTURE(Foyer,
         CHECK(relus.LireParametresBase(nom));
         CHECK(relus.generaux.historique.front().native() == nom);
     }
-    CHECK(CheminAffiche("/tmp/Łé") == "/tmp/?\xE9");
+    CHECK(CheminAffiche("/tmp/Łé") == "/tmp/L\xE9");
 }
 
 TEST_CASE_FIXTURE(Foyer, "Parametres: words and single values are saved at once") {
