@@ -70,6 +70,39 @@ bool EstUtf8(std::string_view texte) {
     }
 }
 
+/// UTF-8 but for a few broken bytes, or a character cut by the end of the file.
+bool EstSurtoutUtf8(std::string_view texte) {
+    std::size_t justes = 0;
+    std::size_t faux = 0;
+    while (true) {
+        texte.remove_prefix(PrefixeAscii(texte));
+        if (texte.empty()) return justes > faux;
+        const CodeLu lu = LireUtf8(texte);
+        const bool rompu = lu.code == 0xFFFD && lu.longueur == 1;
+        (rompu ? faux : justes) += 1;
+        texte.remove_prefix(lu.longueur);
+    }
+}
+
+/// ANSEL leaves bytes free: a text with more than a few of them is none.
+bool PeutEtreAnsel(std::string_view texte) {
+    constexpr std::size_t Megaoctet = 1U << 20U;
+    std::size_t hauts = 0;
+    std::size_t libres = 0;
+    for (const char c : texte.substr(0, Megaoctet)) {
+        if (Octet(c) < 0x80) continue;
+        ++hauts;
+        libres += CodeDeAnsel(Octet(c)) == 0 ? 1U : 0U;
+    }
+    return libres * 50 <= hauts;
+}
+
+/// The text can be read in the set that its header names. Of the others every byte has a sense.
+bool PeutSeLire(std::string_view texte, Jeu jeu) {
+    if (jeu == Jeu::Utf8) return PrefixeAscii(texte) == texte.size() || EstSurtoutUtf8(texte);
+    return jeu != Jeu::Ansel || PeutEtreAnsel(texte);
+}
+
 bool EstBlanc(char c) {
     return c == ' ' || c == '\t' || c == '\0';
 }
@@ -331,7 +364,7 @@ ChoixDeJeu ChoisirJeu(std::string_view fichier) {
     if (EstUtf8(fichier)) {
         choix.jeu = Jeu::Utf8;
         choix.raison = declare == Jeu::Utf8 ? RaisonDuJeu::Declare : RaisonDuJeu::ContenuUtf8;
-    } else if (declare && (*declare != Jeu::Utf8 || PrefixeAscii(fichier) == fichier.size())) {
+    } else if (declare && PeutSeLire(fichier, *declare)) {
         choix.jeu = *declare;
         choix.raison = RaisonDuJeu::Declare;
     }

@@ -30,7 +30,8 @@ struct ChoixDeJeu {
 };
 
 /// Finds the set of a whole file: a byte order mark decides; else UTF-8 when the whole text is
-/// valid and has bytes above 127; else the declared set; else ANSI.
+/// valid and has bytes above 127; else the declared set when the text can be read in it; else ANSI.
+/// A few broken bytes do not make a text that is declared UTF-8 another.
 [[nodiscard]] ChoixDeJeu ChoisirJeu(std::string_view fichier);
 
 /// A text brought into code page 1252.

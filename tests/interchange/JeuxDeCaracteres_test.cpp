@@ -144,3 +144,24 @@ TEST_CASE("Decoder: HTML names it does not know stand as they are") {
     CHECK(Decoder("&otilde;", Jeu::Html, false).octets == "õ"_1252);
     CHECK(Lire("&#10;&#x0D;", Jeu::Html) == "&#10;&#x0D;");
 }
+
+TEST_CASE("ChoisirJeu: UTF-8 that is declared stays so with a few broken bytes") {
+    const std::string juste = EnTete("UTF-8", "Hélène /Müller/");
+    CHECK(ChoisirJeu(juste + "\xC3").jeu == Jeu::Utf8);
+    CHECK(ChoisirJeu(juste + "\xC3").raison == RaisonDuJeu::Declare);
+    CHECK(Decoder(juste + "\xC3", Jeu::Utf8, false).perdus == 1);
+    CHECK(ChoisirJeu(EnTete("UTF-8", "H\xE9l\xE8ne /M\xFCller/")).jeu == Jeu::Ansi);
+    CHECK(ChoisirJeu(EnTete("ANSI", "H\xE9l\xE8ne /M\xC3\xBCller/")).jeu == Jeu::Ansi);
+}
+
+TEST_CASE("ChoisirJeu: a text that ANSEL cannot hold is not read as ANSEL") {
+    CHECK(ChoisirJeu(EnTete("ANSEL",
+                            "H\xE2"
+                            "el\xE1"
+                            "ene"))
+              .jeu == Jeu::Ansel);
+    const ChoixDeJeu choix = ChoisirJeu(EnTete("ANSEL", "\x93Jean\x94 \x96 \x85"));
+    CHECK(choix.jeu == Jeu::Ansi);
+    CHECK(choix.raison == RaisonDuJeu::Defaut);
+    CHECK(choix.declare == "ANSEL");
+}
