@@ -66,6 +66,10 @@ int Importer(const OptionsImport& options) {
     fs::path base = options.base;
     if (base.empty()) base = fs::path{options.fichier}.replace_extension(".LGD");
     std::error_code erreur;
+    if (fs::equivalent(base, options.fichier, erreur)) {
+        std::cerr << base.string() << ": la base et le fichier sont un seul fichier\n";
+        return MauvaisUsage;
+    }
     if (fs::exists(base, erreur) && !options.remplacer) {
         atelier.dialogue.Informer(shell::Msg(2247, Utf8VersTexte(base.string()).octets));
         return Refus;

@@ -99,8 +99,17 @@ void DeclarerCalcul(CLI::App& app, Ligne& l) {
     // Arguments may begin with a dash: "-44" is a year.
     calculer->prefix_command();
     calculer->callback([&l, calculer] {
-        for (const std::string& reste : calculer->remaining())
-            l.arguments.push_back(reste);
+        bool finDesOptions = false;
+        for (const std::string& reste : calculer->remaining()) {
+            if (reste == "--" && !finDesOptions) {
+                finDesOptions = true;
+                continue;
+            }
+            if (l.operation.empty())
+                l.operation = reste;
+            else
+                l.arguments.push_back(reste);
+        }
         l.faire = [&l] { return CalculerValeurs(l.operation, l.arguments, l.langue); };
     });
 }

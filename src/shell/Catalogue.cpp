@@ -1,6 +1,7 @@
 #include "shell/Catalogue.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -63,12 +64,18 @@ void LireTable(const Catalogue::Lecteur& lecteur, std::int32_t position,
 }  // namespace
 
 bool Catalogue::Ouvrir(const std::filesystem::path& chemin) {
-    const int no = open(chemin.c_str(), O_RDONLY | O_CLOEXEC);
+    // Without O_NONBLOCK a pipe of that name would hold the program for ever.
+    const int no = open(chemin.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    struct stat etat {};
     if (no < 0) {
         Ouvrir(Lecteur{});
         return false;
     }
     const auto fichier = std::make_shared<Descripteur>(no);
+    if (fstat(no, &etat) != 0 || !S_ISREG(etat.st_mode)) {
+        Ouvrir(Lecteur{});
+        return false;
+    }
     Ouvrir([fichier](std::uint64_t decalage, std::span<char> octets) {
         return fichier->Lire(decalage, octets);
     });
