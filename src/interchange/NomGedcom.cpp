@@ -70,6 +70,14 @@ std::string SansDoubleArobase(std::string_view valeur) {
 }
 
 bool RepeteLeNom(std::string_view piece, std::string_view nom) {
+    // Nearly always it stands there letter for letter.
+    const std::size_t ou = nom.find(piece);
+    if (ou != std::string_view::npos) {
+        const auto borne = [&](std::size_t i) {
+            return i >= nom.size() || nom[i] == ' ' || nom[i] == '/';
+        };
+        if ((ou == 0 || borne(ou - 1)) && borne(ou + piece.size())) return true;
+    }
     const auto mots = [](std::string_view texte) {
         std::string replie = Replie(texte);
         for (char& c : replie) {

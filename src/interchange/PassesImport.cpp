@@ -35,8 +35,13 @@ private:
 
 }  // namespace
 
-bool PassesImport::Avancer(std::size_t ou, std::uint32_t nombre) {
-    if (nombre % PasDeProgression != 0) return true;
+bool PassesImport::Avancer(std::size_t ou, std::uint32_t message, std::uint32_t nombre) {
+    if (nombre != compteMontre_ && nombre % PasDeProgression == 0) {
+        compteMontre_ = nombre;
+        session_.progression.Phase(
+            shell::Litteral(textes_.Message(message) + ' ' + std::to_string(nombre)));
+    }
+    if (++enregistrements_ % PasDeProgression != 0) return true;
     // In kilobytes: a file may be larger than a counter.
     return session_.progression.Avancer(static_cast<std::uint32_t>(ou / 1024),
                                         static_cast<std::uint32_t>(texte_.size() / 1024 + 1));
@@ -148,6 +153,12 @@ void PassesImport::LireLigne(const LigneGedcom& ligne) {
         contexte_.Noter(Constat::NonRepris, ligne);
 }
 
+bool PassesImport::AvancerDUnEnregistrement(const LigneGedcom& ligne, std::size_t ou) {
+    if (ligne.code == "NOTE"_tag || ligne.code == "TITL"_tag)
+        return Avancer(ou, 646, base_.entete.DernierDocument);
+    return Avancer(ou, 898, base_.entete.DernierIndividu);
+}
+
 bool PassesImport::PremierePasse() {
     LecteurDeLignes lecteur{texte_, fin_};
     LigneGedcom ligne;
@@ -171,7 +182,7 @@ bool PassesImport::PremierePasse() {
                 FermerEnregistrement();
                 pile_.Entrer(0, ligne.etiquette, ligne.code);
                 OuvrirEnregistrement(ligne, lecteur.Debut());
-                if (!Avancer(lecteur.Debut(), base_.entete.DernierIndividu)) return false;
+                if (!AvancerDUnEnregistrement(ligne, lecteur.Debut())) return false;
         }
         rapport_.lignes = ligne.numero;
     }
@@ -229,11 +240,11 @@ void PassesImport::VerifierFamilles() {
 bool PassesImport::SecondePasse() {
     session_.progression.Phase(shell::Msg(808));
     LecteurFamille lecteur{contexte_, slotsMariage_, liens_, familles_, cles_};
-    std::uint32_t nombre = 0;
+    compteMontre_ = 0;
     for (const Famille& famille : debuts_) {
         LireFamille(lecteur, famille);
         if (lecteur.Terminer()) memoire_.AjouterUnion(lecteur.Texte());
-        if (!Avancer(famille.debut, ++nombre)) return false;
+        if (!Avancer(famille.debut, 918, base_.entete.DernierMariage)) return false;
     }
     VerifierFamilles();
     familles_.Ecrire();

@@ -34,7 +34,9 @@ public:
           annexes_{contexte_, liens_},
           memoire_{familles_} {
         memoire_.Prevoir(texte.size());
-        separateurs_ = texte.find_first_of("#;\xFF") != std::string_view::npos;
+        // Each by itself, which goes much faster than all three in one walk.
+        for (const char c : {'#', ';', '\xFF'})
+            separateurs_ = separateurs_ || texte.find(c) != std::string_view::npos;
     }
 
     /// False when the user has given up.
@@ -67,7 +69,9 @@ private:
     [[nodiscard]] ReglesNoms Regles() const;
     [[nodiscard]] bool Trier();
     [[nodiscard]] bool Indexer();
-    [[nodiscard]] bool Avancer(std::size_t ou, std::uint32_t nombre);
+    /// Shows the count every 100, behind its message. False when the user has given up.
+    [[nodiscard]] bool Avancer(std::size_t ou, std::uint32_t message, std::uint32_t nombre);
+    [[nodiscard]] bool AvancerDUnEnregistrement(const LigneGedcom& ligne, std::size_t ou);
 
     shell::Session& session_;
     storage::Base& base_;
@@ -87,6 +91,8 @@ private:
     MemoireImport memoire_;
     ClesImport cles_;
     std::vector<Famille> debuts_;
+    std::uint32_t enregistrements_ = 0;
+    std::uint32_t compteMontre_ = 0;
     Genre genre_ = Genre::Aucun;
     bool separateurs_ = false;  ///< the text holds bytes that part records or fields
 };

@@ -183,3 +183,38 @@ TEST_CASE_FIXTURE(EssaiImport, "Import: a file cut at any byte is read to its en
         CHECK(base->entete.DernierIndividu <= 2);
     }
 }
+
+TEST_CASE_FIXTURE(EssaiImport, "Import: counts of both readings are shown every hundred") {
+    std::string lignes;
+    for (int i = 1; i <= 250; ++i)
+        lignes += "0 @I" + std::to_string(i) + "@ INDI\n1 NAME /Nom/\n";
+    for (int i = 1; i <= 120; ++i)
+        lignes += "0 @N" + std::to_string(i) + "@ NOTE n\n0 @F" + std::to_string(i) +
+                  "@ FAM\n1 HUSB @I" + std::to_string(i) + "@\n1 WIFE @I" + std::to_string(i + 1) +
+                  "@\n";
+    Importer(lignes);
+    CHECK(progression.titres.front().no == NoMessage{774});
+    std::vector<shell::Phrase> attendus{shell::Msg(775)};
+    for (const auto& [message, nombre] :
+         {std::pair{898U, 100}, {898U, 200}, {646U, 100}, {0U, 808}, {918U, 100}})
+        attendus.push_back(message == 0 ? shell::Msg(808)
+                                        : shell::Litteral(session.Message(message) + ' ' +
+                                                          std::to_string(nombre)));
+    REQUIRE(progression.textes.size() > attendus.size());
+    progression.textes.resize(attendus.size());
+    CHECK((progression.textes == attendus));
+    CHECK(progression.pas > 3);
+    CHECK(progression.cadres == 0);
+}
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "Import: one that fails leaves no base open and no trace of the one before") {
+    Importer("0 @I1@ INDI\n1 NAME Jean /Dupont/\n");
+    base.reset();
+    REQUIRE(shell::OuvrirChemin(session, chemin));
+    ImporterFichier(session, dossier / "absent.ged", {});
+    CHECK(dialogue.entendu.back().no == NoMessage{2240});
+    CHECK_FALSE(session.BaseOuverte());
+    CHECK(session.CheminBase.empty());
+    CHECK_FALSE(session.PersonneEnCours);
+}
