@@ -80,7 +80,7 @@ void FrmNom::Filtrer() {
 }
 
 void FrmNom::Compter() {
-    const int montres = modele_->rowCount();
+    const int montres = modele_->rowCount({});
     const std::string total = std::to_string(modele_->Total());
     const shell::Phrase nombre = montres == modele_->Total()
                                      ? shell::Msg(2067, total)

@@ -48,8 +48,8 @@ void ModeleNoms::Filtrer(const QString& filtre) {
 }
 
 NoOrdre ModeleNoms::Individu(int rangee) const {
-    return rangee >= 0 && rangee < rowCount() ? montres_[static_cast<std::size_t>(rangee)]
-                                              : NoOrdre{};
+    return rangee >= 0 && rangee < rowCount({}) ? montres_[static_cast<std::size_t>(rangee)]
+                                                : NoOrdre{};
 }
 
 int ModeleNoms::Rangee(NoOrdre individu) const {

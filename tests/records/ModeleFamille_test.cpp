@@ -31,13 +31,14 @@ struct Scene {
     NoOrdre Femme(const char* prenom, const char* annee = "") {
         return famille.Creer('F', "Duval", prenom, annee);
     }
-    ModeleFamille Voir(NoOrdre n, int ascendantes = 4, int descendantes = 2) {
+    ModeleFamille Voir(NoOrdre n, int ascendantes = 4, int descendantes = 2) const {
         return ConstruireFamille(*base, n, {ascendantes, descendantes});
     }
 };
 
 std::vector<std::uint32_t> Numeros(const ModeleFamille& modele) {
     std::vector<std::uint32_t> numeros;
+    numeros.reserve(modele.cases.size());
     for (const CaseFamille& c : modele.cases)
         numeros.push_back(c.individu.valeur);
     return numeros;

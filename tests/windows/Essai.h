@@ -97,16 +97,16 @@ public:
     }
 
     /// Starts with the family or another file; a path of nothing starts without.
-    void Demarrer(const std::filesystem::path& fichier) {
+    void Demarrer(const std::filesystem::path& fichier) const {
         programme->Demarrer(fichier);
         REQUIRE(QTest::qWaitForWindowExposed(&Fenetre()));
     }
-    void DemarrerFamille() {
+    void DemarrerFamille() const {
         Demarrer(base);
         REQUIRE(S().PersonneEnCours == NoOrdre{1});
         AllerA(3);
     }
-    void AllerA(std::uint32_t n) { Fenetre().AllerA(NoOrdre{n}); }
+    void AllerA(std::uint32_t n) const { Fenetre().AllerA(NoOrdre{n}); }
 
     [[nodiscard]] shell::Session& S() const { return programme->session; }
     [[nodiscard]] MDIForm1& Fenetre() const { return programme->fenetre; }
@@ -135,7 +135,7 @@ public:
     std::unique_ptr<Programme> programme;
 
 private:
-    void FaireFamille() {
+    void FaireFamille() const {
         storage::DisqueReel disque;
         auto nouvelle = storage::NouvelleBase(disque, base, {'2', false, false}).base;
         REQUIRE(nouvelle != nullptr);

@@ -269,7 +269,7 @@ TEST_CASE_FIXTURE(FenetreEssai, "FrmNom: columns tell parents, sex and family in
     const auto texte = [&](int rangee, int colonne, int role = Qt::DisplayRole) {
         return modele.data(modele.index(rangee, colonne), role).toString();
     };
-    CHECK(modele.rowCount() == 4);
+    CHECK(modele.rowCount({}) == 4);
     CHECK(texte(0, ModeleNoms::Parents) == "xx");
     CHECK(texte(1, ModeleNoms::Parents).isEmpty());
     CHECK(texte(1, ModeleNoms::Parents, Qt::ToolTipRole) == QStringLiteral("Père et mère connus"));
