@@ -127,3 +127,29 @@ TEST_CASE_FIXTURE(Famille, "A family: nobody becomes a parent of himself") {
     CHECK_FALSE(Pere(1));
     CHECK(Mere(1) == Deux);
 }
+
+TEST_CASE_FIXTURE(Famille, "A family: each further event has a dated row") {
+    for (const char* tag :
+         {"MARB", "CENS", "MARC", "MARS", "MARL", "ENGA", "DIV", "DIVF", "ANUL"}) {
+        CAPTURE(tag);
+        Lire(std::string{"0 @F1@ FAM\n1 HUSB @I1@\n1 WIFE @I2@\n1 "} + tag +
+             "\n2 DATE 3 MAY 1844\n2 PLAC Dol\n");
+        CHECK(base->R_TXTMAR.LireTexte(NoMariage{1})
+                  .starts_with("\r\n" + std::string{tag} + " 3/5/1844 "));
+        CHECK(storage::SlotsMariageDe(*base, NoMariage{1}).at(0) ==
+              storage::ValeurSlot{"3/5", "1844", "Dol"});
+        CHECK(base->entete.SlotsMariage[0].drapeau == '1');
+    }
+}
+
+TEST_CASE_FIXTURE(Famille, "A family: the role of a source is that of both partners") {
+    Lire(
+        "0 @S1@ SOUR\n1 TITL Acte\n0 @F1@ FAM\n1 HUSB @I1@\n1 WIFE @I2@\n1 SOUR Livre\n"
+        "1 MARR oui\n2 SOUR @S1@\n3 ROLE (Témoin)\n3 DATA\n4 TEXT extrait\n"_1252);
+    CHECK(base->R_LSTEVT.TexteElement(Un, 1) == "WITN");
+    CHECK(base->R_LSTEVT.TexteElement(Deux, 1) == "WITN");
+    const std::string source = session.Message(894);
+    CHECK(storage::NoteMariage(*base, NoMariage{1}) ==
+          source + ": Livre\r\n" + session.Message(642) + " - oui\r\n" + session.Message(642) +
+              " - " + source + ": extrait");
+}

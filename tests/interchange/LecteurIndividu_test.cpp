@@ -231,3 +231,73 @@ TEST_CASE_FIXTURE(EssaiImport, "An individual: ages as words and as years, month
     CHECK(note(3) == debut + message(873));
     CHECK(note(4) == debut + "> 3" + message(874) + " 2" + message(866) + " 1" + message(875));
 }
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: each attribute has a row with its word") {
+    for (const char* tag :
+         {"CAST", "DSCR", "EDUC", "ENDL", "FCOM", "GIVN", "GRAD", "LEGA", "IDNO", "MEDI", "MILI",
+          "NAMR", "RETI", "NATI", "NATU", "NCHI", "NICK", "NMR",  "NPFX", "NSFX", "OCCU", "PROB",
+          "PROP", "RELI", "RESI", "SIGN", "SITE", "SSN",  "STAT", "SPFX", "SURN", "WILL", "TITL"}) {
+        CAPTURE(tag);
+        Importer(std::string{"0 @I1@ INDI\n1 "} + tag + " un mot\n2 DATE 12 MAR 1820\n");
+        CHECK(Texte(1).starts_with("\r\n" + std::string{tag} + " 12/3/1820 "));
+        CHECK(base->DefinitionIndividu().libelles[0] == tag);
+        CHECK(storage::SlotsDe(*base, NoOrdre{1}).at(0) ==
+              storage::ValeurSlot{"12/3", "1820", "un mot"});
+        CHECK(Constats(Constat::NonRepris) + Constats(Constat::DansLaNote) == 0);
+    }
+}
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "An individual: each event has a dated row that only its place fills") {
+    for (const char* tag : {"BARM", "BASM", "BLES", "BURI", "CENS", "CHR", "CONF", "CONL", "CREM",
+                            "EMIG", "IMMI", "ORDI", "ORDN", "ADOP", "BAPM", "CHRA", "BAPL"}) {
+        CAPTURE(tag);
+        const std::string nom{tag};
+        const std::string libelle = nom == "BAPM" || nom == "CHRA" || nom == "BAPL" ? "CHR" : nom;
+        Importer("0 @I1@ INDI\n1 " + nom + " Y\n2 PLAC Saint Malo\n0 @I2@ INDI\n1 " + nom + "\n");
+        CHECK(Texte(1).starts_with("\r\n" + libelle + "      "));
+        CHECK(storage::SlotsDe(*base, NoOrdre{1}).at(0) ==
+              storage::ValeurSlot{"", "", "Saint Malo"});
+        CHECK(Texte(2) == "\r\n" + libelle + "     \r\n");
+        CHECK(base->entete.SlotsIndividu[0].drapeau == '1');
+        CHECK(Constats(Constat::NonRepris) == 0);
+    }
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: a baptism of another church has a row beside CHR") {
+    Importer("0 @I1@ INDI\n1 CHR\n2 DATE 1820\n1 BAPL\n2 DATE 1821\n1 BAPM\n2 DATE 1822\n");
+    CHECK(Texte(1).starts_with("\r\nCHR 1820\r\nCHR 1821\r\n"));
+    CHECK(importation.rapport.Nombre(Constat::DansLaNote, "INDI.BAPM") == 1);
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: each text has its message, alone and in an event") {
+    for (const auto& [tag, no] : {std::pair{"AGNC", 877U},
+                                  {"CAUS", 878U},
+                                  {"CHAN", 879U},
+                                  {"GODP", 805U},
+                                  {"TEMP", 897U},
+                                  {"AUTH", 900U},
+                                  {"CORP", 901U},
+                                  {"PUBL", 905U},
+                                  {"REFN", 646U}}) {
+        CAPTURE(tag);
+        Importer(std::string{"0 @I1@ INDI\n1 "} + tag + " un\n2 CONC mot\n1 DEAT\n2 " + tag +
+                 " deux\n0 @S1@ SOUR\n1 " + tag + " trois\n");
+        const std::string message = session.Message(no);
+        REQUIRE_FALSE(message.empty());
+        CHECK(storage::NoteDe(*base, NoOrdre{1}) ==
+              message + ": un mot\r\n" + session.Message(755) + " - " + message + ": deux");
+        CHECK(base->R_EVT.NoteEvt(NoEvenement{1}) == message + ": trois");
+    }
+}
+
+TEST_CASE_FIXTURE(EssaiImport, "An individual: a second name and a time are texts") {
+    Importer(
+        "0 @I1@ INDI\n1 NAME A /B/\n1 NAME C /D/\n1 DEAT\n2 DATE 1850\n3 TIME 12:30\n2 NAME E\n"
+        "2 NOTE mort\n2 ADDR Rue Haute\n3 CITY Dol\n2 ADDR Autre\n");
+    const std::string deces = session.Message(755);
+    CHECK(storage::NoteDe(*base, NoOrdre{1}) ==
+          session.Message(865) + ": C /D/\r\n" + deces + " - 12:30\r\n" + deces + " - " +
+              session.Message(865) + ": E\r\n" + deces + " - " + session.Message(646) + ": mort");
+    CHECK(storage::SlotsDe(*base, NoOrdre{1}).at(0).lieu == "Rue Haute - Dol - Autre");
+}
