@@ -275,9 +275,8 @@ ReglesNoms PassesImport::Regles() const {
 }
 
 bool PassesImport::Trier() {
-    const bool demander = session_.parametres.Valeur("Defaut", "Tri Import", "1") != "0";
     PhaseDImport avancement{session_.progression};
-    if (demander && session_.dialogue.Confirmer(shell::Msg(1079)))
+    if (session_.parametres.generaux.triImport && session_.dialogue.Confirmer(shell::Msg(1079)))
         return base_.R_TRI.TrierIndividus(memoire_, avancement);
     // A table out of order would mislead every search by rank.
     if (!memoire_.EstTriee(base_.entete.TypeTri, Regles())) base_.entete.TypeTri = '0';

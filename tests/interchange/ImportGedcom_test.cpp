@@ -218,3 +218,31 @@ TEST_CASE_FIXTURE(EssaiImport,
     CHECK(session.CheminBase.empty());
     CHECK_FALSE(session.PersonneEnCours);
 }
+
+TEST_CASE_FIXTURE(EssaiImport, "Import: without the setting of the sort nothing is asked") {
+    session.parametres.generaux.triImport = false;
+    Importer("0 @I1@ INDI\n1 NAME /Z/\n1 BIRT\n2 DATE 1900\n0 @I2@ INDI\n1 NAME /A/\n");
+    CHECK(dialogue.questions.empty());
+    CHECK(base->entete.TypeTri == '0');
+    CHECK(base->R_TRI.IndividuAuRang(1) == NoOrdre{1});
+}
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "Import: the word index of the surnames is there, whatever the sort") {
+    dialogue.reponses = {shell::Reponse::Non};
+    Importer("0 @I1@ INDI\n1 NAME Jean /Dupont/\n1 OCCU maire\n0 @I2@ INDI\n1 NAME Luc /Dupont/\n");
+    NoMotCle noms{};
+    NoMotCle metiers{};
+    for (std::uint32_t k = 1; k <= base->motsCles.Nombre(); ++k) {
+        const storage::MotCle& type = base->motsCles.LibelleType(NoMotCle{k});
+        if (type.libelle == "BIRN" && type.symbole == '|') noms = NoMotCle{k};
+        if (type.libelle == "OCCU") metiers = NoMotCle{k};
+    }
+    REQUIRE(noms);
+    REQUIRE(metiers);
+    REQUIRE(base->R_INDEX.ListeMots(noms).size() == 1);
+    CHECK(base->R_INDEX.MotIndex(base->R_INDEX.ListeMots(noms)[0]) == "DUPONT");
+    CHECK(base->R_INDEX.PersonnesIndex(base->R_INDEX.ListeMots(noms)[0]) ==
+          std::vector{NoOrdre{1}, NoOrdre{2}});
+    CHECK(base->R_INDEX.ListeMots(metiers).size() == 1);
+}
