@@ -74,7 +74,7 @@ public:
         const shell::DemandeFichier& demande) override {
         demandesFichier.push_back(demande);
         if (fichiers.empty()) return std::nullopt;
-        const std::optional<std::filesystem::path> choisi = fichiers.front();
+        std::optional<std::filesystem::path> choisi = fichiers.front();
         fichiers.pop_front();
         return choisi;
     }
