@@ -19,7 +19,8 @@ constexpr std::uint32_t NbBlocsIndex = 160;
 constexpr std::size_t MaxPersonnes = 65535;
 // What is longer is no word. A run full of symbols is a token for each of them: the limit also
 // bounds what comes of it.
-constexpr std::size_t MaxMot = 4095;
+constexpr std::size_t MaxMot = 1023;
+constexpr std::size_t MaxMotLu = 4096;  // of what other programs have indexed
 
 template <class N>
 std::vector<N> LireNumeros(Volume& volume, Position position, std::uint32_t nombre) {
@@ -62,6 +63,24 @@ void AnnulerPaires(std::vector<std::string>& anciens, std::vector<std::string>& 
     });
 }
 
+/// The folded text. Rich text may spell a "#", which would end the word record: it counts as a
+/// dash.
+std::string PlierJetons(std::string_view texte) {
+    std::string replie = Replie(texte);
+    std::replace(replie.begin(), replie.end(), '#', ' ');
+    return replie;
+}
+
+/// The word of a token that is not empty, given its folded form.
+std::string MotDuJeton(std::string_view jeton, std::string_view replie) {
+    const std::string_view mot = SansBlancsADroite(replie);
+    if (!mot.empty()) return std::string{mot};
+    // Of dots alone nothing would be left: the token then stands for itself.
+    std::string brut{jeton};
+    std::replace(brut.begin(), brut.end(), '#', '-');
+    return brut;
+}
+
 }  // namespace
 
 std::string_view CoupeJetons::JetonA(std::size_t debut) {
@@ -74,24 +93,21 @@ std::string_view CoupeJetons::JetonA(std::size_t debut) {
 }
 
 std::string FormeIndexee(std::string_view jeton) {
-    // Rich text may spell a "#", which would end the word record.
-    std::string brut{jeton};
-    std::replace(brut.begin(), brut.end(), '#', '-');
-    std::string mot = Replie(brut);
-    mot.resize(SansBlancsADroite(mot).size());
-    // Of dots alone nothing would be left: the token then stands for itself.
-    return mot.empty() ? brut : mot;
+    return MotDuJeton(jeton, PlierJetons(jeton));
 }
 
 std::vector<std::string> MotsDuTexte(std::string_view texte, char symbole) {
     std::vector<std::string> mots;
     std::string tampon;
     const std::string_view brut = TexteSansRtf(texte, tampon);
+    std::size_t i = brut.find(symbole);
+    if (i == std::string_view::npos) return mots;
+    const std::string replie = PlierJetons(brut);
     CoupeJetons coupe{brut};
-    for (std::size_t i = brut.find(symbole); i != std::string_view::npos;
-         i = brut.find(symbole, i + 1)) {
-        std::string mot = FormeIndexee(coupe.JetonA(i + 1));
-        if (!mot.empty()) mots.push_back(std::move(mot));
+    for (; i != std::string_view::npos; i = brut.find(symbole, i + 1)) {
+        const std::string_view jeton = coupe.JetonA(i + 1);
+        if (!jeton.empty())
+            mots.push_back(MotDuJeton(jeton, std::string_view{replie}.substr(i + 1, jeton.size())));
     }
     return mots;
 }
@@ -131,7 +147,7 @@ std::vector<NoIndex> MotsIndex::ListeMots(NoMotCle k) {
 }
 
 std::string MotsIndex::MotIndex(NoIndex e) {
-    return volume_.LireTexte(CelluleIndex(e).mot, MaxMot + 1);
+    return volume_.LireTexte(CelluleIndex(e).mot, MaxMotLu);
 }
 
 std::vector<NoOrdre> MotsIndex::PersonnesIndex(NoIndex e) {

@@ -26,7 +26,7 @@ public:
     /// `texte` outlives the object and the tokens.
     explicit CoupeJetons(std::string_view texte) : texte_{texte} {}
     /// What stands from `debut` (not 0) up to a blank, a return or the end. Empty when that is
-    /// longer than 4095 bytes: such a run is no word.
+    /// longer than 1023 bytes: such a run is no word.
     [[nodiscard]] std::string_view JetonA(std::size_t debut);
 
 private:

@@ -93,17 +93,17 @@ TEST_CASE_FIXTURE(Bureau, "MajIndex: the 64001st entry is left out and told once
     CHECK(observateur.incidents == std::vector{std::pair{Incident::IndexPlein, 0U}});
 }
 
-TEST_CASE("MotsDuTexte: a run of more than 4095 bytes is no word, what follows it is read") {
-    CHECK(MotsDuTexte("$" + std::string(4095, 'a') + " $b", '$') ==
-          Mots{std::string(4095, 'A'), "B"});
-    CHECK(MotsDuTexte("$" + std::string(4096, 'a') + " $b", '$') == Mots{"B"});
+TEST_CASE("MotsDuTexte: a run of more than 1023 bytes is no word, what follows it is read") {
+    CHECK(MotsDuTexte("$" + std::string(1023, 'a') + " $b", '$') ==
+          Mots{std::string(1023, 'A'), "B"});
+    CHECK(MotsDuTexte("$" + std::string(1024, 'a') + " $b", '$') == Mots{"B"});
 }
 
-TEST_CASE("MotsDuTexte: a hostile run of symbols gives no more than its last 4095 bytes") {
+TEST_CASE("MotsDuTexte: a hostile run of symbols gives no more than its last 1023 bytes") {
     std::string texte;
     for (int i = 0; i < 200000; ++i)
         texte += "$a";
-    CHECK(MotsDuTexte(texte, '$').size() == 2048);
+    CHECK(MotsDuTexte(texte, '$').size() == 512);
 }
 
 TEST_CASE_FIXTURE(Bureau, "MajIndex: a # that rich text spells cuts no word record") {

@@ -246,7 +246,7 @@ std::string MotsCles(const std::string& texte) {
         for (const auto& [mot, valeur] : liste) {
             const std::size_t p = Ou(s, " " + mot + " ");
             if (p == 0) continue;
-            s = Gauche(s, p) + valeur + Milieu(s, p + 1 + mot.size());
+            s.replace(p, mot.size(), valeur);
             trouve = true;
             break;
         }
@@ -365,9 +365,9 @@ TEST_CASE("Against a second writing: the check of dates in every order") {
     int dates = 0;
     for (int i = 0; i < Tours; ++i) {
         const std::string separateur = tirage() % 2 == 0 ? "/" : " ";
-        const std::string texte = std::to_string(tirage() % 34) + separateur +
-                                  std::to_string(tirage() % 14) + separateur +
-                                  std::to_string(tirage() % 10100);
+        std::string texte = std::to_string(tirage() % 34);
+        texte.append(separateur).append(std::to_string(tirage() % 14));
+        texte.append(separateur).append(std::to_string(tirage() % 10100));
         CAPTURE(texte);
         REQUIRE(EstDate(texte, OrdreDate::JourMoisAnnee) ==
                 Existe(texte, OrdreDate::JourMoisAnnee));

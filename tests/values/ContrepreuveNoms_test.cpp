@@ -226,9 +226,12 @@ TEST_CASE("Against a second writing: CleNom and CleTri, with and without moved p
             regles.deplacer = deplacer;
             const std::string cle = CleDeNom(nom, deplacer, regles.particules);
             REQUIRE(CleNom(nom, regles) == cle);
-            REQUIRE(CleTri(nom, prenom, "1820", TypeTri::Nom, regles) == Plie(cle + " " + prenom));
+            std::string nomEtPrenom = cle;
+            nomEtPrenom.append(1, ' ').append(prenom);
+            nomEtPrenom = Plie(nomEtPrenom);
+            REQUIRE(CleTri(nom, prenom, "1820", TypeTri::Nom, regles) == nomEtPrenom);
             REQUIRE(CleTri(nom, prenom, "-44", TypeTri::Naissance, regles) ==
-                    "-044 " + Plie(cle + " " + prenom));
+                    "-044 " + nomEtPrenom);
         }
     }
 }
