@@ -102,6 +102,7 @@ IssueImport ImporterTexte(shell::Session& session, std::string octets,
     if (!ecrite) ouverture.base.reset();
     if (!ecrite || !Installer(session.disque, provisoire, base)) {
         (void)session.disque.Supprimer(provisoire);
+        (void)storage::SupprimerJournal(session.disque, provisoire);
         return fini ? IssueImport::Refuse : IssueImport::Abandonne;
     }
     EnregistrerAuteur(session, import.EnTete(), base);

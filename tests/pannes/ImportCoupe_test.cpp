@@ -119,8 +119,10 @@ void CouperPartout(bool enSuspens) {
             const bool estNouvelle = lu == nouvelle;
             CHECK((estNouvelle || lu == ancienne));
             if (!disque->Mort()) CHECK(estNouvelle == (issue == IssueImport::Fait));
-            if (panne == Panne::Refus && issue != IssueImport::Fait)
+            if (panne == Panne::Refus && issue != IssueImport::Fait) {
                 CHECK_FALSE(apres->Existe(Provisoire));
+                CHECK_FALSE(apres->Existe(CheminJournal(Provisoire)));
+            }
             (estNouvelle ? nouvelles : anciennes) += 1;
             for (std::uint32_t graine = 1; disque->Mort() && graine <= 2; ++graine) {
                 const std::string coupe = Relire(*disque->CouperCourant(graine));
