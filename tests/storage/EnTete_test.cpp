@@ -199,6 +199,49 @@ TEST_CASE("A header survives its own writing, and reserved bytes are 0") {
     CHECK(lu.SlotsIndividu == entete.SlotsIndividu);
 }
 
+TEST_CASE("ComposerEnTete: every field stands at its position") {
+    EnTete entete;
+    entete.NbTriIndividus = 0x1112;
+    entete.DernierIndividu = 0x1314;
+    entete.DernierEvenement = 0x1516;
+    entete.NbTriEvenements = 0x1718;
+    entete.DernierMariage = 0x191A;
+    entete.TypeTri = '2';
+    entete.NbMotsCles = 12;
+    entete.TypePresentation = 0x1B1C;
+    entete.PosRepEvt = Position{0x21222324};
+    entete.PosRepTriEvt = Position{0x25262728};
+    entete.PosRepLstEvt = Position{0x292A2B2C};
+    entete.NbIndex = 0x3132;
+    entete.DernierDocument = 0x3334;
+    entete.NbTriDocuments = 0x3536;
+    entete.OptPrenomUnique = true;
+    entete.OptOrigine97 = true;
+    entete.LibellesNeutres = false;
+    entete.DocBase = NoDocument{0x3738};
+    const LecteurLgd lgd{ComposerEnTete(entete, 0x41424344)};
+    CHECK(lgd.Num4(31) == 0x41424344);
+    CHECK(lgd.Num2(35) == 0x1112);
+    CHECK(lgd.Num2(37) == 0x1314);
+    CHECK(lgd.Num2(39) == 0x1516);
+    CHECK(lgd.Num2(41) == 0x1718);
+    CHECK(lgd.Num2(43) == 0x191A);
+    CHECK(lgd.Octet(45) == '2');
+    CHECK(lgd.Num2(46) == 12);
+    CHECK(lgd.Num2(48) == 0x1B1C);
+    CHECK(lgd.Num4(50) == 0x21222324);
+    CHECK(lgd.Num4(54) == 0x25262728);
+    CHECK(lgd.Num4(58) == 0x292A2B2C);
+    CHECK(lgd.Num2(66) == 0x3132);
+    CHECK(lgd.Num2(101) == 0x3334);
+    CHECK(lgd.Num2(103) == 0x3536);
+    CHECK(lgd.Brut(105, 4) == "1010");
+    CHECK(lgd.Octet(149) == '1');
+    CHECK(lgd.Num2(150) == 0x3738);
+    // The presentation is written for older programs and not read back.
+    CHECK(DecoderEnTete(lgd.Tout(), {}).TypePresentation == 0);
+}
+
 TEST_CASE("PorteMarque: the mark in any case, whole, with a number") {
     CHECK(PorteMarque("[dorvane version 3.0]         "));
     CHECK_FALSE(PorteMarque("[Dorvane Version ]            "));

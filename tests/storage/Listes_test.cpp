@@ -3,6 +3,8 @@
 #include "storage/Essai.h"
 #include "values/Octets.h"
 
+#include <algorithm>
+
 using namespace dorvane;
 using namespace dorvane::storage;
 
@@ -153,6 +155,30 @@ TEST_CASE_FIXTURE(Essai, "R_LSTEVT: events stand by date, equal dates in order o
     CHECK(base->volume.FinFichier() == fin);
     base->R_LSTEVT.ModifierListe(NoOrdre{1}, NoEvenement{3}, 'S');
     CHECK(Numeros(base->R_LSTEVT.ListeDe(NoOrdre{1}), 6) == Suite{4, 2, 1});
+}
+
+TEST_CASE_FIXTURE(Essai,
+                  "R_LSTEVT: fifty events of two days keep their order of arrival within each") {
+    Suite attendu;
+    for (std::uint32_t i = 0; i < 50; ++i) {
+        const NoEvenement e = base->NouvelEvenement();
+        base->R_EVT.EcrireEvt(e, {.cleDate = i % 2 == 0 ? 200 : 100});
+        base->R_LSTEVT.ModifierListe(NoOrdre{1}, e, 'A', "CHIL");
+    }
+    for (std::uint32_t e = 2; e <= 50; e += 2)
+        attendu.push_back(e);
+    for (std::uint32_t e = 1; e <= 50; e += 2)
+        attendu.push_back(e);
+    CHECK(Numeros(base->R_LSTEVT.ListeDe(NoOrdre{1}), 6) == attendu);
+    // Two dates change before the list is sorted once.
+    base->R_EVT.EcrireEvt(NoEvenement{50}, {.cleDate = 50});
+    base->R_EVT.EcrireEvt(NoEvenement{2}, {.cleDate = 300});
+    base->R_LSTEVT.TrierEvenements(NoOrdre{1});
+    attendu.erase(attendu.begin());
+    attendu.erase(std::find(attendu.begin(), attendu.end(), 50U));
+    attendu.insert(attendu.begin(), 50);
+    attendu.push_back(2);
+    CHECK(Numeros(base->R_LSTEVT.ListeDe(NoOrdre{1}), 6) == attendu);
 }
 
 TEST_CASE_FIXTURE(Essai, "The memo of a list follows the person asked for") {

@@ -63,6 +63,12 @@ TEST_CASE("Slots: a value that is no date gives its last four characters as the 
     CHECK(Decouper("CHR ABT 12/3/1850\r\n").slots[1] == V{"ABT 12/3", "1850", ""});
     CHECK(Decouper("CHR 12 mars     \r\n").slots[1] == V{"12 mars", "", ""});
     CHECK(Decouper("CHR 185\r\n").slots[1] == V{"", "185", ""});
+    CHECK(Decouper("CHR vers 1850 \xB0"
+                   "Brest\r\n")
+              .slots[1] == V{"vers", "1850", "Brest"});
+    // The joints of a day, a month and a short year that is none.
+    CHECK(Decouper("CHR 12/3/44?\r\n").slots[1] == V{"12/3", "44?", ""});
+    CHECK(Decouper("CHR 12/3/185?\r\n").slots[1] == V{"12/3", "185?", ""});
 }
 
 TEST_CASE("Slots: a plain slot takes its word, or its place if it has one") {
