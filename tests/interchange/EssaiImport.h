@@ -43,10 +43,10 @@ struct EssaiImport : SessionEssai {
         ImporterOctets(texte + "0 TRLR\r\n");
     }
 
-    [[nodiscard]] std::string Texte(std::uint32_t n) {
+    [[nodiscard]] std::string Texte(std::uint32_t n) const {
         return std::string{base->R_TEXTE.LireTexte(NoOrdre{n})};
     }
-    [[nodiscard]] std::string Nom(std::uint32_t n) {
+    [[nodiscard]] std::string Nom(std::uint32_t n) const {
         return std::string{base->R_NOM.LireTexte(NoOrdre{n})};
     }
     [[nodiscard]] std::size_t Constats(interchange::Constat constat) const {

@@ -254,7 +254,9 @@ TEST_CASE_FIXTURE(EssaiImport,
         CAPTURE(tag);
         const std::string nom{tag};
         const std::string libelle = nom == "BAPM" || nom == "CHRA" || nom == "BAPL" ? "CHR" : nom;
-        Importer("0 @I1@ INDI\n1 " + nom + " Y\n2 PLAC Saint Malo\n0 @I2@ INDI\n1 " + nom + "\n");
+        std::string lignes{"0 @I1@ INDI\n1 "};
+        lignes.append(nom).append(" Y\n2 PLAC Saint Malo\n0 @I2@ INDI\n1 ").append(nom);
+        Importer(lignes.append("\n"));
         CHECK(Texte(1).starts_with("\r\n" + libelle + "      "));
         CHECK(storage::SlotsDe(*base, NoOrdre{1}).at(0) ==
               storage::ValeurSlot{"", "", "Saint Malo"});
@@ -281,12 +283,15 @@ TEST_CASE_FIXTURE(EssaiImport, "An individual: each text has its message, alone 
                                   {"PUBL", 905U},
                                   {"REFN", 646U}}) {
         CAPTURE(tag);
-        Importer(std::string{"0 @I1@ INDI\n1 "} + tag + " un\n2 CONC mot\n1 DEAT\n2 " + tag +
-                 " deux\n0 @S1@ SOUR\n1 " + tag + " trois\n");
+        std::string lignes{"0 @I1@ INDI\n1 "};
+        lignes.append(tag).append(" un\n2 CONC mot\n1 DEAT\n2 ").append(tag);
+        lignes.append(" deux\n0 @S1@ SOUR\n1 ").append(tag).append(" trois\n");
+        Importer(lignes);
         const std::string message = session.Message(no);
         REQUIRE_FALSE(message.empty());
-        CHECK(storage::NoteDe(*base, NoOrdre{1}) ==
-              message + ": un mot\r\n" + session.Message(755) + " - " + message + ": deux");
+        std::string note = message + ": un mot\r\n";
+        note.append(session.Message(755)).append(" - ").append(message).append(": deux");
+        CHECK(storage::NoteDe(*base, NoOrdre{1}) == note);
         CHECK(base->R_EVT.NoteEvt(NoEvenement{1}) == message + ": trois");
     }
 }

@@ -31,9 +31,9 @@ std::string Gedcom() {
     std::string texte = "0 HEAD\n1 NOTE base\n";
     for (int i = 1; i <= 12; ++i) {
         const std::string n = std::to_string(i);
-        texte += "0 @I" + n + "@ INDI\n1 NAME Jean /Neuf" + n + "/\n1 SEX M\n1 BIRT\n2 DATE 18" +
-                 std::to_string(50 - i) +
-                 "\n2 PLAC Vitré\n1 OCCU maire\n1 SOUR @S1@\n1 NOTE @N1@\n";
+        texte.append("0 @I").append(n).append("@ INDI\n1 NAME Jean /Neuf").append(n);
+        texte.append("/\n1 SEX M\n1 BIRT\n2 DATE 18").append(std::to_string(50 - i));
+        texte += "\n2 PLAC Vitré\n1 OCCU maire\n1 SOUR @S1@\n1 NOTE @N1@\n";
     }
     return texte +
            "0 @F1@ FAM\n1 HUSB @I12@\n1 WIFE @I11@\n1 CHIL @I1@\n1 MARR\n2 DATE 1840\n"

@@ -55,7 +55,7 @@ struct Fragile {
     }
     /// Name of person 1 of the base on the disk as the next program finds it, and how many there
     /// are; "" when it is no base.
-    std::string Relire(const fs::path& base) {
+    [[nodiscard]] std::string Relire(const fs::path& base) const {
         const auto apres = disque.Survivre();
         storage::AvancementMuet muet;
         const storage::ResultatOuverture resultat = storage::OuvrirBase(*apres, base, muet);
