@@ -345,7 +345,12 @@ std::string QuitterDateEvenement(std::string_view saisie, OrdreDate ordre, const
 }
 
 std::string DateDeMotCle(std::string_view jourMois, std::string_view annee, OrdreDate ordre) {
-    const std::optional<DateCivile> date = LireDate(JoindreAnnee(jourMois, annee, ordre), ordre);
+    // A year of one or two digits is itself, not one of our time, and never makes a date here.
+    constexpr std::size_t AnneeEntiere = 3;
+    const std::string_view nette = SansBlancs(annee);
+    const std::optional<DateCivile> date =
+        nette.size() < AnneeEntiere ? std::nullopt
+                                    : LireDate(JoindreAnnee(jourMois, nette, ordre), ordre);
     if (date)
         return std::to_string(date->jour) + "/" + std::to_string(date->mois) + "/" +
                std::to_string(date->annee);

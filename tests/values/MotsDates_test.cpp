@@ -330,6 +330,9 @@ TEST_CASE("DateDeMotCle: a whole date is d/m/yyyy, any other a text and a padded
     CHECK(DateDeMotCle("12/3", "1820", Jour) == "12/3/1820");
     CHECK(DateDeMotCle("01/03", " 850", OrdreDate::AnneeMoisJour) == "1/3/850");
     CHECK(DateDeMotCle("ABT", "850", Jour) == "ABT  850");
+    // The year 44 of a person is not 1944.
+    CHECK(DateDeMotCle("12/3", "44", Jour) == "12/3   44");
+    CHECK(DateDeMotCle("12/3", "  44", Jour) == "12/3   44");
     CHECK(DateDeMotCle("29/2", "1821", Jour) == "29/2 1821");
     CHECK(DateDeMotCle("", "", Jour) == "     ");
 }
