@@ -8,6 +8,7 @@
 #include <map>
 #include <sstream>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace dorvane::doublures {
@@ -15,11 +16,16 @@ namespace dorvane::doublures {
 /// A row of a table with a heading, by column.
 using Rang = std::map<std::string, std::string>;
 
-/// Where the files of other programs lie; empty when they are not there.
+/// Where the files of other programs lie: "data/gedcom" of a folder beside the sources. Empty when
+/// there is none.
 inline std::filesystem::path DossierCorpus() {
-    const std::filesystem::path dossier =
-        std::filesystem::path{RACINE_SOURCES} / ".." / "shared" / "data" / "gedcom";
-    return std::filesystem::exists(dossier / "index.tsv") ? dossier : std::filesystem::path{};
+    std::error_code erreur;
+    const std::filesystem::path autour = std::filesystem::path{RACINE_SOURCES}.parent_path();
+    for (const auto& voisin : std::filesystem::directory_iterator{autour, erreur}) {
+        std::filesystem::path dossier = voisin.path() / "data" / "gedcom";
+        if (std::filesystem::exists(dossier / "index.tsv", erreur)) return dossier;
+    }
+    return {};
 }
 
 inline std::vector<Rang> LireIndex(const std::filesystem::path& fichier) {

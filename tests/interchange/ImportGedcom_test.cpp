@@ -69,8 +69,8 @@ TEST_CASE_FIXTURE(EssaiImport, "Import: nothing behind TRLR is read") {
 }
 
 TEST_CASE_FIXTURE(EssaiImport, "Import: zero bytes become blanks and are counted") {
-    ImporterOctets(
-        std::string_view{"0 HEAD\n0 @I1@ INDI\n1 NAME J\0an /Dupont/\n0 TRLR\n\0\0\0", 54});
+    using namespace std::string_view_literals;
+    ImporterOctets("0 HEAD\n0 @I1@ INDI\n1 NAME J\0an /Dupont/\n0 TRLR\n\0\0\0"sv);
     CHECK(Nom(1) == "Dupont;J;an");
     CHECK(importation.rapport.octetsNuls > 0);
 }
