@@ -53,7 +53,10 @@ NoMariage FamillesImport::Unir(NoOrdre epoux, NoOrdre epouse, const LigneGedcom&
         return {};
     }
     const NoMariage m = contexte_.base.NouveauMariage();
-    if (!m) return {};
+    if (!m) {
+        contexte_.rapport.Noter(Constat::Limite, "FAM", ligne.numero);
+        return {};
+    }
     ++un.nbUnions;
     if (epoux != epouse) ++autre.nbUnions;
     unions_.push_back({epoux, epouse});
