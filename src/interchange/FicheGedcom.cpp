@@ -266,6 +266,19 @@ bool FicheGedcom::LireCitation(const LigneGedcom& ligne) {
     return true;
 }
 
+bool FicheGedcom::LireCorpsDeSource(const LigneGedcom& ligne) {
+    const CodeEtiquette parent = contexte_.pile.Parent();
+    if (ligne.code == "TEXT"_tag) {
+        if (parent != "SOUR"_tag && parent != "DATA"_tag) return false;
+        AjouterTexte(894, ligne.valeur);
+        return true;
+    }
+    if (parent != "SOUR"_tag) return false;
+    Ignorer();
+    if (!ligne.valeur.empty()) contexte_.Noter(Constat::NonRepris, ligne);
+    return true;
+}
+
 bool FicheGedcom::LireSousLigne(const LigneGedcom& ligne) {
     switch (ligne.code) {
         case "CONT"_tag:
@@ -328,6 +341,10 @@ bool FicheGedcom::LireSousLigne(const LigneGedcom& ligne) {
         case "QUAY"_tag:
         case "PAGE"_tag:
             return LireCitation(ligne);
+        case "EVEN"_tag:
+        case "DATA"_tag:
+        case "TEXT"_tag:
+            return LireCorpsDeSource(ligne);
         default:
             return false;
     }

@@ -94,6 +94,8 @@ private:
     bool LireAdresse(const LigneGedcom& ligne);
     bool LireAdoption(const LigneGedcom& ligne);
     bool LireCitation(const LigneGedcom& ligne);
+    /// What a citation says of its event, and the words that it quotes.
+    bool LireCorpsDeSource(const LigneGedcom& ligne);
     /// Adds a value to the row of `etiquette`; false when there is no row left.
     bool AjouterAuSlot(const LigneGedcom& ligne, std::string_view etiquette);
 

@@ -152,16 +152,6 @@ bool LecteurFamille::LireSousLigne(const LigneGedcom& ligne) {
             if (sources_.empty() || (parent != "SOUR"_tag && parent != "EVEN"_tag)) return false;
             sources_.back().role = ligne;
             return true;
-        case "EVEN"_tag:
-        case "DATA"_tag:
-            if (parent != "SOUR"_tag) return false;
-            fiche_.Ignorer();
-            if (!ligne.valeur.empty()) contexte_.Noter(Constat::NonRepris, ligne);
-            return true;
-        case "TEXT"_tag:
-            if (parent != "SOUR"_tag && parent != "DATA"_tag) return false;
-            fiche_.AjouterTexte(894, ligne.valeur);
-            return true;
         default:
             return fiche_.LireSousLigne(ligne);
     }

@@ -275,16 +275,6 @@ bool LecteurIndividu::LireSousLigne(const LigneGedcom& ligne) {
             if (!roleOuvert_ || (parent != "SOUR"_tag && parent != "EVEN"_tag)) return false;
             liens_.NommerDernierRole(ligne, 1);
             return true;
-        case "EVEN"_tag:
-        case "DATA"_tag:
-            if (parent != "SOUR"_tag) return false;
-            fiche_.Ignorer();
-            if (!ligne.valeur.empty()) contexte_.Noter(Constat::NonRepris, ligne);
-            return true;
-        case "TEXT"_tag:
-            if (parent != "SOUR"_tag && parent != "DATA"_tag) return false;
-            fiche_.AjouterTexte(894, ligne.valeur);
-            return true;
         case "FAMC"_tag:
             // Under an adoption or a baptism it says by which family; the family record says it
             // too.
