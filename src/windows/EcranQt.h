@@ -13,8 +13,9 @@ public:
     /// Before the session is started; `fenetre` may go first.
     void Attacher(MDIForm1& fenetre) { fenetre_ = &fenetre; }
 
-    /// There is no person sheet that could hold unsaved entries.
-    [[nodiscard]] bool FermerFiche() override { return true; }
+    [[nodiscard]] bool FermerFiche() override {
+        return fenetre_ == nullptr || fenetre_->ConfirmerFermeture();
+    }
     void FermerFenetres() override {
         if (fenetre_ != nullptr) fenetre_->FermerFenetres();
     }

@@ -24,6 +24,24 @@ public:
     /// Takes over the language in use. Called once the controls are there, and after a change.
     virtual void Traduire();
 
+    /// Another window has changed the base: reads again what this one shows. What the user has
+    /// typed and not saved stays.
+    virtual void Recharger() {}
+
+    /// Before another base, or none, is opened: asks what becomes of unsaved entries. False when
+    /// the user keeps the window as it is.
+    [[nodiscard]] virtual bool ConfirmerFermeture() { return true; }
+
+Q_SIGNALS:
+    // What a window asks of the main one. A person is a number.
+
+    /// Show that person in the chart.
+    void allerDemande(quint32 individu);
+    /// Open the person sheet on that person.
+    void ficheDemandee(quint32 individu);
+    /// Something was written to the base: the chart and the other windows read it again.
+    void baseChangee();
+
 protected:
     void showEvent(QShowEvent* evenement) override;
     void done(int resultat) override;

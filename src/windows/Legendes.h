@@ -3,8 +3,8 @@
 #include <QString>
 
 #include <cstdint>
-#include <span>
 #include <string>
+#include <vector>
 
 class QWidget;
 
@@ -34,7 +34,7 @@ struct Legende {
 };
 
 /// All captions of all windows.
-[[nodiscard]] std::span<const Legende> TableLegendes();
+[[nodiscard]] const std::vector<Legende>& TableLegendes();
 
 /// Pours the catalogue into the controls of a window, by their names. Columns of tables are asked
 /// for by their models instead.

@@ -185,6 +185,26 @@ QList<FenetreFille*> MDIForm1::Filles() const {
     return findChildren<FenetreFille*>(QString{}, Qt::FindDirectChildrenOnly);
 }
 
+bool MDIForm1::ConfirmerFermeture() {
+    for (FenetreFille* fille : Filles())
+        if (fille->isVisible() && !fille->ConfirmerFermeture()) return false;
+    return true;
+}
+
+void MDIForm1::Accueillir(FenetreFille& fille) {
+    connect(&fille, &FenetreFille::allerDemande, this,
+            [this](quint32 individu) { AllerA(NoOrdre{individu}); });
+    connect(&fille, &FenetreFille::baseChangee, this, [this, &fille] { RelireTout(&fille); });
+    connect(&fille, &QDialog::finished, this, &MDIForm1::SuivreFenetres);
+}
+
+/// The chart and every window but `sauf` read the base again.
+void MDIForm1::RelireTout(const FenetreFille* sauf) {
+    ActualiserEtat();
+    for (FenetreFille* fille : Filles())
+        if (fille != sauf && fille->isVisible()) fille->Recharger();
+}
+
 void MDIForm1::FermerFenetres() {
     for (FenetreFille* fille : Filles())
         if (!fille->isModal()) fille->close();

@@ -41,6 +41,13 @@ public:
     /// Closes the windows beside this one.
     void FermerFenetres();
 
+    /// Asks every window that holds unsaved entries what becomes of them; false to stay.
+    [[nodiscard]] bool ConfirmerFermeture();
+
+    /// Takes a window beside this one in: what it asks for is done, and it appears in the window
+    /// bar. It is shown by the caller.
+    void Accueillir(FenetreFille& fille);
+
     /// A text in the status bar; empty clears it.
     void Annoncer(const QString& texte);
 
@@ -118,6 +125,11 @@ private:
     void Minuterie();
     void ActualiserEtat();
     [[nodiscard]] QList<FenetreFille*> Filles() const;
+    void RelireTout(const FenetreFille* sauf);
+
+    /// Shows the one window of a class, made at the first call.
+    template <class Fenetre>
+    Fenetre& Montrer();
 
     shell::Session& session_;
     QStackedWidget* pages_;

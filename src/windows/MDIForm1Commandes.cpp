@@ -39,6 +39,20 @@ std::uint32_t TitreGroupe(records::EntreeFamille::Groupe groupe) {
 
 }  // namespace
 
+template <class Fenetre>
+Fenetre& MDIForm1::Montrer() {
+    auto* fenetre = findChild<Fenetre*>(QString{}, Qt::FindDirectChildrenOnly);
+    if (fenetre == nullptr) {
+        fenetre = new Fenetre{session_, this};
+        Accueillir(*fenetre);
+    }
+    fenetre->show();
+    fenetre->raise();
+    fenetre->activateWindow();
+    SuivreFenetres();
+    return *fenetre;
+}
+
 void MDIForm1::Nouveau() {
     shell::MnuNouveau(session_);
 }
@@ -180,12 +194,7 @@ void MDIForm1::BarreFenetres() {
 }
 
 void MDIForm1::Calendrier() {
-    auto* fenetre = findChild<FrmCalendrier*>();
-    if (fenetre == nullptr) fenetre = new FrmCalendrier{session_, this};
-    fenetre->show();
-    fenetre->raise();
-    fenetre->activateWindow();
-    SuivreFenetres();
+    Montrer<FrmCalendrier>();
 }
 
 /// The relatives of a person; choosing one moves there.

@@ -15,15 +15,22 @@
 
 namespace dorvane::doublures {
 
-/// The catalogue of a language as the program is delivered with it, from the lists of texts.
-/// `colonne` is "fr" or "en".
-[[nodiscard]] inline std::string CatalogueDuProjet(const char* colonne) {
+/// All lists of texts of the program.
+[[nodiscard]] inline std::vector<shell::SourceCatalogue> TextesDuProjet() {
     const std::filesystem::path dossier =
         std::filesystem::path{RACINE_SOURCES} / "donnees" / "catalogue";
     std::vector<shell::SourceCatalogue> sources;
-    for (const char* nom : {"messages.tsv", "dorvane.tsv"})
-        sources.push_back({nom, shell::LireTout(dossier / nom).value_or("")});
-    return shell::CompilerCatalogue(sources, colonne).octets;
+    for (const auto& liste : std::filesystem::directory_iterator{dossier})
+        if (liste.path().extension() == ".tsv")
+            sources.push_back(
+                {liste.path().filename().string(), shell::LireTout(liste.path()).value_or("")});
+    return sources;
+}
+
+/// The catalogue of a language as the program is delivered with it, from the lists of texts.
+/// `colonne` is "fr" or "en".
+[[nodiscard]] inline std::string CatalogueDuProjet(const char* colonne) {
+    return shell::CompilerCatalogue(TextesDuProjet(), colonne).octets;
 }
 
 /// A session on a folder of its own, with both catalogues, scripted ports and the real disk. It has

@@ -2,12 +2,14 @@
 
 #include "doublures/DialogueScript.h"
 #include "doublures/DossierTemporaire.h"
+#include "doublures/SessionEssai.h"
 #include "shell/CompilerCatalogue.h"
 
 #include <algorithm>
 #include <cstring>
 #include <map>
 #include <random>
+#include <vector>
 
 #include <doctest/doctest.h>
 
@@ -264,10 +266,7 @@ TEST_CASE("CompilerCatalogue: a number may stand in one list only") {
 }
 
 TEST_CASE("CompilerCatalogue: the program's own lists compile in French and English") {
-    const std::filesystem::path dossier =
-        std::filesystem::path{RACINE_SOURCES} / "donnees" / "catalogue";
-    const SourceCatalogue sources[] = {{"messages.tsv", LireFichier(dossier / "messages.tsv")},
-                                       {"dorvane.tsv", LireFichier(dossier / "dorvane.tsv")}};
+    const std::vector<SourceCatalogue> sources = doublures::TextesDuProjet();
     for (const char* colonne : {"fr", "en"}) {
         CAPTURE(colonne);
         const CatalogueCompile compile = CompilerCatalogue(sources, colonne);

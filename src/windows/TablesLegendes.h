@@ -1,0 +1,13 @@
+#pragma once
+
+#include "windows/Legendes.h"
+
+#include <span>
+
+namespace dorvane::windows {
+
+// The captions by groups of windows, each in a source of its own.
+
+[[nodiscard]] std::span<const Legende> LegendesPrincipales();
+
+}  // namespace dorvane::windows
