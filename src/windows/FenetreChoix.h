@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QDialog>
+
+#include "records/Choix.h"
+#include "windows/FenetreFille.h"
+
+#include <memory>
+
+namespace Ui {
+class FenetreChoix;
+}
+
+namespace dorvane::windows {
+
+/// What the four choosers of a relative share: persons whose years fit, 20 at a time, narrowed by
+/// name. Modal: shown by `exec`, which answers `Accepted` once a person was chosen.
+class FenetreChoix : public FenetreFille {
+public:
+    ~FenetreChoix() override;
+
+    /// The person of the selected row; 0 when there is none.
+    [[nodiscard]] NoOrdre Choisie() const;
+
+    void Traduire() override;
+    void Recharger() override;
+
+protected:
+    /// `nom` is the name of the window. `filtre`: what `TxtNom` starts with, in code page 1252.
+    FenetreChoix(shell::Session& session, const QString& nom, const records::DemandeChoix& demande,
+                 const std::string& filtre, QWidget* parent);
+
+    /// What choosing does; the window closes on true.
+    [[nodiscard]] virtual bool Prendre(NoOrdre individu);
+
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+
+private:
+    class Modele;
+
+    void Valider();
+    void Replier();
+    void Appliquer();
+    void Montrer();
+    void Choisir(int rangee);
+    void Dire();
+    [[nodiscard]] QString TexteFenetre() const;
+    [[nodiscard]] QString TexteVide() const;
+
+    std::unique_ptr<Ui::FenetreChoix> ui_;
+    records::Choix choix_;
+    Modele* modele_;
+};
+
+}  // namespace dorvane::windows
