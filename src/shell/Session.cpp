@@ -69,6 +69,7 @@ void Session::AppliquerReglages() {
 void Session::PoserBase(std::unique_ptr<storage::Base> nouvelle) {
     base = std::move(nouvelle);
     incidents.clear();
+    indexationFaite = true;
     if (!base) return;
     base->marques.observateur = veilleur_.get();
     base->regles.particules = parametres.generaux.particules;

@@ -84,6 +84,9 @@ public:
     int compteurMinuterie = 0;            ///< ticks since the last automatic save
     char TypeTri = '1';                   ///< sort order that the next new base starts with
     bool sansReglages = false;            ///< the user knows that the settings cannot be saved
+    /// The index follows the flags of the open base. False once one of them has changed: every
+    /// commit of a sheet then writes name and text again.
+    bool indexationFaite = true;
     /// What the base has reported since it was opened, with the number of the record. At most 100.
     std::vector<std::pair<storage::Incident, std::uint32_t>> incidents;
 
