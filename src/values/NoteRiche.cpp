@@ -186,12 +186,16 @@ private:
     /// The group that begins at `debut`, to its closing brace, which is put where it is missing.
     std::string Capturer(JetonsRtf& jetons, std::size_t debut) {
         std::size_t profondeur = 1;
+        std::size_t fin = debut;
         while (profondeur > 0 && !jetons.Fini()) {
             const JetonRtf jeton = jetons.Lire();
             if (jeton.sorte == JetonRtf::Sorte::Ouvre) ++profondeur;
             if (jeton.sorte == JetonRtf::Sorte::Ferme) --profondeur;
+            // Cut in the middle, either of these would swallow the brace that is put behind.
+            const bool coupe = jeton.brut == "\\" || jeton.mot == "bin";
+            if (!coupe || !jetons.Fini()) fin = jetons.Place();
         }
-        std::string brut{texte_.substr(debut, jetons.Place() - debut)};
+        std::string brut{texte_.substr(debut, fin - debut)};
         return brut.append(profondeur, '}');
     }
 
@@ -226,6 +230,7 @@ private:
 
     void LireMot(const JetonRtf& jeton) {
         if (LireStyle(jeton) || LireAlignement(jeton)) return;
+        if (jeton.mot == "bin") return;  // bytes of no picture
         if (jeton.mot == "par") return NouveauParagraphe();
         if (jeton.mot == "line") return EcrireTexte({&Saut, 1});
         if (jeton.mot == "u" && jeton.nombre) return LireUnicode(jeton);
@@ -308,10 +313,11 @@ bool EstOrdinaire(const Troncon& troncon) {
     return troncon.objet.empty() && troncon.style == StyleCaracteres{};
 }
 
-bool FinitParMot(std::string_view rtf) {
-    if (rtf.empty()) return false;
-    const char dernier = EnMajuscule(rtf.back());
-    return EstChiffre(dernier) || (dernier >= 'A' && dernier <= 'Z');
+/// A control word needs a blank behind it; a group and a control symbol do not.
+bool EstMotSeul(std::string_view rtf) {
+    if (rtf.size() < 2 || rtf[0] != '\\') return false;
+    const char lettre = EnMajuscule(rtf[1]);
+    return lettre >= 'A' && lettre <= 'Z';
 }
 
 void EcrireOctetHexa(std::string& sortie, unsigned char octet) {
@@ -352,7 +358,7 @@ void EcrireTroncon(std::string& sortie, const Troncon& troncon) {
         EcrireTexteRtf(sortie, troncon.texte);
     } else {
         sortie += troncon.objet;
-        if (FinitParMot(troncon.objet)) sortie += ' ';
+        if (EstMotSeul(troncon.objet)) sortie += ' ';
     }
     if (groupe) sortie += '}';
 }
