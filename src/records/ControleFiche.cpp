@@ -1,0 +1,83 @@
+#include "records/ControleFiche.h"
+
+#include "records/TexteFiche.h"
+#include "values/Comparaison.h"
+
+#include <algorithm>
+#include <array>
+
+namespace dorvane::records {
+
+namespace {
+
+constexpr std::uint32_t LigneTropLongue = 2600;
+constexpr std::size_t TailleAnnee = 4;
+
+/// The longest of the five fields that share the name line.
+Champ ChampLePlusLong(const SaisieFiche& saisie) {
+    struct Longueur {
+        Champ champ;
+        std::size_t taille;
+    };
+    const std::array<Longueur, 5> longueurs{{
+        {Champ::Nom, saisie.nom.size()},
+        {Champ::Prenom, saisie.prenom.size()},
+        {Champ::AutrePrenom, saisie.autrePrenom.size()},
+        {Champ::JourMoisNaissance, saisie.jourMoisNaissance.size()},
+        {Champ::JourMoisDeces, saisie.jourMoisDeces.size()},
+    }};
+    return std::max_element(
+               longueurs.begin(), longueurs.end(),
+               [](const Longueur& a, const Longueur& b) { return a.taille < b.taille; })
+        ->champ;
+}
+
+}  // namespace
+
+Champ ControlerFiche(shell::Session& session, const SaisieFiche& saisie) {
+    Champ champ = Champ::Aucun;
+    if (SansBlancs(saisie.anneeNaissance).empty()) {
+        session.dialogue.Informer(shell::Msg(620));
+        champ = Champ::AnneeNaissance;
+    }
+    if (SansBlancs(saisie.nom).empty() && SansBlancs(saisie.prenom).empty()) {
+        session.dialogue.Informer(shell::Msg(621));
+        return Champ::Nom;
+    }
+    SaisieFiche repartie = saisie;
+    RepartirNoms(repartie);
+    if (ComposerLigneNom(session, repartie).size() > MaxLigneNom) {
+        const Champ long_ = ChampLePlusLong(saisie);
+        session.dialogue.Informer(shell::Msg(LigneTropLongue, std::to_string(MaxLigneNom),
+                                             session.Message(LibelleDeChamp(long_).valeur)));
+        return long_;
+    }
+    return champ;
+}
+
+NoMessage LibelleDeChamp(Champ champ) {
+    switch (champ) {
+        case Champ::Nom:
+            return NoMessage{2602};
+        case Champ::Prenom:
+            return NoMessage{2603};
+        case Champ::AutrePrenom:
+            return NoMessage{2604};
+        case Champ::JourMoisNaissance:
+            return NoMessage{2605};
+        case Champ::JourMoisDeces:
+            return NoMessage{2606};
+        case Champ::Aucun:
+        case Champ::Sexe:
+        case Champ::AnneeNaissance:
+        case Champ::Lien:
+            break;
+    }
+    return {};
+}
+
+std::string CelluleDe(std::string_view annee) {
+    return std::string{SansBlancs(SansBlancs(annee).substr(0, TailleAnnee))};
+}
+
+}  // namespace dorvane::records
