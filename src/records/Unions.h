@@ -26,17 +26,17 @@ enum class Provenance { Cherche, Cree };
 [[nodiscard]] bool PeutAvoirConjoint(shell::Session& session, NoOrdre individu,
                                      Provenance provenance);
 
-/// Both may be joined: two persons, of different sexes, with room in both lists and in the base.
+/// Both may be joined: two persons of the base, not of the same known sex, with room in both lists.
 /// Else the reason is told. Two unions of the same persons are allowed: people marry again.
 [[nodiscard]] bool PeutUnir(shell::Session& session, NoOrdre individu, NoOrdre partenaire);
 
-/// Joins two persons whom `PeutUnir` allows, without years and without text. The husband is who
-/// stands on the side 'H': the man, or the one beside a woman. Asks nothing.
-NoMariage EcrireUnion(shell::Session& session, NoOrdre individu, NoOrdre partenaire);
+/// Makes the union of two persons whom `PeutUnir` allows, without years and without text. Asks
+/// nothing. 0 when the base holds 64000 unions, which is told.
+NoMariage EcrireUnion(shell::Session& session, NoOrdre epoux, NoOrdre epouse);
 
 /// Joins the person of the sheet with a partner, chosen or just created (`C_Rechconjoint`,
-/// `CmdCréConjoint`), and asks for the children of each, one by one, whether they are the other's
-/// too. 0: refused.
+/// `CmdCréConjoint`): a man is the husband, a woman the wife, whatever the partner. Asks for the
+/// children of each, one by one, whether they are the other's too. 0: refused.
 [[nodiscard]] NoMariage CreerUnion(shell::Session& session, NoOrdre individu, NoOrdre partenaire);
 
 /// Takes a union away, after a question (`C_Smar`): its text with the index words, years, cells and

@@ -1,0 +1,220 @@
+#include "records/Choix.h"
+
+#include "records/ModeleFamille.h"
+#include "records/NomsAffiches.h"
+#include "shell/Session.h"
+#include "storage/Base.h"
+#include "values/Comparaison.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace dorvane::records {
+
+namespace {
+
+/// The number made of the first 3 characters of the sort form of a year. A character that is no
+/// digit ("18?") counts as 0; a "-" in front makes it negative.
+int DizaineDe(std::string_view anneeTri) {
+    int dizaine = 0;
+    for (const char c : anneeTri.substr(0, 3))
+        dizaine = dizaine * 10 + (EstChiffre(c) ? c - '0' : 0);
+    return anneeTri.starts_with('-') ? -dizaine : dizaine;
+}
+
+std::string TroisChiffres(int dizaine) {
+    const std::string texte = std::to_string(std::clamp(dizaine, 0, 999));
+    return std::string(3 - texte.size(), '0') + texte;
+}
+
+/// Bounds so many decades away from a year. Below the year 0 the lower one passes all, and the
+/// upper one lets empty years pass.
+FenetreAnnees Borner(std::string_view anneeTri, int de, int a) {
+    const int dizaine = DizaineDe(anneeTri);
+    const char unite = anneeTri[3];
+    return {dizaine + de < 0 ? "-" : TroisChiffres(dizaine + de) + unite,
+            TroisChiffres(dizaine + a) + unite};
+}
+
+FenetreAnnees FenetreDe(SorteChoix sorte, std::string_view naissance, std::string_view deces) {
+    switch (sorte) {
+        case SorteChoix::Parent:
+            return Borner(naissance, -10, -1);
+        case SorteChoix::Enfant:
+            return Borner(naissance, 1, 10);
+        case SorteChoix::Conjoint:
+            return Borner(naissance, -10, 10);
+        case SorteChoix::Lien:
+            break;
+    }
+    // Who died in an unknown year may have known anybody born later.
+    const bool connu = deces != "0000" && !deces.starts_with('Z');
+    return {"-", connu ? std::string{deces} : std::string{}};
+}
+
+/// Dead after a year of birth, or not known to be dead.
+bool Vit(std::string_view deces, std::string_view naissance) {
+    return deces == "0000" || deces > naissance;
+}
+
+std::vector<std::string> Couper(std::string_view texte) {
+    std::vector<std::string> mots;
+    for (std::size_t i = 0; i < texte.size();) {
+        const std::size_t fin = std::min(texte.find(' ', i), texte.size());
+        if (fin > i) mots.emplace_back(texte.substr(i, fin - i));
+        i = fin + 1;
+    }
+    return mots;
+}
+
+bool ContientTout(std::string_view texte, const std::vector<std::string>& mots) {
+    return std::all_of(mots.begin(), mots.end(), [texte](const std::string& mot) {
+        return texte.find(mot) != std::string_view::npos;
+    });
+}
+
+NoOrdre NumeroTape(std::string_view filtre) {
+    filtre = SansBlancs(filtre);
+    const bool chiffres = !filtre.empty() && filtre.size() <= 5 &&
+                          std::all_of(filtre.begin(), filtre.end(), EstChiffre);
+    return NoOrdre{chiffres ? static_cast<std::uint32_t>(
+                                  std::strtoul(std::string{filtre}.c_str(), nullptr, 10))
+                            : 0};
+}
+
+}  // namespace
+
+std::string_view MarqueParents(storage::Base& base, NoOrdre individu) {
+    const bool pere{base.R_PERE.LireCellule(individu)};
+    const bool mere{base.R_MERE.LireCellule(individu)};
+    if (pere) return mere ? "" : "P";
+    return mere ? "M" : "*";
+}
+
+Choix::Choix(shell::Session& session, const DemandeChoix& demande)
+    : session_{session},
+      demande_{demande},
+      naissance_{session.base->R_NAISS.AnneeTri(demande.reference)},
+      deces_{session.base->R_DECES.AnneeTri(demande.reference)},
+      sexe_{session.base->R_SEXE.LireCellule(demande.reference)} {
+    fenetre_ = FenetreDe(demande.sorte, naissance_, deces_);
+    Recommencer();
+}
+
+void Choix::Filtrer(std::string_view filtre) {
+    filtre_ = Replie(filtre);
+    mots_ = Couper(filtre_);
+    numero_ = NumeroTape(filtre_);
+    Recommencer();
+}
+
+void Choix::LeverFenetre(bool levee) {
+    levee_ = levee;
+    Recommencer();
+}
+
+void Choix::Recommencer() {
+    pages_.clear();
+    no_ = 0;
+    rang_ = 0;
+    fini_ = false;
+    LirePage();
+    // The page behind is read as well: so its absence is known before it is asked for.
+    if (!fini_) LirePage();
+}
+
+bool Choix::ASuivante() const {
+    return no_ + 1 < pages_.size();
+}
+
+bool Choix::Precedente() {
+    if (!APrecedente()) return false;
+    --no_;
+    return true;
+}
+
+bool Choix::Suivante() {
+    if (!ASuivante()) return false;
+    ++no_;
+    if (no_ + 1 == pages_.size() && !fini_) LirePage();
+    return true;
+}
+
+bool Choix::SexeConvient(NoOrdre n) const {
+    const char sexe = session_.base->R_SEXE.LireCellule(n);
+    switch (demande_.sorte) {
+        case SorteChoix::Parent:
+            return sexe == demande_.sexe;
+        case SorteChoix::Conjoint:
+            return sexe != sexe_;
+        case SorteChoix::Enfant:
+        case SorteChoix::Lien:
+            break;
+    }
+    return true;
+}
+
+bool Choix::VieConvient(NoOrdre n, const std::string& naissance) const {
+    if (naissance < fenetre_.de || (!fenetre_.a.empty() && naissance > fenetre_.a)) return false;
+    switch (demande_.sorte) {
+        case SorteChoix::Parent:
+            return true;
+        case SorteChoix::Enfant:
+            return deces_ == "0000" || naissance <= deces_;
+        case SorteChoix::Conjoint:
+            return Vit(session_.base->R_DECES.AnneeTri(n), naissance_);
+        case SorteChoix::Lien:
+            break;
+    }
+    return Vit(session_.base->R_DECES.AnneeTri(n), naissance_) && Vit(deces_, naissance);
+}
+
+bool Choix::NomConvient(NoOrdre n) {
+    if (mots_.empty()) return true;
+    // All names of the person count, whether the template shows them or not; ";" is a blank here.
+    const storage::LigneNom ligne = session_.base->R_NOM.LireNom(n);
+    tampon_.clear();
+    for (const std::string_view nom : {ligne.nom, ligne.prenom, ligne.autrePrenom}) {
+        ReplieDans(tampon_, nom);
+        tampon_.push_back(' ');
+    }
+    if (ContientTout(tampon_, mots_)) return true;
+    const ModeleNom& modele = session_.Modele();
+    const bool autres = std::any_of(modele.begin(), modele.end(), [](const std::string& jeton) {
+        return jeton != "FNAM" && jeton != "BIRN" && jeton != "OFNM";
+    });
+    if (!autres) return false;
+    ReplieDans(tampon_, NomAffiche(session_, n));
+    return ContientTout(tampon_, mots_);
+}
+
+void Choix::LirePage() {
+    storage::Base& base = *session_.base;
+    std::vector<NoOrdre> page;
+    if (numero_) {
+        fini_ = true;
+        if (numero_ != demande_.reference && Existe(base, numero_) && SexeConvient(numero_))
+            page.push_back(numero_);
+    }
+    const std::uint32_t total = base.entete.NbTriIndividus;
+    const bool parAnnee = base.entete.TypeTri == '1' && !levee_ && !fenetre_.a.empty();
+    while (!fini_ && page.size() < TaillePage) {
+        if (rang_ >= total) {
+            fini_ = true;
+            break;
+        }
+        const NoOrdre n = base.R_TRI.IndividuAuRang(++rang_);
+        if (!n || n == demande_.reference) continue;
+        const std::string naissance = base.R_NAISS.AnneeTri(n);
+        if (parAnnee && naissance > fenetre_.a) {
+            fini_ = true;
+            break;
+        }
+        if (SexeConvient(n) && (levee_ || VieConvient(n, naissance)) && NomConvient(n))
+            page.push_back(n);
+    }
+    // The first page is there even when it is empty.
+    if (!page.empty() || pages_.empty()) pages_.push_back(std::move(page));
+}
+
+}  // namespace dorvane::records

@@ -1,0 +1,260 @@
+#include "records/Filiation.h"
+
+#include "records/ModeleFamille.h"
+#include "records/NomsAffiches.h"
+#include "records/Questions.h"
+#include "records/Unions.h"
+#include "shell/Session.h"
+#include "storage/Base.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <unordered_set>
+#include <vector>
+
+namespace dorvane::records {
+
+namespace {
+
+using shell::Msg;
+
+constexpr std::uint32_t MsgPropreParent = 2800;
+constexpr std::uint32_t MsgDescendant = 2801;
+constexpr std::uint32_t MsgTropEnfants = 2802;
+constexpr std::uint32_t MsgSexeParent = 2803;
+constexpr std::uint32_t MsgPertePere = 2804;
+constexpr std::uint32_t MsgPerteMere = 2805;
+constexpr std::uint32_t MsgDejaEnfant = 2806;
+constexpr std::uint32_t MsgAbsente = 2807;
+
+char SexeDe(storage::Base& base, NoOrdre n) {
+    return base.R_SEXE.LireCellule(n);
+}
+
+void EcrireParent(storage::Base& base, NoOrdre enfant, char cote, NoOrdre parent) {
+    (cote == 'H' ? base.R_PERE : base.R_MERE).EcrireCellule(enfant, parent);
+}
+
+bool ListeALEnfant(storage::Base& base, NoOrdre parent, NoOrdre enfant) {
+    const std::vector<NoOrdre> enfants = base.R_ENFANT.Elements(parent);
+    return std::find(enfants.begin(), enfants.end(), enfant) != enfants.end();
+}
+
+/// Why the person cannot become the parent; 0 when nothing stands in the way.
+std::uint32_t MotifContre(storage::Base& base, NoOrdre enfant, char cote, NoOrdre parent) {
+    if (!Existe(base, enfant) || !Existe(base, parent)) return MsgAbsente;
+    if (enfant == parent) return MsgPropreParent;
+    if (SexeDe(base, parent) == AutreCote(cote)) return MsgSexeParent;
+    if (EstAscendant(base, enfant, parent)) return MsgDescendant;
+    if (base.R_ENFANT.NbElements(parent) >= storage::MaxElements &&
+        !ListeALEnfant(base, parent, enfant))
+        return MsgTropEnfants;
+    return 0;
+}
+
+/// Asks whether `parent` is the parent of the child on a side where nobody stands, and makes the
+/// link. A question that could only have no for an answer is not asked.
+bool ProposerParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
+    const std::uint32_t motif = MotifContre(*session.base, enfant, cote, parent);
+    if (motif != 0 && motif != MsgTropEnfants) return false;
+    if (!session.dialogue.Confirmer(Nommer(session, cote == 'H' ? 609U : 608U, enfant, parent)))
+        return false;
+    if (!PeutEtreParent(session, enfant, cote, parent)) return false;
+    LierParent(session, enfant, cote, parent);
+    return true;
+}
+
+/// Who stands beside the person on the other side of a union; 0 for none.
+NoOrdre PartenaireDuCote(storage::Base& base, NoOrdre individu, char cote, NoMariage mariage) {
+    const NoOrdre epoux = base.R_EPOUX.LireCellule(mariage);
+    const NoOrdre epouse = base.R_EPOUSE.LireCellule(mariage);
+    if (cote == 'H') return epoux == individu ? epouse : NoOrdre{};
+    return epouse == individu ? epoux : NoOrdre{};
+}
+
+/// For a child without a parent on the other side: the partners of `parent`, union by union, each
+/// asked for once.
+void ProposerPartenaires(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
+    storage::Base& base = *session.base;
+    std::vector<NoOrdre> demandes;
+    for (const NoMariage mariage : base.R_MARIAG.Elements(parent)) {
+        const NoOrdre partenaire = PartenaireDuCote(base, parent, cote, mariage);
+        if (!partenaire || LireParent(base, enfant, AutreCote(cote))) continue;
+        if (std::find(demandes.begin(), demandes.end(), partenaire) != demandes.end()) continue;
+        demandes.push_back(partenaire);
+        if (ProposerParent(session, enfant, AutreCote(cote), partenaire)) return;
+    }
+}
+
+/// Offers a union of both parents, who have none.
+void ProposerUnion(shell::Session& session, char cote, NoOrdre parent, NoOrdre autre) {
+    if (!session.dialogue.Confirmer(Nommer(session, 639, autre))) return;
+    if (!PeutUnir(session, parent, autre)) return;
+    if (cote == 'H')
+        EcrireUnion(session, parent, autre);
+    else
+        EcrireUnion(session, autre, parent);
+}
+
+bool ConfirmerRetraitParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
+    return ConfirmerRetrait(
+        session, Nommer(session, cote == 'H' ? MsgPertePere : MsgPerteMere, parent, enfant));
+}
+
+}  // namespace
+
+void MajEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant, ActionListe action) {
+    session.base->R_ENFANT.ModifierListe(parent, enfant, static_cast<char>(action));
+}
+
+NoOrdre LireParent(storage::Base& base, NoOrdre enfant, char cote) {
+    return (cote == 'H' ? base.R_PERE : base.R_MERE).LireCellule(enfant);
+}
+
+char AutreCote(char cote) {
+    return cote == 'H' ? 'F' : cote == 'F' ? 'H' : ' ';
+}
+
+bool EstAscendant(storage::Base& base, NoOrdre ancetre, NoOrdre individu) {
+    std::unordered_set<std::uint32_t> vus;
+    std::vector<NoOrdre> restants{individu};
+    while (!restants.empty()) {
+        const NoOrdre n = restants.back();
+        restants.pop_back();
+        for (const char cote : {'H', 'F'}) {
+            const NoOrdre parent = LireParent(base, n, cote);
+            if (!parent) continue;
+            if (parent == ancetre) return true;
+            if (vus.insert(parent.valeur).second) restants.push_back(parent);
+        }
+    }
+    return false;
+}
+
+bool PeutEtreParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
+    const std::uint32_t motif = MotifContre(*session.base, enfant, cote, parent);
+    return motif == 0 || Refuser(session, Nommer(session, motif, parent, enfant));
+}
+
+void LierParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
+    storage::Base& base = *session.base;
+    const NoOrdre ancien = LireParent(base, enfant, cote);
+    if (ancien) MajEnfant(session, ancien, enfant, ActionListe::Supprimer);
+    // A damaged base may hold the child in the list without the cell: it must not stand there
+    // twice.
+    MajEnfant(session, parent, enfant, ActionListe::Supprimer);
+    EcrireParent(base, enfant, cote, parent);
+    MajEnfant(session, parent, enfant, ActionListe::Ajouter);
+}
+
+bool DonnerParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
+    storage::Base& base = *session.base;
+    if (!PeutEtreParent(session, enfant, cote, parent)) return false;
+    if (SexeDe(base, parent) != cote)
+        return Refuser(session, Nommer(session, MsgSexeParent, parent));
+    LierParent(session, enfant, cote, parent);
+    const NoOrdre autre = LireParent(base, enfant, AutreCote(cote));
+    if (!autre)
+        ProposerPartenaires(session, enfant, cote, parent);
+    else if (!UnionDe(base, parent, autre))
+        ProposerUnion(session, cote, parent, autre);
+    ProposerEnfants(session, LireParent(base, enfant, AutreCote(cote)), cote, parent, false);
+    return true;
+}
+
+bool ParentCree(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
+    if (!PeutEtreParent(session, enfant, cote, parent)) return false;
+    LierParent(session, enfant, cote, parent);
+    const NoOrdre autre = LireParent(*session.base, enfant, AutreCote(cote));
+    if (autre) ProposerUnion(session, cote, parent, autre);
+    AvertirDeces(session, parent, enfant);
+    ProposerEnfants(session, autre, cote, parent, true);
+    return true;
+}
+
+bool RetirerParent(shell::Session& session, NoOrdre enfant, char cote) {
+    const NoOrdre parent = LireParent(*session.base, enfant, cote);
+    if (!parent || !ConfirmerRetraitParent(session, enfant, cote, parent)) return false;
+    MajEnfant(session, parent, enfant, ActionListe::Supprimer);
+    EcrireParent(*session.base, enfant, cote, {});
+    return true;
+}
+
+bool PeutAvoirEnfant(shell::Session& session, NoOrdre parent, NoMariage mariage) {
+    storage::Base& base = *session.base;
+    if (AutreCote(SexeDe(base, parent)) == ' ') return Refuser(session, Msg(640));
+    const NoOrdre partenaire = mariage ? PartenaireDe(base, parent, mariage) : NoOrdre{};
+    for (const NoOrdre n : {parent, partenaire})
+        if (n && base.R_ENFANT.NbElements(n) >= storage::MaxElements)
+            return Refuser(session, Nommer(session, MsgTropEnfants, n));
+    return true;
+}
+
+bool AttacherEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant) {
+    storage::Base& base = *session.base;
+    const char cote = SexeDe(base, parent);
+    if (AutreCote(cote) == ' ') return Refuser(session, Msg(640));
+    const NoOrdre ancien = LireParent(base, enfant, cote);
+    if (ancien == parent && ListeALEnfant(base, parent, enfant))
+        return Refuser(session, Nommer(session, MsgDejaEnfant, enfant, parent));
+    if (!PeutEtreParent(session, enfant, cote, parent)) return false;
+    if (ancien && ancien != parent) {
+        shell::Phrase texte = Nommer(session, 628, enfant);
+        texte.suite = NoMessage{629};
+        if (!session.dialogue.Confirmer({texte, shell::Phrase{}, shell::Boutons::ValiderAnnuler,
+                                         shell::Reponse::Annuler, true}))
+            return false;
+    }
+    LierParent(session, enfant, cote, parent);
+    ProposerPartenaires(session, enfant, cote, parent);
+    return true;
+}
+
+bool EnfantCree(shell::Session& session, NoOrdre parent, NoOrdre enfant, NoMariage mariage) {
+    storage::Base& base = *session.base;
+    if (!PeutAvoirEnfant(session, parent, mariage)) return false;
+    const char cote = SexeDe(base, parent);
+    if (!PeutEtreParent(session, enfant, cote, parent)) return false;
+    const NoOrdre autre = mariage ? PartenaireDuCote(base, parent, cote, mariage) : NoOrdre{};
+    LierParent(session, enfant, cote, parent);
+    if (autre && PeutEtreParent(session, enfant, AutreCote(cote), autre))
+        LierParent(session, enfant, AutreCote(cote), autre);
+    for (const char c : {'H', 'F'})
+        if (const NoOrdre n = LireParent(base, enfant, c)) AvertirDeces(session, n, enfant);
+    return true;
+}
+
+bool RetirerEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant) {
+    storage::Base& base = *session.base;
+    const bool pere = LireParent(base, enfant, 'H') == parent;
+    const bool mere = LireParent(base, enfant, 'F') == parent;
+    // Whose cell names no such parent is taken out of the list all the same.
+    if (!pere && !mere && !ListeALEnfant(base, parent, enfant)) return false;
+    const char cote = pere && (SexeDe(base, parent) == 'H' || !mere) ? 'H'
+                      : mere                                         ? 'F'
+                                                                     : SexeDe(base, parent);
+    if (!ConfirmerRetraitParent(session, enfant, cote, parent)) return false;
+    if (pere || mere) EcrireParent(base, enfant, cote, {});
+    MajEnfant(session, parent, enfant, ActionListe::Supprimer);
+    return true;
+}
+
+void AvertirDeces(shell::Session& session, NoOrdre parent, NoOrdre enfant) {
+    storage::Base& base = *session.base;
+    if (base.R_DECES.LireCellule(parent).empty()) return;
+    if (base.R_DECES.AnneeTri(parent) < base.R_NAISS.AnneeTri(enfant))
+        session.dialogue.Informer(Msg(636));
+}
+
+void ProposerEnfants(shell::Session& session, NoOrdre autre, char cote, NoOrdre parent,
+                     bool avertir) {
+    if (!autre) return;
+    storage::Base& base = *session.base;
+    for (const NoOrdre enfant : base.R_ENFANT.Elements(autre)) {
+        if (LireParent(base, enfant, cote)) continue;
+        if (ProposerParent(session, enfant, cote, parent) && avertir)
+            AvertirDeces(session, parent, enfant);
+    }
+}
+
+}  // namespace dorvane::records

@@ -1,0 +1,109 @@
+#include "records/Liens.h"
+
+#include "records/ModeleFamille.h"
+#include "records/Questions.h"
+#include "shell/Libelles.h"
+#include "shell/Session.h"
+#include "storage/Base.h"
+#include "values/Comparaison.h"
+
+#include <algorithm>
+
+namespace dorvane::records {
+
+namespace {
+
+using shell::Msg;
+
+constexpr std::uint32_t MsgAbsente = 2807;
+constexpr std::uint32_t MsgPropreLien = 2820;
+constexpr std::uint32_t MsgDejaLies = 2821;
+constexpr std::uint32_t MsgTropLiens = 2822;
+constexpr std::uint32_t MsgLibelleLong = 2823;
+constexpr std::uint32_t MsgPerteLien = 2824;
+
+/// The label as it is stored.
+std::string Stocke(const shell::Session& session, std::string_view libelle) {
+    return storage::SansDiese(shell::TagDeLibelle(session.catalogue, SansBlancs(libelle)));
+}
+
+/// Rank of the entry with that person and that stored label; 0 when there is none.
+std::size_t RangLien(storage::Base& base, NoOrdre individu, NoOrdre autre,
+                     std::string_view stocke) {
+    for (std::size_t k = 1; k <= base.R_LIEN.NbElements(individu); ++k)
+        if (base.R_LIEN.ElementListe(individu, k) == autre &&
+            base.R_LIEN.TexteElement(individu, k) == stocke)
+            return k;
+    return 0;
+}
+
+}  // namespace
+
+std::vector<LienAffiche> ListerLiens(shell::Session& session, NoOrdre individu) {
+    std::vector<LienAffiche> liens;
+    storage::Base& base = *session.base;
+    for (std::size_t k = 1; k <= base.R_LIEN.NbElements(individu); ++k) {
+        LienAffiche lien{
+            k, base.R_LIEN.ElementListe(individu, k),
+            shell::LibelleDeTag(session.catalogue, base.R_LIEN.TexteElement(individu, k))};
+        const bool double_ = std::any_of(liens.begin(), liens.end(), [&lien](const auto& l) {
+            return l.autre == lien.autre && l.libelle == lien.libelle;
+        });
+        if (!double_) liens.push_back(std::move(lien));
+    }
+    return liens;
+}
+
+bool LibelleValable(shell::Session& session, std::string_view libelle) {
+    const std::string stocke = Stocke(session, libelle);
+    if (stocke.empty()) return Refuser(session, Msg(631));
+    return stocke.size() <= storage::MaxTexteElement || Refuser(session, Msg(MsgLibelleLong));
+}
+
+bool AjouterLien(shell::Session& session, NoOrdre individu, NoOrdre autre,
+                 std::string_view libelle) {
+    storage::Base& base = *session.base;
+    for (const NoOrdre n : {individu, autre})
+        if (!Existe(base, n)) return Refuser(session, Nommer(session, MsgAbsente, n));
+    if (individu == autre) return Refuser(session, Nommer(session, MsgPropreLien, individu));
+    if (!LibelleValable(session, libelle)) return false;
+    const std::string stocke = Stocke(session, libelle);
+    // An old base may hold one side only: the missing one is then added.
+    const bool ici = RangLien(base, individu, autre, stocke) != 0;
+    const bool labas = RangLien(base, autre, individu, stocke) != 0;
+    if (ici && labas) return Refuser(session, Nommer(session, MsgDejaLies, individu, autre));
+    for (const auto& [n, present] : {std::pair{individu, ici}, std::pair{autre, labas}})
+        if (!present && base.R_LIEN.NbElements(n) >= storage::MaxElements)
+            return Refuser(session, Nommer(session, MsgTropLiens, n));
+    if (!ici) base.R_LIEN.ModifierListe(individu, autre, 'A', stocke);
+    if (!labas) base.R_LIEN.ModifierListe(autre, individu, 'A', stocke);
+    return true;
+}
+
+bool ChangerLien(shell::Session& session, NoOrdre individu, std::size_t rang,
+                 std::string_view libelle) {
+    storage::Base& base = *session.base;
+    const NoOrdre autre = base.R_LIEN.ElementListe(individu, rang);
+    if (!autre || !LibelleValable(session, libelle)) return false;
+    const std::string stocke = Stocke(session, libelle);
+    if (stocke == base.R_LIEN.TexteElement(individu, rang)) return false;
+    if (RangLien(base, individu, autre, stocke) != 0)
+        return Refuser(session, Nommer(session, MsgDejaLies, individu, autre));
+    base.R_LIEN.ModifierListe(individu, NoOrdre{static_cast<std::uint32_t>(rang)}, 'M', stocke);
+    return true;
+}
+
+bool RetirerLien(shell::Session& session, NoOrdre individu, std::size_t rang) {
+    storage::Base& base = *session.base;
+    const NoOrdre autre = base.R_LIEN.ElementListe(individu, rang);
+    if (!autre) return false;
+    const std::string stocke = base.R_LIEN.TexteElement(individu, rang);
+    shell::Phrase perte = Nommer(session, MsgPerteLien, {}, autre);
+    perte.valeur = shell::LibelleDeTag(session.catalogue, stocke);
+    if (!ConfirmerRetrait(session, perte)) return false;
+    base.R_LIEN.ModifierListe(individu, autre, 'S', stocke);
+    base.R_LIEN.ModifierListe(autre, individu, 'S', stocke);
+    return true;
+}
+
+}  // namespace dorvane::records
