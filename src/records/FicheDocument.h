@@ -86,10 +86,10 @@ enum class SorteDocument : std::uint8_t {
 /// The address of a document of the web or of mail, with its scheme; empty for files.
 [[nodiscard]] std::string AdresseDe(const storage::Document& document);
 
-/// A file as a document of the open base keeps it, in UTF-8: relative when it lies below the folder
-/// of the base, else whole.
-[[nodiscard]] std::string NomPourDocument(const shell::Session& session,
-                                          const std::filesystem::path& fichier);
+/// A file as a document of the open base names it: relative when it lies below the folder of the
+/// base, else whole.
+[[nodiscard]] std::filesystem::path CheminPourDocument(const shell::Session& session,
+                                                       const std::filesystem::path& fichier);
 
 /// Writes beside the base a link file that names `cible`; its path, empty when the system refuses.
 [[nodiscard]] std::filesystem::path CreerLien(const shell::Session& session,

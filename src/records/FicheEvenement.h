@@ -33,7 +33,7 @@ namespace dorvane::records {
 bool SupprimerEvenement(shell::Session& session, NoEvenement evenement);
 
 /// Links one more person to a stored event. A father or mother beside a child of the event becomes
-/// the parent of that child. False, with a message: already there, too many events, unfit role.
+/// the parent of that child. False, with a message: already there in that role, 200 events.
 bool LierPersonne(shell::Session& session, NoEvenement evenement, NoOrdre individu,
                   std::string_view role);
 
@@ -44,7 +44,7 @@ bool DelierPersonne(shell::Session& session, NoEvenement evenement, NoOrdre indi
 /// Moves entry `rang` (from 1) of the persons of an event up (-1) or down (1). False at the ends.
 bool DeplacerLien(shell::Session& session, NoEvenement evenement, std::size_t rang, int pas);
 
-/// The refusal, if any, of one more link in a list that is being edited; nothing is written.
+/// One more link can be added to an event that is being edited; tells why not. Nothing is written.
 [[nodiscard]] bool LienPossible(shell::Session& session, const SaisieEvenement& saisie,
                                 NoOrdre individu, std::string_view role);
 

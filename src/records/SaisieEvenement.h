@@ -20,6 +20,8 @@ struct SaisieEvenement {
     /// Persons and their roles, in the order shown; no two equal entries.
     std::vector<storage::LienEvenement> liens{};
     std::vector<NoDocument> documents{};  ///< in the order shown
+    /// Persons made on the way to a link of this event; as parents they are asked for as new ones.
+    std::vector<NoOrdre> crees{};
 
     friend bool operator==(const SaisieEvenement&, const SaisieEvenement&) = default;
 };

@@ -1,0 +1,251 @@
+#include "records/AccordEvenements.h"
+
+#include "records/Fiche.h"
+#include "records/FicheEvenement.h"
+#include "records/Individus.h"
+#include "records/ModeleFamille.h"
+#include "records/NomsAffiches.h"
+#include "records/TexteFiche.h"
+#include "shell/Session.h"
+#include "storage/Base.h"
+#include "values/Comparaison.h"
+#include "values/MotsDates.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+namespace dorvane::records {
+namespace {
+
+using storage::LienEvenement;
+
+constexpr std::size_t TailleAnnee = 4;
+
+std::uint32_t MessageDe(MiroirFiche miroir) {
+    switch (miroir) {
+        case MiroirFiche::Naissance:
+            return 474;
+        case MiroirFiche::Bapteme:
+            return 470;
+        case MiroirFiche::Deces:
+            return 472;
+        case MiroirFiche::Inhumation:
+            return 469;
+        case MiroirFiche::Mariage:
+            return 471;
+        case MiroirFiche::Aucun:
+            break;
+    }
+    return 0;
+}
+
+/// A date as its two fields show it, in one text.
+std::string Joindre(std::string_view jourMois, std::string_view annee) {
+    return std::string{SansBlancs(std::string{jourMois} + ' ' + std::string{SansBlancs(annee)})};
+}
+
+/// A place as a sheet gives it back: dots and marks of places are lost on the way to the record.
+/// "St. Malo" is no other place than what came of it.
+std::string LieuDeFiche(std::string_view lieu) {
+    std::string rendu = PointsEnBlancs(BlancsEnPoints(lieu));
+    std::replace_if(
+        rendu.begin(), rendu.end(), [](char c) { return c == '$' || c == '~'; }, '-');
+    return rendu;
+}
+
+bool Pareils(const DateEtLieu& a, const DateEtLieu& b) {
+    return a.date == b.date && LieuDeFiche(a.lieu) == LieuDeFiche(b.lieu);
+}
+
+/// The dated row of the sheet for a keyword; nothing when the sheet has none.
+std::optional<std::size_t> RangeeDe(storage::Base& base, std::string_view tag) {
+    const storage::DefinitionSlots definition = base.DefinitionIndividu();
+    for (std::size_t k = 0; k < storage::NbSlots(definition.slots); ++k)
+        if (definition.libelles[k] == tag && definition.slots[k].drapeau == '1') return k;
+    return std::nullopt;
+}
+
+std::optional<std::size_t> RangeeDe(storage::Base& base, MiroirFiche miroir) {
+    return RangeeDe(base, miroir == MiroirFiche::Bapteme ? "CHR" : "BURI");
+}
+
+std::optional<DateEtLieu> LireFiche(shell::Session& session, NoOrdre individu, MiroirFiche miroir) {
+    const SaisieFiche fiche = ChargerFiche(session, individu);
+    if (miroir == MiroirFiche::Naissance)
+        return DateEtLieu{Joindre(fiche.jourMoisNaissance, fiche.anneeNaissance),
+                          fiche.lieuNaissance};
+    if (miroir == MiroirFiche::Deces)
+        return DateEtLieu{Joindre(fiche.jourMoisDeces, fiche.anneeDeces), fiche.lieuDeces};
+    const std::optional<std::size_t> rangee = RangeeDe(*session.base, miroir);
+    if (!rangee) return std::nullopt;
+    const storage::ValeurSlot& valeur = fiche.slots[*rangee];
+    return DateEtLieu{Joindre(MontrerJourMois(session, valeur.jourMois), valeur.annee),
+                      valeur.lieu};
+}
+
+DateEtLieu LireUnion(shell::Session& session, NoMariage mariage) {
+    const SaisieUnion fiche = ChargerUnion(session, mariage);
+    return {Joindre(fiche.jourMois, fiche.debut), fiche.lieu};
+}
+
+/// Day and month, and year, of a shown date.
+struct DateCoupee {
+    std::string jourMois;
+    std::string annee;
+};
+
+DateCoupee Couper(std::string_view date) {
+    if (date.size() <= TailleAnnee) return {{}, std::string{SansBlancs(date)}};
+    const std::size_t coupe = date.size() - TailleAnnee;
+    return {std::string{SansBlancs(date.substr(0, coupe))},
+            std::string{SansBlancs(date.substr(coupe))}};
+}
+
+/// One of the two day-month fields of a name line; the names stay, byte for byte.
+void EcrireJourMois(shell::Session& session, NoOrdre individu, const std::string& jourMois,
+                    bool naissance) {
+    storage::ColonneNoms& noms = session.base->R_NOM;
+    const storage::LigneNom ligne = noms.LireNom(individu);
+    const std::string range = SaisirJourMois(session, jourMois);
+    if ((naissance ? ligne.jourMoisNaissance : ligne.jourMoisDeces) == range) return;
+    std::string nouvelle{ligne.nom};
+    for (const std::string_view champ :
+         {ligne.prenom, ligne.autrePrenom,
+          naissance ? std::string_view{range} : ligne.jourMoisNaissance,
+          naissance ? ligne.jourMoisDeces : std::string_view{range}})
+        nouvelle += ';' + std::string{champ};
+    noms.EcrireNom(individu, nouvelle);
+}
+
+void ReporterFiche(shell::Session& session, NoOrdre individu, MiroirFiche miroir,
+                   const DateEtLieu& fait) {
+    const DateCoupee date = Couper(fait.date);
+    SaisieFiche fiche = ChargerFiche(session, individu);
+    if (miroir == MiroirFiche::Naissance) {
+        ChangerAnneeNaissance(session, individu, date.annee);
+        EcrireJourMois(session, individu, date.jourMois, true);
+        fiche.lieuNaissance = fait.lieu;
+    } else if (miroir == MiroirFiche::Deces) {
+        ChangerAnneeDeces(session, individu, date.annee);
+        EcrireJourMois(session, individu, date.jourMois, false);
+        fiche.lieuDeces = fait.lieu;
+    } else if (const auto rangee = RangeeDe(*session.base, miroir)) {
+        fiche.slots[*rangee] = {date.jourMois, date.annee, fait.lieu};
+    }
+    EcrireTexteIndividu(session, individu, ComposerTexteIndividu(session, fiche));
+}
+
+void ReporterUnion(shell::Session& session, NoMariage mariage, const DateEtLieu& fait) {
+    const DateCoupee date = Couper(fait.date);
+    SaisieUnion fiche = ChargerUnion(session, mariage);
+    fiche.jourMois = date.jourMois;
+    fiche.lieu = fait.lieu;
+    if (session.base->R_DEBMAR.LireCellule(mariage) != date.annee)
+        session.base->R_DEBMAR.EcrireCellule(mariage, date.annee);
+    EcrireTexteMariage(session, mariage, ComposerTexteMariage(session, fiche));
+}
+
+NoOrdre TenantDuRole(const std::vector<LienEvenement>& liens, std::string_view role) {
+    const auto lien = std::find_if(liens.begin(), liens.end(),
+                                   [role](const LienEvenement& l) { return l.role == role; });
+    return lien == liens.end() ? NoOrdre{} : lien->individu;
+}
+
+/// The union that an event tells: the one of husband and wife, by its year when they have several;
+/// of one person alone, the only one.
+NoMariage UnionRacontee(storage::Base& base, const std::vector<LienEvenement>& liens,
+                        NoOrdre individu, std::string_view annee) {
+    const NoOrdre epoux = TenantDuRole(liens, "HUSB");
+    const NoOrdre epouse = TenantDuRole(liens, "WIFE");
+    if (epoux && epouse) {
+        for (const NoMariage m : base.R_MARIAG.Elements(epoux))
+            if (PartenaireDe(base, epoux, m) == epouse &&
+                SansBlancs(base.R_DEBMAR.LireCellule(m)) == annee)
+                return m;
+        return UnionDe(base, epoux, epouse);
+    }
+    return base.R_MARIAG.NbElements(individu) == 1 ? base.R_MARIAG.ElementListe(individu, 1)
+                                                   : NoMariage{};
+}
+
+DateEtLieu LireEvenement(shell::Session& session, NoEvenement e) {
+    const LigneEvenement ligne = LigneDe(session, e);
+    return {ligne.date, ligne.lieu};
+}
+
+std::optional<DateEtLieu> LireMiroir(shell::Session& session, NoOrdre individu,
+                                     MiroirFiche miroir) {
+    if (miroir == MiroirFiche::Aucun) return std::nullopt;
+    if (miroir != MiroirFiche::Mariage) return LireFiche(session, individu, miroir);
+    if (session.base->R_MARIAG.NbElements(individu) != 1) return std::nullopt;
+    return LireUnion(session, session.base->R_MARIAG.ElementListe(individu, 1));
+}
+
+}  // namespace
+
+MiroirFiche MiroirDe(std::string_view type, std::string_view role) {
+    if (role == "CHIL") {
+        if (type == "BIRT") return MiroirFiche::Naissance;
+        if (type == "CHR") return MiroirFiche::Bapteme;
+    }
+    if (role == "DEAD") {
+        if (type == "DEAT") return MiroirFiche::Deces;
+        if (type == "BURI") return MiroirFiche::Inhumation;
+    }
+    if (type == "MARR" && (role == "HUSB" || role == "WIFE")) return MiroirFiche::Mariage;
+    return MiroirFiche::Aucun;
+}
+
+void AccorderEvenements(shell::Session& session, NoOrdre individu) {
+    if (!session.base) return;
+    // An event that moves changes the list of the person: it is read first.
+    for (const LigneEvenement& ligne : EvenementsDe(session, individu)) {
+        const MiroirFiche miroir =
+            MiroirDe(session.base->R_EVT.TypeEvt(ligne.evenement), ligne.role);
+        const std::optional<DateEtLieu> fiche = LireMiroir(session, individu, miroir);
+        if (!fiche || Pareils(*fiche, LireEvenement(session, ligne.evenement))) continue;
+        if (!session.dialogue.Confirmer(shell::Msg(MessageDe(miroir)), shell::Msg(473))) continue;
+        SaisieEvenement saisie = ChargerEvenement(session, ligne.evenement);
+        saisie.date = fiche->date;
+        saisie.lieu = fiche->lieu;
+        // A refusal has been told; the event then stays as it is.
+        static_cast<void>(ValiderEvenement(session, saisie));
+    }
+}
+
+void AccorderFiches(shell::Session& session, NoEvenement evenement) {
+    if (!session.base) return;
+    storage::Base& base = *session.base;
+    const std::string type = base.R_EVT.TypeEvt(evenement);
+    const std::vector<LienEvenement> liens = base.R_EVT.Liens(evenement);
+    const DateEtLieu fait = LireEvenement(session, evenement);
+    std::vector<NoMariage> vues;
+    for (const LienEvenement& lien : liens) {
+        const MiroirFiche miroir = MiroirDe(type, lien.role);
+        if (miroir == MiroirFiche::Aucun || !Existe(base, lien.individu)) continue;
+        NoMariage mariage{};
+        std::optional<DateEtLieu> fiche;
+        if (miroir == MiroirFiche::Mariage) {
+            mariage = UnionRacontee(base, liens, lien.individu, Couper(fait.date).annee);
+            // Husband and wife share the union: one question.
+            if (!mariage || std::find(vues.begin(), vues.end(), mariage) != vues.end()) continue;
+            vues.push_back(mariage);
+            fiche = LireUnion(session, mariage);
+        } else {
+            fiche = LireFiche(session, lien.individu, miroir);
+        }
+        if (!fiche || Pareils(*fiche, fait)) continue;
+        // The title tells whose sheet.
+        const std::string nom{SansBlancs(NomEtDates(session, lien.individu))};
+        if (!session.dialogue.Confirmer(shell::Msg(939), shell::Litteral(nom))) continue;
+        if (mariage)
+            ReporterUnion(session, mariage, fait);
+        else
+            ReporterFiche(session, lien.individu, miroir, fait);
+        base.marques.AffichagePerime = true;
+    }
+}
+
+}  // namespace dorvane::records

@@ -1,0 +1,66 @@
+#include "records/FicheEvenement.h"
+#include "shell/Session.h"
+#include "storage/Base.h"
+
+#include <algorithm>
+
+namespace dorvane::records {
+namespace {
+
+using shell::RoleEvenement;
+using storage::LienEvenement;
+
+bool Tenu(const SaisieEvenement& saisie, const std::string& role) {
+    return std::any_of(saisie.liens.begin(), saisie.liens.end(),
+                       [&role](const LienEvenement& lien) { return lien.role == role; });
+}
+
+bool SexeConvient(shell::Session& session, const RoleEvenement& role, NoOrdre individu) {
+    return role.sexe == ' ' || session.base->R_SEXE.LireCellule(individu) == role.sexe;
+}
+
+}  // namespace
+
+std::vector<RoleEvenement> RolesDe(shell::Session& session, const SaisieEvenement& saisie) {
+    std::vector<RoleEvenement> roles = session.parametres.RolesEvenement(saisie.type);
+    for (const LienEvenement& lien : saisie.liens) {
+        const bool connu = lien.role.empty() || std::any_of(roles.begin(), roles.end(),
+                                                            [&lien](const RoleEvenement& role) {
+                                                                return role.label == lien.role;
+                                                            });
+        if (!connu) roles.push_back({false, ' ', lien.role});
+    }
+    return roles;
+}
+
+std::vector<RoleEvenement> RolesManquants(shell::Session& session, const SaisieEvenement& saisie) {
+    std::vector<RoleEvenement> manquants = session.parametres.RolesEvenement(saisie.type);
+    std::erase_if(manquants, [&saisie](const RoleEvenement& role) {
+        return !role.principal || Tenu(saisie, role.label);
+    });
+    return manquants;
+}
+
+bool RoleConvient(shell::Session& session, std::string_view type, const LienEvenement& lien) {
+    // A label may stand twice, once for each sex.
+    bool connu = false;
+    for (const RoleEvenement& role : session.parametres.RolesEvenement(type)) {
+        if (role.label != lien.role) continue;
+        if (SexeConvient(session, role, lien.individu)) return true;
+        connu = true;
+    }
+    return !connu;
+}
+
+void ChoisirRoles(shell::Session& session, SaisieEvenement& saisie) {
+    for (LienEvenement& lien : saisie.liens) {
+        if (!lien.role.empty()) continue;
+        for (const RoleEvenement& role : RolesManquants(session, saisie)) {
+            if (!SexeConvient(session, role, lien.individu)) continue;
+            lien.role = role.label;
+            break;
+        }
+    }
+}
+
+}  // namespace dorvane::records
