@@ -18,7 +18,7 @@ Atelier::Atelier(const std::string& langue)
 }
 
 int Atelier::Ouvrir(const std::filesystem::path& chemin) {
-    shell::RelaisAvancement avancement{progression};
+    shell::RelaisAvancement avancement{progression, session.catalogue};
     storage::ResultatOuverture resultat = storage::OuvrirBase(session.disque, chemin, avancement);
     shell::DireOuverture(session, resultat.etat, chemin);
     switch (resultat.etat) {

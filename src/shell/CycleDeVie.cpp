@@ -146,7 +146,7 @@ bool OuvrirBase(Session& session) {
     {
         const Attente attente{session.progression};
         session.PoserBase(nullptr);
-        RelaisAvancement avancement{session.progression};
+        RelaisAvancement avancement{session.progression, session.catalogue};
         resultat = storage::OuvrirBase(session.disque, session.CheminBase, avancement);
         if (resultat.base) session.PoserBase(std::move(resultat.base));
     }
@@ -194,7 +194,7 @@ bool OuvrirChemin(Session& session, const fs::path& chemin) {
 void ReprendreAvantRemplacement(Session& session, const fs::path& chemin) {
     if (!session.disque.Existe(chemin) || !session.disque.Existe(storage::CheminJournal(chemin)))
         return;
-    RelaisAvancement avancement{session.progression};
+    RelaisAvancement avancement{session.progression, session.catalogue};
     const storage::ResultatOuverture ancienne =
         storage::OuvrirBase(session.disque, chemin, avancement);
     if (ancienne.base) static_cast<void>(ancienne.base->Fermer());

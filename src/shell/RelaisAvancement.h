@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/Libelles.h"
 #include "shell/Progression.h"
 #include "storage/Avancement.h"
 
@@ -8,8 +9,9 @@ namespace dorvane::shell {
 /// Shows the long jobs of the storage floor in the progress frame.
 class RelaisAvancement final : public storage::Avancement {
 public:
-    /// `progression` outlives the object.
-    explicit RelaisAvancement(Progression& progression) : progression_{progression} {}
+    /// Both outlive the object.
+    RelaisAvancement(Progression& progression, const Catalogue& catalogue)
+        : progression_{progression}, catalogue_{catalogue} {}
 
     void Commencer(const storage::TexteAvancement& titre,
                    const storage::TexteAvancement& texte) override {
@@ -25,11 +27,12 @@ public:
 
 private:
     /// A literal behind a message, such as the label of a keyword, is its value.
-    [[nodiscard]] static dorvane::shell::Phrase VersPhrase(const storage::TexteAvancement& texte) {
-        return {texte.message, std::string{texte.litteral}, {}, {}};
+    [[nodiscard]] dorvane::shell::Phrase VersPhrase(const storage::TexteAvancement& texte) const {
+        return {texte.message, LibelleDeTag(catalogue_, texte.litteral), {}, {}};
     }
 
     Progression& progression_;
+    const Catalogue& catalogue_;
 };
 
 }  // namespace dorvane::shell

@@ -46,7 +46,8 @@ const MotCle& MotsCles::LibelleType(NoMotCle k) {
     if (!lu_[i]) {
         std::string fiche(MaxFiche, '\0');
         memo_[i] = {};
-        if (volume_.Lire(Position{repertoire_[i]}, fiche) > 0) memo_[i] = DecoderFiche(fiche);
+        if (repertoire_[i] != 0 && volume_.Lire(Position{repertoire_[i]}, fiche) > 0)
+            memo_[i] = DecoderFiche(fiche);
         lu_[i] = true;
     }
     return memo_[i];
@@ -64,6 +65,14 @@ void MotsCles::CreerType(NoMotCle k, const MotCle& type) {
     repertoire_[i] = volume_.Ajouter(ComposerFiche(type)).valeur;
     lu_[i] = false;
     entete_.NbMotsCles = std::max(entete_.NbMotsCles, k.valeur);
+    marques_.ModifBase = true;
+}
+
+void MotsCles::EffacerType(NoMotCle k) {
+    const std::size_t i = k.valeur - 1ULL;
+    if (i >= Nombre() || i >= MaxMotsCles) return;
+    repertoire_[i] = 0;
+    lu_[i] = false;
     marques_.ModifBase = true;
 }
 

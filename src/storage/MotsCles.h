@@ -34,6 +34,9 @@ public:
     /// Writes the record of `k`, 1 to 50, at the end of the file; a `k` behind the last one makes
     /// it the last. The label is cut to 34 bytes.
     void CreerType(NoMotCle k, const MotCle& type);
+    /// Takes keyword `k` away: its place in the directory becomes 0 and reads as an empty keyword
+    /// with a blank symbol. The number of keywords stays.
+    void EffacerType(NoMotCle k);
     /// Takes the table over in memory: new number i is old number `ordre[i-1]`. Records stay.
     void Reordonner(std::span<const NoMotCle> ordre);
 
