@@ -3,6 +3,7 @@
 #include "shell/Dialogue.h"
 
 #include <deque>
+#include <functional>
 #include <ostream>
 #include <vector>
 
@@ -42,10 +43,12 @@ public:
     std::deque<shell::Reponse> reponses;
     std::deque<NoOrdre> personnes;
     std::deque<std::optional<std::filesystem::path>> fichiers;
+    std::function<void()> pendant;  ///< what is looked at while a message or question stands
 
     void Informer(const shell::Phrase& texte, const shell::Phrase& titre) override {
         entendu.push_back(texte);
         titres.push_back(titre);
+        if (pendant) pendant();
     }
 
     void Annoncer(const shell::Phrase& texte) override { annonces.push_back(texte); }
@@ -54,6 +57,7 @@ public:
         entendu.push_back(question.texte);
         titres.push_back(question.titre);
         questions.push_back(question);
+        if (pendant) pendant();
         if (reponses.empty())
             return question.boutons == shell::Boutons::OuiNon ? shell::Reponse::Non
                                                               : shell::Reponse::Annuler;

@@ -1,0 +1,133 @@
+#include "records/Liens.h"
+
+#include "records/EssaiFamille.h"
+#include "shell/Libelles.h"
+
+using namespace dorvane;
+using namespace dorvane::records;
+
+namespace {
+
+using Dits = std::vector<std::string>;
+using Rangees = std::vector<LienAffiche>;
+
+struct Famille : EssaiFamille {
+    NoOrdre paul = Creer('H', "Noir", "Paul", "1820");
+    NoOrdre anne = Creer('F', "Blanc", "Anne", "1825");
+    NoOrdre luc = Creer('H', "Noir", "Luc", "1850");
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Famille, "AjouterLien: the same label stands on both sides") {
+    CHECK(AjouterLien(session, paul, anne, " voisin "));
+    CHECK(ListerLiens(session, paul) == Rangees{{1, anne, "voisin"}});
+    CHECK(ListerLiens(session, anne) == Rangees{{1, paul, "voisin"}});
+    CHECK(base.marques.AffichagePerime);
+}
+
+TEST_CASE_FIXTURE(
+    Famille, "AjouterLien: a known word is stored as its tag and shown in the language in use") {
+    const std::string parrain = session.Message(912);
+    REQUIRE(!parrain.empty());
+    const std::string tag = shell::TagDeLibelle(session.catalogue, parrain);
+    REQUIRE(tag != parrain);
+    CHECK(AjouterLien(session, paul, luc, parrain));
+    CHECK(base.R_LIEN.TexteElement(paul, 1) == tag);
+    CHECK(ListerLiens(session, luc) == Rangees{{1, paul, parrain}});
+}
+
+TEST_CASE_FIXTURE(
+    Famille, "AjouterLien: oneself, nobody, no label, a long one and the same link are refused") {
+    CHECK(AjouterLien(session, paul, anne, "voisin"));
+    base.marques.ModifBase = false;
+    CHECK_FALSE(AjouterLien(session, paul, paul, "voisin"));
+    CHECK_FALSE(AjouterLien(session, paul, NoOrdre{9}, "voisin"));
+    CHECK_FALSE(AjouterLien(session, paul, luc, "  "));
+    CHECK_FALSE(AjouterLien(session, paul, luc, std::string(50, 'x')));
+    CHECK_FALSE(AjouterLien(session, anne, paul, "voisin"));
+    CHECK(Dit() == Dits{"2820(Paul Noir)", "2807", "631", "2823", "2821(Anne Blanc, Paul Noir)"});
+    CHECK_FALSE(base.marques.ModifBase);
+    CHECK(AjouterLien(session, paul, luc, std::string(49, 'x')));
+    CHECK(AjouterLien(session, paul, anne, "ami"));
+    CHECK(ListerLiens(session, paul).size() == 3);
+}
+
+TEST_CASE_FIXTURE(Famille, "AjouterLien: a '#' does not cut the label") {
+    CHECK(AjouterLien(session, paul, anne, "n#1"));
+    CHECK(ListerLiens(session, anne) == Rangees{{1, paul, "n-1"}});
+    CHECK_FALSE(AjouterLien(session, paul, anne, "n#1"));
+    CHECK(Dit() == Dits{"2821(Paul Noir, Anne Blanc)"});
+}
+
+TEST_CASE_FIXTURE(Famille, "AjouterLien: the side that an old base lacks is added") {
+    base.R_LIEN.ModifierListe(paul, anne, 'A', "voisin");
+    CHECK(AjouterLien(session, paul, anne, "voisin"));
+    CHECK(ListerLiens(session, paul).size() == 1);
+    CHECK(ListerLiens(session, anne).size() == 1);
+}
+
+TEST_CASE_FIXTURE(Famille, "A 201st link, on either side, changes nothing") {
+    for (int i = 0; i < 200; ++i) {
+        const std::string libelle = "lien " + std::to_string(i);
+        Lier(paul, luc, libelle);
+        Lier(luc, paul, libelle);
+    }
+    base.marques.ModifBase = false;
+    CHECK_FALSE(AjouterLien(session, paul, anne, "voisin"));
+    CHECK_FALSE(AjouterLien(session, anne, paul, "voisin"));
+    CHECK(Dit() == Dits{"2822(Paul Noir)", "2822(Paul Noir)"});
+    CHECK(ListerLiens(session, anne).empty());
+    CHECK_FALSE(base.marques.ModifBase);
+}
+
+TEST_CASE_FIXTURE(Famille,
+                  "ListerLiens: an entry that is there already is left out, the ranks stay") {
+    for (const char* libelle : {"ami", "ami", "voisin"})
+        base.R_LIEN.ModifierListe(paul, anne, 'A', libelle);
+    CHECK(ListerLiens(session, paul) == Rangees{{1, anne, "ami"}, {3, anne, "voisin"}});
+    base.R_LIEN.EcrireListe(paul, "");
+}
+
+TEST_CASE_FIXTURE(Famille,
+                  "ChangerLien: for this side only; the far side then outlives a removal") {
+    CHECK(AjouterLien(session, paul, anne, "voisin"));
+    CHECK_FALSE(ChangerLien(session, paul, 1, "voisin"));
+    CHECK(ChangerLien(session, paul, 1, "ami"));
+    CHECK(ListerLiens(session, paul) == Rangees{{1, anne, "ami"}});
+    CHECK(ListerLiens(session, anne) == Rangees{{1, paul, "voisin"}});
+    CHECK(Dit().empty());
+    dialogue.pendant = nullptr;  // the sides differ from here on
+    Repondre({Oui});
+    CHECK(RetirerLien(session, paul, 1));
+    CHECK(Dit() == Dits{"2824(ami, Anne Blanc)+617"});
+    CHECK(ListerLiens(session, paul).empty());
+    CHECK(ListerLiens(session, anne) == Rangees{{1, paul, "voisin"}});
+    base.R_LIEN.EcrireListe(anne, "");
+}
+
+TEST_CASE_FIXTURE(Famille,
+                  "ChangerLien: no label, one that is there, and no such entry are refused") {
+    CHECK(AjouterLien(session, paul, anne, "voisin"));
+    CHECK(AjouterLien(session, paul, anne, "ami"));
+    CHECK_FALSE(ChangerLien(session, paul, 1, ""));
+    CHECK_FALSE(ChangerLien(session, paul, 1, "ami"));
+    CHECK_FALSE(ChangerLien(session, paul, 3, "oncle"));
+    CHECK_FALSE(ChangerLien(session, paul, 0, "oncle"));
+    CHECK(Dit() == Dits{"631", "2821(Paul Noir, Anne Blanc)"});
+    CHECK(ListerLiens(session, paul) == Rangees{{1, anne, "voisin"}, {2, anne, "ami"}});
+}
+
+TEST_CASE_FIXTURE(Famille, "RetirerLien: both entries go after a yes, none after a no") {
+    CHECK(AjouterLien(session, paul, anne, "voisin"));
+    CHECK(AjouterLien(session, paul, anne, "ami"));
+    Repondre({Non});
+    CHECK_FALSE(RetirerLien(session, anne, 1));
+    CHECK(ListerLiens(session, anne).size() == 2);
+    Repondre({Oui});
+    CHECK(RetirerLien(session, anne, 1));
+    CHECK(ListerLiens(session, paul) == Rangees{{1, anne, "ami"}});
+    CHECK(ListerLiens(session, anne) == Rangees{{1, paul, "ami"}});
+    CHECK_FALSE(RetirerLien(session, anne, 2));
+    CHECK(Dit() == Dits{"2824(voisin, Paul Noir)+617", "2824(voisin, Paul Noir)+617"});
+}
