@@ -1,7 +1,9 @@
 #include "records/Fiche.h"
 
+#include "records/AccordEvenements.h"
 #include "records/ControleFiche.h"
 #include "records/Individus.h"
+#include "records/Liens.h"
 #include "records/Rangement.h"
 #include "records/TexteFiche.h"
 #include "shell/Libelles.h"
@@ -14,8 +16,6 @@
 namespace dorvane::records {
 
 namespace {
-
-constexpr std::uint32_t LibelleTropLong = 2601;
 
 bool DansLaBase(const shell::Session& session, NoOrdre n) {
     return session.base && n && n.valeur <= session.base->entete.DernierIndividu;
@@ -109,12 +109,11 @@ private:
         return issue_;
     }
 
-    /// A label that would be cut is refused before anything is written.
+    /// A label that would be cut is refused before anything is written; an empty one later, when
+    /// its turn comes.
     [[nodiscard]] bool LibelleCourt() {
-        if (!saisie_.lien || LibelleStocke().size() <= storage::MaxTexteElement) return true;
-        session_.dialogue.Informer(
-            shell::Msg(LibelleTropLong, std::to_string(storage::MaxTexteElement)));
-        return false;
+        if (!saisie_.lien || SansBlancs(saisie_.lien->libelle).empty()) return true;
+        return LibelleValable(session_, SansBlancs(saisie_.lien->libelle));
     }
 
     [[nodiscard]] std::string LibelleStocke() const {
@@ -292,7 +291,9 @@ bool FicheModifiee(shell::Session& session, const SaisieFiche& saisie) {
 
 IssueFiche ValiderFiche(shell::Session& session, SaisieFiche& saisie) {
     if (!session.base || (saisie.individu && !DansLaBase(session, saisie.individu))) return {};
-    return Validation{session, saisie}.Executer();
+    const IssueFiche issue = Validation{session, saisie}.Executer();
+    if (!issue.EstRefusee()) AccorderEvenements(session, issue.individu);
+    return issue;
 }
 
 std::vector<Fratrie> FratrieDe(shell::Session& session, NoOrdre individu) {

@@ -53,11 +53,21 @@ std::string LignesEntieres(std::string_view note) {
     return entieres;
 }
 
+/// What a day-month field stores. A field that shows what `stocke` shows was not touched: the text
+/// shown may be shorter than the stored one ("ABT 12 MAY" shows as "mai"), which must not be lost
+/// by a change of something else.
+std::string GarderJourMois(const shell::Session& session, std::string_view champ,
+                           std::string_view stocke) {
+    if (MontrerJourMois(session, stocke) == UneLigne(champ))
+        return storage::SansSeparateur(SansBlancs(stocke));
+    return SaisirJourMois(session, champ);
+}
+
 /// The date of a slot line with the blank in front of it; empty when there is none.
 std::string DateDeLigne(const shell::Session& session, const storage::ValeurSlot& valeur,
-                        char symbole) {
+                        std::string_view stocke, char symbole) {
     const std::string annee = UneLigne(valeur.annee).substr(0, TailleAnnee);
-    std::string jourMois = SaisirJourMois(session, valeur.jourMois);
+    std::string jourMois = GarderJourMois(session, valeur.jourMois, stocke);
     // A sign of punctuation in the date would end it there; letters and digits belong to dates.
     if (!EstChiffre(symbole) && EnMajuscule(symbole) == EnMinuscule(symbole) && symbole != '/')
         jourMois = SansMarques(std::move(jourMois), {&symbole, 1});
@@ -69,11 +79,14 @@ std::string DateDeLigne(const shell::Session& session, const storage::ValeurSlot
     return ' ' + jourMois + std::string(1 + TailleAnnee - annee.size(), ' ') + annee;
 }
 
+/// `ancien`: the text that the record holds now.
 void AjouterSlots(std::string& texte, const shell::Session& session, const RangeesSlots& rangees,
-                  const storage::DefinitionSlots& definition) {
+                  const storage::DefinitionSlots& definition, std::string_view ancien) {
+    const storage::TableSlots stockes = storage::DecouperTexte(ancien, definition).slots;
     for (std::size_t k = 0; k < storage::NbSlots(definition.slots); ++k) {
         const char symbole = definition.slots[k].symbole;
-        const std::string date = DateDeLigne(session, rangees[k], symbole);
+        const std::string date = DateDeLigne(
+            session, rangees[k], k < stockes.size() ? stockes[k].jourMois : "", symbole);
         const std::string lieu = UneLigne(rangees[k].lieu);
         // Without a label the line would come back as a line of the note.
         if (definition.libelles[k].empty() || (date.empty() && lieu.empty())) continue;
@@ -126,26 +139,33 @@ std::string ComposerTexteIndividu(shell::Session& session, const SaisieFiche& sa
     if (!prenom.empty()) texte.append(" ¶"_1252).append(SansMarques(prenom, Marques));
     if (!naissance.empty()) texte.append(" $").append(SansMarques(naissance, "~"));
     if (!deces.empty()) texte.append(" ~").append(SansMarques(deces, "$"));
-    AjouterSlots(texte, session, saisie.slots, base.DefinitionIndividu());
+    AjouterSlots(texte, session, saisie.slots, base.DefinitionIndividu(),
+                 base.R_TEXTE.LireTexte(saisie.individu));
     AjouterNote(texte, saisie.note);
     return storage::SansDiese(texte);
 }
 
 std::string ComposerTexteMariage(shell::Session& session, const SaisieUnion& saisie) {
-    std::string texte = SansMarques(SaisirJourMois(session, saisie.jourMois), "@");
+    storage::Base& base = *session.base;
+    std::string texte = SansMarques(
+        GarderJourMois(session, saisie.jourMois, storage::DateMariageBrute(base, saisie.mariage)),
+        "@");
     const std::string lieu = BlancsEnPoints(UneLigne(saisie.lieu));
     if (!lieu.empty()) texte.append(" @").append(lieu);
-    AjouterSlots(texte, session, saisie.slots, session.base->DefinitionMariage());
+    AjouterSlots(texte, session, saisie.slots, base.DefinitionMariage(),
+                 base.R_TXTMAR.LireTexte(saisie.mariage));
     AjouterNote(texte, saisie.note);
     return storage::SansDiese(texte);
 }
 
-std::string ComposerLigneNom(const shell::Session& session, const SaisieFiche& saisie) {
+std::string ComposerLigneNom(shell::Session& session, const SaisieFiche& saisie) {
+    const storage::LigneNom lue = session.base->R_NOM.LireNom(saisie.individu);
     std::string ligne = UneLigne(saisie.nom);
     ligne.append(";").append(UneLigne(saisie.prenom));
     ligne.append(";").append(UneLigne(saisie.autrePrenom));
-    const std::string naissance = SaisirJourMois(session, saisie.jourMoisNaissance);
-    const std::string deces = SaisirJourMois(session, saisie.jourMoisDeces);
+    const std::string naissance =
+        GarderJourMois(session, saisie.jourMoisNaissance, lue.jourMoisNaissance);
+    const std::string deces = GarderJourMois(session, saisie.jourMoisDeces, lue.jourMoisDeces);
     if (!naissance.empty() || !deces.empty())
         ligne.append(";").append(naissance).append(";").append(deces);
     return storage::SansDiese(ligne);

@@ -8,7 +8,9 @@
 
 namespace dorvane::records {
 
-/// What the sheet makes of its fields and of what is stored. All texts in code page 1252.
+/// What the sheet makes of its fields and of what is stored. All texts in code page 1252. A date
+/// field that shows what its stored text shows keeps that text: persons and unions with a number
+/// are looked up.
 
 /// The text record of a person: keyword line, slot lines, note.
 [[nodiscard]] std::string ComposerTexteIndividu(shell::Session& session, const SaisieFiche& saisie);
@@ -17,8 +19,7 @@ namespace dorvane::records {
 [[nodiscard]] std::string ComposerTexteMariage(shell::Session& session, const SaisieUnion& saisie);
 
 /// The name line. The names have been spread (`RepartirNoms`).
-[[nodiscard]] std::string ComposerLigneNom(const shell::Session& session,
-                                           const SaisieFiche& saisie);
+[[nodiscard]] std::string ComposerLigneNom(shell::Session& session, const SaisieFiche& saisie);
 
 /// Moves what stands behind the first ";" of a name in front of the next one. A ";" of the last
 /// name stays: it begins the next field of the line.
