@@ -155,23 +155,23 @@ std::string TitreAffiche(shell::Session& session, NoDocument document) {
     return TitreAffiche(ChargerDocument(session, document).valeurs);
 }
 
-SorteDocument SorteDe(const Document& document) {
+NatureDocument NatureDe(const Document& document) {
     const std::string_view fichier = SansBlancs(document.fichier);
-    if (fichier.empty()) return SorteDocument::Rien;
+    if (fichier.empty()) return NatureDocument::Rien;
     if (MemeTexte(document.type, TypeCourriel) || MemeTexte(document.titre, TypeCourriel) ||
         CommencePar(fichier, SchemaCourriel))
-        return SorteDocument::Courriel;
+        return NatureDocument::Courriel;
     for (const std::string_view schema : {"http://", "https://", "ftp://"})
-        if (CommencePar(fichier, schema)) return SorteDocument::Adresse;
-    return FinitPar(fichier, ".lgo") ? SorteDocument::Lien : SorteDocument::Fichier;
+        if (CommencePar(fichier, schema)) return NatureDocument::Adresse;
+    return FinitPar(fichier, ".lgo") ? NatureDocument::Lien : NatureDocument::Fichier;
 }
 
 std::string AdresseDe(const Document& document) {
     const std::string fichier{SansBlancs(document.fichier)};
-    switch (SorteDe(document)) {
-        case SorteDocument::Adresse:
+    switch (NatureDe(document)) {
+        case NatureDocument::Adresse:
             return fichier;
-        case SorteDocument::Courriel:
+        case NatureDocument::Courriel:
             return CommencePar(fichier, SchemaCourriel) ? fichier
                                                         : std::string{SchemaCourriel} + fichier;
         default:

@@ -74,14 +74,14 @@ struct UsagesDocument {
 [[nodiscard]] std::string TitreAffiche(shell::Session& session, NoDocument document);
 
 /// What opens a document.
-enum class SorteDocument : std::uint8_t {
+enum class NatureDocument : std::uint8_t {
     Rien,      ///< no file is named
     Fichier,   ///< a file
     Lien,      ///< a text file ".lgo" that names the file
     Adresse,   ///< an address of the web
     Courriel,  ///< a mail address
 };
-[[nodiscard]] SorteDocument SorteDe(const storage::Document& document);
+[[nodiscard]] NatureDocument NatureDe(const storage::Document& document);
 
 /// The address of a document of the web or of mail, with its scheme; empty for files.
 [[nodiscard]] std::string AdresseDe(const storage::Document& document);

@@ -160,6 +160,7 @@ IssueEvenement ValiderEvenement(shell::Session& session, SaisieEvenement& saisie
     if (!saisie.evenement) saisie.evenement = base.NouvelEvenement();
     const LiensEvenement anciens = base.R_EVT.Liens(saisie.evenement);
     if (!inchange) EcrireParties(session, saisie.evenement, std::move(parties));
+    saisie.date = DateEnMots(session, saisie.evenement);
     LierFamilles(session, saisie.evenement, anciens, saisie.crees);
     saisie.crees.clear();
 
