@@ -36,6 +36,11 @@ FenetreAnnees Borner(std::string_view anneeTri, int de, int a) {
             TroisChiffres(dizaine + a) + unite};
 }
 
+/// A death year that can be compared: neither empty nor "?" nor words.
+bool Connue(std::string_view deces) {
+    return !deces.starts_with("000") ? !deces.starts_with('Z') : deces[3] > '0' && deces[3] <= '9';
+}
+
 FenetreAnnees FenetreDe(SorteChoix sorte, std::string_view naissance, std::string_view deces) {
     switch (sorte) {
         case SorteChoix::Parent:
@@ -48,13 +53,12 @@ FenetreAnnees FenetreDe(SorteChoix sorte, std::string_view naissance, std::strin
             break;
     }
     // Who died in an unknown year may have known anybody born later.
-    const bool connu = deces != "0000" && !deces.starts_with('Z');
-    return {"-", connu ? std::string{deces} : std::string{}};
+    return {"-", Connue(deces) ? std::string{deces} : std::string{}};
 }
 
 /// Dead after a year of birth, or not known to be dead.
 bool Vit(std::string_view deces, std::string_view naissance) {
-    return deces == "0000" || deces > naissance;
+    return !Connue(deces) || deces > naissance;
 }
 
 std::vector<std::string> Couper(std::string_view texte) {
@@ -160,7 +164,7 @@ bool Choix::VieConvient(NoOrdre n, const std::string& naissance) const {
         case SorteChoix::Parent:
             return true;
         case SorteChoix::Enfant:
-            return deces_ == "0000" || naissance <= deces_;
+            return !Connue(deces_) || naissance <= deces_;
         case SorteChoix::Conjoint:
             return Vit(session_.base->R_DECES.AnneeTri(n), naissance_);
         case SorteChoix::Lien:

@@ -71,6 +71,10 @@ public:
     [[nodiscard]] const DemandeChoix& Demande() const { return demande_; }
     [[nodiscard]] const FenetreAnnees& Fenetre() const { return fenetre_; }
     [[nodiscard]] bool FenetreLevee() const { return levee_; }
+    /// The year of birth of the reference is not known.
+    [[nodiscard]] bool SansAnnee() const { return naissance_ == "0000"; }
+    /// The filter is the number of a person.
+    [[nodiscard]] bool ParNumero() const { return bool{numero_}; }
     /// The filter in its comparison form.
     [[nodiscard]] const std::string& Filtre() const { return filtre_; }
 
