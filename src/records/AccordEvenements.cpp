@@ -90,19 +90,6 @@ DateEtLieu LireUnion(shell::Session& session, NoMariage mariage) {
     return {Joindre(fiche.jourMois, fiche.debut), fiche.lieu};
 }
 
-/// Day and month, and year, of a shown date.
-struct DateCoupee {
-    std::string jourMois;
-    std::string annee;
-};
-
-DateCoupee Couper(std::string_view date) {
-    if (date.size() <= TailleAnnee) return {{}, std::string{SansBlancs(date)}};
-    const std::size_t coupe = date.size() - TailleAnnee;
-    return {std::string{SansBlancs(date.substr(0, coupe))},
-            std::string{SansBlancs(date.substr(coupe))}};
-}
-
 /// One of the two day-month fields of a name line; the names stay, byte for byte.
 void EcrireJourMois(shell::Session& session, NoOrdre individu, const std::string& jourMois,
                     bool naissance) {
@@ -121,7 +108,7 @@ void EcrireJourMois(shell::Session& session, NoOrdre individu, const std::string
 
 void ReporterFiche(shell::Session& session, NoOrdre individu, MiroirFiche miroir,
                    const DateEtLieu& fait) {
-    const DateCoupee date = Couper(fait.date);
+    const DateCoupee date = CouperDate(fait.date);
     SaisieFiche fiche = ChargerFiche(session, individu);
     if (miroir == MiroirFiche::Naissance) {
         ChangerAnneeNaissance(session, individu, date.annee);
@@ -138,7 +125,7 @@ void ReporterFiche(shell::Session& session, NoOrdre individu, MiroirFiche miroir
 }
 
 void ReporterUnion(shell::Session& session, NoMariage mariage, const DateEtLieu& fait) {
-    const DateCoupee date = Couper(fait.date);
+    const DateCoupee date = CouperDate(fait.date);
     SaisieUnion fiche = ChargerUnion(session, mariage);
     fiche.jourMois = date.jourMois;
     fiche.lieu = fait.lieu;
@@ -198,6 +185,24 @@ MiroirFiche MiroirDe(std::string_view type, std::string_view role) {
     return MiroirFiche::Aucun;
 }
 
+DateCoupee CouperDate(std::string_view date) {
+    if (date.size() <= TailleAnnee) return {{}, std::string{SansBlancs(date)}};
+    const std::size_t coupe = date.size() - TailleAnnee;
+    return {std::string{SansBlancs(date.substr(0, coupe))},
+            std::string{SansBlancs(date.substr(coupe))}};
+}
+
+bool EcrireRangees(shell::Session& session, NoOrdre individu, const RangeesSlots& rangees) {
+    if (!session.base || !Existe(*session.base, individu)) return false;
+    SaisieFiche fiche = ChargerFiche(session, individu);
+    if (fiche.slots == rangees) return false;
+    fiche.slots = rangees;
+    const std::string texte = ComposerTexteIndividu(session, fiche);
+    if (texte == session.base->R_TEXTE.LireTexte(individu)) return false;
+    EcrireTexteIndividu(session, individu, texte);
+    return true;
+}
+
 void AccorderEvenements(shell::Session& session, NoOrdre individu) {
     if (!session.base) return;
     // An event that moves changes the list of the person: it is read first.
@@ -228,7 +233,7 @@ void AccorderFiches(shell::Session& session, NoEvenement evenement) {
         NoMariage mariage{};
         std::optional<DateEtLieu> fiche;
         if (miroir == MiroirFiche::Mariage) {
-            mariage = UnionRacontee(base, liens, lien.individu, Couper(fait.date).annee);
+            mariage = UnionRacontee(base, liens, lien.individu, CouperDate(fait.date).annee);
             // Husband and wife share the union: one question.
             if (!mariage || std::find(vues.begin(), vues.end(), mariage) != vues.end()) continue;
             vues.push_back(mariage);

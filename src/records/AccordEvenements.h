@@ -1,6 +1,7 @@
 #pragma once
 
 #include "records/SaisieEvenement.h"
+#include "records/SaisieFiche.h"
 
 #include <cstdint>
 #include <string>
@@ -25,6 +26,19 @@ struct DateEtLieu {
     std::string lieu{};
     friend bool operator==(const DateEtLieu&, const DateEtLieu&) = default;
 };
+
+/// The date of an event as a sheet holds it: day and month, and year.
+struct DateCoupee {
+    std::string jourMois{};
+    std::string annee{};
+    friend bool operator==(const DateCoupee&, const DateCoupee&) = default;
+};
+/// Cuts a date in words in front of its last four characters.
+[[nodiscard]] DateCoupee CouperDate(std::string_view date);
+
+/// Gives a person the values of the keyword rows; the note and the rest stay. False when they were
+/// so already. Nothing is offered to the events.
+bool EcrireRangees(shell::Session& session, NoOrdre individu, const RangeesSlots& rangees);
 
 /// After a sheet was saved: each event of the person that repeats it and differs is offered to be
 /// brought into line, one question each. Events are never changed without one.

@@ -1,5 +1,6 @@
 #include "records/FicheDocument.h"
 
+#include "records/Incidents.h"
 #include "records/Questions.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
@@ -78,15 +79,21 @@ void Ecrire(storage::Base& base, NoDocument d, const Document& document, bool ra
     base.marques.AffichagePerime = true;
 }
 
-}  // namespace
-
-SaisieDocument ChargerDocument(shell::Session& session, NoDocument document) {
+SaisieDocument Lire(shell::Session& session, NoDocument document) {
     if (!session.base || !session.base->R_IMAGE.LireCellule(document)) return {};
     return {document, session.base->R_IMAGE.LireDoc(document)};
 }
 
+}  // namespace
+
+SaisieDocument ChargerDocument(shell::Session& session, NoDocument document) {
+    const SaisieDocument saisie = Lire(session, document);
+    DireIncident(session, storage::Incident::DocumentAbime, saisie.document.valeur);
+    return saisie;
+}
+
 bool DocumentModifie(shell::Session& session, const SaisieDocument& saisie) {
-    const SaisieDocument range = ChargerDocument(session, saisie.document);
+    const SaisieDocument range = Lire(session, saisie.document);
     return Rangee(saisie.valeurs) != Nette(range.valeurs);
 }
 
@@ -105,7 +112,7 @@ IssueDocument ValiderDocument(shell::Session& session, SaisieDocument& saisie) {
     if (document.note.size() > MaxNote)
         return RefuserSaisie(session, shell::Msg(3013), ChampDocument::Note);
 
-    const Document ancien = Nette(ChargerDocument(session, saisie.document).valeurs);
+    const Document ancien = Nette(Lire(session, saisie.document).valeurs);
     saisie.valeurs = document;
     if (saisie.document) {
         if (document == ancien) return {Etat::Inchange, ChampDocument::Aucun};
@@ -152,7 +159,7 @@ std::string TitreAffiche(const Document& document) {
 }
 
 std::string TitreAffiche(shell::Session& session, NoDocument document) {
-    return TitreAffiche(ChargerDocument(session, document).valeurs);
+    return TitreAffiche(Lire(session, document).valeurs);
 }
 
 NatureDocument NatureDe(const Document& document) {

@@ -36,7 +36,8 @@ struct IssueDocument {
     friend bool operator==(const IssueDocument&, const IssueDocument&) = default;
 };
 
-/// What is stored; a new document for 0 and for one that is no more.
+/// What is stored; a new document for 0 and for one that is no more. A record that is damaged is
+/// told, and read as empty.
 [[nodiscard]] SaisieDocument ChargerDocument(shell::Session& session, NoDocument document);
 [[nodiscard]] bool DocumentModifie(shell::Session& session, const SaisieDocument& saisie);
 

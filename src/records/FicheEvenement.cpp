@@ -2,6 +2,7 @@
 
 #include "records/AccordEvenements.h"
 #include "records/EcrireEvenement.h"
+#include "records/Incidents.h"
 #include "records/NomsAffiches.h"
 #include "records/Questions.h"
 #include "shell/Libelles.h"
@@ -96,9 +97,7 @@ void RetirerDesFiches(storage::Base& base, NoEvenement e) {
         base.R_LSTEVT.ModifierListe(lien.individu, e, 'S');
 }
 
-}  // namespace
-
-SaisieEvenement ChargerEvenement(shell::Session& session, NoEvenement evenement) {
+SaisieEvenement Lire(shell::Session& session, NoEvenement evenement) {
     SaisieEvenement saisie;
     if (!session.base || !session.base->R_EVT.LireCellule(evenement)) return saisie;
     storage::Evenements& evt = session.base->R_EVT;
@@ -111,6 +110,14 @@ SaisieEvenement ChargerEvenement(shell::Session& session, NoEvenement evenement)
     saisie.note = evt.NoteEvt(evenement);
     saisie.liens = evt.Liens(evenement);
     saisie.documents = evt.Documents(evenement);
+    return saisie;
+}
+
+}  // namespace
+
+SaisieEvenement ChargerEvenement(shell::Session& session, NoEvenement evenement) {
+    const SaisieEvenement saisie = Lire(session, evenement);
+    DireIncident(session, storage::Incident::EvenementAbime, saisie.evenement.valeur);
     return saisie;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "records/SaisieEvenement.h"
+#include "records/SaisieFiche.h"
 #include "shell/Parametres.h"
 
 #include <cstddef>
@@ -14,7 +15,8 @@ class Session;
 
 namespace dorvane::records {
 
-/// What is stored of an event; a new one for 0 and for an event that is no more.
+/// What is stored of an event; a new one for 0 and for an event that is no more. A record that is
+/// damaged is told, and read as empty.
 [[nodiscard]] SaisieEvenement ChargerEvenement(shell::Session& session, NoEvenement evenement);
 
 /// A new event opened from a person: linked with `role`, or with nobody when `pour` is 0. An empty
@@ -63,6 +65,11 @@ bool DeplacerLien(shell::Session& session, NoEvenement evenement, std::size_t ra
 
 /// Gives the links without a role the first compulsory role that is free and fits.
 void ChoisirRoles(shell::Session& session, SaisieEvenement& saisie);
+
+/// What a person made for a role of the event starts with: the sex that the role asks for, the
+/// surname that father and child share, date and place of a birth or a death.
+[[nodiscard]] SaisieFiche DepartDePersonne(shell::Session& session, const SaisieEvenement& saisie,
+                                           std::string_view role);
 
 /// An event of a person, as the sheet lists it.
 struct LigneEvenement {

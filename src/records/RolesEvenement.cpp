@@ -1,8 +1,11 @@
+#include "records/AccordEvenements.h"
 #include "records/FicheEvenement.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
+#include "values/MotsDates.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace dorvane::records {
 namespace {
@@ -61,6 +64,34 @@ void ChoisirRoles(shell::Session& session, SaisieEvenement& saisie) {
             break;
         }
     }
+}
+
+SaisieFiche DepartDePersonne(shell::Session& session, const SaisieEvenement& saisie,
+                             std::string_view role) {
+    SaisieFiche depart;
+    for (const RoleEvenement& candidat : session.parametres.RolesEvenement(saisie.type))
+        if (candidat.label == role && candidat.sexe != ' ') depart.sexe = candidat.sexe;
+    // Father and child bear one name.
+    const std::string_view parent = role == "FATH" ? "CHIL" : role == "CHIL" ? "FATH" : "";
+    for (const LienEvenement& lien : saisie.liens)
+        if (!parent.empty() && lien.role == parent && depart.nom.empty())
+            depart.nom = session.base->R_NOM.NomDe(lien.individu);
+
+    const MiroirFiche miroir = MiroirDe(saisie.type, role);
+    const std::optional<Serie> serie =
+        SaisirDateEvenement(saisie.date, session.Ordre(), session.Mots());
+    DateCoupee date;
+    if (serie) date = CouperDate(AfficherDateEvenement(*serie, session.Mots()));
+    if (miroir == MiroirFiche::Naissance) {
+        depart.jourMoisNaissance = date.jourMois;
+        depart.anneeNaissance = date.annee;
+        depart.lieuNaissance = saisie.lieu;
+    } else if (miroir == MiroirFiche::Deces) {
+        depart.jourMoisDeces = date.jourMois;
+        depart.anneeDeces = date.annee;
+        depart.lieuDeces = saisie.lieu;
+    }
+    return depart;
 }
 
 }  // namespace dorvane::records

@@ -299,3 +299,19 @@ TEST_CASE_FIXTURE(Scene, "AccorderFiches: the same holds in an English session")
     AccorderEvenements(session, paul);
     CHECK(Dit().empty());
 }
+
+TEST_CASE_FIXTURE(Scene, "EcrireRangees: keyword rows are written, the rest of the text stays") {
+    SaisieFiche fiche = ChargerFiche(session, paul);
+    fiche.note = "Une note";
+    static_cast<void>(ValiderFiche(session, fiche));
+    RangeesSlots rangees = ChargerFiche(session, paul).slots;
+    rangees[0].lieu = "meunier";
+    rangees[1] = {"14 mars", "1820", "Brest"};
+    CHECK(EcrireRangees(session, paul, rangees));
+    CHECK_FALSE(EcrireRangees(session, paul, rangees));
+    CHECK(Rangee(paul, 0) == " , meunier");
+    CHECK(Rangee(paul, 1) == "14 mars 1820, Brest");
+    CHECK(ChargerFiche(session, paul).note == "Une note");
+    CHECK(Naissance(paul) == "12 mars 1820, Brest");
+    CHECK_FALSE(EcrireRangees(session, NoOrdre{99}, rangees));
+}

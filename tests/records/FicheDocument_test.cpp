@@ -303,6 +303,7 @@ TEST_CASE_FIXTURE(Scene, "ChargerDocument: a record without an end is empty, and
     CHECK(ChargerDocument(session, d).valeurs == storage::Document{});
     REQUIRE(session.incidents.size() == 1);
     CHECK(session.incidents[0] == std::pair{storage::Incident::DocumentAbime, d.valeur});
+    CHECK(Dit() == Mots{"3021(1)"});
 }
 
 TEST_CASE_FIXTURE(Scene, "CheminPourDocument: relative below the folder of the base, else whole") {

@@ -461,6 +461,36 @@ TEST_CASE_FIXTURE(Scene,
     CHECK(saisie.liens.size() == 1);
     REQUIRE(session.incidents.size() == 1);
     CHECK(session.incidents[0] == std::pair{storage::Incident::EvenementAbime, e.valeur});
+    CHECK(Dit() == Mots{"3020(1)"});
+}
+
+TEST_CASE_FIXTURE(Scene,
+                  "DepartDePersonne: sex by the role, surname of the family, date and place of "
+                  "birth and death only") {
+    SaisieEvenement saisie = NouvelEvenement(paul, "CHIL");
+    saisie.type = "BIRT";
+    saisie.date = "1/5/820";
+    saisie.lieu = "Brest";
+    SaisieFiche depart = DepartDePersonne(session, saisie, "FATH");
+    CHECK(depart.sexe == 'H');
+    CHECK(depart.nom == "Martin");
+    CHECK(depart.anneeNaissance.empty());
+    CHECK(depart.lieuNaissance.empty());
+    CHECK(DepartDePersonne(session, saisie, "MOTH").sexe == 'F');
+    CHECK(DepartDePersonne(session, saisie, "MOTH").nom.empty());
+    depart = DepartDePersonne(session, saisie, "CHIL");
+    CHECK(depart.sexe == 'I');
+    CHECK(depart.jourMoisNaissance == "1er mai");
+    CHECK(depart.anneeNaissance == "820");
+    CHECK(depart.lieuNaissance == "Brest");
+    saisie.type = "DEAT";
+    depart = DepartDePersonne(session, saisie, "DEAD");
+    CHECK(depart.jourMoisDeces == "1er mai");
+    CHECK(depart.anneeDeces == "820");
+    CHECK(depart.lieuDeces == "Brest");
+    CHECK(depart.anneeNaissance.empty());
+    saisie.date = "?";
+    CHECK(DepartDePersonne(session, saisie, "DEAD").anneeDeces.empty());
 }
 
 TEST_CASE("Operations on events do nothing without a base") {
