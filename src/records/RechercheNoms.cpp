@@ -59,6 +59,13 @@ bool RechercheNoms::Ecarter(NoOrdre individu) {
     return true;
 }
 
+bool RechercheNoms::Relire() {
+    const auto partis = std::erase_if(resultat_, [this](NoOrdre n) {
+        return !session_.BaseOuverte() || !Existe(*session_.base, n);
+    });
+    return partis != 0;
+}
+
 bool Rechercher(RechercheNoms& recherche, shell::Session& session, std::string_view texte,
                 bool cumul, const std::function<void()>& montrer) {
     if (session.progression.EnCours() || !recherche.Commencer(texte, cumul)) return false;
@@ -77,6 +84,12 @@ bool Rechercher(RechercheNoms& recherche, shell::Session& session, std::string_v
     if (abandon) return false;
     if (recherche.Trouves() == 0) session.dialogue.Informer(shell::Msg(551));
     return true;
+}
+
+bool PeutChercherParente(shell::Session& session, const std::vector<NoOrdre>& selection) {
+    if (session.BaseOuverte() && selection.size() >= 2) return true;
+    session.dialogue.Informer(shell::Msg(session.BaseOuverte() ? 555 : 503));
+    return false;
 }
 
 }  // namespace dorvane::records

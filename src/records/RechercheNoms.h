@@ -37,6 +37,8 @@ public:
     bool Ajouter(NoOrdre individu);
     bool Ecarter(NoOrdre individu);
     void Vider() { resultat_.clear(); }
+    /// Takes out who has been deleted since; true when there was somebody.
+    bool Relire();
 
 private:
     [[nodiscard]] bool Convient(NoOrdre n);
@@ -54,5 +56,10 @@ private:
 /// when there was nothing to search, another job runs, or the user gave up: what was found stays.
 bool Rechercher(RechercheNoms& recherche, shell::Session& session, std::string_view texte,
                 bool cumul, const std::function<void()>& montrer);
+
+/// The relationship of the persons of a selection may be looked for: a base is open, and they are
+/// at least two. Else the reason is told.
+[[nodiscard]] bool PeutChercherParente(shell::Session& session,
+                                       const std::vector<NoOrdre>& selection);
 
 }  // namespace dorvane::records

@@ -3,15 +3,19 @@
 #include <QDialog>
 
 #include "records/Choix.h"
+#include "shell/Dialogue.h"
 #include "windows/FenetreFille.h"
 
 #include <memory>
+#include <string>
 
 namespace Ui {
 class FenetreChoix;
 }
 
 namespace dorvane::windows {
+
+class ModelePersonnes;
 
 /// What the four choosers of a relative share: persons whose years fit, 20 at a time, narrowed by
 /// name. Modal: shown by `exec`, which answers `Accepted` once a person was chosen.
@@ -36,20 +40,21 @@ protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
 
 private:
-    class Modele;
-
+    void PreparerListe();
     void Valider();
-    void Replier();
     void Appliquer();
-    void Montrer();
-    void Choisir(int rangee);
+    /// Shows the page in use, with its first or its last row selected.
+    void Montrer(bool fin = false);
+    void Tourner(int pas);
     void Dire();
-    [[nodiscard]] QString TexteFenetre() const;
-    [[nodiscard]] QString TexteVide() const;
+    [[nodiscard]] shell::Phrase TexteTitre() const;
+    [[nodiscard]] shell::Phrase TexteFenetre() const;
+    [[nodiscard]] shell::Phrase TexteVide() const;
+    [[nodiscard]] bool ToucheListe(int touche, bool dansListe);
 
     std::unique_ptr<Ui::FenetreChoix> ui_;
     records::Choix choix_;
-    Modele* modele_;
+    ModelePersonnes* modele_;
 };
 
 }  // namespace dorvane::windows

@@ -158,3 +158,26 @@ TEST_CASE_FIXTURE(Famille, "A base that is closed in the middle of a search ends
     progression.aChaquePas = nullptr;
     session.base = std::move(gardee);
 }
+
+TEST_CASE_FIXTURE(Famille, "Who was deleted leaves the list when it is read again") {
+    CHECK(Chercher("a"));
+    CHECK_FALSE(recherche.Relire());
+    base.R_TRI.RetirerIndividu(anne);
+    base.R_NOM.EcrireNom(anne, "");
+    base.R_NAISS.EcrireCellule(anne, "");
+    base.R_SEXE.EcrireCellule(anne, ' ');
+    CHECK(recherche.Relire());
+    CHECK(recherche.Resultat() == Personnes{nicolas, luc});
+}
+
+TEST_CASE_FIXTURE(Famille, "A relationship takes two persons and a base") {
+    CHECK(PeutChercherParente(session, {nicolas, anne}));
+    CHECK_FALSE(PeutChercherParente(session, {nicolas}));
+    CHECK_FALSE(PeutChercherParente(session, {}));
+    CHECK(Dit() == Dits{"555", "555"});
+    std::unique_ptr<storage::Base> gardee = std::move(session.base);
+    dialogue.pendant = nullptr;
+    CHECK_FALSE(PeutChercherParente(session, {nicolas, anne}));
+    CHECK(Dit() == Dits{"503"});
+    session.base = std::move(gardee);
+}
