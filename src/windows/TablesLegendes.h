@@ -11,5 +11,6 @@ namespace dorvane::windows {
 [[nodiscard]] std::span<const Legende> LegendesPrincipales();
 [[nodiscard]] std::span<const Legende> LegendesMots();
 [[nodiscard]] std::span<const Legende> LegendesFamille();
+[[nodiscard]] std::span<const Legende> LegendesFiche();
 
 }  // namespace dorvane::windows

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include <string>
+#include <string_view>
+
+class QPlainTextEdit;
+
+namespace dorvane::shell {
+class Session;
+}
+
+namespace dorvane::windows {
+
+/// Fields that remember what is stored, and look different once they say something else: a soft
+/// tint of the selection colour, and words for those who do not see it.
+
+/// Shows a stored value, in code page 1252, and takes the mark away.
+void PoserChamp(QLineEdit& champ, std::string_view texte);
+void PoserChamp(QPlainTextEdit& champ, std::string_view texte);
+
+/// Sets or takes away the mark by what the field says now.
+void MarquerChamp(QLineEdit& champ, const shell::Session& session);
+void MarquerChamp(QPlainTextEdit& champ, const shell::Session& session);
+
+/// Gives any widget the look of a changed one, or takes it away.
+void MarquerModifie(QWidget& widget, bool modifie, const shell::Session& session);
+
+/// A field in code page 1252; `remplaces` grows by the characters that this lacks.
+[[nodiscard]] std::string LireChamp(const QString& texte, std::size_t& remplaces);
+
+/// The colour of a label that warns, readable on the window behind it.
+void Avertir(QWidget& etiquette);
+
+}  // namespace dorvane::windows
