@@ -34,6 +34,7 @@ void EditeurNote::Poser(const std::string& note) {
     const NoteRiche lue = LireNoteRiche(note);
     entete_ = lue.entete;
     PoserNote(*document(), lue);
+    moveCursor(QTextCursor::Start);
 }
 
 bool EditeurNote::EstModifiee() const {

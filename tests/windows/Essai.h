@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -30,6 +31,16 @@ namespace dorvane::windows {
 /// Lets a failed check print what it compared.
 inline doctest::String toString(const QString& texte) {
     return texte.toUtf8().constData();
+}
+
+/// Types a text letter by letter, accents included.
+inline void Taper(QWidget& champ, const QString& texte) {
+    for (const QChar lettre : texte) {
+        QKeyEvent appui{QEvent::KeyPress, 0, Qt::NoModifier, QString{lettre}};
+        QKeyEvent relache{QEvent::KeyRelease, 0, Qt::NoModifier, QString{lettre}};
+        QApplication::sendEvent(&champ, &appui);
+        QApplication::sendEvent(&champ, &relache);
+    }
 }
 
 /// Runs `action` as soon as a modal window is up; fails when none comes.
