@@ -150,6 +150,10 @@ void ChampsFiche::Traduire() {
     Changer();
 }
 
+QWidget& ChampsFiche::DernierChamp() const {
+    return *ui_->TxtLieuDécès;
+}
+
 char ChampsFiche::Sexe() const {
     return ui_->O_Sexe_0->isChecked() ? 'H' : ui_->O_Sexe_1->isChecked() ? 'F' : 'I';
 }

@@ -53,6 +53,8 @@ public:
     /// The sex may be changed by the user.
     void LibererSexe(bool libre);
     void Traduire();
+    /// The last field in the order of Tab.
+    [[nodiscard]] QWidget& DernierChamp() const;
 
 Q_SIGNALS:
     /// A field was changed, by the user or by `Montrer`.

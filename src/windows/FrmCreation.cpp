@@ -20,6 +20,7 @@ FrmCreation::FrmCreation(shell::Session& session, const SaisieDepart& depart, QW
     setObjectName(QStringLiteral("FrmCréation"));
     ui_->Champs->Attacher(session);
     ui_->Rangées->Attacher(session, RangeesFiche::Sorte::Individu);
+    ui_->Rangées->Enchainer(ui_->Champs->DernierChamp());
     ui_->LblFaits->setVisible(!ui_->Rangées->EstVide());
     depart_.nom = depart.nom;
     depart_.prenom = depart.prenom;

@@ -169,6 +169,16 @@ void RangeesFiche::Traduire() {
     Aviser();
 }
 
+void RangeesFiche::Enchainer(QWidget& avant) {
+    QWidget* precedent = &avant;
+    for (const Rangee& r : rangees_)
+        for (QWidget* champ : {static_cast<QWidget*>(r.jourMois), static_cast<QWidget*>(r.annee),
+                               static_cast<QWidget*>(r.lieu), static_cast<QWidget*>(r.choix)}) {
+            setTabOrder(precedent, champ);
+            precedent = champ;
+        }
+}
+
 void RangeesFiche::Changer() {
     if (montre_) return;
     for (const Rangee& r : rangees_)

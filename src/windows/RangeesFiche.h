@@ -44,6 +44,8 @@ public:
     /// Years of the life inside which the dates belong, as typed.
     void PoserVie(const std::string& naissance, const std::string& deces);
     void Traduire();
+    /// Puts the rows behind `avant` in the order of Tab. Again after `Construire`.
+    void Enchainer(QWidget& avant);
     [[nodiscard]] bool EstVide() const { return rangees_.empty(); }
 
 Q_SIGNALS:
