@@ -2,6 +2,7 @@
 
 #include "app/Atelier.h"
 #include "app/Commandes.h"
+#include "app/Verbes.h"
 
 #include <CLI/CLI.hpp>
 #include <cstdint>
@@ -123,6 +124,9 @@ int Executer(int nombre, const char* const* arguments) {
     DeclarerBases(app, ligne);
     DeclarerImport(app, ligne);
     DeclarerCatalogue(app, ligne);
+    DeclarerVerbesFiche(app, ligne.faire);
+    DeclarerVerbesFaits(app, ligne.faire);
+    DeclarerVerbesReglages(app, ligne.faire);
     DeclarerCalcul(app, ligne);
     try {
         app.parse(nombre, arguments);

@@ -1,0 +1,62 @@
+#include "app/CommandeBase.h"
+
+#include "records/ModeleFamille.h"
+#include "storage/Base.h"
+#include "values/Comparaison.h"
+#include "values/Texte1252.h"
+
+#include <string_view>
+
+namespace dorvane::outil {
+
+void DeclarerBase(CLI::App& verbe, OptionsBase& options) {
+    verbe.add_option("BASE", options.base, "Le fichier .LGD")->required();
+    CLI::Option* oui = verbe.add_flag("--oui", options.oui, "Répond oui à toutes les questions");
+    verbe.add_flag("--non", options.non, "Répond non à toutes les questions")->excludes(oui);
+}
+
+int AvecBase(const OptionsBase& options, const std::function<int(Atelier&)>& travail) {
+    Atelier atelier{{}};
+    if (options.oui) atelier.dialogue.reponse = shell::Reponse::Oui;
+    if (options.non) atelier.dialogue.reponse = shell::Reponse::Non;
+    if (const int statut = atelier.Ouvrir(options.base); statut != Fait) return statut;
+    const int statut = travail(atelier);
+    // A refusal in the middle of a command leaves nothing behind: the base goes without a commit.
+    return statut == Fait ? atelier.Fermer() : statut;
+}
+
+std::optional<std::string> LireArgument(Atelier& atelier, const std::string& utf8) {
+    TexteRecu recu = Utf8VersTexte(utf8);
+    if (recu.remplaces == 0) return std::move(recu.octets);
+    atelier.dialogue.Informer(shell::Msg(3600, recu.octets, std::to_string(recu.remplaces)));
+    return std::nullopt;
+}
+
+bool Prendre(Atelier& atelier, const std::optional<std::string>& option, std::string& champ) {
+    if (!option) return true;
+    std::optional<std::string> lu = LireArgument(atelier, *option);
+    if (!lu) return false;
+    champ = std::move(*lu);
+    return true;
+}
+
+bool PersonneExiste(Atelier& atelier, std::uint32_t numero) {
+    if (records::Existe(*atelier.session.base, NoOrdre{numero})) return true;
+    atelier.dialogue.Informer(shell::Msg(2248, std::to_string(numero)));
+    return false;
+}
+
+DateTapee CouperDateTapee(const std::string& date) {
+    const std::string_view texte = SansBlancs(date);
+    const std::size_t coupe = texte.find_last_of(" /");
+    const std::string_view fin = texte.substr(coupe == std::string_view::npos ? 0 : coupe + 1);
+    if (!EstNumerique(fin) || fin.size() > 4) return {std::string{texte}, {}};
+    const std::string_view debut =
+        coupe == std::string_view::npos ? std::string_view{} : texte.substr(0, coupe);
+    // "12/3" is a day and a month.
+    if (fin.size() < 3 && debut.find('/') == std::string_view::npos && !debut.empty())
+        return {std::string{texte}, {}};
+    return {std::string{SansBlancs(debut)}, std::string{fin}};
+}
+
+}  // namespace dorvane::outil

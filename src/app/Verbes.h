@@ -1,0 +1,18 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <functional>
+
+namespace dorvane::outil {
+
+// The verbs that read and change the records of a base, by subjects. The verb that is given leaves
+// its work in `faire`, which outlives the parser.
+
+/// `creer`, `modifier`, `supprimer`, `lier`, `delier`.
+void DeclarerVerbesFiche(CLI::App& app, std::function<int()>& faire);
+/// `evenement`, `document`.
+void DeclarerVerbesFaits(CLI::App& app, std::function<int()>& faire);
+/// `motcle`, `rechercher`, `parametre`.
+void DeclarerVerbesReglages(CLI::App& app, std::function<int()>& faire);
+
+}  // namespace dorvane::outil

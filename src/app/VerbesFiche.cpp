@@ -1,0 +1,262 @@
+#include "app/CommandeBase.h"
+#include "app/DecrirePersonne.h"
+#include "app/Verbes.h"
+#include "records/Fiche.h"
+#include "records/Filiation.h"
+#include "records/Individus.h"
+#include "records/Liens.h"
+#include "records/Unions.h"
+#include "shell/Libelles.h"
+#include "storage/Base.h"
+#include "values/Texte1252.h"
+
+#include <algorithm>
+#include <iostream>
+#include <memory>
+#include <vector>
+
+namespace dorvane::outil {
+
+namespace {
+
+using Texte = std::optional<std::string>;
+
+/// The fields of a sheet; those that are not given stay as they are.
+struct OptionsFiche : OptionsBase {
+    std::uint32_t numero = 0;
+    Texte nom, prenom, autres, sexe, note;
+    Texte naissance, lieuNaissance, deces, lieuDeces;
+    std::vector<std::string> lignes;  ///< label, date, place, three by three
+    std::uint32_t mariage = 0;
+    Texte dateUnion, finUnion, lieuUnion, noteUnion;
+};
+
+void DeclarerChamps(CLI::App& verbe, OptionsFiche& o) {
+    verbe.add_option("--nom", o.nom, "Nom");
+    verbe.add_option("--prenom", o.prenom, "Prénoms");
+    verbe.add_option("--autres", o.autres, "Autre prénom");
+    verbe.add_option("--sexe", o.sexe, "H, F ou I")->check(CLI::IsMember({"H", "F", "I"}));
+    verbe.add_option("--naissance", o.naissance, "Date : 12/3/1820, vers 1820, 1820");
+    verbe.add_option("--lieu-naissance", o.lieuNaissance);
+    verbe.add_option("--deces", o.deces);
+    verbe.add_option("--lieu-deces", o.lieuDeces);
+    verbe.add_option("--ligne", o.lignes, "Ligne d'un mot-clé : LIBELLE DATE LIEU")
+        ->type_size(3)
+        ->allow_extra_args(false);
+    verbe.add_option("--note", o.note, "Note libre");
+}
+
+bool PoserDate(Atelier& atelier, const Texte& option, std::string& jourMois, std::string& annee) {
+    std::string date;
+    if (!option) return true;
+    if (!Prendre(atelier, option, date)) return false;
+    const DateTapee coupee = CouperDateTapee(date);
+    jourMois = coupee.jourMois;
+    annee = coupee.annee;
+    return true;
+}
+
+/// The row of a keyword of the sheet by its label or tag; told when the sheet has no such row.
+storage::ValeurSlot* ChercherLigne(Atelier& atelier, records::RangeesSlots& rangees,
+                                   const std::string& libelle) {
+    const storage::DefinitionSlots definition = atelier.session.base->DefinitionIndividu();
+    const std::string tag = shell::TagDeLibelle(atelier.session.catalogue, libelle);
+    const std::size_t nombre = storage::NbSlots(definition.slots);
+    for (std::size_t i = 0; i < nombre; ++i)
+        if (definition.libelles[i] == tag || definition.libelles[i] == libelle) return &rangees[i];
+    atelier.dialogue.Informer(shell::Msg(3601, libelle));
+    return nullptr;
+}
+
+bool PoserLignes(Atelier& atelier, const std::vector<std::string>& lignes,
+                 records::RangeesSlots& rangees) {
+    for (std::size_t i = 0; i + 2 < lignes.size(); i += 3) {
+        const Texte libelle = LireArgument(atelier, lignes[i]);
+        if (!libelle) return false;
+        storage::ValeurSlot* rangee = ChercherLigne(atelier, rangees, *libelle);
+        if (rangee == nullptr ||
+            !PoserDate(atelier, lignes[i + 1], rangee->jourMois, rangee->annee) ||
+            !Prendre(atelier, lignes[i + 2], rangee->lieu))
+            return false;
+    }
+    return true;
+}
+
+bool PoserUnion(Atelier& atelier, const OptionsFiche& o, records::SaisieFiche& saisie) {
+    if (o.mariage == 0) return true;
+    const std::vector<NoMariage> unions =
+        atelier.session.base->R_MARIAG.Elements(NoOrdre{o.numero});
+    if (std::ranges::find(unions, NoMariage{o.mariage}) == unions.end()) {
+        atelier.dialogue.Informer(shell::Msg(3602, std::to_string(o.mariage)));
+        return false;
+    }
+    records::SaisieUnion mariage = records::ChargerUnion(atelier.session, NoMariage{o.mariage});
+    if (!PoserDate(atelier, o.dateUnion, mariage.jourMois, mariage.debut) ||
+        !Prendre(atelier, o.finUnion, mariage.fin) ||
+        !Prendre(atelier, o.lieuUnion, mariage.lieu) ||
+        !Prendre(atelier, o.noteUnion, mariage.note))
+        return false;
+    saisie.mariage = std::move(mariage);
+    return true;
+}
+
+bool PoserChamps(Atelier& atelier, const OptionsFiche& o, records::SaisieFiche& saisie) {
+    if (o.sexe) saisie.sexe = o.sexe->front();
+    return Prendre(atelier, o.nom, saisie.nom) && Prendre(atelier, o.prenom, saisie.prenom) &&
+           Prendre(atelier, o.autres, saisie.autrePrenom) &&
+           PoserDate(atelier, o.naissance, saisie.jourMoisNaissance, saisie.anneeNaissance) &&
+           Prendre(atelier, o.lieuNaissance, saisie.lieuNaissance) &&
+           PoserDate(atelier, o.deces, saisie.jourMoisDeces, saisie.anneeDeces) &&
+           Prendre(atelier, o.lieuDeces, saisie.lieuDeces) &&
+           PoserLignes(atelier, o.lignes, saisie.slots) && Prendre(atelier, o.note, saisie.note) &&
+           PoserUnion(atelier, o, saisie);
+}
+
+int CreerPersonne(Atelier& atelier, const OptionsFiche& o) {
+    records::SaisieFiche saisie;
+    if (!PoserChamps(atelier, o, saisie)) return Refus;
+    const records::IssueFiche issue = records::CreerIndividu(atelier.session, saisie);
+    if (issue.EstRefusee()) return Refus;
+    std::cout << issue.individu.valeur << '\n';
+    return Fait;
+}
+
+int ModifierPersonne(Atelier& atelier, const OptionsFiche& o) {
+    if (!PersonneExiste(atelier, o.numero)) return Refus;
+    records::SaisieFiche saisie = records::ChargerFiche(atelier.session, NoOrdre{o.numero});
+    if (!PoserChamps(atelier, o, saisie)) return Refus;
+    return records::ValiderFiche(atelier.session, saisie).EstRefusee() ? Refus : Fait;
+}
+
+int SupprimerPersonne(Atelier& atelier, const OptionsFiche& o) {
+    if (!PersonneExiste(atelier, o.numero)) return Refus;
+    return records::SupprimerIndividu(atelier.session, NoOrdre{o.numero}) ? Fait : Refus;
+}
+
+struct OptionsLien : OptionsBase {
+    std::uint32_t numero = 0;
+    std::string parente;
+    std::uint32_t autre = 0;
+    std::string libelle;
+    std::uint32_t mariage = 0;
+};
+
+int Lier(Atelier& atelier, const OptionsLien& o) {
+    if (!PersonneExiste(atelier, o.numero) || !PersonneExiste(atelier, o.autre)) return Refus;
+    shell::Session& session = atelier.session;
+    const NoOrdre ici{o.numero};
+    const NoOrdre autre{o.autre};
+    if (o.parente == "pere" || o.parente == "mere")
+        return records::DonnerParent(session, ici, o.parente == "pere" ? 'H' : 'F', autre) ? Fait
+                                                                                           : Refus;
+    if (o.parente == "enfant") return records::AttacherEnfant(session, ici, autre) ? Fait : Refus;
+    if (o.parente == "conjoint") {
+        if (!records::PeutAvoirConjoint(session, ici, records::Provenance::Cherche)) return Refus;
+        const NoMariage mariage = records::CreerUnion(session, ici, autre);
+        if (!mariage) return Refus;
+        std::cout << mariage.valeur << '\n';
+        return Fait;
+    }
+    const Texte libelle = LireArgument(atelier, o.libelle);
+    return libelle && records::AjouterLien(session, ici, autre, *libelle) ? Fait : Refus;
+}
+
+/// The union of two persons; the one that is named when there are several.
+NoMariage UnionDe(storage::Base& base, const OptionsLien& o) {
+    for (const NoMariage m : base.R_MARIAG.Elements(NoOrdre{o.numero})) {
+        if (o.mariage != 0 && m.valeur != o.mariage) continue;
+        if (base.R_EPOUX.LireCellule(m).valeur == o.autre ||
+            base.R_EPOUSE.LireCellule(m).valeur == o.autre)
+            return m;
+    }
+    return {};
+}
+
+std::size_t RangDuLien(shell::Session& session, const OptionsLien& o) {
+    const Texte libelle = Utf8VersTexte(o.libelle).octets;
+    for (const records::LienAffiche& lien : records::ListerLiens(session, NoOrdre{o.numero}))
+        if (lien.autre.valeur == o.autre && (o.libelle.empty() || lien.libelle == *libelle))
+            return lien.rang;
+    return 0;
+}
+
+int Delier(Atelier& atelier, const OptionsLien& o) {
+    if (!PersonneExiste(atelier, o.numero)) return Refus;
+    shell::Session& session = atelier.session;
+    const NoOrdre ici{o.numero};
+    bool fait = false;
+    bool trouve = true;
+    if (o.parente == "pere" || o.parente == "mere") {
+        const char cote = o.parente == "pere" ? 'H' : 'F';
+        trouve = static_cast<bool>(records::LireParent(*session.base, ici, cote));
+        fait = trouve && records::RetirerParent(session, ici, cote);
+    } else if (o.parente == "enfant") {
+        const auto enfants = session.base->R_ENFANT.Elements(ici);
+        trouve = std::ranges::find(enfants, NoOrdre{o.autre}) != enfants.end();
+        fait = trouve && records::RetirerEnfant(session, ici, NoOrdre{o.autre});
+    } else if (o.parente == "conjoint") {
+        const NoMariage mariage = UnionDe(*session.base, o);
+        trouve = static_cast<bool>(mariage);
+        fait = trouve && records::RetirerUnion(session, mariage);
+    } else {
+        const std::size_t rang = RangDuLien(session, o);
+        trouve = rang != 0;
+        fait = trouve && records::RetirerLien(session, ici, rang);
+    }
+    if (!trouve) atelier.dialogue.Informer(shell::Msg(3603, std::to_string(o.numero)));
+    return fait ? Fait : Refus;
+}
+
+void DeclarerNumero(CLI::App& verbe, std::uint32_t& numero) {
+    verbe.add_option("N", numero, "Numéro de la personne")->required();
+}
+
+}  // namespace
+
+void DeclarerVerbesFiche(CLI::App& app, std::function<int()>& faire) {
+    Declarer<OptionsFiche>(app, faire, "creer", "Crée une personne et écrit son numéro",
+                           DeclarerChamps, CreerPersonne);
+    Declarer<OptionsFiche>(
+        app, faire, "modifier", "Change les champs donnés d'une personne",
+        [](CLI::App& verbe, OptionsFiche& o) {
+            DeclarerNumero(verbe, o.numero);
+            DeclarerChamps(verbe, o);
+            CLI::Option* mariage =
+                verbe.add_option("--union", o.mariage, "Numéro de l'union à changer");
+            verbe.add_option("--date-union", o.dateUnion)->needs(mariage);
+            verbe.add_option("--fin-union", o.finUnion, "Année de fin")->needs(mariage);
+            verbe.add_option("--lieu-union", o.lieuUnion)->needs(mariage);
+            verbe.add_option("--note-union", o.noteUnion)->needs(mariage);
+        },
+        ModifierPersonne);
+    Declarer<OptionsFiche>(
+        app, faire, "supprimer", "Supprime une personne sans famille ni liens",
+        [](CLI::App& verbe, OptionsFiche& o) { DeclarerNumero(verbe, o.numero); },
+        SupprimerPersonne);
+    const auto parente = [](CLI::App& verbe, OptionsLien& o) {
+        DeclarerNumero(verbe, o.numero);
+        verbe.add_option("PARENTE", o.parente, "pere, mere, enfant, conjoint ou lien")
+            ->required()
+            ->check(CLI::IsMember({"pere", "mere", "enfant", "conjoint", "lien"}));
+    };
+    Declarer<OptionsLien>(
+        app, faire, "lier",
+        "Donne à une personne un père, une mère, un enfant, un conjoint, un lien",
+        [parente](CLI::App& verbe, OptionsLien& o) {
+            parente(verbe, o);
+            verbe.add_option("AUTRE", o.autre, "Numéro de l'autre personne")->required();
+            verbe.add_option("--libelle", o.libelle, "Libellé d'un lien");
+        },
+        Lier);
+    Declarer<OptionsLien>(
+        app, faire, "delier", "Retire un parent, un enfant, une union, un lien",
+        [parente](CLI::App& verbe, OptionsLien& o) {
+            parente(verbe, o);
+            verbe.add_option("AUTRE", o.autre, "Numéro de l'autre personne, sauf pour un parent");
+            verbe.add_option("--libelle", o.libelle, "Libellé du lien");
+            verbe.add_option("--union", o.mariage, "Numéro de l'union, s'il y en a plusieurs");
+        },
+        Delier);
+}
+
+}  // namespace dorvane::outil

@@ -1,0 +1,236 @@
+#include "app/CommandeBase.h"
+#include "app/DecrirePersonne.h"
+#include "app/Verbes.h"
+#include "records/FicheMotsCles.h"
+#include "records/NomsAffiches.h"
+#include "records/RechercheNoms.h"
+#include "storage/Base.h"
+#include "values/Texte1252.h"
+
+#include <algorithm>
+#include <iostream>
+#include <memory>
+
+namespace dorvane::outil {
+
+namespace {
+
+using Texte = std::optional<std::string>;
+using records::TableLignes;
+
+struct OptionsMotCle : OptionsBase {
+    std::uint32_t mot = 0;
+    Texte code, libelle;
+    bool indexe = false;
+    bool sansIndex = false;
+    std::string table;
+    bool datee = false;
+};
+
+std::optional<records::LigneMotCle> ChercherMotCle(Atelier& atelier, std::uint32_t numero) {
+    for (const records::LigneMotCle& ligne : records::ListerMotsCles(atelier.session))
+        if (ligne.mot.valeur == numero) return ligne;
+    atelier.dialogue.Informer(shell::Msg(3606, std::to_string(numero)));
+    return std::nullopt;
+}
+
+bool ALaLigne(shell::Session& session, TableLignes table, NoMotCle mot) {
+    return std::ranges::any_of(records::ListerLignes(session, table),
+                               [mot](const auto& ligne) { return ligne.mot == mot; });
+}
+
+int ListerMotsCles(Atelier& atelier, const OptionsMotCle& o) {
+    shell::Session& session = atelier.session;
+    Json liste = Json::array();
+    for (const records::LigneMotCle& ligne : records::ListerMotsCles(session)) {
+        const Json objet{{"numero", ligne.mot.valeur},
+                         {"code", TexteVersUtf8({&ligne.code, 1})},
+                         {"libelle", TexteVersUtf8(ligne.libelle)},
+                         {"indexe", ligne.indexe},
+                         {"fiche", ALaLigne(session, TableLignes::Individu, ligne.mot)},
+                         {"union", ALaLigne(session, TableLignes::Mariage, ligne.mot)}};
+        if (o.json)
+            liste.push_back(objet);
+        else
+            std::cout << ligne.mot.valeur << '\t' << objet["code"].get<std::string>() << '\t'
+                      << objet["libelle"].get<std::string>() << '\t'
+                      << TexteVersUtf8(session.Message(ligne.indexe ? 725 : 724)) << '\n';
+    }
+    if (o.json) std::cout << EnTexte(liste) << '\n';
+    return Fait;
+}
+
+int AjouterMotCle(Atelier& atelier, const OptionsMotCle& o) {
+    records::SaisieMotCle saisie{{}, {}, o.indexe};
+    if (!Prendre(atelier, o.code, saisie.code) || !Prendre(atelier, o.libelle, saisie.libelle))
+        return Refus;
+    const NoMotCle mot = records::AjouterMotCle(atelier.session, saisie);
+    if (!mot) return Refus;
+    std::cout << mot.valeur << '\n';
+    return Fait;
+}
+
+int ModifierMotCle(Atelier& atelier, const OptionsMotCle& o) {
+    const auto avant = ChercherMotCle(atelier, o.mot);
+    if (!avant) return Refus;
+    records::SaisieMotCle saisie{std::string(1, avant->code), avant->libelle,
+                                 o.indexe || (avant->indexe && !o.sansIndex)};
+    if (!Prendre(atelier, o.code, saisie.code) || !Prendre(atelier, o.libelle, saisie.libelle))
+        return Refus;
+    return records::ModifierMotCle(atelier.session, avant->mot, saisie) ? Fait : Refus;
+}
+
+int EffacerMotCle(Atelier& atelier, const OptionsMotCle& o) {
+    if (!ChercherMotCle(atelier, o.mot)) return Refus;
+    return records::SupprimerMotCle(atelier.session, NoMotCle{o.mot}) ? Fait : Refus;
+}
+
+/// Puts the keyword among the lines of a sheet, or takes it out when it stands there.
+int BasculerLigne(Atelier& atelier, const OptionsMotCle& o) {
+    const auto mot = ChercherMotCle(atelier, o.mot);
+    if (!mot) return Refus;
+    shell::Session& session = atelier.session;
+    const TableLignes table = o.table == "union" ? TableLignes::Mariage : TableLignes::Individu;
+    const auto lignes = records::ListerLignes(session, table);
+    const auto ici = std::ranges::find(lignes, mot->mot, &records::LigneFiche::mot);
+    const bool fait =
+        ici == lignes.end()
+            ? records::AjouterLigne(session, table, mot->mot, o.datee)
+            : records::RetirerLigne(session, table, static_cast<std::size_t>(ici - lignes.begin()));
+    return fait ? Fait : Refus;
+}
+
+void DeclarerMotCle(CLI::App& app, std::function<int()>& faire) {
+    using O = OptionsMotCle;
+    CLI::App& verbe = *app.add_subcommand("motcle", "Les mots-clés d'une base");
+    verbe.require_subcommand(1);
+    const auto numero = [](CLI::App& v, O& o) {
+        v.add_option("K", o.mot, "Numéro du mot-clé")->required();
+    };
+    Declarer<O>(
+        verbe, faire, "lister", "Les mots-clés dans leur ordre",
+        [](CLI::App& v, O& o) { v.add_flag("--json", o.json); }, ListerMotsCles);
+    Declarer<O>(
+        verbe, faire, "ajouter", "Ajoute un mot-clé et écrit son numéro",
+        [](CLI::App& v, O& o) {
+            v.add_option("CODE", o.code, "Un caractère")->required();
+            v.add_option("LIBELLE", o.libelle)->required();
+            v.add_flag("--indexe", o.indexe, "Indexe ses mots");
+        },
+        AjouterMotCle);
+    Declarer<O>(
+        verbe, faire, "modifier", "Change un mot-clé",
+        [numero](CLI::App& v, O& o) {
+            numero(v, o);
+            v.add_option("--code", o.code);
+            v.add_option("--libelle", o.libelle);
+            CLI::Option* indexe = v.add_flag("--indexe", o.indexe);
+            v.add_flag("--sans-index", o.sansIndex)->excludes(indexe);
+        },
+        ModifierMotCle);
+    Declarer<O>(verbe, faire, "supprimer", "Supprime un mot-clé ; les textes restent", numero,
+                EffacerMotCle);
+    Declarer<O>(
+        verbe, faire, "ligne", "Met un mot-clé dans la fiche ou l'union, ou l'en retire",
+        [numero](CLI::App& v, O& o) {
+            numero(v, o);
+            v.add_option("TABLE", o.table, "fiche ou union")
+                ->required()
+                ->check(CLI::IsMember({"fiche", "union"}));
+            v.add_flag("--datee", o.datee, "La ligne a une date");
+        },
+        BasculerLigne);
+}
+
+struct OptionsRecherche : OptionsBase {
+    std::string texte;
+};
+
+int ChercherNoms(Atelier& atelier, const OptionsRecherche& o) {
+    const Texte texte = LireArgument(atelier, o.texte);
+    if (!texte) return Refus;
+    shell::Session& session = atelier.session;
+    records::RechercheNoms recherche{session};
+    if (!records::Rechercher(recherche, session, *texte, false, [] {})) return Refus;
+    Json liste = Json::array();
+    for (const NoOrdre n : recherche.Resultat()) {
+        const std::string nom = TexteVersUtf8(records::NomAffiche(session, n));
+        const std::string dates = TexteVersUtf8(records::DatesDeVie(session, n));
+        if (o.json)
+            liste.push_back({{"numero", n.valeur}, {"nom", nom}, {"dates", dates}});
+        else
+            std::cout << n.valeur << '\t' << nom << '\t' << dates << '\n';
+    }
+    if (o.json) std::cout << EnTexte(liste) << '\n';
+    return recherche.Resultat().empty() ? Refus : Fait;
+}
+
+struct OptionsParametre {
+    std::string section;
+    std::string cle;
+    std::string valeur;
+};
+
+int LireParametre(const OptionsParametre& o) {
+    Atelier atelier{{}};
+    const shell::Magasin& magasin = atelier.session.parametres.magasin;
+    if (o.section.empty()) {
+        for (const std::string& section : magasin.Sections())
+            std::cout << section << '\n';
+        return Fait;
+    }
+    if (o.cle.empty()) {
+        for (const auto& [cle, valeur] : magasin.LireSection(o.section))
+            std::cout << cle << '\t' << valeur << '\n';
+        return Fait;
+    }
+    const std::optional<std::string> valeur = magasin.Chercher(o.section, o.cle);
+    if (!valeur) {
+        atelier.dialogue.Informer(
+            shell::Msg(3608, Utf8VersTexte(o.cle).octets, Utf8VersTexte(o.section).octets));
+        return Refus;
+    }
+    std::cout << *valeur << '\n';
+    return Fait;
+}
+
+int EcrireParametre(const OptionsParametre& o) {
+    Atelier atelier{{}};
+    atelier.session.parametres.magasin.Ecrire(o.section, o.cle, o.valeur);
+    if (atelier.session.parametres.magasin.Enregistrer()) return Fait;
+    atelier.dialogue.Informer(shell::Msg(2402));
+    return RefusSysteme;
+}
+
+void DeclarerParametre(CLI::App& app, std::function<int()>& faire) {
+    auto o = std::make_shared<OptionsParametre>();
+    CLI::App& verbe = *app.add_subcommand("parametre", "Les réglages du programme");
+    verbe.require_subcommand(1);
+    CLI::App* lire = verbe.add_subcommand("lire", "Les sections, les clés d'une, ou une valeur");
+    lire->add_option("SECTION", o->section);
+    lire->add_option("CLE", o->cle);
+    lire->callback([o, &faire] { faire = [o] { return LireParametre(*o); }; });
+    CLI::App* ecrire = verbe.add_subcommand("ecrire", "Change une valeur");
+    ecrire->add_option("SECTION", o->section)->required();
+    ecrire->add_option("CLE", o->cle)->required();
+    ecrire->add_option("VALEUR", o->valeur)->required();
+    ecrire->callback([o, &faire] { faire = [o] { return EcrireParametre(*o); }; });
+    for (CLI::App* sous : {lire, ecrire})
+        sous->alias(sous == lire ? "LIRE" : "ECRIRE");
+}
+
+}  // namespace
+
+void DeclarerVerbesReglages(CLI::App& app, std::function<int()>& faire) {
+    DeclarerMotCle(app, faire);
+    Declarer<OptionsRecherche>(
+        app, faire, "rechercher", "Les personnes dont le nom contient un texte",
+        [](CLI::App& v, OptionsRecherche& o) {
+            v.add_option("TEXTE", o.texte)->required();
+            v.add_flag("--json", o.json);
+        },
+        ChercherNoms);
+    DeclarerParametre(app, faire);
+}
+
+}  // namespace dorvane::outil
