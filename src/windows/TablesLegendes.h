@@ -12,5 +12,6 @@ namespace dorvane::windows {
 [[nodiscard]] std::span<const Legende> LegendesMots();
 [[nodiscard]] std::span<const Legende> LegendesFamille();
 [[nodiscard]] std::span<const Legende> LegendesFiche();
+[[nodiscard]] std::span<const Legende> LegendesFaits();
 
 }  // namespace dorvane::windows

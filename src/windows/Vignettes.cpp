@@ -34,24 +34,33 @@ std::filesystem::path FichierDeDocument(const std::filesystem::path& base,
     return EstFichier(aCote) ? aCote : std::filesystem::path{};
 }
 
-QPixmap VignetteDe(const shell::Session& session, NoOrdre individu, int cote) {
-    const NoDocument document = session.base->R_LSTIMG.ElementListe(individu, 1);
-    if (!document) return {};
-    const std::filesystem::path chemin =
-        FichierDeDocument(session.CheminBase, session.base->R_IMAGE.FichierDoc(document));
-    if (chemin.empty()) return {};
+std::filesystem::path FichierDeDocument(const shell::Session& session, NoDocument document) {
+    return FichierDeDocument(session.CheminBase, session.base->R_IMAGE.FichierDoc(document));
+}
 
-    const QString cle = QStringLiteral("vignette/%1/").arg(cote) + CheminVersQt(chemin);
+QPixmap VignetteDeFichier(const std::filesystem::path& chemin, int cote) {
+    if (chemin.empty()) return {};
+    std::error_code erreur;
+    const auto heure = std::filesystem::last_write_time(chemin, erreur).time_since_epoch().count();
+    const QString cle =
+        QStringLiteral("vignette/%1/%2/").arg(cote).arg(erreur ? 0 : heure) + CheminVersQt(chemin);
     QPixmap image;
-    if (QPixmapCache::find(cle, &image)) return image;
+    if (QPixmapCache::find(cle, &image)) return image.width() > 1 ? image : QPixmap{};
     QImageReader lecteur{CheminVersQt(chemin)};
     lecteur.setAutoTransform(true);
     lecteur.setDecideFormatFromContent(true);
     const QSize taille = lecteur.size();
-    if (taille.isValid()) lecteur.setScaledSize(taille.scaled(cote, cote, Qt::KeepAspectRatio));
+    if (taille.isValid() && (taille.width() > cote || taille.height() > cote))
+        lecteur.setScaledSize(taille.scaled(cote, cote, Qt::KeepAspectRatio));
     image = QPixmap::fromImage(lecteur.read());
-    QPixmapCache::insert(cle, image);
+    // One pixel stands for a file that is no picture: it is not tried again.
+    QPixmapCache::insert(cle, image.isNull() ? QPixmap{1, 1} : image);
     return image;
+}
+
+QPixmap VignetteDe(const shell::Session& session, NoOrdre individu, int cote) {
+    const NoDocument document = session.base->R_LSTIMG.ElementListe(individu, 1);
+    return document ? VignetteDeFichier(FichierDeDocument(session, document), cote) : QPixmap{};
 }
 
 }  // namespace dorvane::windows
