@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 
 #include "shell/Session.h"
+#include "storage/Base.h"
+#include "windows/EnTeteListe.h"
 #include "windows/Legendes.h"
 #include "windows/ModeleNoms.h"
 #include "windows/Unicode.h"
@@ -27,14 +29,16 @@ FrmNom::FrmNom(shell::Session& session, const shell::DemandePersonne& demande, Q
       modele_{new ModeleNoms{session, demande.parmi, this}} {
     ui_->setupUi(this);
     PreparerListe(demande.depart);
-    connect(ui_->TxPosition, &QLineEdit::textChanged, this, &FrmNom::Filtrer);
+    connect(ui_->TxtFiltre, &QLineEdit::textChanged, this, &FrmNom::Filtrer);
+    connect(ui_->TxPosition, &QLineEdit::textChanged, this, &FrmNom::Positionner);
     connect(ui_->LstNoms, &QTableView::doubleClicked, this, &QDialog::accept);
     connect(ui_->CmdChoisir, &QPushButton::clicked, this, &QDialog::accept);
     connect(ui_->CmdAnnuler, &QPushButton::clicked, this, &QDialog::reject);
+    ui_->TxtFiltre->installEventFilter(this);
     ui_->TxPosition->installEventFilter(this);
     ui_->LstNoms->installEventFilter(this);
     Traduire();
-    ui_->TxPosition->setFocus();
+    ui_->TxtFiltre->setFocus();
 }
 
 FrmNom::~FrmNom() = default;
@@ -52,6 +56,12 @@ void FrmNom::PreparerListe(NoOrdre depart) {
     liste.setColumnWidth(ModeleNoms::Dates, LargeurDates);
     for (const int colonne : {ModeleNoms::Parents, ModeleNoms::Sexe, ModeleNoms::Famille})
         liste.setColumnWidth(colonne, LargeurMarque);
+    PreparerEntete(liste, S(), objectName());
+    liste.horizontalHeader()->setSortIndicatorClearable(true);
+    liste.setSortingEnabled(true);
+    for (QWidget* champ :
+         {static_cast<QWidget*>(ui_->LblPosition), static_cast<QWidget*>(ui_->TxPosition)})
+        champ->setVisible(modele_->Positionnable());
     Choisir(std::max(0, modele_->Rangee(depart)));
 }
 
@@ -59,6 +69,9 @@ void FrmNom::Traduire() {
     FenetreFille::Traduire();
     if (!demande_.titre.EstVide())
         setWindowTitle(TexteEcran(S().catalogue.Composer(demande_.titre)));
+    const bool parAnnee = S().BaseOuverte() && S().base->entete.TypeTri == '1';
+    ui_->LblPosition->setText(TexteEcran(S(), parAnnee ? 2901 : 2900));
+    ui_->TxPosition->setPlaceholderText(TexteEcran(S(), parAnnee ? 2903 : 2902));
     Compter();
 }
 
@@ -74,9 +87,24 @@ void FrmNom::Choisir(int rangee) {
 
 void FrmNom::Filtrer() {
     const NoOrdre choisie = Choisie();
-    modele_->Filtrer(ui_->TxPosition->text());
+    modele_->Filtrer(ui_->TxtFiltre->text());
     Choisir(std::max(0, modele_->Rangee(choisie)));
     Compter();
+}
+
+/// The list goes to the name or year, in the order of the base.
+void FrmNom::Positionner() {
+    ui_->LstNoms->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    if (ui_->TxPosition->text().isEmpty()) return;
+    const QModelIndex place =
+        modele_->index(modele_->Position(ui_->TxPosition->text()), ModeleNoms::Nom);
+    ui_->LstNoms->setCurrentIndex(place);
+    ui_->LstNoms->scrollTo(place, QAbstractItemView::PositionAtTop);
+}
+
+void FrmNom::done(int resultat) {
+    MemoriserEntete(*ui_->LstNoms, S(), objectName());
+    FenetreFille::done(resultat);
 }
 
 void FrmNom::Compter() {
@@ -90,7 +118,7 @@ void FrmNom::Compter() {
     ui_->Pages->setCurrentIndex(montres > 0 ? 0 : 1);
     const shell::Phrase vide = modele_->Total() == 0
                                    ? shell::Msg(2072)
-                                   : shell::Msg(2069, QtVersTexte(ui_->TxPosition->text()).octets);
+                                   : shell::Msg(2069, QtVersTexte(ui_->TxtFiltre->text()).octets);
     ui_->LblVide->setText(TexteEcran(S().catalogue.Composer(vide)));
 }
 
@@ -100,7 +128,7 @@ bool FrmNom::eventFilter(QObject* objet, QEvent* evenement) {
     const int touche = static_cast<QKeyEvent*>(evenement)->key();
     const bool deplacement = touche == Qt::Key_Up || touche == Qt::Key_Down ||
                              touche == Qt::Key_PageUp || touche == Qt::Key_PageDown;
-    if (objet == ui_->TxPosition && deplacement) {
+    if ((objet == ui_->TxtFiltre || objet == ui_->TxPosition) && deplacement) {
         QCoreApplication::sendEvent(ui_->LstNoms, evenement);
         return true;
     }

@@ -29,11 +29,13 @@ public:
     void Traduire() override;
 
 protected:
+    void done(int resultat) override;
     bool eventFilter(QObject* objet, QEvent* evenement) override;
 
 private:
     void PreparerListe(NoOrdre depart);
     void Filtrer();
+    void Positionner();
     void Compter();
     void Choisir(int rangee);
 

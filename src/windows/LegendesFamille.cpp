@@ -43,8 +43,23 @@ constexpr Legende LegendesRecherche[] = {
     {"FrmRecherche", "CmdFermer", Texte, 2893},
 };
 
+constexpr Legende LegendesNoms[] = {
+    {"FrmNom", "", Texte, 2060},
+    {"FrmNom", "LblFiltre", Texte, 2061},
+    {"FrmNom", "TxtFiltre", Invite, 2073},
+    {"FrmNom", "LstNoms", Colonne, 2062, 0},
+    {"FrmNom", "LstNoms", Colonne, 2063, 1},
+    {"FrmNom", "LstNoms", Colonne, 2064, 2},
+    {"FrmNom", "LstNoms", Colonne, 2065, 3},
+    {"FrmNom", "LstNoms", Colonne, 2066, 4},
+    {"FrmNom", "LstNoms", Acces, 2013},
+    {"FrmNom", "CmdChoisir", Texte, 2070},
+    {"FrmNom", "CmdAnnuler", Texte, 2071},
+};
+
 consteval auto Assembler() {
-    std::array<Legende, std::size(Choix) * std::size(LegendesChoix) + std::size(LegendesRecherche)>
+    std::array<Legende, std::size(Choix) * std::size(LegendesChoix) + std::size(LegendesRecherche) +
+                            std::size(LegendesNoms)>
         toutes{};
     std::size_t i = 0;
     for (const char* fenetre : Choix)
@@ -53,6 +68,8 @@ consteval auto Assembler() {
             toutes[i++] = legende;
         }
     for (const Legende& legende : LegendesRecherche)
+        toutes[i++] = legende;
+    for (const Legende& legende : LegendesNoms)
         toutes[i++] = legende;
     return toutes;
 }

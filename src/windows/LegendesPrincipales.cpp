@@ -52,18 +52,6 @@ constexpr Legende Table[] = {
     {"MDIForm1", "CmdAccueilImporter", Texte, 2047},
     {"MDIForm1", "LblRecentes", Texte, 2042},
 
-    {"FrmNom", "", Texte, 2060},
-    {"FrmNom", "LblPosition", Texte, 2061},
-    {"FrmNom", "TxPosition", Invite, 2073},
-    {"FrmNom", "LstNoms", Colonne, 2062, 0},
-    {"FrmNom", "LstNoms", Colonne, 2063, 1},
-    {"FrmNom", "LstNoms", Colonne, 2064, 2},
-    {"FrmNom", "LstNoms", Colonne, 2065, 3},
-    {"FrmNom", "LstNoms", Colonne, 2066, 4},
-    {"FrmNom", "LstNoms", Acces, 2013},
-    {"FrmNom", "CmdChoisir", Texte, 2070},
-    {"FrmNom", "CmdAnnuler", Texte, 2071},
-
     {"FrmRapport", "TxtRapport", Acces, 2246},
     {"FrmRapport", "CmdCopier", Texte, 2081},
     {"FrmRapport", "CmdEnregistrer", Texte, 2082},

@@ -1,21 +1,25 @@
 #include "windows/ModeleNoms.h"
 
 #include <QIcon>
+#include <QMimeData>
 
 #include "records/NomsAffiches.h"
+#include "records/PositionNoms.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
+#include "windows/GlisserPersonne.h"
 #include "windows/Icones.h"
 #include "windows/Legendes.h"
 #include "windows/Unicode.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace dorvane::windows {
 
 ModeleNoms::ModeleNoms(shell::Session& session, const std::vector<NoOrdre>& parmi, QObject* parent)
-    : QAbstractTableModel{parent}, session_{session}, tous_{parmi} {
+    : QAbstractTableModel{parent}, session_{session}, tous_{parmi}, choix_{!parmi.empty()} {
     if (tous_.empty() && session_.base) {
         tous_.reserve(session_.base->R_TRI.individus.Taille());
         for (const std::uint16_t n : session_.base->R_TRI.individus.Numeros())
@@ -25,12 +29,17 @@ ModeleNoms::ModeleNoms(shell::Session& session, const std::vector<NoOrdre>& parm
 }
 
 void ModeleNoms::Filtrer(const QString& filtre) {
-    beginResetModel();
-    montres_.clear();
-    std::vector<std::string> mots;
+    mots_.clear();
     for (const QString& mot : filtre.split(u' ', Qt::SkipEmptyParts))
-        mots.push_back(Replie(QtVersTexte(mot).octets));
-    if (mots.empty()) {
+        mots_.push_back(Replie(QtVersTexte(mot).octets));
+    beginResetModel();
+    Retenir();
+    endResetModel();
+}
+
+void ModeleNoms::Retenir() {
+    montres_.clear();
+    if (mots_.empty()) {
         montres_ = tous_;
     } else {
         if (replies_.empty())
@@ -38,13 +47,66 @@ void ModeleNoms::Filtrer(const QString& filtre) {
                 replies_.push_back(Replie(records::NomEtDates(session_, n)));
         for (std::size_t i = 0; i < tous_.size(); ++i) {
             const std::string& nom = replies_[i];
-            if (std::all_of(mots.begin(), mots.end(), [&nom](const std::string& mot) {
+            if (std::all_of(mots_.begin(), mots_.end(), [&nom](const std::string& mot) {
                     return nom.find(mot) != std::string::npos;
                 }))
                 montres_.push_back(tous_[i]);
         }
     }
-    endResetModel();
+    if (colonne_ < 0) return;
+    std::vector<std::pair<std::string, NoOrdre>> cles;
+    cles.reserve(montres_.size());
+    for (const NoOrdre n : montres_)
+        cles.emplace_back(Cle(n), n);
+    std::stable_sort(cles.begin(), cles.end(), [this](const auto& a, const auto& b) {
+        return ordre_ == Qt::AscendingOrder ? a.first < b.first : b.first < a.first;
+    });
+    std::transform(cles.begin(), cles.end(), montres_.begin(),
+                   [](const auto& cle) { return cle.second; });
+}
+
+/// What a row is ordered by, for the column in use.
+std::string ModeleNoms::Cle(NoOrdre individu) const {
+    switch (colonne_) {
+        case Nom:
+            return Replie(records::NomAffiche(session_, individu));
+        case Dates:
+            return session_.base->R_NAISS.AnneeTri(individu);
+        case Sexe:
+            return std::string(1, session_.base->R_SEXE.LireCellule(individu));
+        case Famille:
+            return std::to_string(MessageFamille(individu));
+        default:
+            return Texte(individu, colonne_).toString().toStdString();
+    }
+}
+
+void ModeleNoms::sort(int colonne, Qt::SortOrder ordre) {
+    if ((colonne == colonne_ && ordre == ordre_) || !session_.base) return;
+    colonne_ = colonne;
+    ordre_ = ordre;
+    Q_EMIT layoutAboutToBeChanged();
+    const QModelIndexList avant = persistentIndexList();
+    std::vector<NoOrdre> personnes;
+    for (const QModelIndex& place : avant)
+        personnes.push_back(Individu(place.row()));
+    Retenir();
+    QModelIndexList apres;
+    for (qsizetype i = 0; i < avant.size(); ++i)
+        apres << index(Rangee(personnes[static_cast<std::size_t>(i)]), avant[i].column());
+    changePersistentIndexList(avant, apres);
+    Q_EMIT layoutChanged();
+}
+
+bool ModeleNoms::Positionnable() const {
+    const char tri = session_.base ? session_.base->entete.TypeTri : '0';
+    return !choix_ && (tri == '1' || tri == '2');
+}
+
+int ModeleNoms::Position(const QString& texte) const {
+    if (montres_.empty() || !session_.base) return -1;
+    return static_cast<int>(
+        records::PositionDans(*session_.base, montres_, QtVersTexte(texte).octets));
 }
 
 NoOrdre ModeleNoms::Individu(int rangee) const {
@@ -134,6 +196,15 @@ QVariant ModeleNoms::Image(NoOrdre individu, int colonne) const {
         default:
             return {};
     }
+}
+
+Qt::ItemFlags ModeleNoms::flags(const QModelIndex& index) const {
+    return QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled;
+}
+
+QMimeData* ModeleNoms::mimeData(const QModelIndexList& lignes) const {
+    return lignes.isEmpty() ? nullptr
+                            : PersonneVersMime(session_, Individu(lignes.constFirst().row()));
 }
 
 QVariant ModeleNoms::headerData(int section, Qt::Orientation orientation, int role) const {

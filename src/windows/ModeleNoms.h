@@ -28,6 +28,16 @@ public:
     /// and accents. Empty: all rows.
     void Filtrer(const QString& filtre);
 
+    /// Orders the rows by a column, equal ones as the base has them; -1: as the base has all. Who
+    /// is selected stays so.
+    void sort(int colonne, Qt::SortOrder ordre) override;
+
+    /// A place by name or year can be asked for: the rows are those of a base in order.
+    [[nodiscard]] bool Positionnable() const;
+    /// The row of the first person at or after a name or year in the order of the base, in which
+    /// the rows must stand; -1 without rows.
+    [[nodiscard]] int Position(const QString& texte) const;
+
     [[nodiscard]] NoOrdre Individu(int rangee) const;
     /// The row of a person, -1 when the filter hides it.
     [[nodiscard]] int Rangee(NoOrdre individu) const;
@@ -36,6 +46,9 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// The person of the first of these rows, for dragging.
+    [[nodiscard]] QMimeData* mimeData(const QModelIndexList& lignes) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
                                       int role) const override;
 
@@ -43,12 +56,19 @@ private:
     [[nodiscard]] QVariant Texte(NoOrdre individu, int colonne) const;
     [[nodiscard]] QString Bulle(NoOrdre individu, int colonne) const;
     [[nodiscard]] QVariant Image(NoOrdre individu, int colonne) const;
+    /// Fills `montres_` by filter and order.
+    void Retenir();
+    [[nodiscard]] std::string Cle(NoOrdre individu) const;
     [[nodiscard]] std::uint32_t MessageFamille(NoOrdre individu) const;
 
     shell::Session& session_;
     std::vector<NoOrdre> tous_;
     std::vector<NoOrdre> montres_;
     std::vector<std::string> replies_;  ///< what the filter looks at; made by the first filter
+    std::vector<std::string> mots_;     ///< of the filter, folded
+    bool choix_;                        ///< only some persons are offered
+    int colonne_ = -1;                  ///< ordered by it; -1: as the base
+    Qt::SortOrder ordre_ = Qt::AscendingOrder;
 };
 
 }  // namespace dorvane::windows

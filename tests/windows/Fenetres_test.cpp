@@ -11,9 +11,14 @@
 
 #include "windows/Essai.h"
 #include "windows/FrmCalendrier.h"
+#include "windows/FrmConjoints.h"
+#include "windows/FrmEnfants.h"
+#include "windows/FrmLiens.h"
 #include "windows/FrmNom.h"
 #include "windows/FrmPalette.h"
+#include "windows/FrmPere.h"
 #include "windows/FrmRapport.h"
+#include "windows/FrmRecherche.h"
 #include "windows/ImageGraphe.h"
 #include "windows/Legendes.h"
 #include "windows/ModeleNoms.h"
@@ -71,11 +76,16 @@ private:
 /// All windows that have captions, in one place.
 struct Toutes : FenetreEssai {
     Toutes() {
-        Demarrer({});
+        DemarrerFamille();
         fenetres.emplace_back(new FrmNom{S(), {}, &Fenetre()});
         fenetres.emplace_back(new FrmRapport{S(), {}, {}, &Fenetre()});
         fenetres.emplace_back(new FrmPalette{S(), Palette::Claire, &Fenetre()});
         fenetres.emplace_back(new FrmCalendrier{S(), &Fenetre()});
+        fenetres.emplace_back(new FrmPere{S(), NoOrdre{3}, 'H', &Fenetre()});
+        fenetres.emplace_back(new FrmEnfants{S(), NoOrdre{3}, &Fenetre()});
+        fenetres.emplace_back(new FrmConjoints{S(), NoOrdre{3}, &Fenetre()});
+        fenetres.emplace_back(new FrmLiens{S(), NoOrdre{3}, &Fenetre()});
+        fenetres.emplace_back(new FrmRecherche{S(), &Fenetre()});
         for (FenetreFille* fille : fenetres)
             parNom[fille->objectName()] = fille;
         parNom[QStringLiteral("MDIForm1")] = &Fenetre();
@@ -237,7 +247,7 @@ TEST_CASE_FIXTURE(FenetreEssai,
     DemarrerFamille();
     FrmNom fenetre{S(), {NoOrdre{3}, {}, {}}, &Fenetre()};
     fenetre.show();
-    auto* filtre = fenetre.findChild<QLineEdit*>(QStringLiteral("TxPosition"));
+    auto* filtre = fenetre.findChild<QLineEdit*>(QStringLiteral("TxtFiltre"));
     auto* nombre = fenetre.findChild<QLabel*>(QStringLiteral("LblNombre"));
     auto* vide = fenetre.findChild<QLabel*>(QStringLiteral("LblVide"));
     auto* choisir = fenetre.findChild<QPushButton*>(QStringLiteral("CmdChoisir"));

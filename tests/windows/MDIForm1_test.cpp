@@ -188,7 +188,7 @@ TEST_CASE_FIXTURE(FenetreEssai,
     SurModal([](QWidget& fenetre) {
         CHECK(fenetre.objectName() == "FrmNom");
         auto* liste = fenetre.findChild<QTableView*>();
-        auto* filtre = fenetre.findChild<QLineEdit*>(QStringLiteral("TxPosition"));
+        auto* filtre = fenetre.findChild<QLineEdit*>(QStringLiteral("TxtFiltre"));
         // It starts on the current person.
         CHECK(liste->currentIndex().data().toString() == "Paul Martin");
         QTest::keyClicks(filtre, QStringLiteral("mart luc"));
