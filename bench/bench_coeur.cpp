@@ -1,5 +1,5 @@
 // Times inside one process, on a base made by an import. DORVANE_BENCH_LGD names the base.
-#include "doublures/SessionEssai.h"
+#include "Banc.h"
 #include "records/NomsAffiches.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
@@ -15,26 +15,9 @@
 #include <random>
 
 using namespace dorvane;
+using namespace dorvane::banc;
 
 namespace {
-
-/// A session on a copy of the base, which the benchmarks may change.
-struct Banc : doublures::SessionEssai {
-    Banc() {
-        const char* source = std::getenv("DORVANE_BENCH_LGD");
-        if (source == nullptr) std::abort();
-        std::filesystem::copy_file(source, dossier / "banc.LGD");
-        shell::Demarrage(session);
-        shell::MnuOuvrir(session, dossier / "banc.LGD");
-        if (!session.BaseOuverte()) std::abort();
-    }
-    storage::Base& B() { return *session.base; }
-};
-
-Banc& LeBanc() {
-    static Banc banc;
-    return banc;
-}
 
 void OuvrirEtPremierePage(benchmark::State& etat) {
     Banc& banc = LeBanc();
