@@ -37,6 +37,7 @@ FrmMotCle::FrmMotCle(shell::Session& session, QWidget* parent)
     QTableWidget& liste = *ui_->LstMClé;
     liste.setColumnCount(NbColonnes);
     liste.verticalHeader()->hide();
+    liste.verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
     liste.horizontalHeader()->setHighlightSections(false);
     liste.horizontalHeader()->setSectionResizeMode(Libelle, QHeaderView::Stretch);
     liste.setColumnWidth(Code, LargeurCode);

@@ -26,8 +26,8 @@ constexpr Legende Table[] = {
     {"FrmTexte", "LstMot", Acces, 3264},
     {"FrmTexte", "CmdFermerMots", Bulle, 3272},
     {"FrmTexte", "CmdFermerMots", Acces, 3272},
-    {"FrmTexte", "CmdSauve", Texte, 3251},
-    {"FrmTexte", "CmdAbandon", Texte, 3252},
+    {"FrmTexte", "CmdSauve", Texte, 3273},
+    {"FrmTexte", "CmdAbandon", Texte, 3274},
 
     {"FrmUsuels", "", Texte, 3240},
     {"FrmUsuels", "LblRubrique", Texte, 3241},

@@ -10,6 +10,7 @@ namespace dorvane::windows {
 
 [[nodiscard]] std::span<const Legende> LegendesPrincipales();
 [[nodiscard]] std::span<const Legende> LegendesMots();
+[[nodiscard]] std::span<const Legende> LegendesReglages();
 [[nodiscard]] std::span<const Legende> LegendesFamille();
 [[nodiscard]] std::span<const Legende> LegendesFiche();
 [[nodiscard]] std::span<const Legende> LegendesFaits();
