@@ -118,17 +118,35 @@ void Choix::LeverFenetre(bool levee) {
 }
 
 void Choix::Recommencer() {
-    pages_.clear();
+    storage::Base& base = *session_.base;
+    offerts_.clear();
     no_ = 0;
-    rang_ = 0;
-    fini_ = false;
-    LirePage();
-    // The page behind is read as well: so its absence is known before it is asked for.
-    if (!fini_) LirePage();
+    if (numero_) {
+        if (numero_ != demande_.reference && Existe(base, numero_) && SexeConvient(numero_))
+            offerts_.push_back(numero_);
+        return;
+    }
+    // In a table by years of birth nobody behind the upper bound can fit.
+    const bool arret = base.entete.TypeTri == '1' && !levee_ && !fenetre_.a.empty();
+    for (std::uint32_t rang = 1; rang <= base.entete.NbTriIndividus; ++rang) {
+        const NoOrdre n = base.R_TRI.IndividuAuRang(rang);
+        if (!n || n == demande_.reference) continue;
+        const std::string naissance = base.R_NAISS.AnneeTri(n);
+        if (arret && naissance > fenetre_.a) return;
+        if (SexeConvient(n) && (levee_ || VieConvient(n, naissance)) && NomConvient(n))
+            offerts_.push_back(n);
+    }
 }
 
-bool Choix::ASuivante() const {
-    return no_ + 1 < pages_.size();
+std::vector<NoOrdre> Choix::Page() const {
+    const std::size_t debut = no_ * TaillePage;
+    const std::size_t fin = std::min(debut + TaillePage, offerts_.size());
+    return {offerts_.begin() + static_cast<std::ptrdiff_t>(debut),
+            offerts_.begin() + static_cast<std::ptrdiff_t>(fin)};
+}
+
+std::size_t Choix::NbPages() const {
+    return std::max<std::size_t>(1, (offerts_.size() + TaillePage - 1) / TaillePage);
 }
 
 bool Choix::Precedente() {
@@ -140,7 +158,6 @@ bool Choix::Precedente() {
 bool Choix::Suivante() {
     if (!ASuivante()) return false;
     ++no_;
-    if (no_ + 1 == pages_.size() && !fini_) LirePage();
     return true;
 }
 
@@ -190,35 +207,6 @@ bool Choix::NomConvient(NoOrdre n) {
     if (!autres) return false;
     ReplieDans(tampon_, NomAffiche(session_, n));
     return ContientTout(tampon_, mots_);
-}
-
-void Choix::LirePage() {
-    storage::Base& base = *session_.base;
-    std::vector<NoOrdre> page;
-    if (numero_) {
-        fini_ = true;
-        if (numero_ != demande_.reference && Existe(base, numero_) && SexeConvient(numero_))
-            page.push_back(numero_);
-    }
-    const std::uint32_t total = base.entete.NbTriIndividus;
-    const bool parAnnee = base.entete.TypeTri == '1' && !levee_ && !fenetre_.a.empty();
-    while (!fini_ && page.size() < TaillePage) {
-        if (rang_ >= total) {
-            fini_ = true;
-            break;
-        }
-        const NoOrdre n = base.R_TRI.IndividuAuRang(++rang_);
-        if (!n || n == demande_.reference) continue;
-        const std::string naissance = base.R_NAISS.AnneeTri(n);
-        if (parAnnee && naissance > fenetre_.a) {
-            fini_ = true;
-            break;
-        }
-        if (SexeConvient(n) && (levee_ || VieConvient(n, naissance)) && NomConvient(n))
-            page.push_back(n);
-    }
-    // The first page is there even when it is empty.
-    if (!page.empty() || pages_.empty()) pages_.push_back(std::move(page));
 }
 
 }  // namespace dorvane::records

@@ -42,8 +42,8 @@ struct FenetreAnnees {
 /// "*" without parents, "P" with a father alone, "M" with a mother alone, empty with both.
 [[nodiscard]] std::string_view MarqueParents(storage::Base& base, NoOrdre individu);
 
-/// The persons who may be chosen, in sort order, 20 at a time. A base is open. What changes the
-/// sort table between two pages is not followed: `Recommencer` reads from the first page.
+/// The persons who may be chosen, in sort order, 20 at a time. A base is open. What changes later
+/// is not followed: `Recommencer` looks again.
 class Choix {
 public:
     static constexpr std::size_t TaillePage = 20;
@@ -59,11 +59,13 @@ public:
     void LeverFenetre(bool levee);
     void Recommencer();
 
-    [[nodiscard]] const std::vector<NoOrdre>& Page() const { return pages_[no_]; }
-    /// From 1.
+    [[nodiscard]] std::vector<NoOrdre> Page() const;
+    /// From 1; an empty list is one page.
     [[nodiscard]] std::size_t NoPage() const { return no_ + 1; }
+    [[nodiscard]] std::size_t NbPages() const;
+    [[nodiscard]] std::size_t Nombre() const { return offerts_.size(); }  ///< of all pages
     [[nodiscard]] bool APrecedente() const { return no_ > 0; }
-    [[nodiscard]] bool ASuivante() const;
+    [[nodiscard]] bool ASuivante() const { return no_ + 1 < NbPages(); }
     /// To the neighbour page; false, and nothing changes, when there is none.
     bool Precedente();
     bool Suivante();
@@ -82,8 +84,6 @@ private:
     [[nodiscard]] bool SexeConvient(NoOrdre n) const;
     [[nodiscard]] bool VieConvient(NoOrdre n, const std::string& naissance) const;
     [[nodiscard]] bool NomConvient(NoOrdre n);
-    /// Reads on behind the last page up to a full page more.
-    void LirePage();
 
     shell::Session& session_;
     DemandeChoix demande_;
@@ -95,10 +95,8 @@ private:
     std::vector<std::string> mots_;
     NoOrdre numero_{};  ///< the filter is a number
     bool levee_ = false;
-    std::vector<std::vector<NoOrdre>> pages_;
+    std::vector<NoOrdre> offerts_;
     std::size_t no_ = 0;
-    std::uint32_t rang_ = 0;  ///< last place of the sort table that was read
-    bool fini_ = false;       ///< nothing stands behind it
     std::string tampon_;
 };
 

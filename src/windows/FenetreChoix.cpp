@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include "records/Apercu.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
 #include "windows/ChampReplie.h"
@@ -54,6 +55,8 @@ FenetreChoix::FenetreChoix(shell::Session& session, const QString& nom,
     connect(ui_->CmdChoisir, &QPushButton::clicked, this, &FenetreChoix::Valider);
     connect(ui_->CmdAnnuler, &QPushButton::clicked, this, &QDialog::reject);
     connect(ui_->Grille1, &QTableView::doubleClicked, this, &FenetreChoix::Valider);
+    connect(ui_->Grille1->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &FenetreChoix::MontrerApercu);
     ui_->TxtNom->installEventFilter(this);
     ui_->Grille1->installEventFilter(this);
     FenetreChoix::Traduire();
@@ -111,6 +114,11 @@ void FenetreChoix::Montrer(bool fin) {
     Dire();
 }
 
+/// Who has homonyms is told from them below the list.
+void FenetreChoix::MontrerApercu() {
+    ui_->LblApercu->setText(TexteEcran(records::ApercuDe(S(), Choisie())));
+}
+
 void FenetreChoix::Tourner(int pas) {
     if (pas < 0 ? choix_.Precedente() : choix_.Suivante()) Montrer(pas < 0);
 }
@@ -122,7 +130,9 @@ void FenetreChoix::Dire() {
     setWindowTitle(texte(TexteTitre()));
     ui_->LblFenetre->setText(texte(TexteFenetre()));
     ui_->LblVide->setText(texte(TexteVide()));
-    ui_->LblPage->setText(texte(Msg(2856, std::to_string(choix_.NoPage()))));
+    ui_->LblPage->setText(
+        texte(Msg(2856, std::to_string(choix_.Nombre()),
+                  std::to_string(choix_.NoPage()) + '/' + std::to_string(choix_.NbPages()))));
     ui_->Pages->setCurrentIndex(choix_.Page().empty() ? 1 : 0);
     ui_->CmdChoisir->setEnabled(!choix_.Page().empty());
     // A button that loses its sense under the finger passes the focus to the list.
@@ -131,6 +141,7 @@ void FenetreChoix::Dire() {
         ui_->Grille1->setFocus();
     ui_->C_Préc->setEnabled(choix_.APrecedente());
     ui_->C_Suiv->setEnabled(choix_.ASuivante());
+    MontrerApercu();
 }
 
 shell::Phrase FenetreChoix::TexteTitre() const {

@@ -45,6 +45,7 @@ private:
     void Appliquer();
     /// Shows the page in use, with its first or its last row selected.
     void Montrer(bool fin = false);
+    void MontrerApercu();
     void Tourner(int pas);
     void Dire();
     [[nodiscard]] shell::Phrase TexteTitre() const;

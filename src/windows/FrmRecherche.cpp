@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include "records/Apercu.h"
 #include "shell/Session.h"
 #include "windows/ChampReplie.h"
 #include "windows/EnTeteListe.h"
@@ -163,6 +164,7 @@ void FrmRecherche::PoserBoutons() {
     ui_->CmdEcarter->setEnabled(choisie && ui_->Grille1->selectionModel()->hasSelection());
     ui_->CmdAjouter->setEnabled(ouverte && S().PersonneEnCours);
     ui_->Pages->setCurrentIndex(nombre > 0 ? 0 : 1);
+    ui_->LblApercu->setText(TexteEcran(records::ApercuDe(S(), Choisie())));
     const auto texte = [this](const shell::Phrase& phrase) {
         return TexteEcran(S().catalogue.Composer(phrase));
     };

@@ -29,7 +29,7 @@ class HistoireEssai {
 public:
     /// `essai` outlives the object and has a base open.
     HistoireEssai(SessionEssai& essai, std::uint32_t graine)
-        : essai_{essai}, session_{essai.session}, hasard_{graine} {}
+        : session_{essai.session}, hasard_{graine} {}
 
     /// One thing that a user does; its name.
     std::string_view Agir() {
@@ -96,7 +96,7 @@ public:
     }
 
 private:
-    [[nodiscard]] storage::Base& B() { return *session_.base; }
+    [[nodiscard]] storage::Base& B() const { return *session_.base; }
     template <std::size_t N>
     std::string Parmi(const std::array<std::string_view, N>& textes) {
         return std::string{textes[Tirer(N)]};
@@ -458,7 +458,6 @@ private:
         }
     }
 
-    SessionEssai& essai_;
     shell::Session& session_;
     std::mt19937 hasard_;
 };

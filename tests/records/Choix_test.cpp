@@ -125,6 +125,8 @@ TEST_CASE_FIXTURE(Famille,
     const NoOrdre premier = Peupler(45, "1820").first;
     Choix choix{session, {SorteChoix::Parent, enfant, 'H'}};
     CHECK(choix.NoPage() == 1);
+    CHECK(choix.NbPages() == 3);
+    CHECK(choix.Nombre() == 45);
     CHECK_FALSE(choix.APrecedente());
     CHECK_FALSE(choix.Precedente());
     REQUIRE(choix.Page().size() == 20);
@@ -193,6 +195,7 @@ TEST_CASE_FIXTURE(Famille,
     choix.Filtrer("marie paul");
     CHECK(choix.Page().empty());
     CHECK(choix.NoPage() == 1);
+    CHECK(choix.NbPages() == 1);
     CHECK_FALSE(choix.ASuivante());
     choix.Filtrer(" - ");
     CHECK(choix.Page() == Personnes{jean, paul});

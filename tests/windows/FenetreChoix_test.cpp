@@ -77,6 +77,11 @@ TEST_CASE_FIXTURE(
     CHECK(grille.model()->index(0, 2).data().toString() == "1790-1860");
     CHECK(grille.model()->headerData(2, Qt::Horizontal, Qt::DisplayRole).toString() == "Dates");
     CHECK(fenetre.Choisie() == NoOrdre{1});
+    CHECK(Texte(fenetre, "LblApercu") ==
+          QStringLiteral("n° 1 – conjoint\u00A0: Rose Blanc (o1795)"));
+    QTest::keyClick(&C<QLineEdit>(fenetre, "TxtNom"), Qt::Key_Down);
+    CHECK(Texte(fenetre, "LblApercu")
+              .startsWith(QStringLiteral("n° 3 – père\u00A0: Louis Martin (1790-1860)")));
 }
 
 TEST_CASE_FIXTURE(Famille,
@@ -141,7 +146,7 @@ TEST_CASE_FIXTURE(Famille,
     const auto& apres = C<QPushButton>(fenetre, "C_Suiv");
     Taper(nom, QStringLiteral("nom"));
     CHECK(Noms(fenetre).size() == 20);
-    CHECK(Texte(fenetre, "LblPage") == "Page 1");
+    CHECK(Texte(fenetre, "LblPage") == QStringLiteral("Personnes\u00A0: 45, page 1/3"));
     CHECK_FALSE(avant.isEnabled());
     Cliquer(fenetre, "C_Suiv");
     CHECK(Noms(fenetre).constFirst() == "P Nom120");
@@ -152,17 +157,17 @@ TEST_CASE_FIXTURE(Famille,
     // The arrow goes on to the page before at the top of the list.
     nom.setFocus();
     QTest::keyClick(&nom, Qt::Key_Up);
-    CHECK(Texte(fenetre, "LblPage") == "Page 2");
+    CHECK(Texte(fenetre, "LblPage") == QStringLiteral("Personnes\u00A0: 45, page 2/3"));
     CHECK(grille.currentIndex().row() == 19);
     QTest::keyClick(&nom, Qt::Key_Down);
-    CHECK(Texte(fenetre, "LblPage") == "Page 3");
+    CHECK(Texte(fenetre, "LblPage") == QStringLiteral("Personnes\u00A0: 45, page 3/3"));
     CHECK(grille.currentIndex().row() == 0);
     QTest::keyClick(&nom, Qt::Key_Down);
     CHECK(grille.currentIndex().row() == 1);
     QTest::keyClick(&nom, Qt::Key_PageUp);
-    CHECK(Texte(fenetre, "LblPage") == "Page 2");
+    CHECK(Texte(fenetre, "LblPage") == QStringLiteral("Personnes\u00A0: 45, page 2/3"));
     Taper(nom, QStringLiteral("1"));
-    CHECK(Texte(fenetre, "LblPage") == "Page 1");
+    CHECK(Texte(fenetre, "LblPage").endsWith("page 1/3"));
 }
 
 TEST_CASE_FIXTURE(Famille, "FrmPère: an empty list says why and what to do") {
