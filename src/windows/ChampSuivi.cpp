@@ -1,7 +1,6 @@
 #include "windows/ChampSuivi.h"
 
 #include <QPalette>
-#include <QPlainTextEdit>
 #include <QVariant>
 
 #include "shell/Session.h"
@@ -16,7 +15,7 @@ constexpr const char* Stocke = "stocke";
 constexpr std::uint32_t NonEnregistre = 2620;
 
 QColor Teinte(const QPalette& palette) {
-    constexpr int Part = 20;  // per cent of the selection colour
+    constexpr int Part = 28;  // per cent of the selection colour
     const QColor fond = palette.color(QPalette::Active, QPalette::Base);
     const QColor vive = palette.color(QPalette::Active, QPalette::Highlight);
     const auto meler = [](int a, int b) { return (a * (100 - Part) + b * Part) / 100; };
@@ -48,17 +47,15 @@ void PoserChamp(QLineEdit& champ, std::string_view texte) {
     champ.setCursorPosition(0);
 }
 
-void PoserChamp(QPlainTextEdit& champ, std::string_view texte) {
-    champ.setPlainText(TexteVersQt(texte));
-    champ.setProperty(Stocke, champ.toPlainText());
+void RelireChamp(QLineEdit& champ, std::string_view texte, bool garder) {
+    if (garder && champ.text() != champ.property(Stocke).toString())
+        champ.setProperty(Stocke, TexteVersQt(texte));
+    else
+        PoserChamp(champ, texte);
 }
 
 void MarquerChamp(QLineEdit& champ, const shell::Session& session) {
     MarquerModifie(champ, champ.text() != champ.property(Stocke).toString(), session);
-}
-
-void MarquerChamp(QPlainTextEdit& champ, const shell::Session& session) {
-    MarquerModifie(champ, champ.toPlainText() != champ.property(Stocke).toString(), session);
 }
 
 std::string LireChamp(const QString& texte, std::size_t& remplaces) {

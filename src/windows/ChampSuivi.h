@@ -5,8 +5,6 @@
 #include <string>
 #include <string_view>
 
-class QPlainTextEdit;
-
 namespace dorvane::shell {
 class Session;
 }
@@ -18,11 +16,12 @@ namespace dorvane::windows {
 
 /// Shows a stored value, in code page 1252, and takes the mark away.
 void PoserChamp(QLineEdit& champ, std::string_view texte);
-void PoserChamp(QPlainTextEdit& champ, std::string_view texte);
+/// The same when `garder` is false; else a field that was changed keeps what it says, and only
+/// what it is compared with is the new value.
+void RelireChamp(QLineEdit& champ, std::string_view texte, bool garder);
 
 /// Sets or takes away the mark by what the field says now.
 void MarquerChamp(QLineEdit& champ, const shell::Session& session);
-void MarquerChamp(QPlainTextEdit& champ, const shell::Session& session);
 
 /// Gives any widget the look of a changed one, or takes it away.
 void MarquerModifie(QWidget& widget, bool modifie, const shell::Session& session);

@@ -44,7 +44,6 @@ void SuivreCasse(QLineEdit& champ, const shell::Session& session, Casse casse) {
 ChampsFiche::ChampsFiche(QWidget* parent)
     : QWidget{parent}, ui_{std::make_unique<Ui::ChampsFiche>()} {
     ui_->setupUi(this);
-    setObjectName(QStringLiteral("ChampsFiche"));
     ui_->O_Sexe_0->setObjectName(QStringLiteral("O_Sexe(0)"));
     ui_->O_Sexe_1->setObjectName(QStringLiteral("O_Sexe(1)"));
     ui_->O_Sexe_2->setObjectName(QStringLiteral("O_Sexe(2)"));
@@ -54,6 +53,8 @@ ChampsFiche::~ChampsFiche() = default;
 
 void ChampsFiche::Attacher(shell::Session& session) {
     session_ = &session;
+    // The form around it has named it in its own way; the captions are found by this name.
+    setObjectName(QStringLiteral("ChampsFiche"));
     for (QLineEdit* champ : findChildren<QLineEdit*>())
         connect(champ, &QLineEdit::textChanged, this, &ChampsFiche::Changer);
     for (QRadioButton* option : {ui_->O_Sexe_0, ui_->O_Sexe_1, ui_->O_Sexe_2})
@@ -75,22 +76,20 @@ void ChampsFiche::Attacher(shell::Session& session) {
     ui_->O_Sexe_2->setIcon(IconeSexe('I'));
 }
 
-void ChampsFiche::Montrer(const records::SaisieFiche& fiche) {
+void ChampsFiche::Montrer(const records::SaisieFiche& fiche, bool garder) {
     montre_ = true;
-    PoserChamp(*ui_->T_Nom, fiche.nom);
-    PoserChamp(*ui_->T_Prénom, fiche.prenom);
-    PoserChamp(*ui_->Tx_PrénomAutres, fiche.autrePrenom);
-    PoserChamp(*ui_->TxtJNaiss, fiche.jourMoisNaissance);
-    PoserChamp(*ui_->T_Naiss, fiche.anneeNaissance);
-    PoserChamp(*ui_->TxtLieuNaiss, fiche.lieuNaissance);
-    PoserChamp(*ui_->TxtJDécès, fiche.jourMoisDeces);
-    PoserChamp(*ui_->T_Décès, fiche.anneeDeces);
-    PoserChamp(*ui_->TxtLieuDécès, fiche.lieuDeces);
+    RelireChamp(*ui_->T_Nom, fiche.nom, garder);
+    RelireChamp(*ui_->T_Prénom, fiche.prenom, garder);
+    RelireChamp(*ui_->Tx_PrénomAutres, fiche.autrePrenom, garder);
+    RelireChamp(*ui_->TxtJNaiss, fiche.jourMoisNaissance, garder);
+    RelireChamp(*ui_->T_Naiss, fiche.anneeNaissance, garder);
+    RelireChamp(*ui_->TxtLieuNaiss, fiche.lieuNaissance, garder);
+    RelireChamp(*ui_->TxtJDécès, fiche.jourMoisDeces, garder);
+    RelireChamp(*ui_->T_Décès, fiche.anneeDeces, garder);
+    RelireChamp(*ui_->TxtLieuDécès, fiche.lieuDeces, garder);
+    const bool sexeChange = garder && Sexe() != sexeStocke_;
     sexeStocke_ = fiche.sexe;
-    (fiche.sexe == 'H'   ? ui_->O_Sexe_0
-     : fiche.sexe == 'F' ? ui_->O_Sexe_1
-                         : ui_->O_Sexe_2)
-        ->setChecked(true);
+    if (!sexeChange) PoserSexe(fiche.sexe);
     montre_ = false;
     Changer();
 }
@@ -140,6 +139,10 @@ void ChampsFiche::AllerAuChamp(Champ champ) {
     if (auto* texte = qobject_cast<QLineEdit*>(widget)) texte->selectAll();
 }
 
+void ChampsFiche::PoserSexe(char sexe) {
+    (sexe == 'H' ? ui_->O_Sexe_0 : sexe == 'F' ? ui_->O_Sexe_1 : ui_->O_Sexe_2)->setChecked(true);
+}
+
 void ChampsFiche::LibererSexe(bool libre) {
     for (QRadioButton* option : {ui_->O_Sexe_0, ui_->O_Sexe_1, ui_->O_Sexe_2})
         option->setEnabled(libre || option->isChecked());
@@ -178,10 +181,9 @@ void ChampsFiche::AviserDates() {
         records::JourDeLaSemaine(session, fiche.jourMoisNaissance, fiche.anneeNaissance)));
     ui_->LblJDécès->setText(
         TexteVersQt(records::JourDeLaSemaine(session, fiche.jourMoisDeces, fiche.anneeDeces)));
-    const auto montrer = [&session](QLabel& etiquette, AvisDate avis, bool manque) {
+    const auto montrer = [&session](EtiquetteElidee& etiquette, AvisDate avis, bool manque) {
         const QString texte = manque ? TexteEcran(session, 2629) : TexteAvis(session, avis);
-        etiquette.setText(texte);
-        etiquette.setToolTip(texte);
+        etiquette.Dire(texte);
         etiquette.setPalette({});
         if (manque)
             etiquette.setForegroundRole(QPalette::PlaceholderText);

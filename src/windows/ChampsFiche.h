@@ -44,12 +44,14 @@ public:
     /// `session` outlives the widget. Called once, before anything else.
     void Attacher(shell::Session& session);
 
-    void Montrer(const records::SaisieFiche& fiche);
+    /// `garder`: fields that were changed keep what they say.
+    void Montrer(const records::SaisieFiche& fiche, bool garder = false);
     /// Fills the fields of `fiche` that stand here; `remplaces` grows by the characters that code
     /// page 1252 lacks.
     void Lire(records::SaisieFiche& fiche, std::size_t& remplaces) const;
 
     void AllerAuChamp(records::Champ champ);
+    void PoserSexe(char sexe);
     /// The sex may be changed by the user.
     void LibererSexe(bool libre);
     void Traduire();

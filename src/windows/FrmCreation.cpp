@@ -8,6 +8,12 @@
 
 namespace dorvane::windows {
 
+namespace {
+
+constexpr int LargeurInitiale = 940;
+
+}  // namespace
+
 bool AccepterRemplaces(shell::Session& session, std::size_t remplaces) {
     return remplaces == 0 ||
            session.dialogue.Confirmer(shell::Msg(2610, std::to_string(remplaces)));
@@ -39,6 +45,7 @@ FrmCreation::FrmCreation(shell::Session& session, const SaisieDepart& depart, QW
     connect(ui_->CmdCréer, &QPushButton::clicked, this, qOverload<>(&FrmCreation::Creer));
     connect(ui_->CmdAnnuler, &QPushButton::clicked, this, &FrmCreation::reject);
     Traduire();
+    resize(LargeurInitiale, sizeHint().height());
     ui_->Champs->AllerAuChamp(depart_.nom.empty() ? records::Champ::Nom : records::Champ::Prenom);
 }
 

@@ -16,6 +16,8 @@
 #include "windows/Legendes.h"
 #include "windows/Unicode.h"
 
+#include <map>
+
 namespace dorvane::windows {
 
 namespace {
@@ -42,16 +44,35 @@ RangeesFiche::RangeesFiche(QWidget* parent) : QWidget{parent}, grille_{new QGrid
 void RangeesFiche::Attacher(shell::Session& session, Sorte sorte) {
     session_ = &session;
     sorte_ = sorte;
-    Construire();
+    static_cast<void>(Construire());
 }
 
-void RangeesFiche::Construire() {
+void RangeesFiche::Reconstruire(const records::RangeesSlots& stockees) {
+    records::RangeesSlots tapees;
+    std::size_t remplaces = 0;
+    Lire(tapees, remplaces);
+    std::map<std::string, storage::ValeurSlot> parLibelle;
+    for (std::size_t k = 0; k < rangees_.size(); ++k)
+        parLibelle[definition_.libelles[k]] = tapees[k];
+    if (!Construire()) return;
+    if (avant_ != nullptr) Enchainer(*avant_);
+    Montrer(stockees);
+    for (std::size_t k = 0; k < rangees_.size(); ++k) {
+        const auto valeur = parLibelle.find(definition_.libelles[k]);
+        if (valeur == parLibelle.end()) continue;
+        rangees_[k].jourMois->setText(TexteVersQt(valeur->second.jourMois));
+        rangees_[k].annee->setText(TexteVersQt(valeur->second.annee));
+        rangees_[k].lieu->setText(TexteVersQt(valeur->second.lieu));
+    }
+}
+
+bool RangeesFiche::Construire() {
     storage::DefinitionSlots definition;
     if (session_->base)
         definition = sorte_ == Sorte::Individu ? session_->base->DefinitionIndividu()
                                                : session_->base->DefinitionMariage();
     if (definition.slots == definition_.slots && definition.libelles == definition_.libelles)
-        return;
+        return false;
     definition_ = definition;
     rangees_.clear();
     while (QLayoutItem* element = grille_->takeAt(0)) {
@@ -61,6 +82,7 @@ void RangeesFiche::Construire() {
     for (std::size_t k = 0; k < storage::NbSlots(definition_.slots); ++k)
         AjouterRangee(k);
     Traduire();
+    return true;
 }
 
 void RangeesFiche::AjouterRangee(std::size_t k) {
@@ -120,12 +142,12 @@ void RangeesFiche::AjouterRangee(std::size_t k) {
     rangees_.push_back(r);
 }
 
-void RangeesFiche::Montrer(const records::RangeesSlots& rangees) {
+void RangeesFiche::Montrer(const records::RangeesSlots& rangees, bool garder) {
     montre_ = true;
     for (std::size_t k = 0; k < rangees_.size(); ++k) {
-        PoserChamp(*rangees_[k].jourMois, rangees[k].jourMois);
-        PoserChamp(*rangees_[k].annee, rangees[k].annee);
-        PoserChamp(*rangees_[k].lieu, rangees[k].lieu);
+        RelireChamp(*rangees_[k].jourMois, rangees[k].jourMois, garder);
+        RelireChamp(*rangees_[k].annee, rangees[k].annee, garder);
+        RelireChamp(*rangees_[k].lieu, rangees[k].lieu, garder);
     }
     montre_ = false;
     Changer();
@@ -170,6 +192,7 @@ void RangeesFiche::Traduire() {
 }
 
 void RangeesFiche::Enchainer(QWidget& avant) {
+    avant_ = &avant;
     QWidget* precedent = &avant;
     for (const Rangee& r : rangees_)
         for (QWidget* champ : {static_cast<QWidget*>(r.jourMois), static_cast<QWidget*>(r.annee),

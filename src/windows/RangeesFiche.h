@@ -36,15 +36,17 @@ public:
     /// `session` outlives the widget. Called once, before anything else.
     void Attacher(shell::Session& session, Sorte sorte);
 
-    /// Makes the rows anew when the slots of the base have changed. What was typed is lost then.
-    void Construire();
+    /// Makes the rows anew if the slots of the base have changed: `stockees` are their stored
+    /// values then, and what was typed for a keyword that has a row still stays typed.
+    void Reconstruire(const records::RangeesSlots& stockees);
 
-    void Montrer(const records::RangeesSlots& rangees);
+    /// `garder`: fields that were changed keep what they say.
+    void Montrer(const records::RangeesSlots& rangees, bool garder = false);
     void Lire(records::RangeesSlots& rangees, std::size_t& remplaces) const;
     /// Years of the life inside which the dates belong, as typed.
     void PoserVie(const std::string& naissance, const std::string& deces);
     void Traduire();
-    /// Puts the rows behind `avant` in the order of Tab. Again after `Construire`.
+    /// Puts the rows behind `avant` in the order of Tab. Kept by `Reconstruire`.
     void Enchainer(QWidget& avant);
     [[nodiscard]] bool EstVide() const { return rangees_.empty(); }
 
@@ -62,6 +64,8 @@ private:
         Completeur* mots;
     };
 
+    /// False when the rows are those of the base already.
+    bool Construire();
     void AjouterRangee(std::size_t k);
     void Changer();
     void Aviser();
@@ -71,6 +75,7 @@ private:
     QGridLayout* grille_;
     storage::DefinitionSlots definition_;
     std::vector<Rangee> rangees_;
+    QWidget* avant_ = nullptr;  ///< in the order of Tab
     std::string naissance_;
     std::string deces_;
     bool montre_ = false;

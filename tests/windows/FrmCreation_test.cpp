@@ -155,7 +155,7 @@ TEST_CASE_FIXTURE(Formulaire,
     Ouvrir();
     CHECK(C<QLabel>("LblAvisNaiss").text() == "année manquante");
     Taper("T_Naiss", "18?");
-    CHECK(C<QLabel>("LblAvisNaiss").text() == "cette année ne pourra pas être triée");
+    CHECK(C<QLabel>("LblAvisNaiss").text() == "année non triable");
     Taper("T_Naiss", "1850");
     CHECK(C<QLabel>("LblAvisNaiss").text().isEmpty());
     Taper("T_Décès", "1840");
@@ -224,7 +224,7 @@ TEST_CASE_FIXTURE(Formulaire, "FrmCréation: the order of Tab is the order of re
         QTest::keyClick(fenetre->focusWidget(), Qt::Key_Tab);
     }
     CAPTURE(ordre.join(u' ').toStdString());
-    CHECK(ordre.join(u' ') == QStringList{"T_Nom", "T_Prénom", "Tx_PrénomAutres", "O_Sexe(2)",
+    CHECK(ordre.join(u' ') == QStringList{"T_Nom", "T_Prénom", "Tx_PrénomAutres", "O_Sexe(0)",
                                           "TxtJNaiss", "T_Naiss", "TxtLieuNaiss", "TxtJDécès",
                                           "T_Décès", "TxtLieuDécès", "TxtIndL(0)", "CmdIndSel(0)",
                                           "TxtIndJ(1)"}
