@@ -68,7 +68,11 @@ bool RechercheNoms::Relire() {
 
 bool Rechercher(RechercheNoms& recherche, shell::Session& session, std::string_view texte,
                 bool cumul, const std::function<void()>& montrer) {
-    if (session.progression.EnCours() || !recherche.Commencer(texte, cumul)) return false;
+    if (texte.empty()) return false;
+    if (session.progression.EnCours() || !recherche.Commencer(texte, cumul)) {
+        session.dialogue.Informer(shell::Msg(503));
+        return false;
+    }
     bool abandon = false;
     {
         const shell::CadreProgression cadre{session.progression, shell::Msg(MsgPhase),

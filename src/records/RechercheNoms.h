@@ -52,8 +52,9 @@ private:
 };
 
 /// A whole search under the progress port, which lets the windows live between two steps.
-/// `montrer` is called after each step that has found somebody. Tells when nobody was found. False
-/// when there was nothing to search, another job runs, or the user gave up: what was found stays.
+/// `montrer` is called after each step that has found somebody. Tells when nobody was found, when
+/// no base is open and when another job runs. False when nothing was searched, and when the user
+/// gave up: what was found stays.
 bool Rechercher(RechercheNoms& recherche, shell::Session& session, std::string_view texte,
                 bool cumul, const std::function<void()>& montrer);
 

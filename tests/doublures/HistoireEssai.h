@@ -69,11 +69,14 @@ public:
         for (const Acte& acte : Actes)
             somme += acte.poids;
         std::uint32_t tire = Tirer(somme);
-        std::size_t i = 0;
-        while (tire >= Actes[i].poids)
-            tire -= Actes[i++].poids;
-        (this->*Actes[i].geste)();
-        return Actes[i].nom;
+        for (const Acte& acte : Actes) {
+            if (tire < acte.poids) {
+                (this->*acte.geste)();
+                return acte.nom;
+            }
+            tire -= acte.poids;
+        }
+        return {};
     }
 
     /// Gives a link another label on one side, by the sheet.

@@ -140,8 +140,13 @@ TEST_CASE_FIXTURE(Famille, "No search begins while another job runs, nor without
     CHECK_FALSE(Chercher("zola"));
     progression.cadres = 0;
     CHECK(recherche.Resultat().empty());
+    CHECK(Dit() == Dits{"503"});
     RechercheNoms sans{session};
     std::unique_ptr<storage::Base> gardee = std::move(session.base);
+    dialogue.pendant = nullptr;
+    CHECK_FALSE(Chercher("zola"));
+    CHECK_FALSE(Chercher(""));
+    CHECK(Dit() == Dits{"503"});
     CHECK_FALSE(sans.Commencer("zola", false));
     CHECK(sans.Total() == 0);
     CHECK_FALSE(sans.Continuer(10));
