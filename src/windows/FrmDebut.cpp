@@ -39,6 +39,7 @@ FrmDebut::FrmDebut(shell::Session& session, QWidget* parent)
     setScene(&scene_);
     setFrameShape(QFrame::NoFrame);
     setDragMode(QGraphicsView::ScrollHandDrag);
+    setAcceptDrops(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
@@ -285,10 +286,12 @@ CaseGraphique* FrmDebut::CaseSous(const QPoint& point) const {
 
 void FrmDebut::mouseDoubleClickEvent(QMouseEvent* evenement) {
     const CaseGraphique* boite = CaseSous(evenement->pos());
-    if (evenement->button() == Qt::LeftButton && boite != nullptr && boite->Individu())
-        Q_EMIT personneDemandee(boite->Individu().valeur);
+    if (evenement->button() != Qt::LeftButton || boite == nullptr || !boite->Individu())
+        return QGraphicsView::mouseDoubleClickEvent(evenement);
+    if (boite->Indice() == 0)
+        Q_EMIT ficheDemandee(boite->Individu().valeur);
     else
-        QGraphicsView::mouseDoubleClickEvent(evenement);
+        Q_EMIT personneDemandee(boite->Individu().valeur);
 }
 
 void FrmDebut::contextMenuEvent(QContextMenuEvent* evenement) {
@@ -347,6 +350,10 @@ void FrmDebut::keyPressEvent(QKeyEvent* evenement) {
             return;
         case Qt::Key_Down:
             Q_EMIT pasDemande(Parente::ConjointSuivant);
+            return;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (!cases_.empty()) Q_EMIT ficheDemandee(cases_.front()->Individu().valeur);
             return;
         default:
             QGraphicsView::keyPressEvent(evenement);

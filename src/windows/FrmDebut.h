@@ -69,15 +69,28 @@ public:
     void Traduire();
 
 Q_SIGNALS:
-    /// A double click on a box.
+    /// A double click on a box, or a person dropped on the ground.
     void personneDemandee(quint32 individu);
+    /// A double click on the current person, or Enter.
+    void ficheDemandee(quint32 individu);
+    /// A click on the box of a parent who is not known, at a point of the screen. `cote`: 'H' for
+    /// the father, 'F' for the mother.
+    void parentDemande(quint32 enfant, char cote, const QPoint& point);
+    /// A person was dropped on such a box.
+    void parentDepose(quint32 enfant, char cote, quint32 parent);
     /// The right button, or the menu key, at a point of the screen.
     void menuDemande(quint32 individu, const QPoint& point);
     /// An arrow key.
     void pasDemande(dorvane::records::Parente parente);
 
 protected:
+    void mousePressEvent(QMouseEvent* evenement) override;
+    void mouseMoveEvent(QMouseEvent* evenement) override;
+    void mouseReleaseEvent(QMouseEvent* evenement) override;
     void mouseDoubleClickEvent(QMouseEvent* evenement) override;
+    void dragEnterEvent(QDragEnterEvent* evenement) override;
+    void dragMoveEvent(QDragMoveEvent* evenement) override;
+    void dropEvent(QDropEvent* evenement) override;
     void contextMenuEvent(QContextMenuEvent* evenement) override;
     void wheelEvent(QWheelEvent* evenement) override;
     void keyPressEvent(QKeyEvent* evenement) override;
@@ -96,6 +109,12 @@ private:
     [[nodiscard]] StyleGraphe FaireStyle() const;
     [[nodiscard]] ContenuCase LireCase(const records::CaseFamille& modele) const;
     [[nodiscard]] CaseGraphique* CaseSous(const QPoint& point) const;
+    /// A parent who is not known: of whom, and on which side. Empty for other boxes.
+    struct PlaceParent {
+        NoOrdre enfant{};
+        char cote = ' ';
+    };
+    [[nodiscard]] PlaceParent ParentInconnu(const CaseGraphique* boite) const;
     [[nodiscard]] QPointF CentreVoulu() const;
     [[nodiscard]] double EchelleVoulue() const;
     void Etendre();
@@ -117,6 +136,8 @@ private:
     records::Generations generations_;
     std::vector<CaseGraphique*> cases_;
     NoOrdre montree_{};
+    NoOrdre saisie_{};    ///< person under the pressed button
+    QPoint pointSaisie_;  ///< where it was pressed
     QVariantAnimation glissement_;
     Vue depuis_;
     Vue vers_;

@@ -76,6 +76,16 @@ MDIForm1::MDIForm1(shell::Session& session)
         MenuIndividu(NoOrdre{individu}, point);
     });
     connect(graphe_, &FrmDebut::pasDemande, this, &MDIForm1::PasVers);
+    connect(graphe_, &FrmDebut::ficheDemandee, this,
+            [this](quint32 individu) { OuvrirFiche(NoOrdre{individu}); });
+    connect(graphe_, &FrmDebut::parentDemande, this,
+            [this](quint32 enfant, char cote, const QPoint& point) {
+                MenuParent(NoOrdre{enfant}, cote, point);
+            });
+    connect(graphe_, &FrmDebut::parentDepose, this,
+            [this](quint32 enfant, char cote, quint32 parent) {
+                DeposerParent(NoOrdre{enfant}, cote, NoOrdre{parent});
+            });
     connect(&Minuterie1_, &QTimer::timeout, this, &MDIForm1::Minuterie);
     connect(&Minuterie2_, &QTimer::timeout, this, &MDIForm1::SuivreFenetres);
     Minuterie1_.start(PeriodeMinuterie1);
@@ -189,13 +199,6 @@ bool MDIForm1::ConfirmerFermeture() {
     for (FenetreFille* fille : Filles())
         if (fille->isVisible() && !fille->ConfirmerFermeture()) return false;
     return true;
-}
-
-void MDIForm1::Accueillir(FenetreFille& fille) {
-    connect(&fille, &FenetreFille::allerDemande, this,
-            [this](quint32 individu) { AllerA(NoOrdre{individu}); });
-    connect(&fille, &FenetreFille::baseChangee, this, [this, &fille] { RelireTout(&fille); });
-    connect(&fille, &QDialog::finished, this, &MDIForm1::SuivreFenetres);
 }
 
 /// The chart and every window but `sauf` read the base again.

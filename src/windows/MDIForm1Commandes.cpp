@@ -9,8 +9,8 @@
 #include "shell/Numerotation.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
-#include "windows/FrmCalendrier.h"
 #include "windows/FrmDebut.h"
+#include "windows/Icones.h"
 #include "windows/Legendes.h"
 #include "windows/MDIForm1.h"
 #include "windows/Unicode.h"
@@ -38,20 +38,6 @@ std::uint32_t TitreGroupe(records::EntreeFamille::Groupe groupe) {
 }
 
 }  // namespace
-
-template <class Fenetre>
-Fenetre& MDIForm1::Montrer() {
-    auto* fenetre = findChild<Fenetre*>(QString{}, Qt::FindDirectChildrenOnly);
-    if (fenetre == nullptr) {
-        fenetre = new Fenetre{session_, this};
-        Accueillir(*fenetre);
-    }
-    fenetre->show();
-    fenetre->raise();
-    fenetre->activateWindow();
-    SuivreFenetres();
-    return *fenetre;
-}
 
 void MDIForm1::Nouveau() {
     shell::MnuNouveau(session_);
@@ -193,16 +179,16 @@ void MDIForm1::BarreFenetres() {
     SuivreFenetres();
 }
 
-void MDIForm1::Calendrier() {
-    Montrer<FrmCalendrier>();
-}
-
 /// The relatives of a person; choosing one moves there.
 void MDIForm1::MenuIndividu(NoOrdre individu, const QPoint& point) {
     if (!session_.base) return;
     auto* menu = new QMenu{this};
     menu->setObjectName(QStringLiteral("MnuIndividu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction* fiche = menu->addAction(Icone("MnuModif"), TexteEcran(session_, 2124));
+    fiche->setObjectName(QStringLiteral("OuvrirFiche"));
+    connect(fiche, &QAction::triggered, this, [this, individu] { OuvrirFiche(individu); });
+    menu->addSeparator();
     auto groupe = records::EntreeFamille::Groupe::Personne;
     for (const records::EntreeFamille& entree : records::EntreesFamille(*session_.base, individu)) {
         if (entree.groupe != groupe)

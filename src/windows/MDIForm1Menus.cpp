@@ -7,6 +7,7 @@
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
 #include "shell/Session.h"
+#include "windows/BoutonsIcones.h"
 #include "windows/DialogueQt.h"
 #include "windows/FrmDebut.h"
 #include "windows/Icones.h"
@@ -15,31 +16,6 @@
 #include <string>
 
 namespace dorvane::windows {
-
-namespace {
-
-/// The buttons of the icon bar by the numbers that the settings keep. Numbers of functions that
-/// the program does not have are left out of the bar.
-struct BoutonIcone {
-    int no;
-    const char* action;
-};
-constexpr BoutonIcone Boutons[] = {
-    {0, "MnuNouveau"},    {1, "MnuOuvrir"},       {2, "MnuFermer"},    {3, "MnuEnregistrer"},
-    {4, "MnuSauvegarde"}, {5, "MnuRestauration"}, {8, "MnuNoms"},      {10, "MnuImporter"},
-    {11, "MnuPrécédent"}, {12, "MnuSuivant"},     {13, "MnuAller1_1"}, {14, "MnuAller1_2"},
-    {15, "MnuAgrandir"},  {16, "MnuDiminuer"},    {28, "MnuGauche"},   {29, "MnuDroite"},
-    {30, "MnuAjuster"},   {31, "MnuCalendrier"},
-};
-constexpr int Separateur = 99;
-
-const char* ActionDuBouton(int no) {
-    for (const BoutonIcone& bouton : Boutons)
-        if (bouton.no == no) return bouton.action;
-    return nullptr;
-}
-
-}  // namespace
 
 QAction* MDIForm1::ActionNommee(const QString& nom) const {
     return findChild<QAction*>(nom);
@@ -100,7 +76,15 @@ void MDIForm1::FairePersonne() {
     QMenu* menu = FaireMenu(menuBar(), "MnuPersonne");
     FaireAction(menu, "MnuPrécédent", "Ctrl+PgUp", &MDIForm1::Precedent);
     FaireAction(menu, "MnuSuivant", "Ctrl+PgDown", &MDIForm1::Suivant);
-    FaireAction(menu, "MnuNoms", "Ctrl+F", &MDIForm1::Noms);
+    FaireAction(menu, "MnuListe", "Ctrl+F", &MDIForm1::Liste);
+    FaireAction(menu, "MnuNoms", "Ctrl+L", &MDIForm1::Noms);
+    menu->addSeparator();
+    FaireAction(menu, "MnuModif", "F2", &MDIForm1::Modifier);
+    FaireAction(menu, "MnuNouvInd", "Ctrl+Shift+N", &MDIForm1::NouvelIndividu);
+    FaireAction(menu, "MnuSupprInd", nullptr, &MDIForm1::SupprimerIndividu);
+    menu->addSeparator();
+    FaireAction(menu, "MnuLstEvt", "Ctrl+E", &MDIForm1::Evenements);
+    FaireAction(menu, "MnuLstImage", "Ctrl+D", &MDIForm1::Documents);
     menu->addSeparator();
     FaireAction(menu, "MnuAller1_1", "Ctrl+1", &MDIForm1::AllerDeCujus1);
     FaireAction(menu, "MnuAller1_2", "Ctrl+2", &MDIForm1::AllerDeCujus2);
@@ -147,7 +131,13 @@ void MDIForm1::FaireAffichage() {
 
 void MDIForm1::FaireOutils() {
     QMenu* menu = FaireMenu(menuBar(), "MnuOutils");
+    FaireAction(menu, "MnuMotsClés", nullptr, &MDIForm1::MotsCles);
+    FaireAction(menu, "MnuUsuels", "Ctrl+U", &MDIForm1::Usuels);
+    menu->addSeparator();
     FaireAction(menu, "MnuCalendrier", "Ctrl+K", &MDIForm1::Calendrier);
+    menu->addSeparator();
+    FaireAction(menu, "MnuParametres", "Ctrl+,", &MDIForm1::Reglages)
+        ->setMenuRole(QAction::PreferencesRole);
 }
 
 void MDIForm1::PoserIcones() {
@@ -161,7 +151,7 @@ void MDIForm1::PoserIcones() {
         const int no = texte.trimmed().toInt();
         const char* nom = ActionDuBouton(no);
         // A group of which nothing is there leaves no second line.
-        if (no == Separateur) trait = !icones_->actions().isEmpty();
+        if (no == SeparateurIcones) trait = !icones_->actions().isEmpty();
         if (nom == nullptr) continue;
         if (trait) icones_->addSeparator();
         trait = false;

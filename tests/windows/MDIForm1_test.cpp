@@ -346,7 +346,7 @@ TEST_CASE_FIXTURE(FenetreEssai,
     Demarrer(base);
     auto& barre = Trouver<QToolBar>("Icones");
     CHECK_FALSE(barre.isVisible());
-    S().parametres.generaux.icones = "17,99,0,1,99,18,22,99,99,11,12,99";
+    S().parametres.generaux.icones = "50,99,0,1,99,51,52,99,99,11,12,99";
     Action("MnuBarreIcones").trigger();
     CHECK(S().parametres.generaux.barreMenus);
     Fenetre().Actualiser();
