@@ -58,8 +58,9 @@ void FrmDebut::mouseReleaseEvent(QMouseEvent* evenement) {
 }
 
 void FrmDebut::dragEnterEvent(QDragEnterEvent* evenement) {
-    if (PersonneDeMime(session_, evenement->mimeData())) evenement->acceptProposedAction();
-    // Files are for the main window.
+    // Files are left to the main window.
+    if (PersonneDeMime(session_, evenement->mimeData()))
+        evenement->acceptProposedAction();
     else
         evenement->ignore();
 }

@@ -61,8 +61,6 @@ MDIForm1::MDIForm1(shell::Session& session)
     setCentralWidget(pages_);
     pages_->addWidget(accueil_);
     pages_->addWidget(graphe_);
-    // The view would take drops for its scene.
-    graphe_->setAcceptDrops(false);
     FaireMenus();
     FaireBarres();
 
