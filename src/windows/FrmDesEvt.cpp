@@ -109,8 +109,9 @@ void FrmDesEvt::Connecter() {
     };
     connect(ui_->TxtDate, &QLineEdit::textChanged, this, &FrmDesEvt::SuivreDate);
     connect(ui_->TxtDate, &QLineEdit::editingFinished, this, [this] {
-        ui_->TxtDate->setText(TexteVersQt(QuitterDateEvenement(
-            QtVersTexte(ui_->TxtDate->text()).octets, S().Ordre(), S().Mots())));
+        const std::string saisie = QtVersTexte(ui_->TxtDate->text()).octets;
+        if (const auto date = SaisirDateEvenement(saisie, S().Ordre(), S().Mots()))
+            ui_->TxtDate->setText(TexteVersQt(AfficherDateEvenement(*date, S().Mots())));
     });
     connect(ui_->CboTypeEvt, &QComboBox::currentTextChanged, this, &FrmDesEvt::SuivreType);
     connect(liens_, &ModeleLiens::roleChange, this, &FrmDesEvt::ChangerRole);

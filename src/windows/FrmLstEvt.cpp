@@ -3,7 +3,6 @@
 #include "ui_FrmLstEvt.h"
 #include <QDropEvent>
 #include <QHeaderView>
-#include <QShortcut>
 
 #include "records/FicheEvenement.h"
 #include "shell/Session.h"
@@ -47,9 +46,7 @@ FrmLstEvt::FrmLstEvt(shell::Session& session, QWidget* parent)
     connect(ui_->CmdSupp, &QPushButton::clicked, this, &FrmLstEvt::Supprimer);
     connect(ui_->CmdChoisir, &QPushButton::clicked, this, &QDialog::accept);
     connect(ui_->CmdFermer, &QPushButton::clicked, this, &QDialog::reject);
-    auto* supprimer = new QShortcut{QKeySequence::Delete, ui_->GrdEvts};
-    supprimer->setContext(Qt::WidgetShortcut);
-    connect(supprimer, &QShortcut::activated, this, &FrmLstEvt::Supprimer);
+    connect(liste_, &ListeFiltree::retire, this, &FrmLstEvt::Supprimer);
     for (QWidget* cible : {static_cast<QWidget*>(this), ui_->GrdEvts->viewport()}) {
         cible->setAcceptDrops(true);
         cible->installEventFilter(this);

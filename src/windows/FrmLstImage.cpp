@@ -4,9 +4,9 @@
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <QShortcut>
 #include <QUrl>
 
 #include "records/FicheDocument.h"
@@ -62,7 +62,8 @@ FrmLstImage::FrmLstImage(shell::Session& session, QWidget* parent)
         else
             MettreAJour();
     });
-    connect(ui_->CmdAjout, &QPushButton::clicked, this, [this] { Ajouter({std::filesystem::path{}}); });
+    connect(ui_->CmdAjout, &QPushButton::clicked, this,
+            [this] { Ajouter({std::filesystem::path{}}); });
     connect(ui_->CmdMaj, &QPushButton::clicked, this, &FrmLstImage::MettreAJour);
     connect(ui_->CmdOuvrir, &QPushButton::clicked, this, [this] { OuvrirDocument(S(), Choisi()); });
     connect(ui_->CmdSupp, &QPushButton::clicked, this, &FrmLstImage::Supprimer);
@@ -70,14 +71,7 @@ FrmLstImage::FrmLstImage(shell::Session& session, QWidget* parent)
     connect(ui_->DocBase, &QPushButton::clicked, this, &FrmLstImage::PoserTitre);
     connect(ui_->CmdChoisir, &QPushButton::clicked, this, &QDialog::accept);
     connect(ui_->CmdFermer, &QPushButton::clicked, this, &QDialog::reject);
-    const auto touche = [&](QKeySequence touches, void (FrmLstImage::*action)()) {
-        auto* raccourci = new QShortcut{touches, &table};
-        raccourci->setContext(Qt::WidgetShortcut);
-        connect(raccourci, &QShortcut::activated, this, action);
-    };
-    touche(QKeySequence::Delete, &FrmLstImage::Supprimer);
-    auto* modifier = new QShortcut{QKeySequence{Qt::Key_F2}, this};
-    connect(modifier, &QShortcut::activated, this, [this] { Modifier(Choisi()); });
+    connect(liste_, &ListeFiltree::retire, this, &FrmLstImage::Supprimer);
     for (QWidget* cible : {static_cast<QWidget*>(this), table.viewport()}) {
         cible->setAcceptDrops(true);
         cible->installEventFilter(this);
@@ -177,6 +171,13 @@ void FrmLstImage::PoserTitre(bool pose) {
     modele_->Relire();
     PoserBoutons();
     Q_EMIT baseChangee();
+}
+
+void FrmLstImage::keyPressEvent(QKeyEvent* evenement) {
+    if (evenement->key() == Qt::Key_F2)
+        Modifier(Choisi());
+    else
+        FenetreFille::keyPressEvent(evenement);
 }
 
 void FrmLstImage::contextMenuEvent(QContextMenuEvent* evenement) {

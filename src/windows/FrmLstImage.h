@@ -40,6 +40,7 @@ public:
 
 protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
     void contextMenuEvent(QContextMenuEvent* evenement) override;
     void done(int resultat) override;
 

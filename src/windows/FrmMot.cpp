@@ -15,6 +15,8 @@
 #include "windows/Legendes.h"
 #include "windows/Unicode.h"
 
+#include <optional>
+
 namespace dorvane::windows {
 
 namespace {
@@ -109,8 +111,10 @@ bool FrmMot::eventFilter(QObject* objet, QEvent* evenement) {
 void FrmMot::Reprendre() {
     const Rangee& rangee = rangees_[courante_];
     if (rangee.jourMois != nullptr) {
-        const std::string montree = QuitterDateEvenement(evenement_.date, S().Ordre(), S().Mots());
-        const records::DateCoupee date = records::CouperDate(montree);
+        const std::optional<Serie> serie =
+            SaisirDateEvenement(evenement_.date, S().Ordre(), S().Mots());
+        records::DateCoupee date;
+        if (serie) date = records::CouperDate(AfficherDateEvenement(*serie, S().Mots()));
         rangee.jourMois->setText(TexteVersQt(date.jourMois));
         rangee.annee->setText(TexteVersQt(date.annee));
         rangee.lieu->setText(TexteVersQt(evenement_.lieu));

@@ -5,11 +5,11 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QStackedWidget>
 #include <QTableView>
 
 #include "shell/Session.h"
+#include "windows/EnTeteListe.h"
 #include "windows/Legendes.h"
 #include "windows/ModeleListe.h"
 #include "windows/Unicode.h"
@@ -18,12 +18,6 @@
 #include <utility>
 
 namespace dorvane::windows {
-
-namespace {
-
-constexpr const char* Section = "Colonnes";
-
-}  // namespace
 
 ListeFiltree::ListeFiltree(shell::Session& session, const Pieces& pieces, const Messages& messages,
                            ModeleListe& modele, const QString& nom, QObject* parent)
@@ -41,15 +35,12 @@ ListeFiltree::ListeFiltree(shell::Session& session, const Pieces& pieces, const 
     liste.verticalHeader()->setDefaultSectionSize(liste.fontMetrics().height() + 8);
     QHeaderView& entete = *liste.horizontalHeader();
     entete.setHighlightSections(false);
-    entete.setSectionsMovable(true);
     entete.setSectionsClickable(true);
     entete.setSortIndicatorClearable(true);
     entete.setSortIndicatorShown(true);
-    entete.setSortIndicator(-1, Qt::AscendingOrder);
-    entete.setContextMenuPolicy(Qt::CustomContextMenu);
+    PreparerEntete(liste, session_, nom_);
     connect(&entete, &QHeaderView::sortIndicatorChanged, this,
             [this](int colonne, Qt::SortOrder ordre) { modele_.sort(colonne, ordre); });
-    connect(&entete, &QWidget::customContextMenuRequested, this, &ListeFiltree::MenuColonnes);
     connect(&liste, &QTableView::doubleClicked, this,
             [this](const QModelIndex& index) { Q_EMIT ouvert(modele_.Numero(index.row())); });
     connect(liste.selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -58,11 +49,6 @@ ListeFiltree::ListeFiltree(shell::Session& session, const Pieces& pieces, const 
     if (pieces_.filtre != nullptr) {
         connect(pieces_.filtre, &QLineEdit::textChanged, this, &ListeFiltree::Filtrer);
         pieces_.filtre->installEventFilter(this);
-    }
-    const std::string etat = session_.parametres.Valeur(Section, nom_.toStdString());
-    if (!etat.empty()) {
-        entete.restoreState(QByteArray::fromBase64(QByteArray::fromStdString(etat)));
-        modele_.sort(entete.sortIndicatorSection(), entete.sortIndicatorOrder());
     }
 }
 
@@ -120,27 +106,7 @@ void ListeFiltree::Compter() {
 }
 
 void ListeFiltree::Memoriser() {
-    static_cast<void>(session_.parametres.SauverValeur(
-        Section, nom_.toStdString(),
-        pieces_.liste->horizontalHeader()->saveState().toBase64().toStdString()));
-}
-
-/// Which columns are shown; the last one cannot be hidden.
-void ListeFiltree::MenuColonnes(const QPoint& point) {
-    QHeaderView& entete = *pieces_.liste->horizontalHeader();
-    auto* menu = new QMenu{pieces_.liste};
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    const int montrees = entete.count() - entete.hiddenSectionCount();
-    for (int colonne = 0; colonne < entete.count(); ++colonne) {
-        QAction* action = menu->addAction(
-            modele_.headerData(colonne, Qt::Horizontal, Qt::DisplayRole).toString());
-        action->setCheckable(true);
-        action->setChecked(!entete.isSectionHidden(colonne));
-        action->setEnabled(montrees > 1 || entete.isSectionHidden(colonne));
-        connect(action, &QAction::toggled, &entete,
-                [&entete, colonne](bool montree) { entete.setSectionHidden(colonne, !montree); });
-    }
-    menu->popup(entete.viewport()->mapToGlobal(point));
+    MemoriserEntete(*pieces_.liste, session_, nom_);
 }
 
 /// The arrows move in the list while the filter has the focus; Enter opens the row in both.
@@ -149,6 +115,10 @@ bool ListeFiltree::eventFilter(QObject* objet, QEvent* evenement) {
     const int touche = static_cast<QKeyEvent*>(evenement)->key();
     if (touche == Qt::Key_Return || touche == Qt::Key_Enter) {
         if (Choisi() != 0) Q_EMIT ouvert(Choisi());
+        return true;
+    }
+    if (touche == Qt::Key_Delete && objet == pieces_.liste) {
+        if (Choisi() != 0) Q_EMIT retire(Choisi());
         return true;
     }
     const bool deplacement = touche == Qt::Key_Up || touche == Qt::Key_Down ||

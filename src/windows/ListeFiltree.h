@@ -53,6 +53,8 @@ public:
 Q_SIGNALS:
     /// Enter or a double click on a row.
     void ouvert(quint32 numero);
+    /// Del on a row.
+    void retire(quint32 numero);
     /// Another row is selected, or none (0).
     void choisi(quint32 numero);
 
@@ -63,7 +65,6 @@ private:
     void Filtrer();
     void Compter();
     void ChoisirRangee(int rangee);
-    void MenuColonnes(const QPoint& point);
 
     shell::Session& session_;
     Pieces pieces_;

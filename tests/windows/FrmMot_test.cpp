@@ -1,0 +1,56 @@
+#include "windows/FrmMot.h"
+
+#include "records/Fiche.h"
+#include "windows/FaitsEssai.h"
+
+using namespace dorvane;
+using namespace dorvane::windows;
+
+namespace {
+
+constexpr NoOrdre Paul{3};
+
+struct Essai : Faits<FrmMot> {
+    Essai() {
+        evenement.date = "14/3/1820";
+        evenement.type = "CHR";
+        evenement.lieu = "Saint Malo";
+        evenement.libelle = "meunier";
+    }
+    records::SaisieEvenement evenement;
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Essai, "FrmMot: a row takes date and place of the event, and Enter saves it") {
+    Montrer(Paul, evenement);
+    Champ("TxtIndJ(1)").setFocus();
+    Cliquer("CmdReprendre");
+    CHECK(Champ("TxtIndJ(1)").text() == "14 mars");
+    CHECK(Champ("TxtIndA(1)").text() == "1820");
+    CHECK(Champ("TxtIndL(1)").text() == "Saint Malo");
+    Champ("TxtIndL(0)").setFocus();
+    Cliquer("CmdReprendre");
+    CHECK(Champ("TxtIndL(0)").text() == "meunier");
+    QTest::keyClick(&Champ("TxtIndL(0)"), Qt::Key_Return);
+    CHECK(fenetre->result() == QDialog::Accepted);
+    const records::SaisieFiche fiche = records::ChargerFiche(S(), Paul);
+    CHECK(fiche.slots[0].lieu == "meunier");
+    CHECK(fiche.slots[1] == storage::ValeurSlot{"14 mars", "1820", "Saint Malo"});
+    CHECK(fiche.nom == "Martin");
+}
+
+TEST_CASE_FIXTURE(Essai, "FrmMot: rows that did not change write nothing") {
+    Montrer(Paul, evenement);
+    const std::uint32_t fin = S().base->volume.FinFichier();
+    QTest::keyClick(&Champ("TxtIndL(0)"), Qt::Key_Return);
+    CHECK(fenetre->result() == QDialog::Rejected);
+    CHECK(S().base->volume.FinFichier() == fin);
+}
+
+TEST_CASE_FIXTURE(Essai, "FrmMot: a base without rows says so") {
+    S().base->entete.SlotsIndividu[0].symbole = ' ';
+    Montrer(Paul, evenement);
+    CHECK(C<QLabel>("LblVide").isVisible());
+    CHECK_FALSE(C<QPushButton>("CmdValider").isEnabled());
+}
