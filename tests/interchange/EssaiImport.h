@@ -30,7 +30,7 @@ struct EssaiImport : SessionEssai {
         EcrireFichier(fichier, octets);
         importation = interchange::ImporterVers(session, fichier, chemin);
         if (!importation.faite) return;
-        shell::RelaisAvancement avancement{session.progression};
+        shell::RelaisAvancement avancement{session.progression, session.catalogue};
         base = storage::OuvrirBase(session.disque, chemin, avancement).base;
         REQUIRE(base != nullptr);
     }
