@@ -8,6 +8,7 @@
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
 #include "windows/ChampReplie.h"
+#include "windows/EnTeteListe.h"
 #include "windows/Legendes.h"
 #include "windows/ModelePersonnes.h"
 #include "windows/Unicode.h"
@@ -77,6 +78,12 @@ void FenetreChoix::PreparerListe() {
     liste.horizontalHeader()->setSectionResizeMode(ModelePersonnes::Nom, QHeaderView::Stretch);
     liste.setColumnWidth(ModelePersonnes::Marque, LargeurMarque);
     liste.setColumnWidth(ModelePersonnes::Dates, LargeurDates);
+    PreparerEntete(liste, S(), objectName());
+}
+
+void FenetreChoix::done(int resultat) {
+    MemoriserEntete(*ui_->Grille1, S(), objectName());
+    FenetreFille::done(resultat);
 }
 
 void FenetreChoix::Traduire() {

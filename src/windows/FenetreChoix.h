@@ -37,6 +37,7 @@ protected:
     /// What choosing does; the window closes on true.
     [[nodiscard]] virtual bool Prendre(NoOrdre individu);
 
+    void done(int resultat) override;
     bool eventFilter(QObject* objet, QEvent* evenement) override;
 
 private:

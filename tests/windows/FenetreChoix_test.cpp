@@ -232,3 +232,16 @@ TEST_CASE_FIXTURE(
     CHECK(liens.result() == QDialog::Rejected);
     CHECK_FALSE(B().marques.ModifBase);
 }
+
+TEST_CASE_FIXTURE(Famille, "A chooser keeps its columns for the next time, each window its own") {
+    {
+        FrmPere fenetre{S(), NoOrdre{6}, 'H', &Fenetre()};
+        fenetre.show();
+        C<QTableView>(fenetre, "Grille1").setColumnHidden(2, true);
+        QTest::keyClick(&fenetre, Qt::Key_Escape);
+    }
+    const FrmPere encore{S(), NoOrdre{6}, 'F', &Fenetre()};
+    CHECK(C<QTableView>(encore, "Grille1").isColumnHidden(2));
+    const FrmLiens autre{S(), NoOrdre{6}, &Fenetre()};
+    CHECK_FALSE(C<QTableView>(autre, "Grille1").isColumnHidden(2));
+}
