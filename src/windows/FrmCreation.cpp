@@ -35,6 +35,8 @@ FrmCreation::FrmCreation(shell::Session& session, const SaisieDepart& depart, QW
     depart_.anneeNaissance = depart.anneeNaissance;
     depart_.lieuNaissance = depart.lieuNaissance;
     depart_.anneeDeces = depart.anneeDeces;
+    depart_.jourMoisDeces = depart.jourMoisDeces;
+    depart_.lieuDeces = depart.lieuDeces;
     ui_->Champs->Montrer(depart_);
     ui_->Champs->LibererSexe(depart_.sexe == 'I');
     connect(ui_->Champs, &ChampsFiche::change, this, [this] {

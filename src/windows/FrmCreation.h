@@ -24,6 +24,8 @@ struct SaisieDepart {
     std::string anneeNaissance{};
     std::string lieuNaissance{};
     std::string anneeDeces{};
+    std::string jourMoisDeces{};
+    std::string lieuDeces{};
 };
 
 /// "FrmCréation": makes a person. Modal: shown by `exec`, which answers `Accepted` once the person

@@ -85,7 +85,7 @@ void FrmDesEvt::PreparerListes() {
     ui_->LstDoc->setIconSize({ModeleDocuments::CoteVignette, ModeleDocuments::CoteVignette});
     ui_->LstDoc->verticalHeader()->setDefaultSectionSize(ModeleDocuments::CoteVignette + 6);
     ui_->LstDoc->setColumnHidden(ModeleDocuments::Fichier, true);
-    for (const auto& [bouton, icone] : {std::pair{ui_->CmdMot, "MnuMotCle"},
+    for (const auto& [bouton, icone] : {std::pair{ui_->CmdMot, "MnuMotsClés"},
                                         {ui_->CmdLienUp, "Monter"},
                                         {ui_->CmdLienDown, "Descendre"},
                                         {ui_->CmdSupLien, "Retirer"},
@@ -108,6 +108,11 @@ void FrmDesEvt::Connecter() {
         connect(bouton, &QAbstractButton::clicked, this, action);
     };
     connect(ui_->TxtDate, &QLineEdit::textChanged, this, &FrmDesEvt::SuivreDate);
+    // Of a new event all is new.
+    for (QLineEdit* champ : {ui_->TxtDate, ui_->TxtLieu, ui_->TxtLib})
+        connect(champ, &QLineEdit::textChanged, this, [this, champ] {
+            if (saisie_.evenement) MarquerChamp(*champ, S());
+        });
     connect(ui_->TxtDate, &QLineEdit::editingFinished, this, [this] {
         const std::string saisie = QtVersTexte(ui_->TxtDate->text()).octets;
         if (const auto date = SaisirDateEvenement(saisie, S().Ordre(), S().Mots()))
@@ -193,13 +198,13 @@ void FrmDesEvt::RemplirRoles() {
 }
 
 void FrmDesEvt::Montrer() {
-    ui_->TxtDate->setText(TexteVersQt(saisie_.date));
+    PoserChamp(*ui_->TxtDate, saisie_.date);
     {
         const QSignalBlocker muet{ui_->CboTypeEvt};
         ui_->CboTypeEvt->setEditText(TexteVersQt(shell::LibelleDeTag(S().catalogue, saisie_.type)));
     }
-    ui_->TxtLieu->setText(TexteVersQt(saisie_.lieu));
-    ui_->TxtLib->setText(TexteVersQt(saisie_.libelle));
+    PoserChamp(*ui_->TxtLieu, saisie_.lieu);
+    PoserChamp(*ui_->TxtLib, saisie_.libelle);
     ui_->TxtComment->Poser(saisie_.note);
     MontrerLiens(0);
     MontrerDocuments({});

@@ -42,6 +42,8 @@ void FrmDesEvt::CreerPersonne() {
     depart.anneeNaissance = fiche.anneeNaissance;
     depart.lieuNaissance = fiche.lieuNaissance;
     depart.anneeDeces = fiche.anneeDeces;
+    depart.jourMoisDeces = fiche.jourMoisDeces;
+    depart.lieuDeces = fiche.lieuDeces;
     AjouterLien(FrmCreation::Creer(S(), depart, this), true);
 }
 

@@ -34,11 +34,16 @@ FrmDesImage::FrmDesImage(shell::Session& session, NoDocument document, QWidget* 
     ui_->setupUi(this);
     setModal(true);
     FrmDesImage::Traduire();
-    ui_->TxtIntitulé->setText(TexteVersQt(saisie_.valeurs.titre));
-    ui_->TxtNomfic->setText(TexteVersQt(saisie_.valeurs.fichier));
+    PoserChamp(*ui_->TxtIntitulé, saisie_.valeurs.titre);
+    PoserChamp(*ui_->TxtNomfic, saisie_.valeurs.fichier);
     ui_->CboTypeDoc->setEditText(TexteVersQt(saisie_.valeurs.type));
     ui_->TxtComment->Poser(saisie_.valeurs.note);
     SuivreFichier();
+    // Of a new document all is new.
+    for (QLineEdit* champ : {ui_->TxtIntitulé, ui_->TxtNomfic})
+        connect(champ, &QLineEdit::textChanged, this, [this, champ] {
+            if (saisie_.document) MarquerChamp(*champ, S());
+        });
     connect(ui_->TxtNomfic, &QLineEdit::textChanged, this, &FrmDesImage::SuivreFichier);
     connect(ui_->CboTypeDoc, &QComboBox::currentTextChanged, this, &FrmDesImage::SuivreFichier);
     connect(ui_->CmdFichier, &QPushButton::clicked, this, &FrmDesImage::CmdFichierClique);

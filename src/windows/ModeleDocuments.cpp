@@ -15,6 +15,24 @@ namespace dorvane::windows {
 
 using records::NatureDocument;
 
+namespace {
+
+/// The drawing for a document without a picture, by its state.
+const char* NomIcone(std::uint32_t etat) {
+    switch (etat) {
+        case 3050:
+            return "FichierAbsent";
+        case 3052:
+            return "Adresse";
+        case 3053:
+            return "Courriel";
+        default:
+            return "Fichier";
+    }
+}
+
+}  // namespace
+
 ModeleDocuments::ModeleDocuments(shell::Session& session, const char* fenetre, const char* controle,
                                  QObject* parent)
     : ModeleListe{session, NbColonnes, fenetre, controle, parent} {}
@@ -64,7 +82,7 @@ QVariant ModeleDocuments::Autre(std::uint32_t numero, int colonne, int role) con
     if (role == Qt::DecorationRole && colonne == Titre) {
         const QPixmap vignette = VignetteDeFichier(FichierDeDocument(S(), document), CoteVignette);
         if (!vignette.isNull()) return vignette;
-        return Icone(MessageEtat(document) == 3050 ? "Abandonner" : "MnuLstImage");
+        return Icone(NomIcone(MessageEtat(document)));
     }
     // The whole title, with what stands behind its slash.
     if (role == Qt::ToolTipRole && colonne == Titre)

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QTextEdit>
+#include <QToolButton>
 
 #include "windows/FaitsEssai.h"
 #include "windows/FrmCreation.h"
@@ -116,6 +117,25 @@ TEST_CASE_FIXTURE(Essai, "FrmDesEvt: a person made for a role is linked with it"
     CHECK(S().base->R_LSTEVT.NbElements(NoOrdre{9}) == 1);
 }
 
+TEST_CASE_FIXTURE(Essai,
+                  "FrmDesEvt: a person made as the deceased starts with the date and place") {
+    Montrer(NoEvenement{}, NoOrdre{}, std::string{});
+    Taper(C<QComboBox>("CboTypeEvt"), "Décès");
+    Taper(Champ("TxtDate"), "4/5/1870");
+    Taper(Champ("TxtLieu"), "Vannes");
+    SurFenetre<FrmCreation>([](FrmCreation& creation) {
+        CHECK(creation.findChild<QLineEdit*>(QStringLiteral("TxtJDécès"))->text() == "4 mai");
+        CHECK(creation.findChild<QLineEdit*>(QStringLiteral("T_Décès"))->text() == "1870");
+        CHECK(creation.findChild<QLineEdit*>(QStringLiteral("TxtLieuDécès"))->text() == "Vannes");
+        QTest::keyClick(&creation, Qt::Key_Escape);
+    });
+    Cliquer("CmdCréLien");
+    CHECK(Rangees("GrdLiens") == 1);
+    CHECK(Case("GrdLiens", 0, 1) == QStringLiteral("à choisir"));
+    Repondre(QMessageBox::No);
+    Touche(Qt::Key_Escape);
+}
+
 TEST_CASE_FIXTURE(Essai, "FrmDesEvt: roles are changed in their cells, rows moved and removed") {
     const NoEvenement e =
         Evenement("1/1/1841", "CENS", "", {{Paul, "MAIN"}, {Anne, "WITN"}, {NoOrdre{6}, "WITN"}});
@@ -218,4 +238,33 @@ TEST_CASE_FIXTURE(Essai, "FrmDesEvt: Tab goes through the fields in the order of
         QTest::keyClick(champ, Qt::Key_Tab);
     }
     CHECK(ordre.join(u' ') == "CboTypeEvt TxtDate TxtLieu TxtLib TxtComment CmdTxtComment");
+}
+
+TEST_CASE_FIXTURE(Essai,
+                  "FrmDesEvt: every button without words has a drawing, a tip and an accessible "
+                  "name") {
+    Montrer(NoEvenement{}, Paul, std::string{"MAIN"});
+    int nombre = 0;
+    for (const QToolButton* bouton : fenetre->findChildren<QToolButton*>()) {
+        if (!bouton->objectName().startsWith("Cmd")) continue;
+        CAPTURE(bouton->objectName().toStdString());
+        CHECK_FALSE(bouton->icon().isNull());
+        CHECK_FALSE(bouton->toolTip().isEmpty());
+        CHECK_FALSE(bouton->accessibleName().isEmpty());
+        ++nombre;
+    }
+    CHECK(nombre == 8);
+}
+
+TEST_CASE_FIXTURE(Essai, "FrmDesEvt: what was changed is marked until it is as stored again") {
+    const NoEvenement e = Evenement("1/1/1841", "CENS", "Brest", {{Paul, "MAIN"}});
+    Montrer(e, NoOrdre{}, std::string{});
+    CHECK(Champ("TxtLieu").accessibleDescription().isEmpty());
+    Taper(Champ("TxtLieu"), "Vannes");
+    CHECK_FALSE(Champ("TxtLieu").accessibleDescription().isEmpty());
+    CHECK(Champ("TxtLib").accessibleDescription().isEmpty());
+    Taper(Champ("TxtLieu"), "Brest");
+    CHECK(Champ("TxtLieu").accessibleDescription().isEmpty());
+    Touche(Qt::Key_Escape);
+    CHECK_FALSE(fenetre->isVisible());
 }
