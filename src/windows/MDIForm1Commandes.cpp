@@ -185,10 +185,6 @@ void MDIForm1::MenuIndividu(NoOrdre individu, const QPoint& point) {
     auto* menu = new QMenu{this};
     menu->setObjectName(QStringLiteral("MnuIndividu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction* fiche = menu->addAction(Icone("MnuModif"), TexteEcran(session_, 2124));
-    fiche->setObjectName(QStringLiteral("OuvrirFiche"));
-    connect(fiche, &QAction::triggered, this, [this, individu] { OuvrirFiche(individu); });
-    menu->addSeparator();
     auto groupe = records::EntreeFamille::Groupe::Personne;
     for (const records::EntreeFamille& entree : records::EntreesFamille(*session_.base, individu)) {
         if (entree.groupe != groupe)
@@ -200,6 +196,10 @@ void MDIForm1::MenuIndividu(NoOrdre individu, const QPoint& point) {
         const NoOrdre vers = entree.individu;
         connect(action, &QAction::triggered, this, [this, vers] { AllerA(vers); });
     }
+    menu->addSeparator();
+    QAction* fiche = menu->addAction(Icone("MnuModif"), TexteEcran(session_, 2124));
+    fiche->setObjectName(QStringLiteral("OuvrirFiche"));
+    connect(fiche, &QAction::triggered, this, [this, individu] { OuvrirFiche(individu); });
     menu->popup(point);
 }
 

@@ -124,7 +124,7 @@ TEST_CASE_FIXTURE(FenetreEssai,
           QStringLiteral("Paul Martin (1820-1890)* |Père et mère|Louis Martin (1790-1860)* |"
                          "Rose Blanc (o1795) * |Conjoints|Anne Évrard (1825-1858)* |"
                          "Jeanne Noël (o1835) * |Enfants|Luc Martin (o1851) * |"
-                         "Marie Martin (o1853) * |Jules Martin (o1861) * "));
+                         "Marie Martin (o1853) * |Jules Martin (o1861) * ||Ouvrir la fiche..."));
     REQUIRE(rose != nullptr);
     rose->trigger();
     CHECK(EnCours() == 2);
