@@ -1,15 +1,22 @@
 #include "windows/FrmLstEvt.h"
 
 #include "ui_FrmLstEvt.h"
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QHeaderView>
+#include <QMenu>
 
 #include "records/FicheEvenement.h"
+#include "records/NomsAffiches.h"
 #include "shell/Session.h"
+#include "storage/Base.h"
+#include "values/Comparaison.h"
 #include "windows/FrmDesEvt.h"
 #include "windows/GlisserPersonne.h"
+#include "windows/Legendes.h"
 #include "windows/ListeFiltree.h"
 #include "windows/ModeleEvenements.h"
+#include "windows/Unicode.h"
 
 namespace dorvane::windows {
 
@@ -103,6 +110,26 @@ void FrmLstEvt::Supprimer() {
     if (choix_ || !records::SupprimerEvenement(S(), Choisi())) return;
     Recharger();
     Q_EMIT baseChangee();
+}
+
+/// From an event to its persons.
+void FrmLstEvt::contextMenuEvent(QContextMenuEvent* evenement) {
+    if (choix_ || !S().base || !Choisi()) return;
+    auto* menu = new QMenu{this};
+    menu->setObjectName(QStringLiteral("MnuPersonnes"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const storage::LienEvenement& lien : S().base->R_EVT.Liens(Choisi())) {
+        const quint32 individu = lien.individu.valeur;
+        const std::string nom = records::NomEtDates(S(), lien.individu);
+        QMenu* personne =
+            menu->addMenu(TexteVersQt(SansBlancs(nom)).replace(u'&', QStringLiteral("&&")));
+        personne->addAction(TexteEcran(S(), 3075), this,
+                            [this, individu] { Q_EMIT allerDemande(individu); });
+        personne->addAction(TexteEcran(S(), 3076), this,
+                            [this, individu] { Q_EMIT ficheDemandee(individu); });
+    }
+    if (menu->isEmpty()) return menu->deleteLater();
+    menu->popup(evenement->globalPos());
 }
 
 /// Persons come from the lists and the chart.

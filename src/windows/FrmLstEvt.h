@@ -35,6 +35,7 @@ public:
 
 protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
+    void contextMenuEvent(QContextMenuEvent* evenement) override;
     void done(int resultat) override;
 
 private:

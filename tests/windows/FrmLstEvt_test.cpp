@@ -1,7 +1,9 @@
 #include "windows/FrmLstEvt.h"
 
+#include <QContextMenuEvent>
 #include <QElapsedTimer>
 #include <QHeaderView>
+#include <QMenu>
 #include <QSignalSpy>
 
 #include "windows/FaitsEssai.h"
@@ -125,6 +127,26 @@ TEST_CASE_FIXTURE(Essai, "FrmLstEvt: a person dropped on a row joins that event"
     });
     Deposer(*table.viewport(), point, *donnees);
     CHECK(QTest::qWaitFor([this] { return S().base->R_EVT.Liens(recensement).size() == 2; }));
+}
+
+TEST_CASE_FIXTURE(Essai, "FrmLstEvt: the menu of a row leads to its persons") {
+    Montrer();
+    QSignalSpy aller{fenetre.get(), &FenetreFille::allerDemande};
+    QSignalSpy fiche{fenetre.get(), &FenetreFille::ficheDemandee};
+    QContextMenuEvent demande{QContextMenuEvent::Keyboard, QPoint{10, 10}, QPoint{10, 10}};
+    QApplication::sendEvent(fenetre.get(), &demande);
+    auto* menu = fenetre->findChild<QMenu*>(QStringLiteral("MnuPersonnes"));
+    REQUIRE(menu != nullptr);
+    REQUIRE(menu->actions().size() == 1);
+    CHECK(menu->actions()[0]->text() == "Louis Martin (1790-1860)");
+    const QList<QAction*> suites = menu->actions()[0]->menu()->actions();
+    suites[0]->trigger();
+    suites[1]->trigger();
+    REQUIRE(aller.count() == 1);
+    REQUIRE(fiche.count() == 1);
+    CHECK(aller[0][0].toUInt() == 1);
+    CHECK(fiche[0][0].toUInt() == 1);
+    menu->close();
 }
 
 TEST_CASE_FIXTURE(Essai, "FrmLstEvt: as a chooser it answers the event of the row") {
