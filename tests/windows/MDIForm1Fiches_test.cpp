@@ -4,6 +4,7 @@
 #include <QMimeData>
 
 #include "windows/CaseGraphique.h"
+#include "windows/Enchainement.h"
 #include "windows/Essai.h"
 #include "windows/FrmCreation.h"
 #include "windows/FrmMisajour.h"
@@ -96,18 +97,19 @@ TEST_CASE_FIXTURE(Bureau, "Chart: a double click moves, on the current person it
 
 TEST_CASE_FIXTURE(Bureau, "Chart: an unknown parent invites to create one") {
     const NoOrdre luce = MontrerEnfant({}, NoOrdre{4});
-    SurModal([](QWidget& forme) {
-        CHECK(forme.objectName() == QStringLiteral("FrmCréation"));
-        CHECK(forme.findChild<QLineEdit*>(QStringLiteral("T_Nom"))->text() ==
-              QStringLiteral("Martin"));
-        QTest::keyClicks(forme.findChild<QLineEdit*>(QStringLiteral("T_Prénom")),
-                         QStringLiteral("Jules"));
-        QTest::keyClicks(forme.findChild<QLineEdit*>(QStringLiteral("T_Naiss")),
-                         QStringLiteral("1830"));
-        // The union with the mother, asked once the form is gone.
-        QTimer::singleShot(200, [] { RepondreBoite(QMessageBox::No); });
-        QTest::keyClick(&forme, Qt::Key_Return);
-    });
+    Enchainement fenetres;
+    fenetres
+        .Fenetre("FrmCréation",
+                 [](QWidget& forme) {
+                     CHECK(forme.findChild<QLineEdit*>(QStringLiteral("T_Nom"))->text() ==
+                           QStringLiteral("Martin"));
+                     QTest::keyClicks(forme.findChild<QLineEdit*>(QStringLiteral("T_Prénom")),
+                                      QStringLiteral("Jules"));
+                     QTest::keyClicks(forme.findChild<QLineEdit*>(QStringLiteral("T_Naiss")),
+                                      QStringLiteral("1830"));
+                     QTest::keyClick(&forme, Qt::Key_Return);
+                 })
+        .Boite(QMessageBox::No, QStringLiteral("créer une union avec Anne Évrard"));
     Inviter(CaseInconnue(luce.valeur, false), "CréerParent");
     CHECK(S().base->R_PERE.LireCellule(luce) == NoOrdre{10});
     CHECK(S().base->R_ENFANT.Elements(NoOrdre{10}) == std::vector<NoOrdre>{luce});
