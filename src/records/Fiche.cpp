@@ -215,7 +215,9 @@ private:
             return false;
         }
         if (libelle == base_.R_LIEN.TexteElement(n_, rang)) return true;
-        base_.R_LIEN.ModifierListe(n_, NoOrdre{static_cast<std::uint32_t>(rang)}, 'M', libelle);
+        // Two links with one person that say the same would be one too many: refused there.
+        if (!records::ChangerLien(session_, n_, rang, SansBlancs(saisie_.lien->libelle)))
+            return false;
         ecrit_ = true;
         return true;
     }

@@ -2,6 +2,7 @@
 
 #include "doublures/FicheEssai.h"
 #include "records/Individus.h"
+#include "records/Liens.h"
 #include "records/TexteFiche.h"
 #include "shell/Numerotation.h"
 #include "shell/RelaisAvancement.h"
@@ -418,6 +419,14 @@ TEST_CASE_FIXTURE(Foyer, "ValiderFiche: the label of the link in edit") {
         CHECK(Valider(fiche).champ == Champ::Lien);
         CHECK(dialogue.entendu.size() == 1);
         CHECK_FALSE(B().marques.Modifie());
+    }
+    SUBCASE("one that would say the same as another link is refused") {
+        REQUIRE(AjouterLien(session, jean, B().R_LIEN.ElementListe(jean, 1), "Parrain"));
+        Poser();
+        fiche.lien->libelle = "Parrain";
+        CHECK(Valider(fiche).champ == Champ::Lien);
+        CHECK(dialogue.entendu.size() == 1);
+        CHECK(B().R_LIEN.TexteElement(jean, 1) == "MARR");
     }
     SUBCASE("a rank that is gone is passed over") {
         fiche.lien->rang = 7;
