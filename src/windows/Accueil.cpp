@@ -36,6 +36,7 @@ Accueil::Accueil(const shell::Session& session, QWidget* parent)
       session_{session},
       titre_{new QLabel{this}},
       texte_{new QLabel{this}},
+      personne_{Bouton(this, "CmdAccueilPersonne", "MnuNouvInd")},
       ouvrir_{Bouton(this, "CmdAccueilOuvrir", "MnuOuvrir")},
       nouveau_{Bouton(this, "CmdAccueilNouveau", "MnuNouveau")},
       importer_{Bouton(this, "CmdAccueilImporter", "MnuImporter")},
@@ -60,7 +61,7 @@ Accueil::Accueil(const shell::Session& session, QWidget* parent)
     for (QWidget* widget : {static_cast<QWidget*>(titre_), static_cast<QWidget*>(texte_)})
         colonne_->addWidget(widget, 0, Qt::AlignHCenter);
     colonne_->addSpacing(18);
-    for (QPushButton* bouton : {ouvrir_, nouveau_, importer_}) {
+    for (QPushButton* bouton : {personne_, ouvrir_, nouveau_, importer_}) {
         bouton->setFixedWidth(LargeurColonne * 2 / 3);
         colonne_->addWidget(bouton, 0, Qt::AlignHCenter);
     }
@@ -69,6 +70,7 @@ Accueil::Accueil(const shell::Session& session, QWidget* parent)
     liste_->setSpacing(0);
     colonne_->addLayout(liste_);
     texte_->setAlignment(Qt::AlignHCenter);
+    connect(personne_, &QPushButton::clicked, this, &Accueil::personneDemandee);
     connect(ouvrir_, &QPushButton::clicked, this, &Accueil::ouvrirDemande);
     connect(nouveau_, &QPushButton::clicked, this, &Accueil::nouveauDemande);
     connect(importer_, &QPushButton::clicked, this, &Accueil::importerDemande);
@@ -80,6 +82,7 @@ void Accueil::Actualiser() {
     texte_->setText(TexteEcran(session_, ouverte ? 2044 : 2041));
     // Centred in its column, the label would get one line only.
     texte_->setMinimumHeight(texte_->heightForWidth(LargeurColonne));
+    personne_->setVisible(ouverte);
     nouveau_->setVisible(!ouverte);
     PoserRecentes();
 }

@@ -29,6 +29,8 @@ Q_SIGNALS:
     void nouveauDemande();
     void importerDemande();
     void histoDemande(int rang);
+    /// Of an empty base.
+    void personneDemandee();
 
 private:
     void PoserRecentes();
@@ -36,6 +38,7 @@ private:
     const shell::Session& session_;
     QLabel* titre_;
     QLabel* texte_;
+    QPushButton* personne_;
     QPushButton* ouvrir_;
     QPushButton* nouveau_;
     QPushButton* importer_;

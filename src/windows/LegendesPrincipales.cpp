@@ -56,6 +56,7 @@ constexpr Legende Table[] = {
     {"MDIForm1", "Fenetre", Texte, 2038},
     {"MDIForm1", "CmdAnnuler", Texte, 2050},
     {"MDIForm1", "CmdAnnuler", Bulle, 2052},
+    {"MDIForm1", "CmdAccueilPersonne", Texte, 2048},
     {"MDIForm1", "CmdAccueilOuvrir", Texte, 2045},
     {"MDIForm1", "CmdAccueilNouveau", Texte, 2046},
     {"MDIForm1", "CmdAccueilImporter", Texte, 2047},

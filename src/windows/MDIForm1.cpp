@@ -68,6 +68,7 @@ MDIForm1::MDIForm1(shell::Session& session)
     connect(accueil_, &Accueil::nouveauDemande, this, &MDIForm1::Nouveau);
     connect(accueil_, &Accueil::importerDemande, this, &MDIForm1::Importer);
     connect(accueil_, &Accueil::histoDemande, this, &MDIForm1::Histo);
+    connect(accueil_, &Accueil::personneDemandee, this, &MDIForm1::NouvelIndividu);
     connect(graphe_, &FrmDebut::personneDemandee, this,
             [this](quint32 individu) { AllerA(NoOrdre{individu}); });
     connect(graphe_, &FrmDebut::menuDemande, this, [this](quint32 individu, const QPoint& point) {

@@ -205,3 +205,24 @@ TEST_CASE_FIXTURE(Bureau, "MnuListe: the person chosen in the search is shown in
                       Qt::LeftButton);
     CHECK(EnCours() == 5);
 }
+
+TEST_CASE_FIXTURE(FenetreEssai, "An empty base offers to create its first person") {
+    Demarrer({});
+    RepondreFichier(dossier / "Vide.LGD");
+    Action("MnuNouveau").trigger();
+    REQUIRE(S().BaseOuverte());
+    Enchainement fenetres;
+    fenetres.Fenetre("FrmCréation", [](QWidget& forme) {
+        QTest::keyClicks(forme.findChild<QLineEdit*>(QStringLiteral("T_Nom")),
+                         QStringLiteral("Martin"));
+        QTest::keyClicks(forme.findChild<QLineEdit*>(QStringLiteral("T_Naiss")),
+                         QStringLiteral("1820"));
+        QTest::keyClick(&forme, Qt::Key_Return);
+    });
+    auto& bouton = Trouver<QPushButton>("CmdAccueilPersonne");
+    REQUIRE(bouton.isVisible());
+    QTest::mouseClick(&bouton, Qt::LeftButton);
+    CHECK(EnCours() == 1);
+    CHECK(Graphe().isVisible());
+    CHECK_FALSE(bouton.isVisible());
+}
