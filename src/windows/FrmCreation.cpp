@@ -19,6 +19,14 @@ bool AccepterRemplaces(shell::Session& session, std::size_t remplaces) {
            session.dialogue.Confirmer(shell::Msg(2610, std::to_string(remplaces)));
 }
 
+SaisieDepart DepartDeParent(const std::string& nomEnfant, char cote) {
+    SaisieDepart depart;
+    depart.nom = nomEnfant;
+    depart.sexe = cote;
+    depart.nomIncertain = cote == 'F';
+    return depart;
+}
+
 FrmCreation::FrmCreation(shell::Session& session, const SaisieDepart& depart, QWidget* parent)
     : FenetreFille{session, QStringLiteral("FrmCréation"), parent},
       ui_{std::make_unique<Ui::FrmCreation>()} {
@@ -26,7 +34,7 @@ FrmCreation::FrmCreation(shell::Session& session, const SaisieDepart& depart, QW
     setObjectName(QStringLiteral("FrmCréation"));
     ui_->Champs->Attacher(session);
     ui_->Rangées->Attacher(session, RangeesFiche::Sorte::Individu);
-    ui_->Rangées->Enchainer(ui_->Champs->DernierChamp());
+    EnchainerTab(ui_->Champs->DernierChamp(), ui_->Rangées->Controles());
     ui_->LblFaits->setVisible(!ui_->Rangées->EstVide());
     depart_.nom = depart.nom;
     depart_.prenom = depart.prenom;
@@ -48,7 +56,8 @@ FrmCreation::FrmCreation(shell::Session& session, const SaisieDepart& depart, QW
     connect(ui_->CmdAnnuler, &QPushButton::clicked, this, &FrmCreation::reject);
     Traduire();
     resize(LargeurInitiale, sizeHint().height());
-    ui_->Champs->AllerAuChamp(depart_.nom.empty() ? records::Champ::Nom : records::Champ::Prenom);
+    ui_->Champs->AllerAuChamp(depart_.nom.empty() || depart.nomIncertain ? records::Champ::Nom
+                                                                         : records::Champ::Prenom);
 }
 
 FrmCreation::~FrmCreation() = default;

@@ -26,7 +26,11 @@ struct SaisieDepart {
     std::string anneeDeces{};
     std::string jourMoisDeces{};
     std::string lieuDeces{};
+    bool nomIncertain = false;  ///< the surname is a guess, to be typed over
 };
+
+/// What the form of a parent starts with: the surname of the child, which is a guess for a mother.
+[[nodiscard]] SaisieDepart DepartDeParent(const std::string& nomEnfant, char cote);
 
 /// "FrmCréation": makes a person. Modal: shown by `exec`, which answers `Accepted` once the person
 /// is made.

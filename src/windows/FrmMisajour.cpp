@@ -3,6 +3,7 @@
 #include "ui_FrmMisajour.h"
 #include <QApplication>
 #include <QShortcut>
+#include <QTabBar>
 
 #include "records/Fiche.h"
 #include "records/Individus.h"
@@ -19,6 +20,7 @@
 #include "windows/PageFratrie.h"
 #include "windows/PageLiens.h"
 #include "windows/PageUnions.h"
+#include "windows/RangeesFiche.h"
 #include "windows/Unicode.h"
 
 namespace dorvane::windows {
@@ -27,7 +29,7 @@ using records::Champ;
 
 namespace {
 
-constexpr QSize TailleInitiale{980, 620};
+constexpr QSize TailleInitiale{1120, 640};
 
 /// The pointer of waiting for as long as it lives.
 class Sablier {
@@ -80,11 +82,25 @@ void FrmMisajour::FairePages() {
         auto* raccourci =
             new QShortcut{QKeySequence{Qt::CTRL | static_cast<Qt::Key>(touche)}, this};
         connect(raccourci, &QShortcut::activated, this,
-                [this, i] { ui_->SSTab1->setCurrentIndex(static_cast<int>(i)); });
+                [this, i] { AllerALaPage(static_cast<int>(i)); });
     }
     // Enter in a list or a note is theirs.
     auto* enregistrer = new QShortcut{QKeySequence{Qt::CTRL | Qt::Key_Return}, this};
     connect(enregistrer, &QShortcut::activated, ui_->C_Maj, &QPushButton::click);
+}
+
+/// Who comes by the keyboard goes on in the page, at its first field.
+void FrmMisajour::AllerALaPage(int page) {
+    ui_->SSTab1->setCurrentIndex(page);
+    QWidget& cible = *pages_[static_cast<std::size_t>(page)];
+    for (QWidget* champ = cible.nextInFocusChain(); champ != &cible;
+         champ = champ->nextInFocusChain()) {
+        if (!cible.isAncestorOf(champ) || !champ->isVisible() || !champ->isEnabled() ||
+            (champ->focusPolicy() & Qt::TabFocus) == 0)
+            continue;
+        champ->setFocus(Qt::ShortcutFocusReason);
+        return;
+    }
 }
 
 bool FrmMisajour::Ouvrir(NoOrdre individu) {
@@ -148,9 +164,18 @@ void FrmMisajour::Charger(bool garder) {
     for (PageFiche* page : pages_)
         page->Charger(individu_, garder);
     charge_ = false;
+    EnchainerPages();
     MontrerParents();
     MontrerTitres();
     Changer();
+}
+
+/// What stands on the pages comes behind their titles and in front of the buttons below.
+void FrmMisajour::EnchainerPages() {
+    QList<QWidget*> ordre;
+    for (const PageFiche* page : pages_)
+        ordre << page->Ordre();
+    EnchainerTab(*ui_->SSTab1->tabBar(), ordre);
 }
 
 void FrmMisajour::MontrerTitres() {

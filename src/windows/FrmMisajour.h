@@ -54,10 +54,12 @@ private:
     [[nodiscard]] bool Demander() override;
 
     void FairePages();
+    void AllerALaPage(int page);
     void RelierParents();
     void Charger(bool garder = false);
     void MontrerParents();
     void MontrerTitres();
+    void EnchainerPages();
     [[nodiscard]] records::SaisieFiche Lire(std::size_t& remplaces) const;
     [[nodiscard]] bool Modifiee() const;
     bool Valider();
@@ -68,6 +70,7 @@ private:
     void CreerParent(char cote);
     void RetirerParent(char cote);
     void DeposerParent(char cote, NoOrdre parent);
+    void AllerAuParent(char cote);
 
     std::unique_ptr<Ui::FrmMisajour> ui_;
     std::vector<PageFiche*> pages_;

@@ -56,18 +56,25 @@ void FrmMisajour::MontrerParents() {
 void FrmMisajour::ChercherParent(char cote) {
     if (!Preparer()) return;
     FrmPere fenetre{S(), individu_, cote, this};
-    if (fenetre.exec() == QDialog::Accepted) Ecrit(true);
+    if (fenetre.exec() != QDialog::Accepted) return;
+    Ecrit(true);
+    AllerAuParent(cote);
 }
 
 void FrmMisajour::CreerParent(char cote) {
     if (!Preparer()) return;
-    // A mother has a name of her own as a rule; the form starts with that of the child all the
-    // same, ready to be typed over.
     const NoOrdre parent =
-        FrmCreation::Creer(S(), {.nom = S().base->R_NOM.NomDe(individu_), .sexe = cote}, this);
+        FrmCreation::Creer(S(), DepartDeParent(S().base->R_NOM.NomDe(individu_), cote), this);
     if (!parent) return;
     const bool lie = records::ParentCree(S(), individu_, cote, parent);
     Ecrit(lie);
+    AllerAuParent(cote);
+}
+
+/// The buttons that were pressed are off now: the focus must not fall on the one that takes the
+/// parent away.
+void FrmMisajour::AllerAuParent(char cote) {
+    (cote == 'H' ? ui_->N_Père : ui_->N_Mère)->setFocus();
 }
 
 void FrmMisajour::RetirerParent(char cote) {

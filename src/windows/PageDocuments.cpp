@@ -121,4 +121,9 @@ QString PageDocuments::Compte() const {
     return nombre == 0 ? QString{} : QString::number(nombre);
 }
 
+QList<QWidget*> PageDocuments::Ordre() const {
+    return {ui_->LstImage,    ui_->CmdImageAjout, ui_->CmdImageMaj, ui_->CmdImageVoir,
+            ui_->CmdImageSup, ui_->CmdImageUp,    ui_->CmdImageDown};
+}
+
 }  // namespace dorvane::windows

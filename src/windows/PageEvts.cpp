@@ -84,4 +84,8 @@ QString PageEvts::Compte() const {
     return nombre == 0 ? QString{} : QString::number(nombre);
 }
 
+QList<QWidget*> PageEvts::Ordre() const {
+    return {ui_->GrdEvts, ui_->CmdEvtAjout, ui_->CmdEvtMaj, ui_->CmdEvtSup};
+}
+
 }  // namespace dorvane::windows

@@ -20,6 +20,7 @@ public:
 
     void Charger(NoOrdre individu, bool garder) override;
     void Traduire() override;
+    [[nodiscard]] QList<QWidget*> Ordre() const override;
     [[nodiscard]] QString Compte() const override;
 
 private:

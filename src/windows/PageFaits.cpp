@@ -13,7 +13,6 @@ PageFaits::PageFaits(shell::Session& session, ServicesFiche& fiche, QWidget* par
     : PageFiche{session, fiche, parent}, ui_{std::make_unique<Ui::PageFaits>()} {
     ui_->setupUi(this);
     ui_->Rangées->Attacher(session, RangeesFiche::Sorte::Individu);
-    ui_->Rangées->Enchainer(*this);
     connect(ui_->Rangées, &RangeesFiche::change, this, [this] { Fiche().Changer(); });
     connect(ui_->TxtInd, &QTextEdit::textChanged, this, [this] {
         Marquer();
@@ -56,6 +55,10 @@ void PageFaits::AllerALaNote() {
 
 void PageFaits::Marquer() {
     MarquerModifie(*ui_->TxtInd, ui_->TxtInd->Note() != note_, S());
+}
+
+QList<QWidget*> PageFaits::Ordre() const {
+    return ui_->Rangées->Controles() << ui_->C_Texte << ui_->TxtInd;
 }
 
 }  // namespace dorvane::windows

@@ -20,6 +20,7 @@ public:
     void Charger(NoOrdre individu, bool garder) override;
     void Lire(records::SaisieFiche& saisie, std::size_t& remplaces) const override;
     void Traduire() override;
+    [[nodiscard]] QList<QWidget*> Ordre() const override;
     /// Years of the life as they are typed.
     void PoserVie(const records::SaisieFiche& saisie);
     void AllerALaNote();

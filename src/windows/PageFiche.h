@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 
 #include "records/SaisieFiche.h"
@@ -54,6 +55,8 @@ public:
     /// Fills what of the sheet is typed on this page.
     virtual void Lire(records::SaisieFiche& /*saisie*/, std::size_t& /*remplaces*/) const {}
     virtual void Traduire() = 0;
+    /// The controls in the order of reading.
+    [[nodiscard]] virtual QList<QWidget*> Ordre() const = 0;
     /// What stands behind the title of the page; empty for nothing.
     [[nodiscard]] virtual QString Compte() const { return {}; }
 

@@ -51,4 +51,8 @@ QString PageFratrie::Compte() const {
     return nombre == 0 ? QString{} : QString::number(nombre);
 }
 
+QList<QWidget*> PageFratrie::Ordre() const {
+    return {ui_->GrdFratrie};
+}
+
 }  // namespace dorvane::windows

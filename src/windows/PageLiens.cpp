@@ -172,4 +172,8 @@ QString PageLiens::Compte() const {
     return nombre == 0 ? QString{} : QString::number(nombre);
 }
 
+QList<QWidget*> PageLiens::Ordre() const {
+    return {ui_->GrdLiens, ui_->TxtLien, ui_->CmdLienAjout, ui_->CmdLienSup};
+}
+
 }  // namespace dorvane::windows

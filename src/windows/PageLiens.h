@@ -21,6 +21,7 @@ public:
     void Charger(NoOrdre individu, bool garder) override;
     void Lire(records::SaisieFiche& saisie, std::size_t& remplaces) const override;
     void Traduire() override;
+    [[nodiscard]] QList<QWidget*> Ordre() const override;
     [[nodiscard]] QString Compte() const override;
     void AllerAuLibelle();
 

@@ -36,7 +36,6 @@ PageUnions::~PageUnions() = default;
 
 void PageUnions::RelierChamps() {
     ui_->Rangées->Attacher(S(), RangeesFiche::Sorte::Mariage);
-    ui_->Rangées->Enchainer(*ui_->TxtLieuMar);
     for (QLineEdit* champ : {ui_->TxtJMar, ui_->T_Dmar, ui_->T_Fmar, ui_->TxtLieuMar})
         connect(champ, &QLineEdit::textChanged, this, &PageUnions::Changer);
     connect(ui_->Rangées, &RangeesFiche::change, this, &PageUnions::Changer);
@@ -213,6 +212,15 @@ QString PageUnions::Compte() const {
     const auto enfants = ui_->L_Enfants->Lignes().size();
     if (unions == 0 && enfants == 0) return {};
     return QStringLiteral("%1, %2").arg(unions).arg(enfants);
+}
+
+QList<QWidget*> PageUnions::Ordre() const {
+    return QList<QWidget*>{ui_->L_Conjoint, ui_->C_Rechconjoint, ui_->CmdCréConjoint, ui_->C_Smar,
+                           ui_->CmdMarUp,   ui_->CmdMarDown,     ui_->TxtJMar,        ui_->T_Dmar,
+                           ui_->T_Fmar,     ui_->TxtLieuMar} +
+           ui_->Rangées->Controles() +
+           QList<QWidget*>{ui_->C_TexteMar,  ui_->TxtMar,       ui_->L_Enfants,
+                           ui_->CmdRechEnft, ui_->CmdCréEnfant, ui_->CmdSupEnft};
 }
 
 }  // namespace dorvane::windows

@@ -20,6 +20,7 @@ public:
     void Charger(NoOrdre individu, bool garder) override;
     void Lire(records::SaisieFiche& saisie, std::size_t& remplaces) const override;
     void Traduire() override;
+    [[nodiscard]] QList<QWidget*> Ordre() const override;
     [[nodiscard]] QString Compte() const override;
 
 private:
@@ -36,6 +37,7 @@ private:
     void ListerUnions();
     void ListerEnfants();
     void Unir(NoOrdre partenaire);
+    void AllerALaDate();
     void ChercherConjoint();
     void CreerConjoint();
     void RetirerUnion();

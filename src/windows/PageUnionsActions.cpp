@@ -42,6 +42,12 @@ void PageUnions::Unir(NoOrdre partenaire) {
     // The new union, with its empty fields, is the one to go on with.
     if (mariage) mariage_ = mariage;
     Fiche().Ecrit(static_cast<bool>(mariage));
+    if (mariage) AllerALaDate();
+}
+
+/// Date and place of the union are what comes next.
+void PageUnions::AllerALaDate() {
+    ui_->TxtJMar->setFocus();
 }
 
 void PageUnions::ChercherConjoint() {

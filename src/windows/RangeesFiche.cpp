@@ -35,6 +35,14 @@ bool Indexe(storage::Base& base, char symbole) {
 
 }  // namespace
 
+void EnchainerTab(QWidget& avant, const QList<QWidget*>& suite) {
+    QWidget* precedent = &avant;
+    for (QWidget* controle : suite) {
+        QWidget::setTabOrder(precedent, controle);
+        precedent = controle;
+    }
+}
+
 RangeesFiche::RangeesFiche(QWidget* parent) : QWidget{parent}, grille_{new QGridLayout{this}} {
     grille_->setContentsMargins(0, 0, 0, 0);
     grille_->setSpacing(Espace);
@@ -55,7 +63,6 @@ void RangeesFiche::Reconstruire(const records::RangeesSlots& stockees) {
     for (std::size_t k = 0; k < rangees_.size(); ++k)
         parLibelle[definition_.libelles[k]] = tapees[k];
     if (!Construire()) return;
-    if (avant_ != nullptr) Enchainer(*avant_);
     Montrer(stockees);
     for (std::size_t k = 0; k < rangees_.size(); ++k) {
         const auto valeur = parLibelle.find(definition_.libelles[k]);
@@ -191,15 +198,11 @@ void RangeesFiche::Traduire() {
     Aviser();
 }
 
-void RangeesFiche::Enchainer(QWidget& avant) {
-    avant_ = &avant;
-    QWidget* precedent = &avant;
+QList<QWidget*> RangeesFiche::Controles() const {
+    QList<QWidget*> controles;
     for (const Rangee& r : rangees_)
-        for (QWidget* champ : {static_cast<QWidget*>(r.jourMois), static_cast<QWidget*>(r.annee),
-                               static_cast<QWidget*>(r.lieu), static_cast<QWidget*>(r.choix)}) {
-            setTabOrder(precedent, champ);
-            precedent = champ;
-        }
+        controles << r.jourMois << r.annee << r.lieu << r.choix;
+    return controles;
 }
 
 void RangeesFiche::Changer() {

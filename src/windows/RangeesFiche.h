@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 
 #include "records/SaisieFiche.h"
@@ -21,6 +22,9 @@ class Session;
 namespace dorvane::windows {
 
 class Completeur;
+
+/// Puts `suite` behind `avant` in the order of Tab.
+void EnchainerTab(QWidget& avant, const QList<QWidget*>& suite);
 
 /// The rows of keywords of a person or of a union: day and month, year, place or word. One row for
 /// each slot of the base; the date of a plain one is not shown. Controls of row k, from 0, are
@@ -46,8 +50,8 @@ public:
     /// Years of the life inside which the dates belong, as typed.
     void PoserVie(const std::string& naissance, const std::string& deces);
     void Traduire();
-    /// Puts the rows behind `avant` in the order of Tab. Kept by `Reconstruire`.
-    void Enchainer(QWidget& avant);
+    /// The fields and buttons in the order of reading; others after `Reconstruire`.
+    [[nodiscard]] QList<QWidget*> Controles() const;
     [[nodiscard]] bool EstVide() const { return rangees_.empty(); }
 
 Q_SIGNALS:
@@ -75,7 +79,6 @@ private:
     QGridLayout* grille_;
     storage::DefinitionSlots definition_;
     std::vector<Rangee> rangees_;
-    QWidget* avant_ = nullptr;  ///< in the order of Tab
     std::string naissance_;
     std::string deces_;
     bool montre_ = false;

@@ -1,7 +1,9 @@
 #include "windows/FrmMisajour.h"
 
+#include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QToolButton>
@@ -13,6 +15,7 @@
 #include "windows/BoutonPersonne.h"
 #include "windows/EditeurNote.h"
 #include "windows/Essai.h"
+#include "windows/GlisserPersonne.h"
 #include "windows/TableFiche.h"
 #include "windows/Unicode.h"
 
@@ -476,6 +479,117 @@ TEST_CASE_FIXTURE(Feuille, "FrmMisajour: no mnemonic stands twice, in either lan
             prendre(bouton->text());
         CHECK(lettres.size() >= 18);
     }
+}
+
+TEST_CASE_FIXTURE(Feuille, "FrmMisajour: the order of Tab is the order of reading, on every page") {
+    QStringList ordre;
+    const auto parcourir = [&](const char* jusque) {
+        ordre.clear();
+        for (int i = 0; i < 60; ++i) {
+            ordre << fiche->focusWidget()->objectName();
+            if (ordre.last() == QString::fromUtf8(jusque)) break;
+            // A note and a list let Tab pass, too.
+            QTest::keyClick(fiche->focusWidget(), Qt::Key_Tab);
+        }
+        return ordre.join(u' ').toStdString();
+    };
+    const std::string tete =
+        "T_Nom T_Prénom Tx_PrénomAutres O_Sexe(0) TxtJNaiss T_Naiss TxtLieuNaiss TxtJDécès "
+        "T_Décès TxtLieuDécès N_Père C_Spère N_Mère C_Smère qt_tabwidget_tabbar ";
+    CHECK(parcourir("CmdPrécédent") ==
+          tete +
+              "TxtIndL(0) CmdIndSel(0) TxtIndJ(1) TxtIndA(1) TxtIndL(1) CmdIndSel(1) TxtIndJ(2) "
+              "TxtIndA(2) TxtIndL(2) CmdIndSel(2) C_Texte TxtInd CmdPrécédent");
+    Page(1);
+    Champ("T_Nom").setFocus();
+    CHECK(parcourir("CmdPrécédent") ==
+          tete +
+              "L_Conjoint C_Rechconjoint CmdCréConjoint C_Smar CmdMarDown TxtJMar T_Dmar T_Fmar "
+              "TxtLieuMar TxtMarJ(0) TxtMarA(0) TxtMarL(0) CmdMarSel(0) C_TexteMar TxtMar L_Enfants "
+              "CmdRechEnft CmdCréEnfant CmdSupEnft CmdPrécédent");
+    CHECK(parcourir("CmdFermer") == "CmdPrécédent CmdSuivant CmdGraphe CmdSupprimer CmdFermer");
+}
+
+TEST_CASE_FIXTURE(Feuille,
+                  "FrmMisajour: a person is dropped on a parent, a list of spouses or children") {
+    REQUIRE(fiche->Ouvrir(NoOrdre{8}));
+    const auto deposer = [this](QWidget& cible, NoOrdre individu) {
+        const std::unique_ptr<QMimeData> donnees{PersonneVersMime(S(), individu)};
+        const QPoint point{10, 10};
+        QDragEnterEvent entree{point, Qt::CopyAction, donnees.get(), Qt::LeftButton,
+                               Qt::NoModifier};
+        QApplication::sendEvent(&cible, &entree);
+        if (!entree.isAccepted()) return false;
+        QDropEvent depot{point, Qt::CopyAction, donnees.get(), Qt::LeftButton, Qt::NoModifier};
+        QApplication::sendEvent(&cible, &depot);
+        return true;
+    };
+    SUBCASE("a spouse") {
+        CHECK(deposer(*Liste("L_Conjoint").viewport(), NoOrdre{4}));
+        CHECK(records::UnionDe(B(), NoOrdre{8}, NoOrdre{4}));
+        CHECK(Liste("L_Conjoint").Lignes().size() == 1);
+    }
+    SUBCASE("a mother in place of the one who is there: a man is refused") {
+        const auto texte = RepondreBoite(QMessageBox::Ok);
+        CHECK(deposer(C<BoutonPersonne>("N_Mère"), NoOrdre{6}));
+        CHECK(texte->contains("ne convient pas"));
+        CHECK(B().R_MERE.LireCellule(NoOrdre{8}) == NoOrdre{5});
+    }
+    SUBCASE("what is no person is not taken") {
+        QMimeData texte;
+        texte.setText("Martin");
+        QDragEnterEvent entree{QPoint{10, 10}, Qt::CopyAction, &texte, Qt::LeftButton,
+                               Qt::NoModifier};
+        entree.setAccepted(false);
+        QApplication::sendEvent(&C<BoutonPersonne>("N_Mère"), &entree);
+        CHECK_FALSE(entree.isAccepted());
+    }
+}
+
+TEST_CASE_FIXTURE(Feuille, "FrmMisajour: events of the person are listed, opened and unlinked") {
+    const NoEvenement e = B().NouvelEvenement();
+    B().R_EVT.EcrireEvt(e, {.cleDate = DateVersSerie(DateCivile{4, 6, 1850}),
+                            .liens = {{{NoOrdre{3}, "HUSB"}, {NoOrdre{4}, "WIFE"}}},
+                            .description = storage::DescriptionEvt{"Rennes", "", "MARR"}});
+    B().R_TRI.AjouterEvt(e);
+    B().R_LSTEVT.ModifierListe(NoOrdre{3}, e, 'A', "HUSB");
+    B().R_LSTEVT.ModifierListe(NoOrdre{4}, e, 'A', "WIFE");
+    fiche->Recharger();
+    Page(3);
+    REQUIRE(Liste("GrdEvts").Lignes().size() == 1);
+    CHECK(Liste("GrdEvts").Lignes()[0].textes.first(2) == QStringList{"4 juin 1850", "Mariage"});
+    CHECK(Liste("GrdEvts").Lignes()[0].textes[3] == "Rennes");
+    QString ouverte;
+    SurModal([&ouverte](QWidget& fenetre) {
+        ouverte = fenetre.objectName();
+        QTest::keyClick(&fenetre, Qt::Key_Escape);
+    });
+    QTest::keyClick(&Liste("GrdEvts"), Qt::Key_Return);
+    CHECK(ouverte == "FrmDesEvt");
+    RepondreBoite(QMessageBox::Yes);
+    Cliquer("CmdEvtSup");
+    CHECK(Liste("GrdEvts").Lignes().empty());
+    CHECK(B().R_LSTEVT.NbElements(NoOrdre{3}) == 0);
+    CHECK(B().R_LSTEVT.NbElements(NoOrdre{4}) == 1);
+}
+
+TEST_CASE_FIXTURE(Feuille, "FrmMisajour: documents of the person are listed, moved and detached") {
+    for (const char* titre : {"Acte/1", "Photo"}) {
+        const NoDocument d = B().NouveauDocument();
+        B().R_IMAGE.EcrireDoc(d, {titre, "absent.jpg", "", ""});
+        B().R_TRI.AjouterDocument(d);
+        B().R_LSTIMG.ModifierListe(NoOrdre{3}, d, 'A');
+    }
+    fiche->Recharger();
+    Page(4);
+    REQUIRE(Liste("LstImage").Lignes().size() == 2);
+    CHECK(Liste("LstImage").Lignes()[0].textes[0] == "Acte");
+    Cliquer("CmdImageDown");
+    CHECK(B().R_LSTIMG.Elements(NoOrdre{3}) == std::vector{NoDocument{2}, NoDocument{1}});
+    CHECK(Liste("LstImage").Courante()->numero == 1);
+    RepondreBoite(QMessageBox::Yes);
+    Cliquer("CmdImageSup");
+    CHECK(B().R_LSTIMG.Elements(NoOrdre{3}) == std::vector{NoDocument{2}});
 }
 
 TEST_CASE_FIXTURE(Feuille, "FrmMisajour: every field has a name for assistive programs") {
