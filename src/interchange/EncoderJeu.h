@@ -1,0 +1,32 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace dorvane::interchange {
+
+/// The character sets that an export can have.
+enum class JeuExport : std::uint8_t { Ascii, Ansi, Ansel, Html, Utf8 };
+
+/// What the CHAR line of the header says.
+[[nodiscard]] std::string_view NomDeclare(JeuExport jeu);
+
+/// Turns texts of code page 1252 into a set, byte by byte. `Ascii` holds accented letters as code
+/// page 437. A letter that a set lacks loses its accent; what has no letter becomes "?".
+class Encodeur {
+public:
+    explicit Encodeur(JeuExport jeu);
+
+    /// Appends a text.
+    void Ecrire(std::string& sortie, std::string_view texte) const;
+    [[nodiscard]] std::string Encoder(std::string_view texte) const;
+    [[nodiscard]] JeuExport Jeu() const { return jeu_; }
+
+private:
+    JeuExport jeu_;
+    std::array<std::string, 256> formes_;
+};
+
+}  // namespace dorvane::interchange
