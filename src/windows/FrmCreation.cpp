@@ -82,6 +82,8 @@ records::SaisieFiche FrmCreation::Lire(std::size_t& remplaces) const {
 }
 
 void FrmCreation::Creer() {
+    if (!S().base) return;
+    QuitterChamp(*this);
     std::size_t remplaces = 0;
     records::SaisieFiche fiche = Lire(remplaces);
     if (!AccepterRemplaces(S(), remplaces)) return;

@@ -230,6 +230,8 @@ void FrmMisajour::Changer() {
 }
 
 bool FrmMisajour::Valider() {
+    if (!S().base) return false;
+    QuitterChamp(*this);
     std::size_t remplaces = 0;
     records::SaisieFiche fiche = Lire(remplaces);
     if (!AccepterRemplaces(S(), remplaces)) return false;
@@ -251,6 +253,8 @@ bool FrmMisajour::Valider() {
     Charger();
     AllerAuChamp(issue.champ);
     Q_EMIT baseChangee();
+    // Who was changed is the person of the chart from now on.
+    if (individu_ != S().PersonneEnCours) Q_EMIT allerDemande(individu_.valeur);
     return true;
 }
 

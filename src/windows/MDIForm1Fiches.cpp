@@ -134,7 +134,7 @@ void MDIForm1::MenuParent(NoOrdre enfant, char cote, const QPoint& point) {
 void MDIForm1::CreerParent(NoOrdre enfant, char cote) {
     if (!shell::CommandePermise(session_) || !session_.base) return;
     const NoOrdre parent = FrmCreation::Creer(
-        session_, {.nom = session_.base->R_NOM.NomDe(enfant), .sexe = cote}, this);
+        session_, DepartDeParent(session_.base->R_NOM.NomDe(enfant), cote), this);
     if (parent) static_cast<void>(records::ParentCree(session_, enfant, cote, parent));
     RelireTout(nullptr);
 }

@@ -89,8 +89,11 @@ void PageUnions::ChercherEnfant() {
 
 void PageUnions::CreerEnfant() {
     if (!Fiche().Preparer() || !records::PeutAvoirEnfant(S(), Individu(), mariage_)) return;
-    const NoOrdre enfant =
-        FrmCreation::Creer(S(), {.nom = S().base->R_NOM.NomDe(Individu()), .sexe = 'I'}, window());
+    // The child of a woman bears another name as a rule: it is typed over.
+    SaisieDepart depart;
+    depart.nom = S().base->R_NOM.NomDe(Individu());
+    depart.nomIncertain = S().base->R_SEXE.LireCellule(Individu()) == 'F';
+    const NoOrdre enfant = FrmCreation::Creer(S(), depart, window());
     if (!enfant) return;
     // The person is there, even when the link was refused in the end.
     static_cast<void>(records::EnfantCree(S(), Individu(), enfant, mariage_));
