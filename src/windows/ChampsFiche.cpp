@@ -41,6 +41,11 @@ void SuivreCasse(QLineEdit& champ, const shell::Session& session, Casse casse) {
     });
 }
 
+void QuitterChamp(const QWidget& fenetre) {
+    if (auto* champ = qobject_cast<QLineEdit*>(fenetre.focusWidget()))
+        Q_EMIT champ->editingFinished();
+}
+
 ChampsFiche::ChampsFiche(QWidget* parent)
     : QWidget{parent}, ui_{std::make_unique<Ui::ChampsFiche>()} {
     ui_->setupUi(this);

@@ -33,6 +33,10 @@ void SuivreJourMois(QLineEdit& champ, const shell::Session& session);
 /// The field takes the case of the base when it loses the focus.
 void SuivreCasse(QLineEdit& champ, const shell::Session& session, records::Casse casse);
 
+/// The field that has the focus takes the form that it takes when it is left: what is typed is to
+/// be saved while the user stands in it.
+void QuitterChamp(const QWidget& fenetre);
+
 /// Names, sex, birth and death: what the sheet and the form of a new person have in common.
 class ChampsFiche final : public QWidget {
     Q_OBJECT

@@ -15,30 +15,35 @@ constexpr std::size_t MaxEnListe = 500;
 
 }  // namespace
 
-Completeur::Completeur(QLineEdit& champ, shell::Session& session, std::string_view symboles)
+Completeur::Completeur(QLineEdit& champ, shell::Session& session, std::string_view symboles,
+                       std::string_view enListe)
     : QCompleter{&champ},
       champ_{champ},
-      completion_{session, symboles},
+      tapes_{session, symboles},
+      liste_{session, enListe.empty() ? symboles : enListe},
       mots_{new QStringListModel{this}} {
     setModel(mots_);
     // The words are already those that fit, whatever their accents.
     setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     setMaxVisibleItems(static_cast<int>(MaxEnTapant));
     champ.setCompleter(this);
-    connect(&champ, &QLineEdit::textEdited, this,
-            [this](const QString& texte) { Proposer(texte, MaxEnTapant, false); });
+    connect(&champ, &QLineEdit::textEdited, this, [this](const QString& texte) {
+        Poser(tapes_.Chercher(QtVersTexte(texte).octets, MaxEnTapant), texte);
+    });
 }
 
 void Completeur::MontrerTout() {
-    Proposer(champ_.text(), MaxEnListe, champ_.text().trimmed().isEmpty());
-    if (mots_->rowCount() == 0) Proposer({}, MaxEnListe, true);
+    const std::string debut = QtVersTexte(champ_.text()).octets;
+    std::vector<std::string> trouves = liste_.Chercher(debut, MaxEnListe, true);
+    if (trouves.empty()) trouves = liste_.Chercher({}, MaxEnListe, true);
+    Poser(trouves, {});
     champ_.setFocus();
     complete();
 }
 
-void Completeur::Proposer(const QString& debut, std::size_t max, bool tous) {
+void Completeur::Poser(const std::vector<std::string>& trouves, const QString& debut) {
     QStringList mots;
-    for (const std::string& mot : completion_.Chercher(QtVersTexte(debut).octets, max, tous))
+    for (const std::string& mot : trouves)
         mots << TexteVersQt(mot);
     // What stands there already need not be proposed.
     if (mots.size() == 1 && mots.first() == debut.trimmed()) mots.clear();

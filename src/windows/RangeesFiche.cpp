@@ -127,10 +127,8 @@ void RangeesFiche::AjouterRangee(std::size_t k) {
 
     std::string symboles{slot.symbole};
     if (datee) symboles.append(records::mots::Lieux);
-    new Completeur{*r.lieu, *session_, symboles};
     // The button lists the words of this keyword alone.
-    r.mots = new Completeur{*r.lieu, *session_, {&slot.symbole, 1}};
-    r.lieu->setCompleter(r.lieu->findChildren<Completeur*>().constFirst());
+    r.mots = new Completeur{*r.lieu, *session_, symboles, {&slot.symbole, 1}};
     connect(r.choix, &QToolButton::clicked, this, [this, mots = r.mots] { mots->MontrerTout(); });
     SuivreJourMois(*r.jourMois, *session_);
     SuivreCasse(*r.lieu, *session_, records::Casse::Lieu);

@@ -1,5 +1,7 @@
 #include "windows/FrmMisajour.h"
 
+#include <QAbstractItemView>
+#include <QCompleter>
 #include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -362,6 +364,41 @@ TEST_CASE_FIXTURE(Feuille, "FrmMisajour: Enter or a double click on a relative o
 }
 
 TEST_CASE_FIXTURE(Feuille,
+                  "FrmMisajour: the chart goes to the person of the sheet once it is saved") {
+    REQUIRE(fiche->Ouvrir(NoOrdre{6}));
+    CHECK(EnCours() == 3);
+    Taper("T_Prénom", "Lucien");
+    Entree();
+    CHECK(EnCours() == 6);
+    CHECK(fiche->Individu() == NoOrdre{6});
+    CHECK(Texte("T_Prénom") == "Lucien");
+}
+
+TEST_CASE_FIXTURE(
+    Feuille, "FrmMisajour: a field that is saved while one stands in it takes its form first") {
+    S().parametres.base.conversionNom = "1";
+    Taper("T_Nom", "durand");
+    QTest::keyClick(fiche->focusWidget(), Qt::Key_Return, Qt::ControlModifier);
+    CHECK(B().R_NOM.NomDe(NoOrdre{3}) == "DURAND");
+}
+
+TEST_CASE_FIXTURE(
+    Feuille,
+    "FrmMisajour: the place of a dated fact completes from all places, its button from its own") {
+    Taper("TxtLieuNaiss", "Saint-Malo");
+    Taper("TxtIndL(2)", "Brest");
+    Entree();
+    Taper("TxtIndL(1)", "sai");
+    auto* mots = Champ("TxtIndL(1)").completer();
+    CHECK(mots->popup()->isVisible());
+    CHECK(mots->model()->index(0, 0).data().toString() == "Saint-Malo");
+    mots->popup()->hide();
+    Cliquer("CmdIndSel(2)");
+    CHECK(Champ("TxtIndL(2)").completer()->model()->rowCount() == 1);
+    Champ("TxtIndL(2)").completer()->popup()->hide();
+}
+
+TEST_CASE_FIXTURE(Feuille,
                   "FrmMisajour: the next and the previous person without leaving the sheet") {
     const NoOrdre suivante = records::VoisinDansLOrdre(B(), NoOrdre{3}, 1);
     Cliquer("CmdSuivant");
@@ -502,11 +539,12 @@ TEST_CASE_FIXTURE(Feuille, "FrmMisajour: the order of Tab is the order of readin
               "TxtIndA(2) TxtIndL(2) CmdIndSel(2) C_Texte TxtInd CmdPrécédent");
     Page(1);
     Champ("T_Nom").setFocus();
-    CHECK(parcourir("CmdPrécédent") ==
-          tete +
-              "L_Conjoint C_Rechconjoint CmdCréConjoint C_Smar CmdMarDown TxtJMar T_Dmar T_Fmar "
-              "TxtLieuMar TxtMarJ(0) TxtMarA(0) TxtMarL(0) CmdMarSel(0) C_TexteMar TxtMar L_Enfants "
-              "CmdRechEnft CmdCréEnfant CmdSupEnft CmdPrécédent");
+    CHECK(
+        parcourir("CmdPrécédent") ==
+        tete +
+            "L_Conjoint C_Rechconjoint CmdCréConjoint C_Smar CmdMarDown TxtJMar T_Dmar T_Fmar "
+            "TxtLieuMar TxtMarJ(0) TxtMarA(0) TxtMarL(0) CmdMarSel(0) C_TexteMar TxtMar L_Enfants "
+            "CmdRechEnft CmdCréEnfant CmdSupEnft CmdPrécédent");
     CHECK(parcourir("CmdFermer") == "CmdPrécédent CmdSuivant CmdGraphe CmdSupprimer CmdFermer");
 }
 
