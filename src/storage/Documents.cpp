@@ -70,12 +70,20 @@ const Document& Documents::LireDoc(NoDocument d) {
     return memo_;
 }
 
+Position Documents::PositionNote(NoDocument d) {
+    std::string tete(TailleTete, '\0');
+    volume_.Lire(LireCellule(d), tete);
+    return Position{Chaine4VersNum(tete)};
+}
+
 void Documents::EcrireDoc(NoDocument d, const Document& document) {
     if (!d) return;
-    const std::string note = SansDiese(document.note);
-    const Position posNote = note.empty()
-                                 ? Position{}
-                                 : volume_.Ajouter(std::string_view{note}.substr(0, MaxEcrit), "#");
+    const std::string note = SansDiese(document.note).substr(0, MaxEcrit);
+    // A note that is the same stays where it is.
+    const bool garde = !note.empty() && SansRetours(note) == LireDoc(d).note;
+    const Position posNote = garde          ? PositionNote(d)
+                             : note.empty() ? Position{}
+                                            : volume_.Ajouter(note, "#");
     std::string fiche = NumVersChaine4(posNote.valeur);
     fiche += SansOctet(document.titre, '\0', ' ') + '\0';
     fiche += SansOctet(document.fichier, Separateur, 'y');

@@ -27,12 +27,15 @@ public:
     /// All of it; valid until the next call. Empty, and an incident, when the record has no end.
     [[nodiscard]] const Document& LireDoc(NoDocument d);
 
+    /// Writes the record anew; the note is appended only when it differs from the stored one.
     void EcrireDoc(NoDocument d, const Document& document);
     /// Takes the document away: its cell becomes 0.
     void EffacerDoc(NoDocument d);
     void InitColonne();
 
 private:
+    [[nodiscard]] Position PositionNote(NoDocument d);
+
     NoDocument noMemo_{};
     Document memo_;
 };

@@ -39,6 +39,30 @@ TEST_CASE_FIXTURE(Essai, "A note with only line breaks reads as empty") {
     CHECK(base->R_IMAGE.NoteDoc(d) == "un");
 }
 
+TEST_CASE_FIXTURE(Essai, "EcrireDoc: a note that did not change keeps its place") {
+    const NoDocument d = base->NouveauDocument();
+    base->R_IMAGE.EcrireDoc(d, {"T", "F", "", "une longue note"});
+    REQUIRE(base->Enregistrer());
+    const unsigned avant = Lire().Num4(Lire().Num4De("IMAGE", 1));
+    const std::uint32_t fin = base->volume.FinFichier();
+    base->R_IMAGE.EcrireDoc(d, {"Titre", "F", "", "une longue note"});
+    CHECK(base->volume.FinFichier() - fin == std::string_view{"nnnnTitre F#"}.size());
+    Rouvrir();
+    CHECK(base->R_IMAGE.LireDoc(d) == Document{"Titre", "F", "", "une longue note"});
+    CHECK(Lire().Num4(Lire().Num4De("IMAGE", 1)) == avant);
+    SUBCASE("another note is appended, the first stays in the file") {
+        base->R_IMAGE.EcrireDoc(d, {"Titre", "F", "", "une autre"});
+        REQUIRE(base->Enregistrer());
+        CHECK(Lire().Num4(Lire().Num4De("IMAGE", 1)) > avant);
+        CHECK(Lire().Texte(avant) == "une longue note");
+    }
+    SUBCASE("none has no place") {
+        base->R_IMAGE.EcrireDoc(d, {"Titre", "F", "", ""});
+        REQUIRE(base->Enregistrer());
+        CHECK(Lire().Num4(Lire().Num4De("IMAGE", 1)) == 0);
+    }
+}
+
 TEST_CASE_FIXTURE(Essai, "A note whose position holds the byte of # does not cut the record") {
     base->volume.Ajouter(std::string(0x2300 - base->volume.FinFichier() % 0x2300 + 0x23 - 1, '\0'));
     const Position note = base->volume.Ajouter("la note#");
