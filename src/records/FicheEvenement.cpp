@@ -123,6 +123,7 @@ SaisieEvenement ChargerEvenement(shell::Session& session, NoEvenement evenement)
 
 SaisieEvenement NouvelEvenement(NoOrdre pour, std::string_view role) {
     SaisieEvenement saisie;
+    saisie.pour = pour;
     if (pour) saisie.liens.push_back({pour, std::string{role}});
     return saisie;
 }
@@ -132,7 +133,9 @@ bool EvenementModifie(shell::Session& session, const SaisieEvenement& saisie) {
     if (!saisie.evenement)
         return !saisie.date.empty() || !saisie.type.empty() || !saisie.lieu.empty() ||
                !saisie.libelle.empty() || !saisie.note.empty() || !saisie.documents.empty() ||
-               saisie.liens.size() > 1;
+               saisie.liens.size() > 1 ||
+               std::any_of(saisie.liens.begin(), saisie.liens.end(),
+                           [&saisie](const LienEvenement& l) { return l.individu != saisie.pour; });
     const std::optional<Serie> date =
         SaisirDateEvenement(saisie.date, session.Ordre(), session.Mots());
     // A date that cannot be read yet has been typed, unless there is none on either side.
@@ -165,6 +168,7 @@ IssueEvenement ValiderEvenement(shell::Session& session, SaisieEvenement& saisie
     storage::PartiesEvt parties = Differences(base, saisie, *date);
     const bool inchange = Vide(parties);
     if (!saisie.evenement) saisie.evenement = base.NouvelEvenement();
+    saisie.pour = {};
     const LiensEvenement anciens = base.R_EVT.Liens(saisie.evenement);
     if (!inchange) EcrireParties(session, saisie.evenement, std::move(parties));
     saisie.date = DateEnMots(session, saisie.evenement);

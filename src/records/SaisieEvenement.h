@@ -12,6 +12,7 @@ namespace dorvane::records {
 /// language-neutral form (a tag, or the user's own word).
 struct SaisieEvenement {
     NoEvenement evenement{};  ///< 0: a new event
+    NoOrdre pour{};           ///< whom a new event was opened for; 0 for nobody
     std::string date{};       ///< as typed; a whole date
     std::string type{};
     std::string lieu{};

@@ -127,6 +127,29 @@ TEST_CASE_FIXTURE(Scene,
     CHECK_FALSE(EvenementModifie(session, saisie));
 }
 
+TEST_CASE_FIXTURE(Scene, "EvenementModifie: of a new event, all but the person it was opened for") {
+    SaisieEvenement pourPaul = NouvelEvenement(paul, "");
+    CHECK_FALSE(EvenementModifie(session, pourPaul));
+    SUBCASE("taken out, nothing is left to lose") {
+        pourPaul.liens.clear();
+        CHECK_FALSE(EvenementModifie(session, pourPaul));
+    }
+    SUBCASE("a second role of the person") {
+        pourPaul.liens.push_back({paul, "WITN"});
+        CHECK(EvenementModifie(session, pourPaul));
+    }
+    SUBCASE("another person instead") {
+        pourPaul.liens.front().individu = louis;
+        CHECK(EvenementModifie(session, pourPaul));
+    }
+    SUBCASE("one person in an event opened for nobody") {
+        SaisieEvenement pourNul = NouvelEvenement({}, "");
+        CHECK_FALSE(EvenementModifie(session, pourNul));
+        pourNul.liens.push_back({paul, "MAIN"});
+        CHECK(EvenementModifie(session, pourNul));
+    }
+}
+
 TEST_CASE_FIXTURE(Scene, "ValiderEvenement: an event that did not change costs no byte") {
     SaisieEvenement saisie =
         ChargerEvenement(session, Evenement("12 mars 1841", "CENS", {{paul, "MAIN"}}));
