@@ -127,6 +127,7 @@ int Executer(int nombre, const char* const* arguments) {
     DeclarerVerbesFiche(app, ligne.faire);
     DeclarerVerbesFaits(app, ligne.faire);
     DeclarerVerbesReglages(app, ligne.faire);
+    DeclarerVerbesExport(app, ligne.faire);
     DeclarerCalcul(app, ligne);
     try {
         app.parse(nombre, arguments);

@@ -15,4 +15,7 @@ void DeclarerVerbesFaits(CLI::App& app, std::function<int()>& faire);
 /// `motcle`, `rechercher`, `parametre`.
 void DeclarerVerbesReglages(CLI::App& app, std::function<int()>& faire);
 
+/// `exporter`.
+void DeclarerVerbesExport(CLI::App& app, std::function<int()>& faire);
+
 }  // namespace dorvane::outil

@@ -157,4 +157,44 @@ std::string DateEntiere(const DateLue& date) {
                                                                                  : std::string{};
 }
 
+namespace {
+
+std::string_view NomDuMois(int mois) {
+    return Mois.substr(static_cast<std::size_t>(mois - 1) * 3, 3);
+}
+
+/// A word of a stored date: "12/5" in the words of the format, any other as it stands.
+std::string EcrireMot(std::string_view mot) {
+    const std::size_t barre = mot.find('/');
+    if (barre == std::string_view::npos) return std::string{mot};
+    const std::string_view jour = mot.substr(0, barre);
+    const std::string_view mois = mot.substr(barre + 1);
+    int numero = 0;
+    std::from_chars(mois.data(), mois.data() + mois.size(), numero);
+    if (!TousChiffres(jour) || !TousChiffres(mois) || numero < 1 || numero > 12)
+        return std::string{mot};
+    return std::string{jour} + ' ' + std::string{NomDuMois(numero)};
+}
+
+}  // namespace
+
+std::string EcrireDateGedcom(std::string_view jourMois, std::string_view annee) {
+    std::string date;
+    for (std::string_view reste = SansBlancs(jourMois); !reste.empty();) {
+        const std::size_t fin = std::min(reste.find(' '), reste.size());
+        if (!date.empty()) date += ' ';
+        date += EcrireMot(reste.substr(0, fin));
+        reste = SansBlancsAGauche(reste.substr(fin));
+    }
+    annee = SansBlancs(annee);
+    if (annee.empty()) return date;
+    if (!date.empty()) date += ' ';
+    const bool avant = annee.front() == '-' && TousChiffres(annee.substr(1));
+    return date += avant ? std::string{annee.substr(1)} + " BC" : std::string{annee};
+}
+
+std::string EcrireJourGedcom(int jour, int mois, int annee) {
+    return std::to_string(jour) + ' ' + std::string{NomDuMois(mois)} + ' ' + std::to_string(annee);
+}
+
 }  // namespace dorvane::interchange

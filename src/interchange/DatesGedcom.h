@@ -26,4 +26,11 @@ struct DateLue {
 /// day.
 [[nodiscard]] std::string DateEntiere(const DateLue& date);
 
+/// The value of a DATE line for a stored date: "12/5" and "1800" give "12 MAY 1800", tokens stay,
+/// "-44" gives "44 BC". Empty without either part.
+[[nodiscard]] std::string EcrireDateGedcom(std::string_view jourMois, std::string_view annee);
+
+/// A day as a DATE line holds it: "1 MAR 1820".
+[[nodiscard]] std::string EcrireJourGedcom(int jour, int mois, int annee);
+
 }  // namespace dorvane::interchange

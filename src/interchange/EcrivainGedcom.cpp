@@ -1,0 +1,124 @@
+#include "interchange/EcrivainGedcom.h"
+
+#include "values/Comparaison.h"
+
+#include <algorithm>
+
+namespace dorvane::interchange {
+
+namespace {
+
+constexpr std::size_t LongueurAuPlus = 60;  ///< characters of a value on one line
+
+std::string DoublerMarques(std::string_view valeur) {
+    std::string double_{valeur};
+    RemplacerTout(double_, "@", "@@");
+    return double_;
+}
+
+std::string Prefixe(int niveau, std::string_view etiquette) {
+    return std::to_string(niveau) + ' ' + std::string{etiquette} + ' ';
+}
+
+}  // namespace
+
+void EcrivainGedcom::Ligne(int niveau, std::string_view etiquette) {
+    sortie_ += std::to_string(niveau) + ' ';
+    sortie_ += etiquette;
+    Finir();
+}
+
+void EcrivainGedcom::Valeur(int niveau, std::string_view etiquette, std::string_view valeur) {
+    std::string simple = DoublerMarques(valeur);
+    RemplacerTout(simple, "\r\n", " ");
+    std::ranges::replace(simple, '\r', ' ');
+    std::ranges::replace(simple, '\n', ' ');
+    const std::string_view texte = SansBlancs(simple);
+    if (texte.empty()) return;
+    sortie_ += Prefixe(niveau, etiquette);
+    encodeur_.Ecrire(sortie_, texte);
+    Finir();
+}
+
+void EcrivainGedcom::Renvoi(int niveau, std::string_view etiquette, char sorte,
+                            std::uint32_t numero) {
+    sortie_ += Prefixe(niveau, etiquette) + '@' + sorte + std::to_string(numero) + '@';
+    Finir();
+}
+
+void EcrivainGedcom::Enregistrement(char sorte, std::uint32_t numero, std::string_view etiquette) {
+    sortie_ += "0 @";
+    sortie_ += sorte + std::to_string(numero) + "@ ";
+    sortie_ += etiquette;
+    Finir();
+}
+
+bool EcrivainGedcom::Texte(std::string_view debut, int niveau, std::string_view texte) {
+    const std::string octets = encodeur_.Encoder(DoublerMarques(texte));
+    const std::string cont = Prefixe(niveau, "CONT");
+    const std::string conc = Prefixe(niveau, "CONC");
+    bool premier = true;
+    for (std::string_view reste = octets; !reste.empty();) {
+        const std::size_t fin = std::min(reste.find_first_of("\r\n"), reste.size());
+        if (const std::string_view paragraphe = reste.substr(0, fin); !paragraphe.empty()) {
+            Paragraphe(premier ? debut : std::string_view{cont}, conc, paragraphe);
+            premier = false;
+        }
+        reste.remove_prefix(std::min(fin + 1, reste.size()));
+    }
+    return !premier;
+}
+
+void EcrivainGedcom::Paragraphe(std::string_view debut, std::string_view suite,
+                                std::string_view paragraphe) {
+    const auto ecrire = [this](std::string_view prefixe, std::string_view morceau) {
+        sortie_ += prefixe;
+        sortie_ += morceau;
+        Finir();
+    };
+    if (paragraphe.size() <= LongueurAuPlus) return ecrire(debut, paragraphe);
+    std::string_view prefixe = debut;
+    while (paragraphe.size() >= LongueurAuPlus) {
+        const std::size_t blanc = paragraphe.rfind(' ', LongueurAuPlus - 1);
+        // A blank at the very front would leave the line without a value.
+        const bool coupe = blanc != std::string_view::npos && blanc > 0;
+        const std::size_t fin = coupe ? blanc : Reculer(paragraphe, LongueurAuPlus);
+        ecrire(prefixe, paragraphe.substr(0, fin));
+        paragraphe.remove_prefix(coupe ? fin + 1 : fin);
+        prefixe = suite;
+    }
+    if (!paragraphe.empty()) ecrire(prefixe, paragraphe);
+}
+
+/// A cut never goes through the bytes of one character.
+std::size_t EcrivainGedcom::Reculer(std::string_view texte, std::size_t fin) const {
+    if (fin >= texte.size()) return texte.size();
+    std::size_t coupe = fin;
+    const auto octet = [&](std::size_t i) { return static_cast<unsigned char>(texte[i]); };
+    switch (encodeur_.Jeu()) {
+        case JeuExport::Utf8:
+            while (coupe > 0 && (octet(coupe) & 0xC0U) == 0x80)
+                --coupe;
+            break;
+        case JeuExport::Ansel:
+            while (coupe > 0 && octet(coupe - 1) >= 0xE0)
+                --coupe;
+            break;
+        case JeuExport::Html: {
+            const std::size_t debut = texte.rfind('&', coupe - 1);
+            if (debut != std::string_view::npos && texte.find(';', debut) >= coupe) coupe = debut;
+            break;
+        }
+        case JeuExport::Ascii:
+        case JeuExport::Ansi:
+            break;
+    }
+    // Two marks are one sign.
+    std::size_t marques = 0;
+    while (marques < coupe && texte[coupe - 1 - marques] == '@')
+        ++marques;
+    if (marques % 2 == 1 && texte[coupe] == '@') --coupe;
+    return coupe > 0 ? coupe : fin;
+}
+
+}  // namespace dorvane::interchange

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "interchange/EncoderJeu.h"
+
+#include <string>
+#include <string_view>
+
+namespace dorvane::interchange {
+
+/// Lines of a GEDCOM file in the making: level, tag and value in the set of the export, ended by CR
+/// LF. Values are in code page 1252; a value of nothing writes no line where it says so. "@" in a
+/// value is doubled, as the grammar asks.
+class EcrivainGedcom {
+public:
+    explicit EcrivainGedcom(JeuExport jeu) : encodeur_{jeu} {}
+
+    /// A line without a value: "1 BIRT".
+    void Ligne(int niveau, std::string_view etiquette);
+    /// A line with a value; nothing for an empty one. Line breaks of the value become blanks.
+    void Valeur(int niveau, std::string_view etiquette, std::string_view valeur);
+    /// A line that points at a record: "1 HUSB @I12@".
+    void Renvoi(int niveau, std::string_view etiquette, char sorte, std::uint32_t numero);
+    /// The first line of a record: "0 @I12@ INDI".
+    void Enregistrement(char sorte, std::uint32_t numero, std::string_view etiquette);
+    /// A text of any length, cut into lines of at most 60 characters: the first begins with `debut`
+    /// ("1 NOTE "), each later paragraph with CONT, the rest of a paragraph with CONC, both at
+    /// `niveau`. Paragraphs without text write nothing. False when nothing was written.
+    bool Texte(std::string_view debut, int niveau, std::string_view texte);
+
+    /// What has been written so far.
+    [[nodiscard]] const std::string& Octets() const { return sortie_; }
+
+private:
+    void Paragraphe(std::string_view debut, std::string_view suite, std::string_view paragraphe);
+    void Finir() { sortie_ += "\r\n"; }
+    [[nodiscard]] std::size_t Reculer(std::string_view texte, std::size_t fin) const;
+
+    Encodeur encodeur_;
+    std::string sortie_;
+};
+
+}  // namespace dorvane::interchange

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "interchange/EncoderJeu.h"
+#include "values/Numeros.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace dorvane::shell {
+class Session;
+}
+
+namespace dorvane::interchange {
+
+struct OptionsExport {
+    JeuExport jeu = JeuExport::Ansi;
+    bool reduit = false;  ///< header without file, language and submitter
+    /// By person number: who is written. Empty: everybody.
+    std::vector<bool> choisis{};
+    /// Every event and document is written, not only those of the persons chosen.
+    bool complet = true;
+};
+
+struct ComptesExport {
+    std::uint32_t individus = 0;
+    std::uint32_t familles = 0;
+    std::uint32_t evenements = 0;
+    std::uint32_t documents = 0;
+};
+
+enum class IssueExport {
+    Fait,
+    Abandon,  ///< the user gave up: no file, or the former one
+    Refus,    ///< the system refuses to write: the same
+};
+
+struct ResultatExport {
+    IssueExport issue = IssueExport::Refus;
+    ComptesExport comptes;
+};
+
+/// Writes the open base, or a selection of it, as a GEDCOM 5.5 file. The file is written beside and
+/// renamed. Persons, families, events and documents keep the numbers of the base.
+[[nodiscard]] ResultatExport ExporterGedcom(shell::Session& session,
+                                            const std::filesystem::path& chemin,
+                                            const OptionsExport& options);
+
+/// The bytes of such a file; nothing when the user gave up.
+[[nodiscard]] bool ComposerGedcom(shell::Session& session, const std::string& nomFichier,
+                                  const OptionsExport& options, std::string& octets,
+                                  ComptesExport& comptes);
+
+}  // namespace dorvane::interchange
