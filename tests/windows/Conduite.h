@@ -105,8 +105,10 @@ struct Conduite : FenetreEssai {
     }
     /// Brings a window to the front, as a click on it does.
     static void Devant(QWidget& fenetre) {
+        // What was asked of the desktop before comes first.
+        QCoreApplication::processEvents();
         fenetre.activateWindow();
-        REQUIRE(QTest::qWaitForWindowActive(&fenetre));
+        REQUIRE(QTest::qWaitFor([&fenetre] { return QApplication::activeWindow() == &fenetre; }));
     }
     /// Opens the sheet of the current person by its key.
     void OuvrirFiche() const {
@@ -120,6 +122,12 @@ struct Conduite : FenetreEssai {
         Devant(Fiche());
         QTest::keyClick(&Fiche(), static_cast<Qt::Key>(Qt::Key_0 + page), Qt::ControlModifier);
         REQUIRE(Controler<QTabWidget>(Fiche(), "SSTab1").currentIndex() == page - 1);
+    }
+    /// Saves from any field, by the keys.
+    void EnregistrerParTouches() const {
+        Devant(Fiche());
+        QTest::keyClick(Fiche().focusWidget(), Qt::Key_Return, Qt::ControlModifier);
+        CHECK_FALSE(Controler<QWidget>(Fiche(), "C_Maj").isEnabled());
     }
     void Enregistrer() const { Cliquer(Fiche(), "C_Maj"); }
 
