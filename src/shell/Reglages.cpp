@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
+#include <tuple>
 
 namespace dorvane::shell {
 
@@ -95,6 +96,17 @@ void ChangerClesNoms(Session& session, Reglages& r) {
     session.indexationFaite = false;
 }
 
+/// The store keeps the order in which keys were written: another order is written from the start.
+void RangerSection(Magasin& magasin, std::string_view section,
+                   const std::vector<Magasin::Entree>& entrees) {
+    magasin.RemplacerSection(section, entrees);
+    if (std::ranges::equal(magasin.LireSection(section), entrees, {}, &Magasin::Entree::first,
+                           &Magasin::Entree::first))
+        return;
+    magasin.SupprimerSection(section);
+    magasin.RemplacerSection(section, entrees);
+}
+
 void EcrireEvenements(Magasin& magasin, const std::vector<TypeEvenement>& evenements) {
     const std::vector<Magasin::Entree> avant = magasin.LireSection(Liste);
     std::vector<Magasin::Entree> liste;
@@ -105,12 +117,12 @@ void EcrireEvenements(Magasin& magasin, const std::vector<TypeEvenement>& evenem
         std::vector<Magasin::Entree> roles;
         for (const RoleEvenement& role : evenement.roles)
             roles.emplace_back(TexteVersUtf8(CleDeRole(role)), std::string{});
-        magasin.RemplacerSection(SectionRoles(evenement.type), roles);
+        RangerSection(magasin, SectionRoles(evenement.type), roles);
     }
     for (const auto& [nom, valeur] : avant)
         if (std::ranges::find(liste, nom, &Magasin::Entree::first) == liste.end())
             magasin.SupprimerSection("Evénements\\" + nom);
-    magasin.RemplacerSection(Liste, liste);
+    RangerSection(magasin, Liste, liste);
 }
 
 void PoserAffichage(Session& session, const Reglages& r) {
@@ -142,6 +154,29 @@ Reglages LireReglages(const Session& session) {
     for (const std::string& type : parametres.ListeEvenements())
         r.evenements.push_back({type, parametres.RolesEvenement(type)});
     return r;
+}
+
+bool MemesReglages(const Reglages& a, const Reglages& b) {
+    const auto general = [](const ReglagesGeneraux& g) {
+        return std::tie(g.travail, g.fichierCommunes, g.geneanet, g.frequenceSauvegarde,
+                        g.barreMenus, g.barreFenetres, g.icones, g.affichageNom, g.ordreDate,
+                        g.triImport);
+    };
+    const auto deBase = [](const ReglagesBase& r) {
+        return std::tie(r.conversionNom, r.conversionPrenom, r.conversionLieu, r.auteur, r.adresse,
+                        r.typeDocument);
+    };
+    const auto reste = [](const Reglages& r) {
+        return std::tie(r.affichage, r.pourNouvelles, r.typeTri, r.prenomUnique,
+                        r.deplacerParticules, r.evenements);
+    };
+    return general(a.generaux) == general(b.generaux) && deBase(a.base) == deBase(b.base) &&
+           reste(a) == reste(b) &&
+           std::ranges::equal(a.generaux.particules, b.generaux.particules,
+                              [](const Particule& x, const Particule& y) {
+                                  return x.mot == y.mot && x.prenoms == y.prenoms &&
+                                         x.noms == y.noms;
+                              });
 }
 
 bool ChangerTri(Session& session, char typeTri) {

@@ -28,6 +28,9 @@ struct Reglages {
 
 [[nodiscard]] Reglages LireReglages(const Session& session);
 
+/// Would `ValiderReglages` change something? Both come from the same session.
+[[nodiscard]] bool MemesReglages(const Reglages& a, const Reglages& b);
+
 enum class ChampReglage { Aucun, Travail, Frequence, Evenements };
 
 /// Takes the settings over and saves them: asks before persons are sorted in another order, and

@@ -46,6 +46,18 @@ void FenetreFille::showEvent(QShowEvent* evenement) {
     QDialog::showEvent(evenement);
 }
 
+void FenetreFille::Renoncer(std::uint32_t question, const std::function<void()>& enregistrer) {
+    switch (session_.dialogue.Demander(
+        {.texte = shell::Msg(question), .boutons = shell::Boutons::OuiNonAnnuler})) {
+        case shell::Reponse::Oui:
+            return enregistrer();
+        case shell::Reponse::Non:
+            return QDialog::reject();
+        case shell::Reponse::Annuler:
+            return;
+    }
+}
+
 void FenetreFille::done(int resultat) {
     MemoriserPlace(*this, session_);
     QDialog::done(resultat);

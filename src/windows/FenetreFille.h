@@ -2,6 +2,9 @@
 
 #include <QDialog>
 
+#include <cstdint>
+#include <functional>
+
 namespace dorvane::shell {
 class Session;
 }
@@ -45,6 +48,10 @@ Q_SIGNALS:
 protected:
     void showEvent(QShowEvent* evenement) override;
     void done(int resultat) override;
+
+    /// Gives the window up when something is not saved: asks `question`; yes saves with
+    /// `enregistrer`, no closes, cancel stays.
+    void Renoncer(std::uint32_t question, const std::function<void()>& enregistrer);
 
     [[nodiscard]] shell::Session& S() const { return session_; }
 

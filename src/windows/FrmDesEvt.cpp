@@ -219,10 +219,8 @@ std::size_t FrmDesEvt::Lire() {
     saisie_.libelle = LireChamp(ui_->TxtLib->text(), remplaces);
     saisie_.type = TagDe(*ui_->CboTypeEvt);
     static_cast<void>(LireChamp(ui_->CboTypeEvt->currentText(), remplaces));
-    if (ui_->TxtComment->EstModifiee()) {
-        saisie_.note = ui_->TxtComment->Note();
-        remplaces += ui_->TxtComment->Remplaces();
-    }
+    saisie_.note = ui_->TxtComment->Note();
+    remplaces += ui_->TxtComment->Remplaces();
     return remplaces;
 }
 
@@ -319,16 +317,7 @@ void FrmDesEvt::CmdMajClique() {
 void FrmDesEvt::reject() {
     static_cast<void>(Lire());
     if (!records::EvenementModifie(S(), saisie_)) return FenetreFille::reject();
-    shell::Question question{shell::Msg(3093)};
-    question.boutons = shell::Boutons::OuiNonAnnuler;
-    switch (S().dialogue.Demander(question)) {
-        case shell::Reponse::Oui:
-            return CmdMajClique();
-        case shell::Reponse::Non:
-            return FenetreFille::reject();
-        case shell::Reponse::Annuler:
-            return;
-    }
+    Renoncer(3093, [this] { CmdMajClique(); });
 }
 
 void FrmDesEvt::done(int resultat) {

@@ -89,10 +89,8 @@ std::size_t FrmDesImage::Lire() {
     saisie_.valeurs.titre = LireChamp(ui_->TxtIntitulé->text(), remplaces);
     saisie_.valeurs.fichier = LireChamp(ui_->TxtNomfic->text(), remplaces);
     saisie_.valeurs.type = LireChamp(ui_->CboTypeDoc->currentText(), remplaces);
-    if (ui_->TxtComment->EstModifiee()) {
-        saisie_.valeurs.note = ui_->TxtComment->Note();
-        remplaces += ui_->TxtComment->Remplaces();
-    }
+    saisie_.valeurs.note = ui_->TxtComment->Note();
+    remplaces += ui_->TxtComment->Remplaces();
     return remplaces;
 }
 
@@ -206,16 +204,7 @@ void FrmDesImage::CmdValiderClique() {
 void FrmDesImage::reject() {
     static_cast<void>(Lire());
     if (!S().base || !records::DocumentModifie(S(), saisie_)) return FenetreFille::reject();
-    shell::Question question{shell::Msg(3116)};
-    question.boutons = shell::Boutons::OuiNonAnnuler;
-    switch (S().dialogue.Demander(question)) {
-        case shell::Reponse::Oui:
-            return CmdValiderClique();
-        case shell::Reponse::Non:
-            return FenetreFille::reject();
-        case shell::Reponse::Annuler:
-            return;
-    }
+    Renoncer(3116, [this] { CmdValiderClique(); });
 }
 
 void FrmDesImage::dragEnterEvent(QDragEnterEvent* evenement) {

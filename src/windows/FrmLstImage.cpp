@@ -43,8 +43,8 @@ FrmLstImage::FrmLstImage(shell::Session& session, QWidget* parent)
     table.setModel(modele_);
     const int cadratin = fontMetrics().averageCharWidth();
     table.setIconSize({ModeleDocuments::CoteVignette, ModeleDocuments::CoteVignette});
-    table.setColumnWidth(ModeleDocuments::Titre, 44 * cadratin);
-    table.setColumnWidth(ModeleDocuments::Type, 14 * cadratin);
+    table.setColumnWidth(ModeleDocuments::Titre, 58 * cadratin);
+    table.setColumnWidth(ModeleDocuments::Type, 18 * cadratin);
     table.setColumnWidth(ModeleDocuments::Fichier, 36 * cadratin);
     table.horizontalHeader()->setStretchLastSection(true);
     liste_ =

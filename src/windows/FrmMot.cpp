@@ -39,7 +39,7 @@ FrmMot::FrmMot(shell::Session& session, NoOrdre individu, const records::SaisieE
     FaireRangees();
     connect(ui_->CmdReprendre, &QPushButton::clicked, this, &FrmMot::Reprendre);
     connect(ui_->CmdValider, &QPushButton::clicked, this, &FrmMot::Valider);
-    connect(ui_->CmdAnnuler, &QPushButton::clicked, this, &QDialog::reject);
+    connect(ui_->CmdAnnuler, &QPushButton::clicked, this, &FrmMot::reject);
 }
 
 FrmMot::~FrmMot() = default;
@@ -123,20 +123,32 @@ void FrmMot::Reprendre() {
     }
 }
 
-void FrmMot::Valider() {
-    std::size_t remplaces = 0;
+records::RangeesSlots FrmMot::Lire(std::size_t& remplaces) const {
+    records::RangeesSlots valeurs = slots_;
     for (std::size_t k = 0; k < rangees_.size() && rangees_[k].lieu != nullptr; ++k) {
         if (rangees_[k].jourMois != nullptr) {
-            slots_[k].jourMois = LireChamp(rangees_[k].jourMois->text(), remplaces);
-            slots_[k].annee = LireChamp(rangees_[k].annee->text(), remplaces);
+            valeurs[k].jourMois = LireChamp(rangees_[k].jourMois->text(), remplaces);
+            valeurs[k].annee = LireChamp(rangees_[k].annee->text(), remplaces);
         }
-        slots_[k].lieu = LireChamp(rangees_[k].lieu->text(), remplaces);
+        valeurs[k].lieu = LireChamp(rangees_[k].lieu->text(), remplaces);
     }
+    return valeurs;
+}
+
+void FrmMot::Valider() {
+    std::size_t remplaces = 0;
+    const records::RangeesSlots valeurs = Lire(remplaces);
     if (!AccepterRemplaces(S(), remplaces)) return;
-    if (records::EcrireRangees(S(), individu_, slots_))
+    if (records::EcrireRangees(S(), individu_, valeurs))
         accept();
     else
-        reject();
+        FenetreFille::reject();
+}
+
+void FrmMot::reject() {
+    std::size_t remplaces = 0;
+    if (Lire(remplaces) == slots_) return FenetreFille::reject();
+    Renoncer(3128, [this] { Valider(); });
 }
 
 }  // namespace dorvane::windows

@@ -27,6 +27,9 @@ public:
            QWidget* parent);
     ~FrmMot() override;
 
+    /// Asks first when something is not saved.
+    void reject() override;
+
 protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
 
@@ -41,6 +44,7 @@ private:
     [[nodiscard]] QLineEdit* FaireChamp(const char* nom, std::size_t k, std::string_view texte,
                                         std::uint32_t acces, const QString& rubrique);
     void Reprendre();
+    [[nodiscard]] records::RangeesSlots Lire(std::size_t& remplaces) const;
     void Valider();
 
     std::unique_ptr<Ui::FrmMot> ui_;

@@ -5,6 +5,8 @@
 #include <QSignalBlocker>
 
 #include "shell/Session.h"
+#include "windows/ChampSuivi.h"
+#include "windows/FrmCreation.h"
 #include "windows/Icones.h"
 #include "windows/Legendes.h"
 #include "windows/Unicode.h"
@@ -110,9 +112,15 @@ records::LigneMotCle FrmMotCle::Choisi() const {
     return rangee < mots_.size() ? mots_[rangee] : records::LigneMotCle{};
 }
 
-records::SaisieMotCle FrmMotCle::Saisie() const {
-    return {QtVersTexte(ui_->Tx_LMClé->text()).octets, QtVersTexte(ui_->Tx_MClé->text()).octets,
-            ui_->ChxIndex->isChecked()};
+/// What is typed; nothing when the user does not want it without the characters that are lost.
+std::optional<records::SaisieMotCle> FrmMotCle::Saisie() const {
+    std::size_t remplaces = 0;
+    records::SaisieMotCle saisie;
+    saisie.code = LireChamp(ui_->Tx_LMClé->text(), remplaces);
+    saisie.libelle = LireChamp(ui_->Tx_MClé->text(), remplaces);
+    saisie.indexe = ui_->ChxIndex->isChecked();
+    if (!AccepterRemplaces(S(), remplaces)) return std::nullopt;
+    return saisie;
 }
 
 void FrmMotCle::ListerMots(NoMotCle choisi) {
@@ -181,7 +189,8 @@ void FrmMotCle::Changer(bool change) {
 }
 
 void FrmMotCle::Ajouter() {
-    const NoMotCle nouveau = records::AjouterMotCle(S(), Saisie());
+    const auto saisie = Saisie();
+    const NoMotCle nouveau = saisie ? records::AjouterMotCle(S(), *saisie) : NoMotCle{};
     if (!nouveau) {
         ui_->Tx_LMClé->setFocus();
         ui_->Tx_LMClé->selectAll();
@@ -193,7 +202,8 @@ void FrmMotCle::Ajouter() {
 
 void FrmMotCle::Modifier() {
     const NoMotCle mot = Choisi().mot;
-    if (!records::ModifierMotCle(S(), mot, Saisie())) return ui_->Tx_MClé->setFocus();
+    const auto saisie = Saisie();
+    if (!saisie || !records::ModifierMotCle(S(), mot, *saisie)) return ui_->Tx_MClé->setFocus();
     Recharger();
     Changer(true);
 }

@@ -6,6 +6,7 @@
 #include "windows/FenetreFille.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QListWidget;
@@ -41,7 +42,7 @@ private:
 
     void Relier(const Panneau& panneau);
     [[nodiscard]] records::LigneMotCle Choisi() const;
-    [[nodiscard]] records::SaisieMotCle Saisie() const;
+    [[nodiscard]] std::optional<records::SaisieMotCle> Saisie() const;
     void ListerMots(NoMotCle choisi);
     void ListerLignes(const Panneau& panneau, int rang);
     void MontrerMot();

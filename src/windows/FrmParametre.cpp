@@ -7,6 +7,7 @@
 #include <QStackedWidget>
 
 #include "shell/Reglages.h"
+#include "windows/FrmCreation.h"
 #include "windows/Legendes.h"
 #include "windows/PagesParametre.h"
 
@@ -19,6 +20,7 @@ namespace {
 constexpr int Marge = 12;
 constexpr int Espace = 6;
 constexpr int LargeurListe = 180;
+constexpr int EspaceListe = 3;
 /// The titles of the pages, in their order.
 constexpr std::array<std::uint32_t, 6> Titres{3421, 3422, 3423, 3424, 3425, 3426};
 constexpr int PageDesEvenements = 3;
@@ -31,9 +33,11 @@ FrmParametre::FrmParametre(shell::Session& session, QWidget* parent)
       liste_{new QListWidget{this}},
       pages_{new QStackedWidget{this}},
       valider_{new QPushButton{this}},
-      annuler_{new QPushButton{this}} {
+      annuler_{new QPushButton{this}},
+      ouverture_{shell::LireReglages(session)} {
     liste_->setObjectName(QStringLiteral("LstPages"));
     liste_->setMaximumWidth(LargeurListe);
+    liste_->setSpacing(EspaceListe);
     pages_->setObjectName(QStringLiteral("Pages"));
     valider_->setObjectName(QStringLiteral("CmdValider"));
     valider_->setDefault(true);
@@ -61,12 +65,13 @@ FrmParametre::FrmParametre(shell::Session& session, QWidget* parent)
     Ajouter(new ParametreProgramme{session, this});
     connect(liste_, &QListWidget::currentRowChanged, pages_, &QStackedWidget::setCurrentIndex);
     connect(valider_, &QPushButton::clicked, this, &FrmParametre::Valider);
-    connect(annuler_, &QPushButton::clicked, this, &QDialog::reject);
-    resize(860, 680);
+    connect(annuler_, &QPushButton::clicked, this, &FrmParametre::reject);
+    resize(860, 640);
     Traduire();
-    const shell::Reglages reglages = shell::LireReglages(session);
     for (PageParametre* page : findChildren<PageParametre*>())
-        page->Charger(reglages);
+        page->Charger(ouverture_);
+    std::size_t remplaces = 0;
+    montres_ = Lire(remplaces);
     liste_->setCurrentRow(0);
     liste_->setFocus();
 }
@@ -91,10 +96,23 @@ void FrmParametre::Traduire() {
         page->Traduire();
 }
 
-void FrmParametre::Valider() {
-    shell::Reglages reglages = shell::LireReglages(S());
+shell::Reglages FrmParametre::Lire(std::size_t& remplaces) const {
+    shell::Reglages reglages = ouverture_;
     for (PageParametre* page : findChildren<PageParametre*>())
-        page->Lire(reglages);
+        remplaces += page->Lire(reglages);
+    return reglages;
+}
+
+void FrmParametre::reject() {
+    std::size_t remplaces = 0;
+    if (shell::MemesReglages(Lire(remplaces), montres_)) return FenetreFille::reject();
+    Renoncer(3520, [this] { Valider(); });
+}
+
+void FrmParametre::Valider() {
+    std::size_t remplaces = 0;
+    shell::Reglages reglages = Lire(remplaces);
+    if (!AccepterRemplaces(S(), remplaces)) return;
     switch (shell::ValiderReglages(S(), reglages)) {
         case shell::ChampReglage::Aucun:
             Q_EMIT baseChangee();

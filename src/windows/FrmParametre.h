@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QDialog>
+
+#include "shell/Reglages.h"
 #include "windows/FenetreFille.h"
 
 class QDialogButtonBox;
@@ -20,14 +23,21 @@ public:
 
     void Traduire() override;
 
+    /// Asks first when something is not saved.
+    void reject() override;
+
 private:
     void Ajouter(PageParametre* page);
+    /// What the pages say now, over what was set when the window opened.
+    [[nodiscard]] shell::Reglages Lire(std::size_t& remplaces) const;
     void Valider();
 
     QListWidget* liste_;
     QStackedWidget* pages_;
     QPushButton* valider_;
     QPushButton* annuler_;
+    shell::Reglages ouverture_;
+    shell::Reglages montres_;  ///< as the pages showed them then
 };
 
 }  // namespace dorvane::windows

@@ -185,15 +185,7 @@ void FrmTexte::Sauver() {
 /// Escape and the close button lose nothing without a question.
 void FrmTexte::reject() {
     if (!ui_->TxtTexte->EstModifiee()) return FenetreFille::reject();
-    switch (S().dialogue.Demander(
-        {.texte = shell::Msg(3267), .boutons = shell::Boutons::OuiNonAnnuler})) {
-        case shell::Reponse::Oui:
-            return Sauver();
-        case shell::Reponse::Non:
-            return FenetreFille::reject();
-        case shell::Reponse::Annuler:
-            return;
-    }
+    Renoncer(3267, [this] { Sauver(); });
 }
 
 }  // namespace dorvane::windows

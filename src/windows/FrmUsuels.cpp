@@ -6,6 +6,8 @@
 
 #include "records/MotsUsuels.h"
 #include "shell/Session.h"
+#include "windows/ChampSuivi.h"
+#include "windows/FrmCreation.h"
 #include "windows/Legendes.h"
 #include "windows/Unicode.h"
 
@@ -15,8 +17,11 @@ namespace dorvane::windows {
 
 namespace {
 
-std::string TexteDe(const QLineEdit& champ) {
-    return QtVersTexte(champ.text()).octets;
+/// What is typed; empty when the user does not want it without the characters that are lost.
+std::string TexteDe(const QLineEdit& champ, shell::Session& session) {
+    std::size_t remplaces = 0;
+    std::string texte = LireChamp(champ.text(), remplaces);
+    return AccepterRemplaces(session, remplaces) ? texte : std::string{};
 }
 
 bool EstEntree(const QEvent& evenement) {
@@ -92,7 +97,7 @@ void FrmUsuels::ActiverBoutons() {
 
 void FrmUsuels::AjouterMot() {
     const QString mot = ui_->TxtMot->text().trimmed();
-    if (!records::AjouterMotUsuel(S(), Rubrique(), TexteDe(*ui_->TxtMot))) {
+    if (!records::AjouterMotUsuel(S(), Rubrique(), TexteDe(*ui_->TxtMot, S()))) {
         ui_->TxtMot->selectAll();
     } else {
         ui_->TxtMot->clear();
@@ -115,7 +120,7 @@ void FrmUsuels::SupprimerMot() {
 
 void FrmUsuels::AjouterRubrique() {
     const QString rubrique = ui_->TxtRubrique->text().trimmed();
-    if (records::AjouterRubrique(S(), TexteDe(*ui_->TxtRubrique))) ui_->TxtRubrique->clear();
+    if (records::AjouterRubrique(S(), TexteDe(*ui_->TxtRubrique, S()))) ui_->TxtRubrique->clear();
     ListerRubriques(rubrique);
     ui_->TxtMot->setFocus();
 }

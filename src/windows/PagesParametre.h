@@ -30,8 +30,8 @@ public:
 
     /// Shows what is set.
     virtual void Charger(const shell::Reglages& reglages) = 0;
-    /// Takes over what is shown.
-    virtual void Lire(shell::Reglages& reglages) = 0;
+    /// Takes over what is shown; answers how many characters the settings cannot hold.
+    virtual std::size_t Lire(shell::Reglages& reglages) = 0;
     /// Texts that no caption gives: rows of lists, examples.
     virtual void Traduire() {}
 
@@ -49,7 +49,7 @@ class ParametreNoms final : public PageParametre {
 public:
     ParametreNoms(shell::Session& session, QWidget* parent);
     void Charger(const shell::Reglages& reglages) override;
-    void Lire(shell::Reglages& reglages) override;
+    std::size_t Lire(shell::Reglages& reglages) override;
     void Traduire() override;
 
 private:
@@ -74,7 +74,7 @@ class ParametreParticules final : public PageParametre {
 public:
     ParametreParticules(shell::Session& session, QWidget* parent);
     void Charger(const shell::Reglages& reglages) override;
-    void Lire(shell::Reglages& reglages) override;
+    std::size_t Lire(shell::Reglages& reglages) override;
     void Traduire() override;
 
 private:
@@ -95,7 +95,7 @@ class ParametreGraphe final : public PageParametre {
 public:
     ParametreGraphe(shell::Session& session, QWidget* parent);
     void Charger(const shell::Reglages& reglages) override;
-    void Lire(shell::Reglages& reglages) override;
+    std::size_t Lire(shell::Reglages& reglages) override;
     void Traduire() override;
 
 private:
@@ -120,16 +120,16 @@ class ParametreEvenements final : public PageParametre {
 public:
     ParametreEvenements(shell::Session& session, QWidget* parent);
     void Charger(const shell::Reglages& reglages) override;
-    void Lire(shell::Reglages& reglages) override;
+    std::size_t Lire(shell::Reglages& reglages) override;
     void Traduire() override;
 
 private:
     void ListerTypes(int rang);
     void MontrerRoles();
-    void GarderRoles();
+    void GarderRoles(std::size_t& remplaces);
     void AjouterRole(const shell::RoleEvenement& role);
     void AjouterType();
-    [[nodiscard]] std::string Neutre(const QString& texte) const;
+    [[nodiscard]] std::string Neutre(const QString& texte, std::size_t& remplaces) const;
     [[nodiscard]] QString Affiche(const std::string& neutre) const;
 
     ListeOrdonnee* types_;
@@ -139,6 +139,7 @@ private:
     QToolButton* retirerRole_;
     std::vector<shell::TypeEvenement> evenements_;
     int montre_ = -1;
+    std::size_t remplaces_ = 0;  ///< characters lost in kinds that are not shown
 };
 
 /// Author, address and kinds of documents of the open base.
@@ -148,7 +149,7 @@ class ParametreBase final : public PageParametre {
 public:
     ParametreBase(shell::Session& session, QWidget* parent);
     void Charger(const shell::Reglages& reglages) override;
-    void Lire(shell::Reglages& reglages) override;
+    std::size_t Lire(shell::Reglages& reglages) override;
 
 private:
     QLabel* sansBase_;
@@ -165,7 +166,7 @@ class ParametreProgramme final : public PageParametre {
 public:
     ParametreProgramme(shell::Session& session, QWidget* parent);
     void Charger(const shell::Reglages& reglages) override;
-    void Lire(shell::Reglages& reglages) override;
+    std::size_t Lire(shell::Reglages& reglages) override;
     void Traduire() override;
 
 private:

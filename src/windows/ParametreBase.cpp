@@ -6,6 +6,7 @@
 
 #include "shell/Session.h"
 #include "values/Comparaison.h"
+#include "windows/ChampSuivi.h"
 #include "windows/ListeOrdonnee.h"
 #include "windows/PagesParametre.h"
 #include "windows/Unicode.h"
@@ -61,16 +62,18 @@ void ParametreBase::Charger(const shell::Reglages& r) {
     types_->Poser(entrees);
 }
 
-void ParametreBase::Lire(shell::Reglages& r) {
-    r.base.auteur = QtVersTexte(auteur_->text()).octets;
+std::size_t ParametreBase::Lire(shell::Reglages& r) {
+    std::size_t remplaces = 0;
+    r.base.auteur = LireChamp(auteur_->text(), remplaces);
     for (std::size_t i = 0; i < adresse_.size(); ++i)
-        r.base.adresse[i] = QtVersTexte(adresse_[i]->text()).octets;
+        r.base.adresse[i] = LireChamp(adresse_[i]->text(), remplaces);
     r.base.typeDocument.clear();
     for (const ListeOrdonnee::Entree& entree : types_->Entrees()) {
         // The slash parts the kinds in the settings.
-        const std::string type = QtVersTexte(QString{entree.texte}.remove(u'/')).octets;
+        const std::string type = LireChamp(QString{entree.texte}.remove(u'/'), remplaces);
         if (!SansBlancs(type).empty()) r.base.typeDocument += std::string{SansBlancs(type)} + '/';
     }
+    return remplaces;
 }
 
 }  // namespace dorvane::windows

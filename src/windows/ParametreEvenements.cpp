@@ -12,6 +12,8 @@
 #include "shell/Libelles.h"
 #include "shell/Session.h"
 #include "values/Comparaison.h"
+#include "windows/ChampSuivi.h"
+#include "windows/FrmCreation.h"
 #include "windows/Icones.h"
 #include "windows/Legendes.h"
 #include "windows/ListeOrdonnee.h"
@@ -87,8 +89,8 @@ ParametreEvenements::ParametreEvenements(shell::Session& session, QWidget* paren
     });
 }
 
-std::string ParametreEvenements::Neutre(const QString& texte) const {
-    const std::string octets = QtVersTexte(texte).octets;
+std::string ParametreEvenements::Neutre(const QString& texte, std::size_t& remplaces) const {
+    const std::string octets = LireChamp(texte, remplaces);
     return shell::TagDeLibelle(S().catalogue, SansBlancs(octets));
 }
 
@@ -97,7 +99,7 @@ QString ParametreEvenements::Affiche(const std::string& neutre) const {
 }
 
 void ParametreEvenements::Traduire() {
-    GarderRoles();
+    GarderRoles(remplaces_);
     roles_->setHorizontalHeaderLabels(
         {TexteEcran(S(), 3473), TexteEcran(S(), 3474), TexteEcran(S(), 3475)});
     ListerTypes(std::max(0, types_->Liste().currentRow()));
@@ -115,9 +117,18 @@ void ParametreEvenements::ListerTypes(int rang) {
 }
 
 void ParametreEvenements::AjouterType() {
-    const std::string type = Neutre(type_->text());
-    if (type.empty()) return type_->setFocus();
-    GarderRoles();
+    std::size_t remplaces = 0;
+    const std::string type = Neutre(type_->text(), remplaces);
+    if (type.empty() || !AccepterRemplaces(S(), remplaces)) return type_->setFocus();
+    // A kind that is there already is shown.
+    const QList<ListeOrdonnee::Entree> entrees = types_->Entrees();
+    for (int i = 0; i < entrees.size(); ++i)
+        if (Replie(evenements_[static_cast<std::size_t>(entrees[i].valeur.toInt())].type) ==
+            Replie(type)) {
+            types_->Liste().setCurrentRow(i);
+            return type_->selectAll();
+        }
+    GarderRoles(remplaces_);
     evenements_.push_back({type, {{true, ' ', "MAIN"}}});
     types_->Ajouter({Affiche(type), static_cast<int>(evenements_.size()) - 1});
     type_->clear();
@@ -143,20 +154,22 @@ void ParametreEvenements::AjouterRole(const shell::RoleEvenement& role) {
                           3);
     auto* obligatoire = new QCheckBox;
     obligatoire->setChecked(role.principal);
+    // An empty box would not show on the ground of a dark table.
+    obligatoire->setAutoFillBackground(true);
     obligatoire->setAccessibleName(TexteEcran(S(), 3475));
     roles_->setCellWidget(ligne, Role, libelle);
     roles_->setCellWidget(ligne, Sexe, sexe);
     roles_->setCellWidget(ligne, Obligatoire, obligatoire);
 }
 
-void ParametreEvenements::GarderRoles() {
+void ParametreEvenements::GarderRoles(std::size_t& remplaces) {
     if (montre_ < 0 || static_cast<std::size_t>(montre_) >= evenements_.size()) return;
     std::vector<shell::RoleEvenement> roles;
     for (int i = 0; i < roles_->rowCount(); ++i) {
         const auto* libelle = qobject_cast<QComboBox*>(roles_->cellWidget(i, Role));
         const auto* sexe = qobject_cast<QComboBox*>(roles_->cellWidget(i, Sexe));
         const auto* obligatoire = qobject_cast<QCheckBox*>(roles_->cellWidget(i, Obligatoire));
-        const std::string label = Neutre(libelle->currentText());
+        const std::string label = Neutre(libelle->currentText(), remplaces);
         if (!label.empty())
             roles.push_back({obligatoire->isChecked(),
                              Sexes[static_cast<std::size_t>(std::max(0, sexe->currentIndex()))],
@@ -166,7 +179,7 @@ void ParametreEvenements::GarderRoles() {
 }
 
 void ParametreEvenements::MontrerRoles() {
-    GarderRoles();
+    GarderRoles(remplaces_);
     const QListWidgetItem* type = types_->Liste().currentItem();
     montre_ = type == nullptr ? -1 : type->data(Qt::UserRole).toInt();
     roles_->setRowCount(0);
@@ -177,16 +190,19 @@ void ParametreEvenements::MontrerRoles() {
 
 void ParametreEvenements::Charger(const shell::Reglages& r) {
     montre_ = -1;
+    remplaces_ = 0;
     evenements_ = r.evenements;
     ListerTypes(0);
 }
 
-void ParametreEvenements::Lire(shell::Reglages& r) {
+std::size_t ParametreEvenements::Lire(shell::Reglages& r) {
     // What is on the screen belongs to the kind that is shown.
-    GarderRoles();
+    std::size_t remplaces = remplaces_;
+    GarderRoles(remplaces);
     r.evenements.clear();
     for (const ListeOrdonnee::Entree& entree : types_->Entrees())
         r.evenements.push_back(evenements_[static_cast<std::size_t>(entree.valeur.toInt())]);
+    return remplaces;
 }
 
 }  // namespace dorvane::windows

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "shell/Session.h"
+#include "windows/ChampSuivi.h"
 #include "windows/Legendes.h"
 #include "windows/PagesParametre.h"
 #include "windows/PaletteGraphe.h"
@@ -67,6 +68,8 @@ ParametreGraphe::ParametreGraphe(shell::Session& session, QWidget* parent)
     auto* groupe = new QGroupBox{this};
     groupe->setObjectName(QStringLiteral("GrpCouleurs"));
     auto* grille = new QGridLayout{groupe};
+    for (int i = 0; i < 3; ++i)
+        grille->setColumnStretch(i, 1);
     auto* aide = new QLabel{groupe};
     aide->setObjectName(QStringLiteral("LblAideCouleurs"));
     aide->setWordWrap(true);
@@ -108,7 +111,10 @@ void ParametreGraphe::FaireTable() {
         table_->setCellWidget(i, Police, police);
         table_->setCellWidget(i, Taille, Nombre(4, 72));
         table_->setCellWidget(i, Cases, Nombre(1, 512));
-        table_->setCellWidget(i, Proportionnel, new QCheckBox);
+        auto* proportionnel = new QCheckBox;
+        // An empty box would not show on the ground of a dark table.
+        proportionnel->setAutoFillBackground(true);
+        table_->setCellWidget(i, Proportionnel, proportionnel);
     }
     table_->resizeRowsToContents();
     table_->setFixedHeight(table_->horizontalHeader()->sizeHint().height() +
@@ -175,11 +181,13 @@ void ParametreGraphe::Charger(const shell::Reglages& r) {
     nouvelles_->setVisible(S().BaseOuverte());
 }
 
-void ParametreGraphe::Lire(shell::Reglages& r) {
+std::size_t ParametreGraphe::Lire(shell::Reglages& r) {
+    std::size_t remplaces = 0;
     r.affichage = affichage_;
     for (int i = 0; i < NbPresentations; ++i) {
         shell::Presentation& p = r.affichage.presentations[static_cast<std::size_t>(i)];
-        p.nomPolice = QtVersTexte(Cellule<QFontComboBox>(*table_, i, Police)->currentText()).octets;
+        p.nomPolice =
+            LireChamp(Cellule<QFontComboBox>(*table_, i, Police)->currentText(), remplaces);
         p.taillePolice = Cellule<QSpinBox>(*table_, i, Taille)->value();
         p.nombreCases = Cellule<QSpinBox>(*table_, i, Cases)->value();
         p.proportionnel = Cellule<QCheckBox>(*table_, i, Proportionnel)->isChecked();
@@ -187,6 +195,7 @@ void ParametreGraphe::Lire(shell::Reglages& r) {
     r.affichage.degrade = degrade_->isChecked();
     r.affichage.maximumRechercheParente = parente_->value();
     r.pourNouvelles = nouvelles_->isChecked();
+    return remplaces;
 }
 
 }  // namespace dorvane::windows

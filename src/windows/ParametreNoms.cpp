@@ -16,6 +16,8 @@
 #include "storage/Base.h"
 #include "values/Comparaison.h"
 #include "values/FormesNom.h"
+#include "windows/ChampSuivi.h"
+#include "windows/FrmCreation.h"
 #include "windows/Icones.h"
 #include "windows/Legendes.h"
 #include "windows/ListeOrdonnee.h"
@@ -184,7 +186,7 @@ void ParametreNoms::Charger(const shell::Reglages& r) {
     MontrerExemple();
 }
 
-void ParametreNoms::Lire(shell::Reglages& r) {
+std::size_t ParametreNoms::Lire(shell::Reglages& r) {
     for (std::size_t i = 0; i < tris_.size(); ++i)
         if (tris_[i]->isChecked()) r.typeTri = static_cast<char>('0' + i);
     // A template without tokens would leave every person without a name.
@@ -194,6 +196,7 @@ void ParametreNoms::Lire(shell::Reglages& r) {
     r.base.conversionLieu = CasseDe(*casses_[2]);
     r.prenomUnique = prenomUnique_->isChecked();
     r.deplacerParticules = deplacer_->isChecked();
+    return 0;
 }
 
 ParametreParticules::ParametreParticules(shell::Session& session, QWidget* parent)
@@ -252,7 +255,10 @@ void ParametreParticules::AjouterLigne(const Particule& particule) {
 }
 
 void ParametreParticules::Ajouter() {
-    const std::string mot{SansBlancs(QtVersTexte(mot_->text()).octets)};
+    std::size_t remplaces = 0;
+    const std::string saisi = LireChamp(mot_->text(), remplaces);
+    if (!AccepterRemplaces(S(), remplaces)) return mot_->setFocus();
+    const std::string mot{SansBlancs(saisi)};
     if (mot.empty()) return mot_->setFocus();
     const auto deja = table_->findItems(TexteVersQt(mot), Qt::MatchFixedString);
     if (deja.isEmpty()) AjouterLigne({mot, Replie(mot), true, true});
@@ -271,16 +277,18 @@ void ParametreParticules::Charger(const shell::Reglages& r) {
         AjouterLigne(particule);
 }
 
-void ParametreParticules::Lire(shell::Reglages& r) {
+std::size_t ParametreParticules::Lire(shell::Reglages& r) {
+    std::size_t remplaces = 0;
     std::vector<Particule> particules;
     for (int i = 0; i < table_->rowCount(); ++i) {
-        const std::string texte = QtVersTexte(table_->item(i, 0)->text()).octets;
+        const std::string texte = LireChamp(table_->item(i, 0)->text(), remplaces);
         const std::string mot{SansBlancs(texte)};
         if (mot.empty()) continue;
         particules.push_back({mot, Replie(mot), table_->item(i, 1)->checkState() == Qt::Checked,
                               table_->item(i, 2)->checkState() == Qt::Checked});
     }
     r.generaux.particules = std::move(particules);
+    return remplaces;
 }
 
 }  // namespace dorvane::windows

@@ -169,7 +169,7 @@ void ParametreProgramme::Charger(const shell::Reglages& r) {
     icones_->Liste().setCurrentRow(0);
 }
 
-void ParametreProgramme::Lire(shell::Reglages& r) {
+std::size_t ParametreProgramme::Lire(shell::Reglages& r) {
     r.generaux.travail = QtVersChemin(travail_->text().trimmed());
     r.generaux.fichierCommunes = QtVersChemin(communes_->text().trimmed());
     r.generaux.geneanet = QtVersChemin(geneanet_->text().trimmed());
@@ -182,6 +182,7 @@ void ParametreProgramme::Lire(shell::Reglages& r) {
     for (const ListeOrdonnee::Entree& entree : icones_->Entrees())
         numeros << entree.valeur.toString();
     r.generaux.icones = numeros.join(u',').toStdString();
+    return 0;
 }
 
 }  // namespace dorvane::windows

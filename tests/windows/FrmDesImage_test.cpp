@@ -97,6 +97,21 @@ TEST_CASE_FIXTURE(Essai, "FrmDesImage: a file dropped on the window is taken") {
     CHECK(Champ("TxtIntitulé").text() == "b");
 }
 
+TEST_CASE_FIXTURE(Essai, "FrmDesImage: a comment that is typed and taken back is not saved") {
+    Image("a.png");
+    Montrer(Document("Acte", "a.png"));
+    auto& note = C<QTextEdit>("TxtComment");
+    Taper(note, "x");
+    // Looking at the file reads the fields.
+    Taper(Champ("TxtNomfic"), "b.png");
+    note.setFocus();
+    Touche(Qt::Key_Backspace);
+    Cliquer("CmdValider");
+    CHECK(fenetre->result() == QDialog::Accepted);
+    CHECK(S().base->R_IMAGE.FichierDoc(NoDocument{1}) == "b.png");
+    CHECK(S().base->R_IMAGE.NoteDoc(NoDocument{1}).empty());
+}
+
 TEST_CASE_FIXTURE(Essai, "FrmDesImage: nothing at all is refused; Escape asks about changes") {
     Montrer(NoDocument{});
     auto texte = Repondre(QMessageBox::Ok);

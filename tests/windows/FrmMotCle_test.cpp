@@ -96,6 +96,16 @@ TEST_CASE_FIXTURE(Bureau<FrmMotCle>, "FrmMotClé: a refused code keeps what was 
 }
 
 TEST_CASE_FIXTURE(Bureau<FrmMotCle>,
+                  "FrmMotClé: a label that the base cannot hold is asked for before it is lost") {
+    Ecrire("Tx_MClé", QStringLiteral("京"));
+    Ecrire("Tx_LMClé", QStringLiteral("µ"));
+    const auto dit = RepondreBoite(QMessageBox::No);
+    Cliquer("C_Ajout");
+    CHECK(dit->contains(QStringLiteral("Enregistrer quand même")));
+    CHECK(C<QTableWidget>("LstMClé").rowCount() == 11);
+}
+
+TEST_CASE_FIXTURE(Bureau<FrmMotCle>,
                   "FrmMotClé: the keywords of names offer neither removal nor line") {
     C<QTableWidget>("LstMClé").setCurrentCell(0, 0);
     CHECK_FALSE(C<QAbstractButton>("C_Supp").isEnabled());
@@ -113,6 +123,10 @@ TEST_CASE_FIXTURE(Bureau<FrmUsuels>,
     QTest::keyClick(&C<QLineEdit>("TxtRubrique"), Qt::Key_Return);
     CHECK(rubriques.currentText() == QStringLiteral("Métiers"));
     CHECK(C<QWidget>("LblVide").isVisible());
+    Ecrire("TxtMot", QStringLiteral("京"));
+    RepondreBoite(QMessageBox::No);
+    QTest::keyClick(&C<QLineEdit>("TxtMot"), Qt::Key_Return);
+    CHECK(Lignes("LstMot").isEmpty());
     Ecrire("TxtMot", QStringLiteral("  sabotier"));
     QTest::keyClick(&C<QLineEdit>("TxtMot"), Qt::Key_Return);
     CHECK(Lignes("LstMot") == QStringList{QStringLiteral("sabotier")});

@@ -48,6 +48,35 @@ TEST_CASE_FIXTURE(Essai, "FrmMot: rows that did not change write nothing") {
     CHECK(S().base->volume.FinFichier() == fin);
 }
 
+TEST_CASE_FIXTURE(Essai, "FrmMot: Escape asks what becomes of typed rows, and only then") {
+    Montrer(Paul, evenement);
+    SUBCASE("nothing typed") {
+        Touche(Qt::Key_Escape);
+        CHECK_FALSE(fenetre->isVisible());
+    }
+    SUBCASE("stay") {
+        Taper(Champ("TxtIndL(0)"), "meunier");
+        const auto texte = Repondre(QMessageBox::Cancel);
+        Touche(Qt::Key_Escape);
+        CHECK(texte->startsWith("Les rubriques"));
+        CHECK(fenetre->isVisible());
+    }
+    SUBCASE("drop") {
+        Taper(Champ("TxtIndL(0)"), "meunier");
+        Repondre(QMessageBox::No);
+        Cliquer("CmdAnnuler");
+        CHECK(fenetre->result() == QDialog::Rejected);
+        CHECK(records::ChargerFiche(S(), Paul).slots[0].lieu.empty());
+    }
+    SUBCASE("save") {
+        Taper(Champ("TxtIndL(0)"), "meunier");
+        Repondre(QMessageBox::Yes);
+        Touche(Qt::Key_Escape);
+        CHECK(fenetre->result() == QDialog::Accepted);
+        CHECK(records::ChargerFiche(S(), Paul).slots[0].lieu == "meunier");
+    }
+}
+
 TEST_CASE_FIXTURE(Essai, "FrmMot: a base without rows says so") {
     S().base->entete.SlotsIndividu[0].symbole = ' ';
     Montrer(Paul, evenement);

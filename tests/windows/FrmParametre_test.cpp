@@ -11,6 +11,7 @@
 
 #include "shell/Reglages.h"
 #include "windows/Essai.h"
+#include "windows/FrmDesEvt.h"
 
 using namespace dorvane;
 using namespace dorvane::windows;
@@ -75,8 +76,11 @@ TEST_CASE_FIXTURE(Bureau, "FrmParametre: another sort order is asked for, and th
         Cliquer("CmdValider");
         CHECK(Ordre() == avant);
     }
-    SUBCASE("cancel asks nothing") {
+    SUBCASE("cancel asks whether the changes are to be kept, and sorts nothing") {
+        const auto dit = RepondreBoite(QMessageBox::No);
         Cliquer("CmdAnnuler");
+        CHECK(dit->startsWith(QStringLiteral("Les réglages ont été modifiés")));
+        CHECK_FALSE(forme->isVisible());
         CHECK(Ordre() == avant);
     }
 }
@@ -129,6 +133,78 @@ TEST_CASE_FIXTURE(Bureau, "FrmParametre: a kind of event gets a role, and anothe
     REQUIRE(naissance.size() == static_cast<std::size_t>(nombre + 1));
     CHECK(naissance.back() == shell::RoleEvenement{false, 'F', "Sage-femme"});
     CHECK(S().parametres.RolesEvenement("Tirage au sort").size() == 1);
+}
+
+TEST_CASE_FIXTURE(Bureau, "FrmParametre: Escape closes at once when nothing was changed") {
+    for (int page = 0; page < 6; ++page)
+        Page(page);
+    QTest::keyClick(forme.get(), Qt::Key_Escape);
+    CHECK_FALSE(forme->isVisible());
+}
+
+TEST_CASE_FIXTURE(Bureau, "FrmParametre: Escape with changes can stay, or save them") {
+    Page(4);
+    Taper(C<QLineEdit>("TxtAuteur"), QStringLiteral("Anne"));
+    RepondreBoite(QMessageBox::Cancel);
+    QTest::keyClick(forme.get(), Qt::Key_Escape);
+    CHECK(forme->isVisible());
+    CHECK(C<QLineEdit>("TxtAuteur").text() == QStringLiteral("Anne"));
+    RepondreBoite(QMessageBox::Yes);
+    QTest::keyClick(forme.get(), Qt::Key_Escape);
+    CHECK_FALSE(forme->isVisible());
+    CHECK(S().parametres.base.auteur == "Anne");
+}
+
+TEST_CASE_FIXTURE(Bureau,
+                  "FrmParametre: what the settings cannot hold is asked for before it is lost") {
+    Page(4);
+    Taper(C<QLineEdit>("TxtAuteur"), QStringLiteral("京"));
+    const auto dit = RepondreBoite(QMessageBox::No);
+    Cliquer("CmdValider");
+    CHECK(dit->contains(QStringLiteral("Enregistrer quand même")));
+    CHECK(forme->isVisible());
+    CHECK(S().parametres.base.auteur.empty());
+}
+
+TEST_CASE_FIXTURE(Bureau, "FrmParametre: the role that has the focus is the one that goes") {
+    Page(3);
+    auto& roles = C<QTableWidget>("TblRoles");
+    REQUIRE(roles.rowCount() == 4);
+    const auto mot = [&roles](int rangee) {
+        return qobject_cast<QComboBox*>(roles.cellWidget(rangee, 0))->currentText();
+    };
+    REQUIRE(mot(1) == QStringLiteral("Père"));
+    roles.cellWidget(1, 0)->setFocus();
+    Cliquer("CmdRoleSup");
+    REQUIRE(roles.rowCount() == 3);
+    CHECK(mot(0) == QStringLiteral("Enfant"));
+    CHECK(mot(1) == QStringLiteral("Mère"));
+}
+
+TEST_CASE_FIXTURE(Bureau, "FrmParametre: a kind that is there already is shown instead") {
+    Page(3);
+    auto& types = C<QListWidget>("LstTypesEvt");
+    const int nombre = types.count();
+    Taper(C<QLineEdit>("TxtTypeEvt"), QStringLiteral("Mariage"));
+    Cliquer("LstTypesEvtAjt");
+    CHECK(types.count() == nombre);
+    CHECK(types.currentItem()->text() == QStringLiteral("Mariage"));
+}
+
+TEST_CASE_FIXTURE(Bureau, "FrmParametre: kinds and roles reach the window of an event at once") {
+    Page(3);
+    Taper(C<QLineEdit>("TxtTypeEvt"), QStringLiteral("Tirage au sort"));
+    Cliquer("LstTypesEvtAjt");
+    auto* libelle = qobject_cast<QComboBox*>(C<QTableWidget>("TblRoles").cellWidget(0, 0));
+    libelle->setEditText(QStringLiteral("Conscrit"));
+    Cliquer("CmdValider");
+    FrmDesEvt evenement{S(), {}, {}, {}, &Fenetre()};
+    auto* types = evenement.findChild<QComboBox*>(QStringLiteral("CboTypeEvt"));
+    REQUIRE(types != nullptr);
+    CHECK(types->findText(QStringLiteral("Tirage au sort")) >= 0);
+    types->setEditText(QStringLiteral("Tirage au sort"));
+    CHECK(evenement.findChild<QComboBox*>(QStringLiteral("CboRole"))->currentText() ==
+          QStringLiteral("Conscrit"));
 }
 
 TEST_CASE_FIXTURE(Bureau, "FrmParametre: author, kinds of documents and bars are kept") {
