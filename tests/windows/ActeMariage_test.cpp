@@ -288,64 +288,64 @@ void ComparerUnion(storage::Base& base, NoMariage m, Numero epoux, Numero epouse
 TEST_CASE_FIXTURE(Acte, "A marriage act typed by mouse and keys stands in the file as it is told") {
     TaperTout();
     Rouvrir();
-    storage::Base& base = B();
-    REQUIRE(base.entete.DernierIndividu == std::size(Personnes));
+    storage::Base& lue = B();
+    REQUIRE(lue.entete.DernierIndividu == std::size(Personnes));
     for (const Attendu& attendu : Personnes) {
         CAPTURE(attendu.ligne);
         const NoOrdre n{attendu.numero};
-        CHECK(TexteVersQt(base.R_NOM.LireTexte(n)) == QString::fromUtf8(attendu.ligne));
-        CHECK(base.R_SEXE.LireCellule(n) == attendu.sexe);
-        CHECK(base.R_NAISS.LireCellule(n) == attendu.naissance);
-        CHECK(base.R_DECES.LireCellule(n) == attendu.deces);
-        CHECK(base.R_PERE.LireCellule(n) == NoOrdre{attendu.pere});
-        CHECK(base.R_MERE.LireCellule(n) == NoOrdre{attendu.mere});
-        CHECK(TexteVersQt(base.R_TEXTE.LireTexte(n)) == QString::fromUtf8(attendu.texte));
+        CHECK(TexteVersQt(lue.R_NOM.LireTexte(n)) == QString::fromUtf8(attendu.ligne));
+        CHECK(lue.R_SEXE.LireCellule(n) == attendu.sexe);
+        CHECK(lue.R_NAISS.LireCellule(n) == attendu.naissance);
+        CHECK(lue.R_DECES.LireCellule(n) == attendu.deces);
+        CHECK(lue.R_PERE.LireCellule(n) == NoOrdre{attendu.pere});
+        CHECK(lue.R_MERE.LireCellule(n) == NoOrdre{attendu.mere});
+        CHECK(TexteVersQt(lue.R_TEXTE.LireTexte(n)) == QString::fromUtf8(attendu.texte));
     }
     // The child born first stands first, the twins in the order in which they were typed.
     const std::vector<std::uint32_t> fratrie{Corentin, MarieAnne, Pierre};
-    CHECK(Enfants(base, Yves) == fratrie);
-    CHECK(Enfants(base, Jeanne) == fratrie);
-    CHECK(Enfants(base, Jean) == std::vector<std::uint32_t>{Yves});
-    CHECK(Enfants(base, Catherine) == std::vector<std::uint32_t>{Jeanne});
-    CHECK(Enfants(base, Marie).empty());
+    CHECK(Enfants(lue, Yves) == fratrie);
+    CHECK(Enfants(lue, Jeanne) == fratrie);
+    CHECK(Enfants(lue, Jean) == std::vector<std::uint32_t>{Yves});
+    CHECK(Enfants(lue, Catherine) == std::vector<std::uint32_t>{Jeanne});
+    CHECK(Enfants(lue, Marie).empty());
 
-    REQUIRE(base.entete.DernierMariage == 4);
-    ComparerUnion(base, NoMariage{1}, Jean, Anne, "", "", "");
-    ComparerUnion(base, NoMariage{2}, Yves, Marie, "1774", "1784", "12/1 @Lanverec");
-    ComparerUnion(base, NoMariage{3}, Yves, Jeanne, "1786", "", "14/2 @Plouvern");
-    ComparerUnion(base, NoMariage{4}, Herve, Catherine, "", "", "");
-    CHECK(base.R_MARIAG.Elements(NoOrdre{Yves}) ==
+    REQUIRE(lue.entete.DernierMariage == 4);
+    ComparerUnion(lue, NoMariage{1}, Jean, Anne, "", "", "");
+    ComparerUnion(lue, NoMariage{2}, Yves, Marie, "1774", "1784", "12/1 @Lanverec");
+    ComparerUnion(lue, NoMariage{3}, Yves, Jeanne, "1786", "", "14/2 @Plouvern");
+    ComparerUnion(lue, NoMariage{4}, Herve, Catherine, "", "", "");
+    CHECK(lue.R_MARIAG.Elements(NoOrdre{Yves}) ==
           std::vector<NoMariage>{NoMariage{2}, NoMariage{3}});
 
     // By years of birth, as a new base sorts.
     const std::uint16_t ordre[] = {Jean,  Anne,   Herve,    Catherine, Guillaume, Yves,
                                    Marie, Jeanne, Francois, Corentin,  MarieAnne, Pierre};
-    const auto tri = base.R_TRI.individus.Numeros();
+    const auto tri = lue.R_TRI.individus.Numeros();
     CHECK(std::equal(tri.begin(), tri.end(), std::begin(ordre), std::end(ordre)));
-    CHECK(doublures::Coherence{base}.Ecarts() == "");
+    CHECK(doublures::Coherence{lue}.Ecarts() == "");
 }
 
 TEST_CASE_FIXTURE(Acte, "The witnesses of the act hang on its event, each with the role") {
     TaperTout();
     Rouvrir();
-    storage::Base& base = B();
-    REQUIRE(base.entete.DernierEvenement == 1);
+    storage::Base& lue = B();
+    REQUIRE(lue.entete.DernierEvenement == 1);
     const NoEvenement mariage{1};
-    CHECK(base.R_EVT.TypeEvt(mariage) == "MARR");
-    CHECK(base.R_EVT.LieuEvt(mariage) == "Plouvern");
-    CHECK(base.R_EVT.CleDateEvt(mariage) ==
+    CHECK(lue.R_EVT.TypeEvt(mariage) == "MARR");
+    CHECK(lue.R_EVT.LieuEvt(mariage) == "Plouvern");
+    CHECK(lue.R_EVT.CleDateEvt(mariage) ==
           SaisirDateEvenement("14/2/1786", S().Ordre(), S().Mots()));
     const std::vector<storage::LienEvenement> liens{
         {NoOrdre{Jeanne}, "WIFE"},   {NoOrdre{Yves}, "HUSB"}, {NoOrdre{Guillaume}, "WITN"},
         {NoOrdre{Francois}, "WITN"}, {NoOrdre{Jean}, "WITN"}, {NoOrdre{Herve}, "WITN"}};
-    CHECK(base.R_EVT.Liens(mariage) == liens);
+    CHECK(lue.R_EVT.Liens(mariage) == liens);
     for (const storage::LienEvenement& lien : liens) {
         CAPTURE(lien.individu.valeur);
-        REQUIRE(base.R_LSTEVT.NbElements(lien.individu) == 1);
-        CHECK(base.R_LSTEVT.ElementListe(lien.individu, 1) == mariage);
-        CHECK(base.R_LSTEVT.TexteElement(lien.individu, 1) == lien.role);
+        REQUIRE(lue.R_LSTEVT.NbElements(lien.individu) == 1);
+        CHECK(lue.R_LSTEVT.ElementListe(lien.individu, 1) == mariage);
+        CHECK(lue.R_LSTEVT.TexteElement(lien.individu, 1) == lien.role);
     }
-    CHECK(base.R_LSTEVT.NbElements(NoOrdre{Catherine}) == 0);
+    CHECK(lue.R_LSTEVT.NbElements(NoOrdre{Catherine}) == 0);
 }
 
 TEST_CASE_FIXTURE(Acte, "Quitting with an unsaved sheet asks: yes saves it into the file") {
