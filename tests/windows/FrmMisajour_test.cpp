@@ -1,7 +1,6 @@
 #include "windows/FrmMisajour.h"
 
 #include <QLabel>
-#include <QMimeData>
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QToolButton>
