@@ -203,10 +203,14 @@ void Magasin::Poser(Contenu& contenu, const Change& change) {
 
 void Magasin::Changer(Change change) {
     Poser(contenu_, change);
-    const auto deja = std::find_if(changes_.begin(), changes_.end(), [&change](const Change& c) {
+    const auto meme = [&change](const Change& c) {
         return c.section == change.section && c.cle == change.cle;
-    });
-    if (deja != changes_.end())
+    };
+    // A key that was taken away and comes back stands at the end, on disk as in memory: its removal
+    // is kept.
+    if (!change.valeur) std::erase_if(changes_, meme);
+    const auto deja = std::find_if(changes_.rbegin(), changes_.rend(), meme);
+    if (deja != changes_.rend() && deja->valeur)
         deja->valeur = std::move(change.valeur);
     else
         changes_.push_back(std::move(change));

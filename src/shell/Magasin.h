@@ -54,6 +54,7 @@ public:
     /// UTF-8 are replaced when written.
     void Ecrire(std::string_view section, std::string_view cle, std::string_view valeur);
 
+    /// A key that is written again after this stands at the end of its section.
     void Supprimer(std::string_view section, std::string_view cle);
 
     /// Makes the section hold these keys, in this order for the new ones, and no other.

@@ -64,6 +64,24 @@ TEST_CASE_FIXTURE(Coffre,
     CHECK(Ouvrir().Sections().empty());
 }
 
+TEST_CASE_FIXTURE(Coffre,
+                  "Magasin: keys taken away and written again have their new order on disk") {
+    const std::vector<Magasin::Entree> avant{{"a", "1"}, {"b", "2"}, {"c", "3"}};
+    const std::vector<Magasin::Entree> apres{{"c", "3"}, {"a", "1"}, {"b", "4"}};
+    Magasin magasin = Ouvrir();
+    magasin.RemplacerSection("Liste", avant);
+    REQUIRE(magasin.Enregistrer());
+    magasin.SupprimerSection("Liste");
+    magasin.RemplacerSection("Liste", apres);
+    CHECK(magasin.LireSection("Liste") == apres);
+    REQUIRE(magasin.Enregistrer());
+    CHECK(Ouvrir().LireSection("Liste") == apres);
+    magasin.Ecrire("Liste", "a", "5");
+    magasin.Supprimer("Liste", "a");
+    REQUIRE(magasin.Enregistrer());
+    CHECK(Ouvrir().LireSection("Liste") == std::vector<Magasin::Entree>{{"c", "3"}, {"b", "4"}});
+}
+
 TEST_CASE_FIXTURE(Coffre, "Magasin: saving without a change touches nothing") {
     Magasin magasin = Ouvrir();
     magasin.Ecrire("Defaut", "Langue", "Français");

@@ -137,6 +137,24 @@ TEST_CASE_FIXTURE(Bureau,
     }
 }
 
+TEST_CASE_FIXTURE(Bureau,
+                  "ValiderReglages: kinds of events and roles keep the order they are given") {
+    Reglages r = LireReglages(session);
+    REQUIRE(r.evenements.size() > 2);
+    REQUIRE(r.evenements[0].roles.size() > 1);
+    std::swap(r.evenements[0], r.evenements[2]);
+    // What is no longer compulsory is another entry at the same place.
+    TypeEvenement& naissance = r.evenements[2];
+    naissance.roles[0].principal = false;
+    const std::vector<TypeEvenement> voulus = r.evenements;
+    CHECK_FALSE(MemesReglages(r, LireReglages(session)));
+    CHECK(ValiderReglages(session, r) == ChampReglage::Aucun);
+    CHECK(LireReglages(session).evenements == voulus);
+    CHECK(MemesReglages(r, LireReglages(session)));
+    session.parametres.magasin.Charger();
+    CHECK(LireReglages(session).evenements == voulus);
+}
+
 TEST_CASE_FIXTURE(Bureau, "ValiderReglages: kinds of events come, go and change their roles") {
     Reglages r = LireReglages(session);
     const std::size_t nombre = r.evenements.size();
