@@ -48,6 +48,8 @@ struct IssueDocument {
 /// from the title of the base. False: it stays.
 bool SupprimerDocument(shell::Session& session, NoDocument document);
 
+/// Tells it when the person has 200 documents, and none can be added.
+[[nodiscard]] bool PeutAvoirDocument(shell::Session& session, NoOrdre individu);
 /// The documents of a person, at most 200. Attaching one twice, or a 201st, is refused by message.
 bool AttacherDocument(shell::Session& session, NoOrdre individu, NoDocument document);
 /// Asks, then detaches entry `rang`, from 1. The document itself stays.

@@ -49,7 +49,7 @@ std::vector<LienAffiche> ListerLiens(shell::Session& session, NoOrdre individu) 
         const bool double_ = std::any_of(liens.begin(), liens.end(), [&lien](const auto& l) {
             return l.autre == lien.autre && l.libelle == lien.libelle;
         });
-        if (!double_) liens.push_back(std::move(lien));
+        if (!double_ && Existe(base, lien.autre)) liens.push_back(std::move(lien));
     }
     return liens;
 }
@@ -60,12 +60,16 @@ bool LibelleValable(shell::Session& session, std::string_view libelle) {
     return stocke.size() <= storage::MaxTexteElement || Refuser(session, Msg(MsgLibelleLong));
 }
 
+bool PeutLier(shell::Session& session, NoOrdre individu, NoOrdre autre) {
+    for (const NoOrdre n : {individu, autre})
+        if (!Existe(*session.base, n)) return Refuser(session, Nommer(session, MsgAbsente, n));
+    return individu != autre || Refuser(session, Nommer(session, MsgPropreLien, individu));
+}
+
 bool AjouterLien(shell::Session& session, NoOrdre individu, NoOrdre autre,
                  std::string_view libelle) {
     storage::Base& base = *session.base;
-    for (const NoOrdre n : {individu, autre})
-        if (!Existe(base, n)) return Refuser(session, Nommer(session, MsgAbsente, n));
-    if (individu == autre) return Refuser(session, Nommer(session, MsgPropreLien, individu));
+    if (!PeutLier(session, individu, autre)) return false;
     if (!LibelleValable(session, libelle)) return false;
     const std::string stocke = Stocke(session, libelle);
     // An old base may hold one side only: the missing one is then added.

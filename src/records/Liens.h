@@ -27,11 +27,14 @@ struct LienAffiche {
 };
 
 /// The links of a person in their order. An entry that says the same as an earlier one is left
-/// out.
+/// out, and so is one with a person who is no longer there.
 [[nodiscard]] std::vector<LienAffiche> ListerLiens(shell::Session& session, NoOrdre individu);
 
 /// The label is fit for a link: not empty, at most 49 bytes as stored. Else the reason is told.
 [[nodiscard]] bool LibelleValable(shell::Session& session, std::string_view libelle);
+
+/// Two persons can be linked: both are there, and they are two. Else the reason is told.
+[[nodiscard]] bool PeutLier(shell::Session& session, NoOrdre individu, NoOrdre autre);
 
 /// Links two persons, on both sides. Refused, and told: the person itself, a link that is there, a
 /// list that is full, an unfit label. False when nothing was written.

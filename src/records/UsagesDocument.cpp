@@ -50,13 +50,18 @@ bool ConfirmerDetache(shell::Session& session, NoDocument document) {
 
 }  // namespace
 
+bool PeutAvoirDocument(shell::Session& session, NoOrdre individu) {
+    if (!session.base || !Existe(*session.base, individu)) return false;
+    return session.base->R_LSTIMG.NbElements(individu) < storage::MaxElements ||
+           Refuser(session, Nommer(session, 3016, individu));
+}
+
 bool AttacherDocument(shell::Session& session, NoOrdre individu, NoDocument document) {
     if (!session.base || !EstDocument(*session.base, document) || !Existe(*session.base, individu))
         return false;
     Liste liste = session.base->R_LSTIMG.Elements(individu);
     if (Contient(liste, document)) return Refuser(session, shell::Msg(3015));
-    if (liste.size() >= storage::MaxElements)
-        return Refuser(session, Nommer(session, 3016, individu));
+    if (!PeutAvoirDocument(session, individu)) return false;
     liste.push_back(document);
     Ecrire(*session.base, individu, liste);
     return true;

@@ -212,7 +212,9 @@ TEST_CASE_FIXTURE(Scene, "AttacherDocument: the 201st document of a person is re
         REQUIRE(AttacherDocument(session, louis, tous[static_cast<std::size_t>(i)]));
     Oublier();
     CHECK_FALSE(AttacherDocument(session, louis, tous[200]));
-    CHECK(Dit() == Mots{"3016(Louis Martin)"});
+    CHECK_FALSE(PeutAvoirDocument(session, louis));
+    CHECK_FALSE(PeutAvoirDocument(session, NoOrdre{99}));
+    CHECK(Dit() == Mots{"3016(Louis Martin)", "3016(Louis Martin)"});
     CHECK(Intacte());
 }
 

@@ -1,6 +1,7 @@
 #include "records/Liens.h"
 
 #include "records/EssaiFamille.h"
+#include "records/Individus.h"
 #include "shell/Libelles.h"
 
 using namespace dorvane;
@@ -87,6 +88,24 @@ TEST_CASE_FIXTURE(Famille,
         base.R_LIEN.ModifierListe(paul, anne, 'A', libelle);
     CHECK(ListerLiens(session, paul) == Rangees{{1, anne, "ami"}, {3, anne, "voisin"}});
     base.R_LIEN.EcrireListe(paul, "");
+}
+
+TEST_CASE_FIXTURE(Famille, "ListerLiens: a person who was deleted is left out, the ranks stay") {
+    // Only one side of the link is known, as in an old base: nothing holds the other person.
+    base.R_LIEN.ModifierListe(paul, anne, 'A', "ami");
+    base.R_LIEN.ModifierListe(paul, luc, 'A', "voisin");
+    dialogue.pendant = nullptr;
+    Repondre({Oui});
+    REQUIRE(SupprimerIndividu(session, anne));
+    CHECK(ListerLiens(session, paul) == Rangees{{2, luc, "voisin"}});
+    base.R_LIEN.EcrireListe(paul, "");
+}
+
+TEST_CASE_FIXTURE(Famille, "PeutLier: two persons who are there, not one") {
+    CHECK(PeutLier(session, paul, anne));
+    CHECK_FALSE(PeutLier(session, paul, paul));
+    CHECK_FALSE(PeutLier(session, NoOrdre{9}, anne));
+    CHECK(Dit() == Dits{"2820(Paul Noir)", "2807"});
 }
 
 TEST_CASE_FIXTURE(Famille,
