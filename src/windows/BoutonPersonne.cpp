@@ -87,7 +87,9 @@ void BoutonPersonne::dropEvent(QDropEvent* evenement) {
     const NoOrdre individu = PersonneDeMime(*session_, evenement->mimeData());
     if (!individu) return;
     evenement->acceptProposedAction();
-    Q_EMIT deposee(individu.valeur);
+    // What follows may ask the user: the drop has ended by then.
+    QMetaObject::invokeMethod(
+        this, [this, individu] { Q_EMIT deposee(individu.valeur); }, Qt::QueuedConnection);
 }
 
 }  // namespace dorvane::windows

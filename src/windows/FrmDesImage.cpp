@@ -12,6 +12,7 @@
 #include "windows/FrmCreation.h"
 #include "windows/FrmLstImage.h"
 #include "windows/FrmTexte.h"
+#include "windows/GlisserPersonne.h"
 #include "windows/Legendes.h"
 #include "windows/Unicode.h"
 #include "windows/Vignettes.h"
@@ -208,15 +209,14 @@ void FrmDesImage::reject() {
 }
 
 void FrmDesImage::dragEnterEvent(QDragEnterEvent* evenement) {
-    const QList<QUrl> urls = evenement->mimeData()->urls();
-    if (!urls.isEmpty() && urls.constFirst().isLocalFile()) evenement->acceptProposedAction();
+    if (!FichiersDeMime(evenement->mimeData()).empty()) evenement->acceptProposedAction();
 }
 
 void FrmDesImage::dropEvent(QDropEvent* evenement) {
-    const QList<QUrl> urls = evenement->mimeData()->urls();
-    if (urls.isEmpty() || !urls.constFirst().isLocalFile()) return;
+    const std::vector<std::filesystem::path> fichiers = FichiersDeMime(evenement->mimeData());
+    if (fichiers.empty()) return;
     evenement->acceptProposedAction();
-    ProposerFichier(QtVersChemin(urls.constFirst().toLocalFile()));
+    ProposerFichier(fichiers.front());
 }
 
 }  // namespace dorvane::windows

@@ -7,7 +7,6 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <QUrl>
 
 #include "records/FicheDocument.h"
 #include "records/NomsAffiches.h"
@@ -22,17 +21,6 @@
 #include "windows/ModeleDocuments.h"
 
 namespace dorvane::windows {
-
-namespace {
-
-std::vector<std::filesystem::path> FichiersDe(const QMimeData* donnees) {
-    std::vector<std::filesystem::path> fichiers;
-    for (const QUrl& url : donnees->urls())
-        if (url.isLocalFile()) fichiers.push_back(QtVersChemin(url.toLocalFile()));
-    return fichiers;
-}
-
-}  // namespace
 
 FrmLstImage::FrmLstImage(shell::Session& session, QWidget* parent)
     : FenetreFille{session, QStringLiteral("FrmLstImage"), parent},
@@ -196,7 +184,7 @@ void FrmLstImage::Deposer(const QMimeData* donnees, NoDocument sur) {
     if (!individu) {
         // The program that the files come from waits until the drop has ended.
         QMetaObject::invokeMethod(
-            this, [this, fichiers = FichiersDe(donnees)] { Ajouter(fichiers); },
+            this, [this, fichiers = FichiersDeMime(donnees)] { Ajouter(fichiers); },
             Qt::QueuedConnection);
         return;
     }
@@ -221,8 +209,9 @@ bool FrmLstImage::eventFilter(QObject* objet, QEvent* evenement) {
                                   : QModelIndex{};
     const NoDocument sur{modele_->Numero(index.isValid() ? index.row() : -1)};
     const bool personne{PersonneDeMime(S(), depose->mimeData())};
-    const bool accepte = S().BaseOuverte() && (personne ? type == QEvent::DragEnter || sur
-                                                        : !FichiersDe(depose->mimeData()).empty());
+    const bool accepte =
+        S().BaseOuverte() &&
+        (personne ? type == QEvent::DragEnter || sur : !FichiersDeMime(depose->mimeData()).empty());
     depose->setAccepted(accepte);
     if (accepte && type == QEvent::Drop) Deposer(depose->mimeData(), sur);
     return true;

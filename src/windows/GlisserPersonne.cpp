@@ -3,12 +3,14 @@
 #include <QCoreApplication>
 #include <QDrag>
 #include <QMimeData>
+#include <QUrl>
 #include <QWidget>
 
 #include "records/ModeleFamille.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
+#include "windows/DialogueQt.h"
 #include "windows/Icones.h"
 #include "windows/Unicode.h"
 
@@ -40,6 +42,14 @@ NoOrdre PersonneDeMime(const shell::Session& session, const QMimeData* donnees) 
     if (blanc < 0 || octets.mid(blanc + 1) != Provenance(session)) return {};
     const NoOrdre individu{octets.left(blanc).toUInt()};
     return records::Existe(*session.base, individu) ? individu : NoOrdre{};
+}
+
+std::vector<std::filesystem::path> FichiersDeMime(const QMimeData* donnees) {
+    std::vector<std::filesystem::path> fichiers;
+    if (donnees == nullptr) return fichiers;
+    for (const QUrl& url : donnees->urls())
+        if (url.isLocalFile()) fichiers.push_back(QtVersChemin(url.toLocalFile()));
+    return fichiers;
 }
 
 void GlisserPersonne(QWidget& source, shell::Session& session, NoOrdre individu) {

@@ -2,6 +2,9 @@
 
 #include "values/Numeros.h"
 
+#include <filesystem>
+#include <vector>
+
 class QMimeData;
 class QWidget;
 
@@ -18,6 +21,10 @@ namespace dorvane::windows {
 /// The person that is dropped; 0 when it is something else, of another base, or of another
 /// program.
 [[nodiscard]] NoOrdre PersonneDeMime(const shell::Session& session, const QMimeData* donnees);
+
+/// The files of this machine that are dropped, as a file manager hands them over; none when it is
+/// something else.
+[[nodiscard]] std::vector<std::filesystem::path> FichiersDeMime(const QMimeData* donnees);
 
 /// Starts dragging a person out of `source`. Returns at the drop.
 void GlisserPersonne(QWidget& source, shell::Session& session, NoOrdre individu);

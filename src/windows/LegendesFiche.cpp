@@ -62,7 +62,7 @@ constexpr Legende Table[] = {
     {"PageUnions", "LblLieuMar", Texte, 2709},
     {"PageUnions", "LblTxtMar", Texte, 2721},
     {"PageUnions", "TxtMar", Acces, 2721},
-    {"PageUnions", "C_TexteMar", Texte, 2722},
+    {"PageUnions", "C_TexteMar", Texte, 2704},
     {"PageUnions", "LblEnfants", Texte, 2720},
     {"PageUnions", "L_Enfants", Acces, 2720},
     {"PageUnions", "L_Enfants", Colonne, 2725, 0},
@@ -75,6 +75,10 @@ constexpr Legende Table[] = {
     {"PageLiens", "LblLien", Texte, 2730},
     {"PageLiens", "CmdLienAjout", Texte, 2731},
     {"PageLiens", "CmdLienSup", Texte, 2732},
+
+    {"FrmNouveauLien", "LblLien", Texte, 2730},
+    {"FrmNouveauLien", "CmdValider", Texte, 2738},
+    {"FrmNouveauLien", "CmdAnnuler", Texte, 2739},
 
     {"PageEvts", "GrdEvts", Acces, 2696},
     {"PageEvts", "GrdEvts", Colonne, 2743, 0},

@@ -29,6 +29,8 @@ PageDocuments::PageDocuments(shell::Session& session, ServicesFiche& fiche, QWid
     ui_->LstImage->Attacher(session, "PageDocuments", 3, 2);
     ui_->LstImage->setIconSize({CoteVignette, CoteVignette});
     ui_->LstImage->verticalHeader()->setDefaultSectionSize(CoteVignette + 4);
+    ui_->LstImage->Prendre(TableFiche::Depot::Fichiers);
+    connect(ui_->LstImage, &TableFiche::fichiersDeposes, this, &PageDocuments::AjouterFichiers);
     connect(ui_->LstImage, &TableFiche::ouverte, this, &PageDocuments::Voir);
     connect(ui_->LstImage, &TableFiche::suppressionDemandee, this, &PageDocuments::Retirer);
     connect(ui_->LstImage, &TableFiche::choisie, this, &PageDocuments::PoserBoutons);
@@ -82,9 +84,24 @@ void PageDocuments::PoserBoutons() {
 }
 
 void PageDocuments::Ajouter() {
-    if (!Fiche().Preparer()) return;
+    if (!Fiche().Preparer() || !records::PeutAvoirDocument(S(), Individu())) return;
     const NoDocument document = FrmLstImage::Choisir(S(), window());
     if (document && records::AttacherDocument(S(), Individu(), document)) Fiche().Ecrit(false);
+}
+
+/// One new document for each file.
+void PageDocuments::AjouterFichiers(const std::vector<std::filesystem::path>& fichiers) {
+    if (!S().base || !Fiche().Preparer()) return;
+    bool ecrit = false;
+    for (const std::filesystem::path& fichier : fichiers) {
+        if (!records::PeutAvoirDocument(S(), Individu())) break;
+        FrmDesImage fenetre{S(), {}, window()};
+        fenetre.ProposerFichier(fichier);
+        // Giving up one gives up the rest.
+        if (fenetre.exec() != QDialog::Accepted) break;
+        if (records::AttacherDocument(S(), Individu(), fenetre.Document())) ecrit = true;
+    }
+    if (ecrit) Fiche().Ecrit(false);
 }
 
 void PageDocuments::Modifier() {

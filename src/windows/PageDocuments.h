@@ -3,7 +3,9 @@
 #include "windows/PageFiche.h"
 
 #include <cstddef>
+#include <filesystem>
 #include <memory>
+#include <vector>
 
 namespace Ui {
 class PageDocuments;
@@ -11,7 +13,8 @@ class PageDocuments;
 
 namespace dorvane::windows {
 
-/// The documents of a person in the user's order.
+/// The documents of a person in the user's order. Files that are dropped become documents of the
+/// person.
 class PageDocuments final : public PageFiche {
 public:
     PageDocuments(shell::Session& session, ServicesFiche& fiche, QWidget* parent);
@@ -26,6 +29,7 @@ private:
     [[nodiscard]] std::size_t Rang() const;
     [[nodiscard]] NoDocument Document() const;
     void Ajouter();
+    void AjouterFichiers(const std::vector<std::filesystem::path>& fichiers);
     void Modifier();
     void Voir();
     void Retirer();

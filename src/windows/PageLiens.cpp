@@ -2,41 +2,26 @@
 
 #include "ui_PageLiens.h"
 #include <QCompleter>
-#include <QInputDialog>
 
 #include "records/Fiche.h"
 #include "records/Liens.h"
-#include "records/MotsUsuels.h"
 #include "records/NomsAffiches.h"
-#include "shell/Libelles.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "windows/ChampSuivi.h"
 #include "windows/FrmLiens.h"
+#include "windows/FrmNouveauLien.h"
 #include "windows/Icones.h"
 #include "windows/Legendes.h"
 #include "windows/Unicode.h"
 
 namespace dorvane::windows {
 
-namespace {
-
-/// The words of the user for links.
-QStringList MotsDeLiens(const shell::Session& session) {
-    QStringList mots;
-    for (const std::string& mot :
-         records::ListerMotsUsuels(session, shell::LibelleDeTag(session.catalogue, "RELA")))
-        mots << TexteVersQt(mot);
-    return mots;
-}
-
-}  // namespace
-
 PageLiens::PageLiens(shell::Session& session, ServicesFiche& fiche, QWidget* parent)
     : PageFiche{session, fiche, parent}, ui_{std::make_unique<Ui::PageLiens>()} {
     ui_->setupUi(this);
     ui_->GrdLiens->Attacher(session, "PageLiens", 2, 0);
-    ui_->GrdLiens->setAcceptDrops(true);
+    ui_->GrdLiens->Prendre(TableFiche::Depot::Personnes);
     RelierPersonnes(*ui_->GrdLiens);
     connect(ui_->GrdLiens, &TableFiche::choisie, this, &PageLiens::ChoisirLien);
     connect(ui_->GrdLiens, &TableFiche::suppressionDemandee, this, &PageLiens::Retirer);
@@ -134,23 +119,8 @@ void PageLiens::Ajouter() {
     if (fenetre.exec() == QDialog::Accepted && fenetre.Choisie()) Lier(fenetre.Choisie());
 }
 
-std::optional<std::string> PageLiens::DemanderLibelle(NoOrdre autre) {
-    QInputDialog question{window()};
-    question.setWindowTitle(TexteEcran(S(), 2733));
-    question.setLabelText(
-        TexteEcran(S().catalogue.Composer(shell::Msg(2734, records::NomAffiche(S(), autre)))));
-    question.setComboBoxItems(MotsDeLiens(S()));
-    question.setComboBoxEditable(true);
-    question.setTextValue({});
-    if (question.exec() != QDialog::Accepted) return std::nullopt;
-    std::size_t remplaces = 0;
-    std::string libelle = LireChamp(question.textValue().trimmed(), remplaces);
-    return libelle;
-}
-
 void PageLiens::Lier(NoOrdre autre) {
-    const std::optional<std::string> libelle = DemanderLibelle(autre);
-    if (libelle && records::AjouterLien(S(), Individu(), autre, *libelle)) Fiche().Ecrit(false);
+    if (FrmNouveauLien::Lier(S(), Individu(), autre, window())) Fiche().Ecrit(false);
 }
 
 void PageLiens::Retirer() {

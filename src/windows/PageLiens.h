@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <memory>
-#include <optional>
 
 namespace Ui {
 class PageLiens;
@@ -33,7 +32,6 @@ private:
     void Lier(NoOrdre autre);
     void Retirer();
     [[nodiscard]] bool LienModifie() const;
-    [[nodiscard]] std::optional<std::string> DemanderLibelle(NoOrdre autre);
 
     std::unique_ptr<Ui::PageLiens> ui_;
     std::size_t rang_ = 0;  ///< of the link whose label is shown; 0: none

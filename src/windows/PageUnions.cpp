@@ -23,8 +23,8 @@ PageUnions::PageUnions(shell::Session& session, ServicesFiche& fiche, QWidget* p
     ui_->setupUi(this);
     ui_->L_Conjoint->Attacher(session, "PageUnions", 2, 0);
     ui_->L_Enfants->Attacher(session, "PageUnions", 3, 0);
-    ui_->L_Conjoint->setAcceptDrops(true);
-    ui_->L_Enfants->setAcceptDrops(true);
+    ui_->L_Conjoint->Prendre(TableFiche::Depot::Personnes);
+    ui_->L_Enfants->Prendre(TableFiche::Depot::Personnes);
     RelierPersonnes(*ui_->L_Conjoint);
     RelierPersonnes(*ui_->L_Enfants);
     RelierUnions();
@@ -44,7 +44,7 @@ void PageUnions::RelierChamps() {
     SuivreCasse(*ui_->TxtLieuMar, S(), records::Casse::Lieu);
     new Completeur{*ui_->TxtLieuMar, S(), records::mots::Lieux};
     connect(ui_->C_TexteMar, &QPushButton::clicked, this,
-            [this] { EditerNote(*ui_->TxtMar, ui_->LblTxtMar->text()); });
+            [this] { EditerNote(*ui_->TxtMar, SansMnemonique(ui_->LblTxtMar->text())); });
     connect(ui_->L_Conjoint, &TableFiche::choisie, this, &PageUnions::ChoisirUnion);
     connect(ui_->L_Enfants, &TableFiche::choisie, this, &PageUnions::PoserBoutons);
 }

@@ -156,22 +156,46 @@ void TableFiche::paintEvent(QPaintEvent* evenement) {
                      Qt::AlignCenter | Qt::TextWordWrap, vide_);
 }
 
+void TableFiche::Prendre(Depot depot) {
+    depot_ = depot;
+    setAcceptDrops(depot != Depot::Rien);
+}
+
+bool TableFiche::Convient(const QDropEvent& evenement) const {
+    switch (depot_) {
+        case Depot::Personnes:
+            // Its own rows are not dropped on it.
+            return evenement.source() != this && PersonneDeMime(*session_, evenement.mimeData());
+        case Depot::Fichiers:
+            return !FichiersDeMime(evenement.mimeData()).empty();
+        case Depot::Rien:
+            break;
+    }
+    return false;
+}
+
 void TableFiche::dragEnterEvent(QDragEnterEvent* evenement) {
-    // Its own rows are not dropped on it.
-    if (evenement->source() != this && PersonneDeMime(*session_, evenement->mimeData()))
-        evenement->acceptProposedAction();
+    evenement->setAccepted(Convient(*evenement));
 }
 
 void TableFiche::dragMoveEvent(QDragMoveEvent* evenement) {
-    if (evenement->source() != this && PersonneDeMime(*session_, evenement->mimeData()))
-        evenement->acceptProposedAction();
+    evenement->setAccepted(Convient(*evenement));
 }
 
 void TableFiche::dropEvent(QDropEvent* evenement) {
-    const NoOrdre individu = PersonneDeMime(*session_, evenement->mimeData());
-    if (!individu) return;
-    evenement->acceptProposedAction();
-    Q_EMIT deposee(individu.valeur);
+    evenement->setAccepted(Convient(*evenement));
+    if (!evenement->isAccepted()) return;
+    const auto apres = [this](auto dire) {
+        QMetaObject::invokeMethod(this, dire, Qt::QueuedConnection);
+    };
+    if (depot_ == Depot::Fichiers)
+        apres([this, fichiers = FichiersDeMime(evenement->mimeData())] {
+            Q_EMIT fichiersDeposes(fichiers);
+        });
+    else
+        apres([this, individu = PersonneDeMime(*session_, evenement->mimeData())] {
+            Q_EMIT deposee(individu.valeur);
+        });
 }
 
 }  // namespace dorvane::windows

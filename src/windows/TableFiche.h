@@ -7,6 +7,7 @@
 #include "values/Numeros.h"
 
 #include <cstdint>
+#include <filesystem>
 #include <vector>
 
 namespace dorvane::shell {
@@ -24,18 +25,22 @@ struct LigneFiche {
     QString bulle{};
 };
 
-/// A short list on the sheet: at most 200 rows. A row about a person can be dragged; a person can
-/// be dropped on the list. Enter and a double click open a row.
+/// A short list on the sheet: at most 200 rows. A row about a person can be dragged. Enter and a
+/// double click open a row.
 class TableFiche final : public QTableView {
     Q_OBJECT
 
 public:
+    /// What can be dropped on the list.
+    enum class Depot : std::uint8_t { Rien, Personnes, Fichiers };
+
     explicit TableFiche(QWidget* parent);
 
     /// `session` outlives the list, `page` is a literal: the headers are the captions of the
     /// columns of this list in that page. Column `large` takes what the others leave.
     void Attacher(shell::Session& session, const char* page, int colonnes, int large);
 
+    void Prendre(Depot depot);
     /// Takes other rows over; the row with the same number stays selected, else the first one.
     void Poser(std::vector<LigneFiche> lignes);
     /// What an empty list says.
@@ -53,7 +58,10 @@ Q_SIGNALS:
     void choisie();
     /// The key for deleting.
     void suppressionDemandee();
+    /// A person was dropped. This and the next come once the drop has ended: what follows may ask
+    /// the user.
     void deposee(quint32 individu);
+    void fichiersDeposes(const std::vector<std::filesystem::path>& fichiers);
 
 protected:
     void keyPressEvent(QKeyEvent* evenement) override;
@@ -65,9 +73,12 @@ protected:
 private:
     class Modele;
 
+    [[nodiscard]] bool Convient(const QDropEvent& evenement) const;
+
     shell::Session* session_ = nullptr;
     Modele* modele_ = nullptr;
     QString vide_;
+    Depot depot_ = Depot::Rien;
 };
 
 }  // namespace dorvane::windows

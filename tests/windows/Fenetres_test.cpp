@@ -25,6 +25,7 @@
 #include "windows/FrmMot.h"
 #include "windows/FrmMotCle.h"
 #include "windows/FrmNom.h"
+#include "windows/FrmNouveauLien.h"
 #include "windows/FrmPalette.h"
 #include "windows/FrmParametre.h"
 #include "windows/FrmPere.h"
@@ -99,6 +100,7 @@ struct Toutes : FenetreEssai {
         fenetres.emplace_back(new FrmEnfants{S(), NoOrdre{3}, &Fenetre()});
         fenetres.emplace_back(new FrmConjoints{S(), NoOrdre{3}, &Fenetre()});
         fenetres.emplace_back(new FrmLiens{S(), NoOrdre{3}, &Fenetre()});
+        fenetres.emplace_back(new FrmNouveauLien{S(), NoOrdre{3}, NoOrdre{1}, &Fenetre()});
         fenetres.emplace_back(new FrmRecherche{S(), &Fenetre()});
         fenetres.emplace_back(new FrmMisajour{S(), &Fenetre()});
         fenetres.emplace_back(new FrmCreation{S(), {}, &Fenetre()});

@@ -1,20 +1,16 @@
 #include <QAbstractItemView>
 #include <QCompleter>
-#include <QDragEnterEvent>
 #include <QLabel>
-#include <QMimeData>
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QToolButton>
 
 #include "records/Fiche.h"
 #include "records/Liens.h"
-#include "records/ModeleFamille.h"
 #include "windows/BoutonPersonne.h"
 #include "windows/EditeurNote.h"
 #include "windows/FeuilleEssai.h"
 #include "windows/FrmMisajour.h"
-#include "windows/GlisserPersonne.h"
 
 using namespace dorvane;
 using namespace dorvane::windows;
@@ -224,42 +220,6 @@ TEST_CASE_FIXTURE(Feuille,
     CHECK(AEnregistrer());
 }
 
-TEST_CASE_FIXTURE(Feuille,
-                  "FrmMisajour: a person is dropped on a parent, a list of spouses or children") {
-    REQUIRE(fiche->Ouvrir(NoOrdre{8}));
-    const auto deposer = [this](QWidget& cible, NoOrdre individu) {
-        const std::unique_ptr<QMimeData> donnees{PersonneVersMime(S(), individu)};
-        const QPoint point{10, 10};
-        QDragEnterEvent entree{point, Qt::CopyAction, donnees.get(), Qt::LeftButton,
-                               Qt::NoModifier};
-        QApplication::sendEvent(&cible, &entree);
-        if (!entree.isAccepted()) return false;
-        QDropEvent depot{point, Qt::CopyAction, donnees.get(), Qt::LeftButton, Qt::NoModifier};
-        QApplication::sendEvent(&cible, &depot);
-        return true;
-    };
-    SUBCASE("a spouse") {
-        CHECK(deposer(*Liste("L_Conjoint").viewport(), NoOrdre{4}));
-        CHECK(records::UnionDe(B(), NoOrdre{8}, NoOrdre{4}));
-        CHECK(Liste("L_Conjoint").Lignes().size() == 1);
-    }
-    SUBCASE("a mother in place of the one who is there: a man is refused") {
-        const auto texte = RepondreBoite(QMessageBox::Ok);
-        CHECK(deposer(C<BoutonPersonne>("N_Mère"), NoOrdre{6}));
-        CHECK(texte->contains("ne convient pas"));
-        CHECK(B().R_MERE.LireCellule(NoOrdre{8}) == NoOrdre{5});
-    }
-    SUBCASE("what is no person is not taken") {
-        QMimeData texte;
-        texte.setText("Martin");
-        QDragEnterEvent entree{QPoint{10, 10}, Qt::CopyAction, &texte, Qt::LeftButton,
-                               Qt::NoModifier};
-        entree.setAccepted(false);
-        QApplication::sendEvent(&C<BoutonPersonne>("N_Mère"), &entree);
-        CHECK_FALSE(entree.isAccepted());
-    }
-}
-
 TEST_CASE_FIXTURE(Feuille, "FrmMisajour: events of the person are listed, opened and unlinked") {
     const NoEvenement e = B().NouvelEvenement();
     B().R_EVT.EcrireEvt(e, {.cleDate = DateVersSerie(DateCivile{4, 6, 1850}),
@@ -304,4 +264,15 @@ TEST_CASE_FIXTURE(Feuille, "FrmMisajour: documents of the person are listed, mov
     RepondreBoite(QMessageBox::Yes);
     Cliquer("CmdImageSup");
     CHECK(B().R_LSTIMG.Elements(NoOrdre{3}) == std::vector{NoDocument{2}});
+}
+
+TEST_CASE_FIXTURE(Feuille, "FrmMisajour: every button with a text has a key, in both languages") {
+    for (const char* langue : {"Français", "English"}) {
+        REQUIRE(shell::ChoisirLangue(S(), langue));
+        fiche->Traduire();
+        for (const QPushButton* bouton : fiche->findChildren<QPushButton*>()) {
+            CAPTURE(bouton->text());
+            CHECK(bouton->text().contains(u'&'));
+        }
+    }
 }
