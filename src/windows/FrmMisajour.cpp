@@ -29,7 +29,7 @@ using records::Champ;
 
 namespace {
 
-constexpr QSize TailleInitiale{1120, 640};
+constexpr QSize TailleInitiale{1240, 640};
 
 /// The pointer of waiting for as long as it lives.
 class Sablier {

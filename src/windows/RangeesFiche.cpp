@@ -25,6 +25,7 @@ namespace {
 constexpr int Espace = 6;
 constexpr int LargeurJourMois = 110;
 constexpr int LargeurAnnee = 60;
+constexpr int LargeurLieu = 90;  ///< at least, in a narrow window
 constexpr int TailleAnnee = 4;
 constexpr int ColonneAvis = 5;
 
@@ -117,6 +118,7 @@ void RangeesFiche::AjouterRangee(std::size_t k) {
     r.jourMois->setMinimumWidth(LargeurJourMois);
     r.jourMois->setMaximumWidth(LargeurJourMois);
     r.annee->setMaximumWidth(LargeurAnnee);
+    r.lieu->setMinimumWidth(LargeurLieu);
     r.annee->setMaxLength(TailleAnnee);
     r.jourMois->setVisible(datee);
     r.annee->setVisible(datee);

@@ -276,3 +276,17 @@ TEST_CASE_FIXTURE(Feuille, "FrmMisajour: every button with a text has a key, in 
         }
     }
 }
+
+TEST_CASE_FIXTURE(Feuille, "FrmMisajour: places of a union and names of children have their room") {
+    Page(1);
+    REQUIRE(Champ("TxtMarL(0)").isVisible());
+    const int lettre = fiche->fontMetrics().averageCharWidth();
+    CHECK(Champ("TxtMarL(0)").width() >= 18 * lettre);
+    CHECK(Liste("L_Enfants").columnWidth(0) >= 24 * lettre);
+    CHECK(Liste("L_Conjoint").columnWidth(0) >= 30 * lettre);
+    // On a screen of 1280 by 720 the whole sheet is seen.
+    CHECK(fiche->width() <= 1260);
+    CHECK(fiche->minimumSizeHint().height() <= 640);
+    fiche->resize(fiche->minimumSizeHint());
+    CHECK(Champ("TxtMarL(0)").width() >= 90);
+}
