@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 
 #include "records/FicheEvenement.h"
+#include "records/MotsUsuels.h"
 #include "records/NomsAffiches.h"
 #include "shell/Libelles.h"
 #include "shell/Session.h"
@@ -194,7 +195,14 @@ void FrmDesEvt::RemplirRoles() {
         const bool premier = manquants.empty() ? !tenu : role.label == manquants.front().label;
         if (propose < 0 && premier) propose = ui_->CboRole->count() - 1;
     }
-    ui_->CboRole->setCurrentIndex(propose < 0 ? ui_->CboRole->count() - 1 : propose);
+    const int derniere = ui_->CboRole->count() - 1;
+    // Behind the roles of the kind, the usual words of relations: witness, godfather, guardian...
+    for (const std::string& mot :
+         records::ListerMotsUsuels(S(), shell::LibelleDeTag(S().catalogue, "RELA")))
+        if (ui_->CboRole->findText(TexteVersQt(mot)) < 0)
+            ui_->CboRole->addItem(TexteVersQt(mot), QByteArray::fromStdString(
+                                                        shell::TagDeLibelle(S().catalogue, mot)));
+    ui_->CboRole->setCurrentIndex(propose < 0 ? derniere : propose);
 }
 
 void FrmDesEvt::Montrer() {

@@ -94,6 +94,18 @@ TEST_CASE_FIXTURE(Essai,
     CHECK(S().base->entete.DernierEvenement == 1);
 }
 
+TEST_CASE_FIXTURE(Essai,
+                  "FrmDesEvt: the usual words of relations stand behind the roles of the kind") {
+    Montrer(NoEvenement{}, Paul, std::string{});
+    Taper(C<QComboBox>("CboTypeEvt"), "mariage");
+    const auto& roles = C<QComboBox>("CboRole");
+    CHECK(roles.itemText(0) == QStringLiteral("Époux"));
+    CHECK(roles.itemText(1) == QStringLiteral("Épouse"));
+    CHECK(roles.findText(QStringLiteral("Témoin")) > 1);
+    CHECK(roles.findText(QStringLiteral("Parrain")) > 1);
+    CHECK(roles.currentText() == QStringLiteral("Épouse"));
+}
+
 TEST_CASE_FIXTURE(Essai, "FrmDesEvt: a person made for a role is linked with it") {
     const NoEvenement e = Evenement("4/5/1851", "BIRT", "Brest", {{NoOrdre{6}, "CHIL"}});
     Montrer(e, NoOrdre{}, std::string{});
