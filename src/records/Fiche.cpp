@@ -116,9 +116,9 @@ private:
         return LibelleValable(session_, SansBlancs(saisie_.lien->libelle));
     }
 
-    [[nodiscard]] std::string LibelleStocke() const {
+    [[nodiscard]] std::string Stocke(const SaisieLien& lien) const {
         return storage::SansDiese(
-            shell::TagDeLibelle(session_.catalogue, SansBlancs(saisie_.lien->libelle)));
+            shell::TagDeLibelle(session_.catalogue, SansBlancs(lien.libelle)));
     }
 
     [[nodiscard]] bool ChangerSexe() {
@@ -209,7 +209,7 @@ private:
         if (!saisie_.lien) return true;
         const std::size_t rang = saisie_.lien->rang;
         if (!base_.R_LIEN.ElementListe(n_, rang)) return true;
-        const std::string libelle = LibelleStocke();
+        const std::string libelle = Stocke(*saisie_.lien);
         if (libelle.empty()) {
             session_.dialogue.Informer(shell::Msg(631));
             return false;

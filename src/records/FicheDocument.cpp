@@ -87,7 +87,7 @@ SaisieDocument Lire(shell::Session& session, NoDocument document) {
 }  // namespace
 
 SaisieDocument ChargerDocument(shell::Session& session, NoDocument document) {
-    const SaisieDocument saisie = Lire(session, document);
+    SaisieDocument saisie = Lire(session, document);
     DireIncident(session, storage::Incident::DocumentAbime, saisie.document.valeur);
     return saisie;
 }
@@ -151,7 +151,7 @@ bool SupprimerDocument(shell::Session& session, NoDocument document) {
 }
 
 std::string TitreAffiche(const Document& document) {
-    const std::string titre{
+    std::string titre{
         SansBlancs(std::string_view{document.titre}.substr(0, document.titre.find('/')))};
     if (!titre.empty() || !document.titre.empty()) return titre;
     const std::size_t barre = document.fichier.find_last_of("/\\");
@@ -174,7 +174,7 @@ NatureDocument NatureDe(const Document& document) {
 }
 
 std::string AdresseDe(const Document& document) {
-    const std::string fichier{SansBlancs(document.fichier)};
+    std::string fichier{SansBlancs(document.fichier)};
     switch (NatureDe(document)) {
         case NatureDocument::Adresse:
             return fichier;

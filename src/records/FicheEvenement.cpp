@@ -116,7 +116,7 @@ SaisieEvenement Lire(shell::Session& session, NoEvenement evenement) {
 }  // namespace
 
 SaisieEvenement ChargerEvenement(shell::Session& session, NoEvenement evenement) {
-    const SaisieEvenement saisie = Lire(session, evenement);
+    SaisieEvenement saisie = Lire(session, evenement);
     DireIncident(session, storage::Incident::EvenementAbime, saisie.evenement.valeur);
     return saisie;
 }

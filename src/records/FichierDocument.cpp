@@ -36,7 +36,7 @@ std::filesystem::path CreerLien(const shell::Session& session, const std::filesy
     const std::string nom = cible.stem().string();
     for (int essai = 1; essai <= MaxEssais; ++essai) {
         const std::string suite = essai == 1 ? std::string{} : ' ' + std::to_string(essai);
-        const std::filesystem::path lien = dossier / (nom + suite + ".LGO");
+        std::filesystem::path lien = dossier / (nom + suite + ".LGO");
         std::error_code erreur;
         if (!std::filesystem::exists(lien, erreur)) {
             if (!shell::EcrireTout(lien, contenu)) return {};

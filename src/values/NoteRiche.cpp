@@ -233,7 +233,7 @@ private:
         if (jeton.mot == "bin") return;  // bytes of no picture
         if (jeton.mot == "par") return NouveauParagraphe();
         if (jeton.mot == "line") return EcrireTexte({&Saut, 1});
-        if (jeton.mot == "u" && jeton.nombre) return LireUnicode(jeton);
+        if (jeton.mot == "u" && jeton.nombre) return LireUnicode(*jeton.nombre);
         if (jeton.mot == "uc" && jeton.nombre) {
             etat_.remplacants = static_cast<std::size_t>(std::clamp(*jeton.nombre, 0L, 100L));
             return;
@@ -290,13 +290,13 @@ private:
     }
 
     /// A character that code page 1252 lacks is an object that carries its number.
-    void LireUnicode(const JetonRtf& jeton) {
-        const char lettre = OctetDeUnicodeRtf(*jeton.nombre);
+    void LireUnicode(long nombre) {
+        const char lettre = OctetDeUnicodeRtf(nombre);
         aSauter_ = 0;
-        if (lettre != '?' || *jeton.nombre == '?')
+        if (lettre != '?' || nombre == '?')
             EcrireTexte({&lettre, 1});
         else
-            EcrireObjet(ObjetUnicode(*jeton.nombre), {&lettre, 1});
+            EcrireObjet(ObjetUnicode(nombre), {&lettre, 1});
         aSauter_ = etat_.remplacants;
     }
 
