@@ -190,6 +190,15 @@ bool PeutAvoirEnfant(shell::Session& session, NoOrdre parent, NoMariage mariage)
     return true;
 }
 
+bool ConfirmerRemplacement(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
+    const NoOrdre ancien = LireParent(*session.base, enfant, cote);
+    if (!ancien || ancien == parent) return true;
+    shell::Phrase texte = Nommer(session, 628, enfant);
+    texte.suite = NoMessage{629};
+    return session.dialogue.Confirmer(
+        {texte, shell::Phrase{}, shell::Boutons::ValiderAnnuler, shell::Reponse::Annuler, true});
+}
+
 bool AttacherEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant) {
     storage::Base& base = *session.base;
     const char cote = SexeDe(base, parent);
@@ -198,13 +207,7 @@ bool AttacherEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant) {
     if (ancien == parent && ListeALEnfant(base, parent, enfant))
         return Refuser(session, Nommer(session, MsgDejaEnfant, enfant, parent));
     if (!PeutEtreParent(session, enfant, cote, parent)) return false;
-    if (ancien && ancien != parent) {
-        shell::Phrase texte = Nommer(session, 628, enfant);
-        texte.suite = NoMessage{629};
-        if (!session.dialogue.Confirmer({texte, shell::Phrase{}, shell::Boutons::ValiderAnnuler,
-                                         shell::Reponse::Annuler, true}))
-            return false;
-    }
+    if (!ConfirmerRemplacement(session, enfant, cote, parent)) return false;
     LierParent(session, enfant, cote, parent);
     ProposerPartenaires(session, enfant, cote, parent);
     return true;

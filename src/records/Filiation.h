@@ -63,6 +63,11 @@ void LierParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre pare
 /// before the search or the creation of the child, and told when not.
 [[nodiscard]] bool PeutAvoirEnfant(shell::Session& session, NoOrdre parent, NoMariage mariage = {});
 
+/// Asks before a child who has another parent on that side loses it to `parent`; true where it has
+/// none.
+[[nodiscard]] bool ConfirmerRemplacement(shell::Session& session, NoOrdre enfant, char cote,
+                                         NoOrdre parent);
+
 /// Gives the person a child who was chosen among the persons of the base (`CmdRechEnft`): asks
 /// before a parent is replaced, and offers the partners of the person as other parent.
 [[nodiscard]] bool AttacherEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant);

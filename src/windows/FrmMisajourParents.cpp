@@ -82,7 +82,10 @@ void FrmMisajour::RetirerParent(char cote) {
 }
 
 void FrmMisajour::DeposerParent(char cote, NoOrdre parent) {
-    if (Preparer() && records::DonnerParent(S(), individu_, cote, parent)) Ecrit(true);
+    if (Preparer() && records::PeutEtreParent(S(), individu_, cote, parent) &&
+        records::ConfirmerRemplacement(S(), individu_, cote, parent) &&
+        records::DonnerParent(S(), individu_, cote, parent))
+        Ecrit(true);
 }
 
 }  // namespace dorvane::windows

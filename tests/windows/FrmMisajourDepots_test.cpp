@@ -73,6 +73,22 @@ TEST_CASE_FIXTURE(Depots, "FrmMisajour: a person is dropped on a parent, or a li
         CHECK(texte->contains("ne convient pas"));
         CHECK(B().R_MERE.LireCellule(NoOrdre{8}) == NoOrdre{5});
     }
+    SUBCASE("a mother in place of the one who is there: asked, and a cancel keeps her") {
+        {
+            Enchainement suite;
+            suite.Boite(QMessageBox::Cancel, QStringLiteral("Jules"));
+            CHECK(Deposer(C<BoutonPersonne>("N_Mère"), NoOrdre{4}));
+        }
+        CHECK(B().R_MERE.LireCellule(NoOrdre{8}) == NoOrdre{5});
+        {
+            Enchainement suite;
+            suite.Boite(QMessageBox::Ok, QStringLiteral("Jules"));
+            CHECK(Deposer(C<BoutonPersonne>("N_Mère"), NoOrdre{4}));
+        }
+        CHECK(B().R_MERE.LireCellule(NoOrdre{8}) == NoOrdre{4});
+        CHECK(B().R_ENFANT.NbElements(NoOrdre{5}) == 0);
+        CHECK(C<BoutonPersonne>("N_Mère").Individu() == NoOrdre{4});
+    }
     SUBCASE("what is no person is not taken") {
         QMimeData texte;
         texte.setText("Martin");
