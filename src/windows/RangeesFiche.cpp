@@ -131,7 +131,7 @@ void RangeesFiche::AjouterRangee(std::size_t k) {
     if (datee) symboles.append(records::mots::Lieux);
     // The button lists the words of this keyword alone.
     r.mots = new Completeur{*r.lieu, *session_, symboles, {&slot.symbole, 1}};
-    connect(r.choix, &QToolButton::clicked, this, [this, mots = r.mots] { mots->MontrerTout(); });
+    connect(r.choix, &QToolButton::clicked, this, [mots = r.mots] { mots->MontrerTout(); });
     SuivreJourMois(*r.jourMois, *session_);
     SuivreCasse(*r.lieu, *session_, records::Casse::Lieu);
     for (QLineEdit* champ : {r.jourMois, r.annee, r.lieu})
