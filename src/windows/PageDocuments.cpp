@@ -38,8 +38,8 @@ PageDocuments::PageDocuments(shell::Session& session, ServicesFiche& fiche, QWid
     connect(ui_->CmdImageMaj, &QPushButton::clicked, this, &PageDocuments::Modifier);
     connect(ui_->CmdImageVoir, &QPushButton::clicked, this, &PageDocuments::Voir);
     connect(ui_->CmdImageSup, &QPushButton::clicked, this, &PageDocuments::Retirer);
-    connect(ui_->CmdImageUp, &QToolButton::clicked, this, [this] { Ranger(-1); });
-    connect(ui_->CmdImageDown, &QToolButton::clicked, this, [this] { Ranger(1); });
+    connect(ui_->CmdImgUp, &QToolButton::clicked, this, [this] { Ranger(-1); });
+    connect(ui_->CmdImgDown, &QToolButton::clicked, this, [this] { Ranger(1); });
 }
 
 PageDocuments::~PageDocuments() = default;
@@ -79,8 +79,8 @@ void PageDocuments::PoserBoutons() {
                                     static_cast<QAbstractButton*>(ui_->CmdImageVoir),
                                     static_cast<QAbstractButton*>(ui_->CmdImageSup)})
         bouton->setEnabled(choisi);
-    ui_->CmdImageUp->setEnabled(choisi && Rang() > 1);
-    ui_->CmdImageDown->setEnabled(choisi && Rang() < ui_->LstImage->Lignes().size());
+    ui_->CmdImgUp->setEnabled(choisi && Rang() > 1);
+    ui_->CmdImgDown->setEnabled(choisi && Rang() < ui_->LstImage->Lignes().size());
 }
 
 void PageDocuments::Ajouter() {
@@ -128,8 +128,8 @@ void PageDocuments::Ranger(int pas) {
 
 void PageDocuments::Traduire() {
     TraduireFenetre(*this, S());
-    Habiller(*ui_->CmdImageUp, "Monter", 2758);
-    Habiller(*ui_->CmdImageDown, "Descendre", 2759);
+    Habiller(*ui_->CmdImgUp, "Monter", 2758);
+    Habiller(*ui_->CmdImgDown, "Descendre", 2759);
     ui_->LstImage->DireVide(TexteEcran(S(), 2760));
 }
 
@@ -140,7 +140,7 @@ QString PageDocuments::Compte() const {
 
 QList<QWidget*> PageDocuments::Ordre() const {
     return {ui_->LstImage,    ui_->CmdImageAjout, ui_->CmdImageMaj, ui_->CmdImageVoir,
-            ui_->CmdImageSup, ui_->CmdImageUp,    ui_->CmdImageDown};
+            ui_->CmdImageSup, ui_->CmdImgUp,    ui_->CmdImgDown};
 }
 
 }  // namespace dorvane::windows

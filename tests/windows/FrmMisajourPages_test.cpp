@@ -258,7 +258,7 @@ TEST_CASE_FIXTURE(Feuille, "FrmMisajour: documents of the person are listed, mov
     Page(4);
     REQUIRE(Liste("LstImage").Lignes().size() == 2);
     CHECK(Liste("LstImage").Lignes()[0].textes[0] == "Acte");
-    Cliquer("CmdImageDown");
+    Cliquer("CmdImgDown");
     CHECK(B().R_LSTIMG.Elements(NoOrdre{3}) == std::vector{NoDocument{2}, NoDocument{1}});
     CHECK(Liste("LstImage").Courante()->numero == 1);
     RepondreBoite(QMessageBox::Yes);
