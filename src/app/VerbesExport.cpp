@@ -12,13 +12,14 @@ namespace {
 
 struct OptionsExporter : OptionsBase {
     std::string sortie;
-    interchange::JeuExport jeu = interchange::JeuExport::Ansi;
+    std::optional<interchange::JeuExport> jeu;  ///< nothing: the one of the settings
     bool reduit = false;
 };
 
 int Exporter(Atelier& atelier, const OptionsExporter& o) {
     interchange::OptionsExport options;
-    options.jeu = o.jeu;
+    options.jeu =
+        o.jeu.value_or(interchange::JeuDuReglage(atelier.session.parametres.generaux.jeuExport));
     options.reduit = o.reduit;
     const interchange::ResultatExport resultat =
         interchange::ExporterGedcom(atelier.session, o.sortie, options);

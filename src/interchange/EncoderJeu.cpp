@@ -112,6 +112,13 @@ std::string FormeBasse(JeuExport jeu, char octet) {
 
 }  // namespace
 
+JeuExport JeuDuReglage(std::string_view reglage) {
+    constexpr std::array<JeuExport, 5> Jeux{JeuExport::Ascii, JeuExport::Ansi, JeuExport::Ansel,
+                                            JeuExport::Html, JeuExport::Utf8};
+    const bool connu = reglage.size() == 1 && reglage[0] >= '0' && reglage[0] <= '4';
+    return connu ? Jeux[static_cast<std::size_t>(reglage[0] - '0')] : JeuExport::Ansi;
+}
+
 std::string_view NomDeclare(JeuExport jeu) {
     switch (jeu) {
         case JeuExport::Ascii:

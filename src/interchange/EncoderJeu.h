@@ -10,6 +10,9 @@ namespace dorvane::interchange {
 /// The character sets that an export can have.
 enum class JeuExport : std::uint8_t { Ascii, Ansi, Ansel, Html, Utf8 };
 
+/// The set that the settings name: "0" ASCII to "4" UTF-8; ANSI for anything else.
+[[nodiscard]] JeuExport JeuDuReglage(std::string_view reglage);
+
 /// What the CHAR line of the header says.
 [[nodiscard]] std::string_view NomDeclare(JeuExport jeu);
 

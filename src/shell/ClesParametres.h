@@ -59,6 +59,7 @@ void ParcourirGeneraux(ReglagesGeneraux& g, Visite visite) {
     visite("Affichage Nom", g.affichageNom);
     visite("Ordre date", g.ordreDate);
     visite("Tri Import", g.triImport);
+    visite("Jeu Export", g.jeuExport);
     ParcourirAffichage(g.affichage, visite);
 }
 

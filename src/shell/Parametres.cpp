@@ -168,6 +168,7 @@ void Parametres::RemplirPremiereFois() {
     generaux.geneanet = lieux.repertoire / "geneanet";
     generaux.icones = "0,1,2,3,4,10,99,11,12,13,14,8,99,28,29,99,15,16,99,17,18,99,22,23,24";
     generaux.ordreDate = "dd/mm/yyyy";
+    generaux.jeuExport = "1";
     generaux.affichage.couleurDegrade = "Bleu";
     ParcourirGeneraux(generaux, [&ini](std::string_view cle, auto&& champ) {
         // These follow the new place of the program, and their old values name a Windows one.

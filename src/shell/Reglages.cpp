@@ -160,7 +160,7 @@ bool MemesReglages(const Reglages& a, const Reglages& b) {
     const auto general = [](const ReglagesGeneraux& g) {
         return std::tie(g.travail, g.fichierCommunes, g.geneanet, g.frequenceSauvegarde,
                         g.barreMenus, g.barreFenetres, g.icones, g.affichageNom, g.ordreDate,
-                        g.triImport);
+                        g.triImport, g.jeuExport);
     };
     const auto deBase = [](const ReglagesBase& r) {
         return std::tie(r.conversionNom, r.conversionPrenom, r.conversionLieu, r.auteur, r.adresse,

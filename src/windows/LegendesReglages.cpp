@@ -55,6 +55,7 @@ constexpr Legende Table[] = {
     {"FrmParametre", "LblFréquence", Texte, 3502},
     {"FrmParametre", "LblOrdreDate", Texte, 3503},
     {"FrmParametre", "ChkTriImport", Texte, 3504},
+    {"FrmParametre", "LblJeu", Texte, 3522},
     {"FrmParametre", "GrpBarres", Texte, 3505},
     {"FrmParametre", "ChkBarreIcones", Texte, 3506},
     {"FrmParametre", "CboBouton", Acces, 3518},

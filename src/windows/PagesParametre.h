@@ -181,6 +181,7 @@ private:
     QSpinBox* frequence_;
     QComboBox* ordre_;
     QCheckBox* triImport_;
+    QComboBox* jeu_;
     QCheckBox* barreIcones_;
     QCheckBox* barreFenetres_;
     ListeOrdonnee* icones_;

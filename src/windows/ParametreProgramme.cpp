@@ -35,6 +35,7 @@ ParametreProgramme::ParametreProgramme(shell::Session& session, QWidget* parent)
       frequence_{new QSpinBox{this}},
       ordre_{new QComboBox{this}},
       triImport_{new QCheckBox{this}},
+      jeu_{new QComboBox{this}},
       barreIcones_{new QCheckBox{this}},
       barreFenetres_{new QCheckBox{this}},
       icones_{new ListeOrdonnee{QStringLiteral("LstIcones"), this}},
@@ -68,6 +69,10 @@ ParametreProgramme::ParametreProgramme(shell::Session& session, QWidget* parent)
     rangee("LblOrdreDate", ordre_, "CboOrdreDate");
     triImport_->setObjectName(QStringLiteral("ChkTriImport"));
     formulaire->addRow(QString{}, triImport_);
+    // Names of sets are the same in every language.
+    jeu_->addItems({QStringLiteral("ASCII"), QStringLiteral("ANSI"), QStringLiteral("ANSEL"),
+                    QStringLiteral("HTML"), QStringLiteral("UTF-8")});
+    rangee("LblJeu", jeu_, "CboJeu");
 
     auto* barres = new QGroupBox{this};
     barres->setObjectName(QStringLiteral("GrpBarres"));
@@ -152,6 +157,8 @@ void ParametreProgramme::Charger(const shell::Reglages& r) {
     ordre_->setCurrentIndex(
         std::max(0, ordre_->findData(QString::fromStdString(r.generaux.ordreDate))));
     triImport_->setChecked(r.generaux.triImport);
+    jeu_->setCurrentIndex(
+        std::clamp(QString::fromStdString(r.generaux.jeuExport).toInt(), 0, jeu_->count() - 1));
     barreIcones_->setChecked(r.generaux.barreMenus);
     barreFenetres_->setChecked(r.generaux.barreFenetres);
     icones_->Poser({});
@@ -176,6 +183,7 @@ std::size_t ParametreProgramme::Lire(shell::Reglages& r) {
     r.generaux.frequenceSauvegarde = frequence_->value();
     r.generaux.ordreDate = ordre_->currentData().toString().toStdString();
     r.generaux.triImport = triImport_->isChecked();
+    r.generaux.jeuExport = std::to_string(jeu_->currentIndex());
     r.generaux.barreMenus = barreIcones_->isChecked();
     r.generaux.barreFenetres = barreFenetres_->isChecked();
     QStringList numeros;

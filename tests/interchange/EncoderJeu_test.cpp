@@ -65,6 +65,14 @@ TEST_CASE("Encodeur: what a set lacks loses its accent or becomes a question mar
     CHECK(Encodeur{JeuExport::Ansel}.Encoder("…"_1252) == "?");
 }
 
+TEST_CASE("JeuDuReglage: the number of the settings, ANSI for junk") {
+    CHECK(JeuDuReglage("0") == JeuExport::Ascii);
+    CHECK(JeuDuReglage("2") == JeuExport::Ansel);
+    CHECK(JeuDuReglage("4") == JeuExport::Utf8);
+    for (const char* reglage : {"", "5", "x", "11"})
+        CHECK(JeuDuReglage(reglage) == JeuExport::Ansi);
+}
+
 TEST_CASE("NomDeclare: what the header says") {
     CHECK(NomDeclare(JeuExport::Ascii) == "ASCII");
     CHECK(NomDeclare(JeuExport::Html) == "HTML");

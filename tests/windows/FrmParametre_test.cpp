@@ -212,10 +212,12 @@ TEST_CASE_FIXTURE(Bureau, "FrmParametre: author, kinds of documents and bars are
     Taper(C<QLineEdit>("TxtAuteur"), QStringLiteral("Hélène"));
     Page(5);
     C<QSpinBox>("SpnFréquence").setValue(5);
+    C<QComboBox>("CboJeu").setCurrentText(QStringLiteral("UTF-8"));
     QTest::mouseClick(&C<QCheckBox>("ChkBarreIcones"), Qt::LeftButton, {}, QPoint{5, 8});
     Cliquer("CmdValider");
     CHECK(S().parametres.base.auteur == "H\xE9l\xE8ne");
     CHECK(S().parametres.generaux.frequenceSauvegarde == 5);
+    CHECK(S().parametres.Valeur("Defaut", "Jeu Export") == "4");
     CHECK(S().parametres.generaux.barreMenus);
 }
 
