@@ -84,18 +84,18 @@ struct ReglagesGeneraux {
     std::filesystem::path geneanet;         ///< folder of the hand-over
     int frequenceSauvegarde = 15;           ///< minutes
     bool assistant = false;
-    bool barreMenus = false;            ///< the icon bar shows
-    bool barreFenetres = true;          ///< the window bar shows
-    bool motClePrenom = false;          ///< what a new base starts with
-    bool motCleNom = false;             ///< what a new base starts with
-    std::string icones;                 ///< button numbers joined by ",", 99 a separator
-    std::string affichageNom;           ///< name template, each token followed by "/"
-    std::string ordreDate;              ///< "dd/mm/yyyy" or one of the four others
-    bool triImport = true;              ///< an import offers to sort the base
+    bool barreMenus = false;    ///< the icon bar shows
+    bool barreFenetres = true;  ///< the window bar shows
+    bool motClePrenom = false;  ///< what a new base starts with
+    bool motCleNom = false;     ///< what a new base starts with
+    std::string icones;         ///< button numbers joined by ",", 99 a separator
+    std::string affichageNom;   ///< name template, each token followed by "/"
+    std::string ordreDate;      ///< "dd/mm/yyyy" or one of the four others
+    bool triImport = true;      ///< an import offers to sort the base
     /// Character set of GEDCOM exports: "0" ASCII, "1" ANSI, "2" ANSEL, "3" HTML, "4" UTF-8.
     std::string jeuExport;
-    Affichage affichage;                ///< what a new base starts with
-    std::vector<Particule> particules;  ///< their order matters
+    Affichage affichage;                            ///< what a new base starts with
+    std::vector<Particule> particules;              ///< their order matters
     std::vector<std::filesystem::path> historique;  ///< at most 5, most recent first
 };
 
