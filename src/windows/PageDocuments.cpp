@@ -140,7 +140,7 @@ QString PageDocuments::Compte() const {
 
 QList<QWidget*> PageDocuments::Ordre() const {
     return {ui_->LstImage,    ui_->CmdImageAjout, ui_->CmdImageMaj, ui_->CmdImageVoir,
-            ui_->CmdImageSup, ui_->CmdImgUp,    ui_->CmdImgDown};
+            ui_->CmdImageSup, ui_->CmdImgUp,      ui_->CmdImgDown};
 }
 
 }  // namespace dorvane::windows
