@@ -35,10 +35,9 @@ void RedactionGedcom::EcrireFamille(std::uint32_t famille) {
     const NoMariage m{famille};
     EcrireVie("MARR", storage::DateMariageBrute(base_, m), base_.R_DEBMAR.LireCellule(m),
               storage::LieuMariage(base_, m));
-    const storage::DefinitionSlots definition = base_.DefinitionMariage();
     const std::string texte{base_.R_TXTMAR.LireTexte(m)};
-    const storage::TexteDecoupe decoupe = storage::DecouperTexte(texte, definition);
-    EcrireRubriques(definition, decoupe.slots, Sujet::Famille, true);
+    const storage::TexteDecoupe decoupe = storage::DecouperTexte(texte, definitionMariage_);
+    EcrireRubriques(definitionMariage_, decoupe.slots, Sujet::Famille, true);
     EcrireTexteLibre({}, decoupe.note, Sujet::Famille);
 }
 

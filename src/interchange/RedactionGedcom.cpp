@@ -49,7 +49,10 @@ RedactionGedcom::RedactionGedcom(shell::Session& session, const OptionsExport& o
       options_{options},
       sortie_{options.jeu},
       familles_{FormerFamilles(*session.base)},
+      definitionIndividu_{base_.DefinitionIndividu()},
+      definitionMariage_{base_.DefinitionMariage()},
       individus_(base_.entete.DernierIndividu + 1ULL),
+      evenementsEnTable_(base_.entete.DernierEvenement + 1ULL),
       evenements_(base_.entete.DernierEvenement + 1ULL),
       documents_(base_.entete.DernierDocument + 1ULL) {
     MarquerChoisis();
@@ -62,7 +65,8 @@ void RedactionGedcom::MarquerChoisis() {
         if (tous || (n < options_.choisis.size() && options_.choisis[n])) individus_[n] = true;
     }
     for (std::uint32_t rang = 1; rang <= base_.entete.NbTriEvenements; ++rang)
-        evenements_[base_.R_TRI.EvtAuRang(rang).valeur] = options_.complet;
+        evenementsEnTable_[base_.R_TRI.EvtAuRang(rang).valeur] = true;
+    if (options_.complet) evenements_ = evenementsEnTable_;
     for (std::uint32_t rang = 1; rang <= base_.entete.NbTriDocuments; ++rang)
         documents_[base_.R_TRI.DocumentAuRang(rang).valeur] = options_.complet;
 }
@@ -107,19 +111,18 @@ void RedactionGedcom::EcrireEnTete(const std::string& nomFichier) {
 
 void RedactionGedcom::EcrireIndividu(NoOrdre n) {
     ++comptes_.individus;
-    const storage::DefinitionSlots definition = base_.DefinitionIndividu();
     const std::string texte{base_.R_TEXTE.LireTexte(n)};
-    const storage::TexteDecoupe decoupe = storage::DecouperTexte(texte, definition);
+    const storage::TexteDecoupe decoupe = storage::DecouperTexte(texte, definitionIndividu_);
     sortie_.Enregistrement('I', n.valeur, "INDI");
     EcrireNom(n, decoupe.slots);
     const char sexe = base_.R_SEXE.LireCellule(n);
     if (sexe == 'H' || sexe == 'F') sortie_.Valeur(1, "SEX", sexe == 'H' ? "M" : "F");
-    EcrireRubriques(definition, decoupe.slots, Sujet::Individu, true);
+    EcrireRubriques(definitionIndividu_, decoupe.slots, Sujet::Individu, true);
     EcrireVie("BIRT", base_.R_NOM.JourMoisNaissance(n), base_.R_NAISS.LireCellule(n),
               storage::LireLieu(texte, '$'));
     EcrireVie("DEAT", base_.R_NOM.JourMoisDeces(n), base_.R_DECES.LireCellule(n),
               storage::LireLieu(texte, '~'));
-    EcrireRubriques(definition, decoupe.slots, Sujet::Individu, false);
+    EcrireRubriques(definitionIndividu_, decoupe.slots, Sujet::Individu, false);
     const std::string_view entier{texte};
     EcrireTexteLibre(entier.substr(0, entier.find_first_of("\r\n")), decoupe.note, Sujet::Individu);
     EcrireLiensFamille(n);
@@ -133,10 +136,9 @@ void RedactionGedcom::EcrireNom(NoOrdre n, const storage::TableSlots& slots) {
         valeur += ' ' + std::string{autres};
     valeur += " /" + std::string{SansBlancs(nom.nom)} + '/';
     sortie_.Valeur(1, "NAME", valeur);
-    const storage::DefinitionSlots definition = base_.DefinitionIndividu();
+    const auto& libelles = definitionIndividu_.libelles;
     for (std::size_t i = 0; i < slots.size(); ++i)
-        if (Contient(PartiesDuNom, definition.libelles[i]))
-            sortie_.Valeur(2, definition.libelles[i], slots[i].lieu);
+        if (Contient(PartiesDuNom, libelles[i])) sortie_.Valeur(2, libelles[i], slots[i].lieu);
 }
 
 void RedactionGedcom::EcrireVie(std::string_view etiquette, std::string_view jourMois,
@@ -251,7 +253,7 @@ void RedactionGedcom::EcrireAutresLiens(NoOrdre n) {
     }
     for (std::size_t k = 1; k <= base_.R_LSTEVT.NbElements(n); ++k) {
         const NoEvenement e = base_.R_LSTEVT.ElementListe(n, k);
-        if (!e || base_.R_TRI.RangEvt(e) == 0) continue;
+        if (e.valeur >= evenementsEnTable_.size() || !evenementsEnTable_[e.valeur]) continue;
         evenements_[e.valeur] = true;
         sortie_.Renvoi(1, "SOUR", 'E', e.valeur);
         sortie_.Ligne(2, "EVEN");

@@ -64,7 +64,10 @@ private:
     const OptionsExport& options_;
     EcrivainGedcom sortie_;
     FamillesExport familles_;
+    storage::DefinitionSlots definitionIndividu_;
+    storage::DefinitionSlots definitionMariage_;
     std::vector<bool> individus_;
+    std::vector<bool> evenementsEnTable_;  ///< by number: the event is in the sort table
     std::vector<bool> evenements_;
     std::vector<bool> documents_;
     ComptesExport comptes_;
