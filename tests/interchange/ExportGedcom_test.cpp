@@ -213,3 +213,36 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: the header in full has file, language
           "1 GEDC\n2 VERS 5.5\n2 FORM Lineage-Linked\n1 CHAR ANSI\n1 FILE x.ged\n1 LANG French\n"
           "1 SUBM @S1@\n0 @S1@ SUBM\n1 NAME H\xE9l\xE8ne\n1 ADDR 1 rue\n2 CONT Brest\n0 TRLR\n");
 }
+
+TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: events are sources with the role of each person") {
+    const NoOrdre n = F().Creer('H', "Martin", "Paul", "1820");
+    const NoEvenement e = B().NouvelEvenement();
+    B().R_EVT.EcrireEvt(e, {.cleDate = 1,
+                            .note = "Une note",
+                            .liens = std::vector<storage::LienEvenement>{{n, "CHIL"}},
+                            .description = storage::DescriptionEvt{"Brest", "Acte", "CHR"}});
+    B().R_TRI.AjouterEvt(e);
+    B().R_LSTEVT.ModifierListe(n, e, 'A', "CHIL");
+    CHECK(Dit("1 SOUR @E1@\n2 EVEN\n3 ROLE CHIL\n"));
+    CHECK(
+        Dit("0 @E1@ SOUR\n1 DATA\n2 EVEN BAPM\n3 DATE 31 DEC 1899\n3 PLAC Brest\n"
+            "2 NOTE Une note\n1 TITL Acte\n"));
+    SUBCASE("another role stands in parentheses, in words") {
+        B().R_LSTEVT.EcrireListe(n, B().R_LSTEVT.ComposerElement(e, "WITN"));
+        CHECK(Dit("3 ROLE (T\xE9moin)\n"));
+    }
+    SUBCASE("an event out of the table is pointed at by nobody") {
+        B().R_TRI.RetirerEvt(e);
+        CHECK_FALSE(Dit("SOUR @E1@"));
+    }
+}
+
+TEST_CASE_FIXTURE(
+    Bureau, "ExporterGedcom: a document is a note, its title in front when the text has it not") {
+    const NoDocument d = B().NouveauDocument();
+    B().R_IMAGE.EcrireDoc(d, {"Acte", "a.png", "Photo", "Vu aux archives"});
+    B().R_TRI.AjouterDocument(d);
+    CHECK(Dit("0 @D1@ NOTE Acte\n1 CONT Vu aux archives\n1 REFN a.png\n1 REFN\n2 TYPE Photo\n"));
+    B().R_IMAGE.EcrireDoc(d, {"Vu aux...", "", "", "Vu aux archives"});
+    CHECK(Dit("0 @D1@ NOTE Vu aux archives\n0 TRLR"));
+}
