@@ -144,6 +144,7 @@ void Parametres::LireGeneraux() {
             Prendre(champ, *valeur);
     });
     if (generaux.affichageNom.empty()) generaux.affichageNom = "FNAM/BIRN/";
+    if (generaux.jeuExport.empty()) generaux.jeuExport = "1";
     if (generaux.travail.empty()) {
         generaux.travail = DossierTemp();
         magasin.Ecrire(Defaut, "Travail", CheminVersUtf8(generaux.travail));

@@ -15,6 +15,8 @@
 #include "windows/Unicode.h"
 #include "windows/Vignettes.h"
 
+#include <filesystem>
+
 namespace dorvane::windows {
 
 namespace {
@@ -55,9 +57,16 @@ void PageDocuments::Charger(NoOrdre individu, bool /*garder*/) {
             ligne.textes << TexteVersQt(records::TitreAffiche(lu))
                          << TexteVersQt(shell::LibelleDeTag(S().catalogue, lu.type))
                          << TexteVersQt(lu.fichier);
-            const QPixmap vignette =
-                VignetteDeFichier(FichierDeDocument(S(), document), CoteVignette);
-            if (!vignette.isNull()) ligne.icone = QIcon{vignette};
+            const std::filesystem::path fichier = FichierDeDocument(S(), document);
+            const records::NatureDocument nature = records::NatureDe(lu);
+            if (fichier.empty() && (nature == records::NatureDocument::Fichier ||
+                                    nature == records::NatureDocument::Lien)) {
+                ligne.icone = Icone("FichierAbsent");
+                ligne.textes.last() += QStringLiteral(" \u2013 ") + TexteEcran(S(), 3050);
+            } else if (const QPixmap vignette = VignetteDeFichier(fichier, CoteVignette);
+                       !vignette.isNull()) {
+                ligne.icone = QIcon{vignette};
+            }
             lignes.push_back(std::move(ligne));
         }
     ui_->LstImage->Poser(std::move(lignes));

@@ -279,6 +279,11 @@ TEST_CASE_FIXTURE(Foyer, "Parametres: an older .ini gives the global values once
     CHECK(Charges().generaux.affichage.couleurFond == 123);
 }
 
+TEST_CASE_FIXTURE(Foyer, "Parametres: a store written before exports had a set exports in ANSI") {
+    EcrireFichier(fichier, R"({"Defaut": {"Langue": "Français"}})");
+    CHECK(Charges().generaux.jeuExport == "1");
+}
+
 TEST_CASE_FIXTURE(Foyer, "Parametres: the old keys of names become a template") {
     const std::pair<const char*, const char*> cas[] = {
         {"", "FNAM/BIRN/"},

@@ -258,6 +258,9 @@ TEST_CASE_FIXTURE(Feuille, "FrmMisajour: documents of the person are listed, mov
     Page(4);
     REQUIRE(Liste("LstImage").Lignes().size() == 2);
     CHECK(Liste("LstImage").Lignes()[0].textes[0] == "Acte");
+    // Neither file is there: the rows say so.
+    for (const auto& ligne : Liste("LstImage").Lignes())
+        CHECK(ligne.textes[2].endsWith(QStringLiteral("Fichier absent")));
     Cliquer("CmdImgDown");
     CHECK(B().R_LSTIMG.Elements(NoOrdre{3}) == std::vector{NoDocument{2}, NoDocument{1}});
     CHECK(Liste("LstImage").Courante()->numero == 1);
