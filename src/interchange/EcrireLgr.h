@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace dorvane::shell {
+class Session;
+}
+
+namespace dorvane::interchange {
+
+struct OptionsLgr {
+    /// By person number: who is written. Empty: everybody.
+    std::vector<bool> choisis{};
+    /// Every event and document is written, not only those of the persons chosen.
+    bool complet = true;
+};
+
+struct ComptesLgr {
+    std::uint32_t individus = 0;
+    std::uint32_t unions = 0;
+    std::uint32_t evenements = 0;
+    std::uint32_t documents = 0;
+    /// Entries of lists past the 200 that a record holds.
+    std::uint32_t omis = 0;
+};
+
+enum class IssueLgr : std::uint8_t {
+    Fait,
+    Abandon,  ///< the user gave up: the file ends where the writer had come
+    Refus     ///< the system refuses to write: no file, or the former one
+};
+
+struct ResultatLgr {
+    IssueLgr issue = IssueLgr::Refus;
+    ComptesLgr comptes;
+};
+
+/// Writes the open base, or a selection of it, as an exchange text. Persons, events and documents
+/// keep their numbers; unions are numbered by their place in the file. The file is written beside
+/// and renamed.
+[[nodiscard]] ResultatLgr ExporterLgr(shell::Session& session, const std::filesystem::path& chemin,
+                                      const OptionsLgr& options);
+
+/// The bytes of such a file. False when the user gave up: they end where the writer had come.
+[[nodiscard]] bool ComposerLgr(shell::Session& session, const OptionsLgr& options,
+                               std::string& octets, ComptesLgr& comptes);
+
+}  // namespace dorvane::interchange
