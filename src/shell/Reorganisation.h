@@ -1,0 +1,27 @@
+#pragma once
+
+#include "shell/Session.h"
+
+#include <filesystem>
+
+namespace dorvane::shell {
+
+enum class IssueSoin {
+    Faite,
+    Abandonnee,  ///< the user said no, or gave up on the way: the base is as it was
+    Refusee,     ///< told: the base is as it was
+};
+
+/// The menu command `MnuRéorganiser`: offers a backup, rewrites the base of the session without its
+/// dead records, puts the new file in place of the old one at one instant, and opens it again.
+/// Until that instant the old file stays whole. All windows but the main one are closed, since
+/// documents, events and unions get new numbers.
+IssueSoin MnuReorganiser(Session& session);
+
+/// The same without the question: with or without a backup.
+IssueSoin ReorganiserBase(Session& session, bool sauvegarder);
+
+/// The list of pairs of persons that the search for duplicates keeps beside a base.
+[[nodiscard]] std::filesystem::path CheminPaires(const std::filesystem::path& base);
+
+}  // namespace dorvane::shell
