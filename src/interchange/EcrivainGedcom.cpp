@@ -3,12 +3,19 @@
 #include "values/Comparaison.h"
 
 #include <algorithm>
+#include <array>
 
 namespace dorvane::interchange {
 
 namespace {
 
-constexpr std::size_t LongueurAuPlus = 60;  ///< characters of a value on one line
+constexpr std::size_t LongueurAuPlus = 60;  ///< characters of a text on one line
+/// Bytes of a value on one line: with level and tag no line is longer than 255.
+constexpr std::size_t ValeurAuPlus = 240;
+
+/// Names, dates and references are one line whatever their length: no reader joins them again.
+constexpr std::array<std::string_view, 7> Insecables{"NAME", "DATE", "FILE", "REFN",
+                                                     "RELA", "ROLE", "CONT"};
 
 std::string DoublerMarques(std::string_view valeur) {
     std::string double_{valeur};
@@ -28,16 +35,24 @@ void EcrivainGedcom::Ligne(int niveau, std::string_view etiquette) {
     Finir();
 }
 
-void EcrivainGedcom::Valeur(int niveau, std::string_view etiquette, std::string_view valeur) {
+bool EcrivainGedcom::Valeur(int niveau, std::string_view etiquette, std::string_view valeur) {
     std::string simple = DoublerMarques(valeur);
     RemplacerTout(simple, "\r\n", " ");
     std::ranges::replace(simple, '\r', ' ');
     std::ranges::replace(simple, '\n', ' ');
     const std::string_view texte = SansBlancs(simple);
-    if (texte.empty()) return;
-    sortie_ += Prefixe(niveau, etiquette);
-    encodeur_.Ecrire(sortie_, texte);
+    if (texte.empty()) return false;
+    const std::string octets = encodeur_.Encoder(texte);
+    const std::string prefixe = Prefixe(niveau, etiquette);
+    if (octets.size() > ValeurAuPlus &&
+        std::ranges::find(Insecables, etiquette) == Insecables.end()) {
+        Paragraphe(prefixe, Prefixe(niveau + 1, "CONC"), octets);
+        return true;
+    }
+    sortie_ += prefixe;
+    sortie_ += octets;
     Finir();
+    return true;
 }
 
 void EcrivainGedcom::Renvoi(int niveau, std::string_view etiquette, char sorte,

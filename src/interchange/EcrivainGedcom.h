@@ -16,8 +16,10 @@ public:
 
     /// A line without a value: "1 BIRT".
     void Ligne(int niveau, std::string_view etiquette);
-    /// A line with a value; nothing for an empty one. Line breaks of the value become blanks.
-    void Valeur(int niveau, std::string_view etiquette, std::string_view valeur);
+    /// A line with a value; nothing, and false, for an empty one. Line breaks of the value become
+    /// blanks. What is too long for one line goes on with CONC, except under the tags that cannot
+    /// be continued.
+    bool Valeur(int niveau, std::string_view etiquette, std::string_view valeur);
     /// A line that points at a record: "1 HUSB @I12@".
     void Renvoi(int niveau, std::string_view etiquette, char sorte, std::uint32_t numero);
     /// The first line of a record: "0 @I12@ INDI".

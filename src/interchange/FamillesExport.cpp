@@ -12,8 +12,14 @@ namespace {
 NoMariage UnionCommune(storage::Base& base, NoOrdre pere, NoOrdre mere) {
     const std::vector<NoMariage> delle = base.R_MARIAG.Elements(mere);
     for (const NoMariage m : base.R_MARIAG.Elements(pere))
-        if (std::ranges::find(delle, m) != delle.end()) return m;
+        if (m.valeur <= base.entete.DernierMariage && std::ranges::find(delle, m) != delle.end())
+            return m;
     return {};
+}
+
+/// A parent whom the base has; 0 for a number past its last person.
+NoOrdre Parent(const storage::Base& base, NoOrdre parent) {
+    return parent.valeur <= base.entete.DernierIndividu ? parent : NoOrdre{};
 }
 
 }  // namespace
@@ -29,8 +35,9 @@ FamillesExport FormerFamilles(storage::Base& base) {
     }
     for (std::uint32_t rang = 1; rang <= base.entete.NbTriIndividus; ++rang) {
         const NoOrdre n = base.R_TRI.IndividuAuRang(rang);
-        const NoOrdre pere = base.R_PERE.LireCellule(n);
-        const NoOrdre mere = base.R_MERE.LireCellule(n);
+        if (n.valeur > base.entete.DernierIndividu) continue;
+        const NoOrdre pere = Parent(base, base.R_PERE.LireCellule(n));
+        const NoOrdre mere = Parent(base, base.R_MERE.LireCellule(n));
         if (!pere && !mere) continue;
         std::uint32_t famille = 0;
         if (pere && mere) famille = UnionCommune(base, pere, mere).valeur;

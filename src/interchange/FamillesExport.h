@@ -27,6 +27,15 @@ struct FamillesExport {
     std::uint32_t derniereUnion = 0;
 
     [[nodiscard]] bool EstUnion(std::uint32_t famille) const { return famille <= derniereUnion; }
+    /// The union exists and `n` is one of its two partners.
+    [[nodiscard]] bool EstPartenaire(NoOrdre n, NoMariage m) const {
+        return m && EstUnion(m.valeur) &&
+               (familles[m.valeur].epoux == n || familles[m.valeur].epouse == n);
+    }
+    /// The family of `n` as a child; 0 for none.
+    [[nodiscard]] std::uint32_t FamilleDe(NoOrdre n) const {
+        return n.valeur < familleDeLEnfant.size() ? familleDeLEnfant[n.valeur] : 0;
+    }
 };
 
 [[nodiscard]] FamillesExport FormerFamilles(storage::Base& base);

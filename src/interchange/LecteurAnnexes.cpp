@@ -1,6 +1,8 @@
 #include "interchange/LecteurAnnexes.h"
 
 #include "interchange/DatesGedcom.h"
+#include "interchange/NomGedcom.h"
+#include "interchange/TitreDocument.h"
 #include "storage/Textes.h"
 #include "values/Comparaison.h"
 #include "values/Dates.h"
@@ -11,19 +13,6 @@ namespace dorvane::interchange {
 namespace {
 
 constexpr std::size_t MaxLignesAdresse = 7;
-constexpr std::size_t TitreLePlusLong = 60;
-
-/// The beginning of the first line of a text, cut between two words: the title of a note that has
-/// none of its own.
-std::string TitreDe(std::string_view texte) {
-    texte = texte.substr(0, texte.find_first_of("\r\n"));
-    if (texte.size() <= TitreLePlusLong) return std::string{texte};
-    texte = texte.substr(0, TitreLePlusLong);
-    const std::size_t blanc = texte.rfind(' ');
-    if (blanc != std::string_view::npos && blanc > TitreLePlusLong / 2)
-        texte = texte.substr(0, blanc);
-    return std::string{texte} + "...";
-}
 
 void AjouterLigne(std::string& texte, std::string_view ligne) {
     if (!texte.empty()) texte += "\r\n";
@@ -119,7 +108,7 @@ bool LecteurAnnexes::LireEnTete(const LigneGedcom& ligne) {
 }
 
 void LecteurAnnexes::AjouterAdresse(const LigneGedcom& ligne) {
-    AjouterLigne(adresse_, ligne.valeur);
+    AjouterLigne(adresse_, SansDoubleArobase(ligne.valeur));
     if (++lignesAdresse_ > MaxLignesAdresse) contexte_.Noter(Constat::Limite, ligne);
 }
 
@@ -127,7 +116,7 @@ bool LecteurAnnexes::LireDeposant(const LigneGedcom& ligne) {
     if (!deposantRetenu_) return false;
     switch (ligne.code) {
         case "NAME"_tag:
-            entete_.auteur = ligne.valeur;
+            entete_.auteur = SansDoubleArobase(ligne.valeur);
             std::erase(entete_.auteur, '/');
             return true;
         case "ADDR"_tag:
@@ -271,16 +260,18 @@ void LecteurAnnexes::Terminer() {
     }
     if (numero_ == 0) return;
     if (genre_ == "SOUR"_tag) {
-        evenement_.note = storage::SansDiese(evenement_.note);
+        evenement_.note = storage::SansDiese(SansDoubleArobase(evenement_.note));
         storage::DescriptionEvt& d = evenement_.description;
-        d = {Champ(d.lieu), Champ(d.libelle), Champ(d.type)};
+        d = {Champ(SansDoubleArobase(d.lieu)), Champ(SansDoubleArobase(d.libelle)),
+             Champ(SansDoubleArobase(d.type))};
         std::ranges::replace(d.lieu, '\n', ' ');
         std::ranges::replace(d.lieu, '\r', ' ');
         liens_.AjouterEvenement(NoEvenement{numero_}, std::move(evenement_));
     } else {
-        document_.titre = Champ(TitreDe(document_.note));
-        document_.fichier = Champ(document_.fichier);
-        document_.type = Champ(document_.type);
+        document_.note = SansDoubleArobase(document_.note);
+        document_.titre = Champ(TitreDocument(document_.note));
+        document_.fichier = Champ(SansDoubleArobase(document_.fichier));
+        document_.type = Champ(SansDoubleArobase(document_.type));
         document_.note = storage::SansDiese(document_.note);
         contexte_.base.R_IMAGE.EcrireDoc(NoDocument{numero_}, document_);
     }

@@ -1,5 +1,6 @@
 #include "interchange/LecteurFamille.h"
 
+#include "interchange/NomGedcom.h"
 #include "storage/Textes.h"
 #include "values/Comparaison.h"
 #include "values/Texte1252.h"
@@ -192,6 +193,7 @@ NoMariage LecteurFamille::Terminer() {
         fiche_.ComposerSuite(texte_);
     }
     if (texte_.find('#') != std::string::npos) texte_ = storage::SansDiese(texte_);
+    if (texte_.find("@@") != std::string::npos) texte_ = SansDoubleArobase(texte_);
     contexte_.base.R_TXTMAR.EcrireTexte(m, texte_);
     return m;
 }

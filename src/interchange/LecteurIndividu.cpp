@@ -219,9 +219,9 @@ bool LecteurIndividu::LireNote(const LigneGedcom& ligne) {
         return true;
     }
     if (contexte_.pile.Niveau() == 1)
-        fiche_.AjouterNote(SansDoubleArobase(ligne.valeur));
+        fiche_.AjouterNote(ligne.valeur);
     else
-        fiche_.AjouterTexte(646, SansDoubleArobase(ligne.valeur));
+        fiche_.AjouterTexte(646, ligne.valeur);
     return true;
 }
 
@@ -317,6 +317,8 @@ void LecteurIndividu::Terminer() {
         fiche_.ComposerSuite(texte_);
     }
     if (texte_.find('#') != std::string::npos) texte_ = storage::SansDiese(texte_);
+    // A mark of the format stands twice in every value.
+    if (texte_.find("@@") != std::string::npos) texte_ = SansDoubleArobase(texte_);
     base.R_TEXTE.EcrireTexte(individu_, texte_);
 }
 

@@ -1,5 +1,6 @@
 #include "interchange/LiensImport.h"
 
+#include "interchange/NomGedcom.h"
 #include "values/Comparaison.h"
 #include "values/Octets.h"
 
@@ -28,7 +29,7 @@ void LiensImport::Lier(NoOrdre individu, std::string_view cle, const LigneGedcom
 }
 
 std::string LiensImport::TagDe(const LigneGedcom& ligne) const {
-    std::string tag = contexte_.textes.Tag(SansParentheses(ligne.valeur));
+    std::string tag = contexte_.textes.Tag(SansDoubleArobase(SansParentheses(ligne.valeur)));
     if (tag.size() > storage::MaxTexteElement)
         contexte_.rapport.Noter(Constat::Remplace, ligne.etiquette, ligne.numero);
     return tag;

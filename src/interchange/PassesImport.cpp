@@ -1,5 +1,6 @@
 #include "interchange/PassesImport.h"
 
+#include "interchange/NomGedcom.h"
 #include "shell/Parametres.h"
 #include "storage/ConstruireIndex.h"
 #include "storage/Textes.h"
@@ -205,7 +206,7 @@ void PassesImport::AjouterDescription() {
     if (!d) return;
     storage::Document document;
     document.titre = textes_.Message(967);
-    document.note = storage::SansDiese(entete.note);
+    document.note = storage::SansDiese(SansDoubleArobase(entete.note));
     base_.R_IMAGE.EcrireDoc(d, document);
 }
 

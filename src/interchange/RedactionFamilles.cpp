@@ -1,6 +1,7 @@
 // Families, events as sources, documents as notes.
 #include "interchange/DatesGedcom.h"
 #include "interchange/RedactionGedcom.h"
+#include "interchange/TitreDocument.h"
 #include "shell/Libelles.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
@@ -69,11 +70,11 @@ void RedactionGedcom::EcrireDocument(NoDocument d) {
     ++comptes_.documents;
     const storage::Document document = base_.R_IMAGE.LireDoc(d);
     const std::string debut = "0 @D" + std::to_string(d.valeur) + "@ NOTE ";
-    // The format has no title for a note: one that the text does not begin with goes in front.
+    // The format has no title for a note: one that a reader would not make of the text by itself
+    // goes in front, as a line of its own.
     std::string texte = document.note;
-    std::string_view titre = document.titre;
-    if (titre.ends_with("...")) titre.remove_suffix(3);
-    if (!texte.starts_with(titre)) texte = document.titre + (texte.empty() ? "" : "\r\n") + texte;
+    if (TitreDocument(texte) != document.titre)
+        texte = document.titre + (texte.empty() ? "" : "\r\n") + texte;
     if (!sortie_.Texte(debut, 1, texte)) sortie_.Enregistrement('D', d.valeur, "NOTE");
     sortie_.Valeur(1, "REFN", document.fichier);
     if (document.type.empty()) return;

@@ -62,13 +62,18 @@ void RedactionGedcom::MarquerChoisis() {
     const bool tous = options_.choisis.empty();
     for (std::uint32_t rang = 1; rang <= base_.entete.NbTriIndividus; ++rang) {
         const std::uint32_t n = base_.R_TRI.IndividuAuRang(rang).valeur;
+        if (n == 0 || n >= individus_.size()) continue;
         if (tous || (n < options_.choisis.size() && options_.choisis[n])) individus_[n] = true;
     }
     for (std::uint32_t rang = 1; rang <= base_.entete.NbTriEvenements; ++rang)
-        evenementsEnTable_[base_.R_TRI.EvtAuRang(rang).valeur] = true;
+        if (const std::uint32_t e = base_.R_TRI.EvtAuRang(rang).valeur;
+            e != 0 && e < evenementsEnTable_.size())
+            evenementsEnTable_[e] = true;
     if (options_.complet) evenements_ = evenementsEnTable_;
     for (std::uint32_t rang = 1; rang <= base_.entete.NbTriDocuments; ++rang)
-        documents_[base_.R_TRI.DocumentAuRang(rang).valeur] = options_.complet;
+        if (const std::uint32_t d = base_.R_TRI.DocumentAuRang(rang).valeur;
+            d != 0 && d < documents_.size())
+            documents_[d] = options_.complet;
 }
 
 bool RedactionGedcom::EstEcrit(NoOrdre n) const {
@@ -158,30 +163,33 @@ void RedactionGedcom::EcrireRubriques(const storage::DefinitionSlots& definition
         const std::string& tag = definition.libelles[i];
         if (EstVide(slots[i]) || Contient(PartiesDuNom, tag)) continue;
         if (sujet == Sujet::Individu && Contient(Attributs, tag) != attributs) continue;
-        EcrireRubrique(tag, slots[i], definition.slots[i].drapeau == '1', sujet);
+        EcrireRubrique(tag, slots[i], sujet);
     }
 }
 
 void RedactionGedcom::EcrireRubrique(std::string_view tag, const storage::ValeurSlot& valeur,
-                                     bool datee, Sujet sujet) {
+                                     Sujet sujet) {
     const std::string date = EcrireDateGedcom(valeur.jourMois, valeur.annee);
     const bool individu = sujet == Sujet::Individu;
+    // The word of an attribute stands on its line, with or without a date.
     const bool attribut = individu ? Contient(Attributs, tag) || tag == "ADDR" : tag == "RESI";
-    if (attribut && !datee && !SansBlancs(valeur.lieu).empty()) {
-        sortie_.Valeur(1, tag, valeur.lieu);
-        return sortie_.Valeur(2, "DATE", date);
+    if (attribut) {
+        if (!sortie_.Valeur(1, tag, valeur.lieu)) sortie_.Ligne(1, tag);
+        sortie_.Valeur(2, "DATE", date);
+        return;
     }
     // A christening has always gone out as a baptism, and comes back as what it was.
     const std::string_view connu = individu && tag == "CHR" ? "BAPM" : tag;
-    if (attribut || (individu ? Contient(Evenements, connu) : Contient(EvenementsDeFamille, tag))) {
+    if (individu ? Contient(Evenements, connu) : Contient(EvenementsDeFamille, tag)) {
         sortie_.Ligne(1, connu);
         sortie_.Valeur(2, "DATE", date);
-        return sortie_.Valeur(2, "PLAC", valeur.lieu);
+        sortie_.Valeur(2, "PLAC", valeur.lieu);
+        return;
     }
     sortie_.Ligne(1, "EVEN");
     sortie_.Valeur(2, "TYPE", shell::LibelleDeTag(session_.catalogue, tag));
     sortie_.Valeur(2, "DATE", date);
-    sortie_.Texte("2 NOTE ", 3, valeur.lieu);
+    static_cast<void>(sortie_.Texte("2 NOTE ", 3, valeur.lieu));
 }
 
 /// A word of a text with the code of a keyword in front: goes out under its tag when that is known
@@ -228,19 +236,19 @@ void RedactionGedcom::EcrireTexteLibre(std::string_view premiereLigne, std::stri
 
 void RedactionGedcom::EcrireLiensFamille(NoOrdre n) {
     for (const NoMariage m : base_.R_MARIAG.Elements(n))
-        sortie_.Renvoi(1, "FAMS", 'F', m.valeur);
+        if (familles_.EstPartenaire(n, m)) sortie_.Renvoi(1, "FAMS", 'F', m.valeur);
     std::vector<std::uint32_t> dites;
+    // The family of a child who is not written has this parent for a member, and is written.
     for (const NoOrdre enfant : base_.R_ENFANT.Elements(n)) {
-        const std::uint32_t famille = enfant.valeur < familles_.familleDeLEnfant.size()
-                                          ? familles_.familleDeLEnfant[enfant.valeur]
-                                          : 0;
-        if (famille == 0 || familles_.EstUnion(famille) || !EstEcrit(enfant) ||
-            std::ranges::find(dites, famille) != dites.end())
-            continue;
+        const std::uint32_t famille = familles_.FamilleDe(enfant);
+        if (famille == 0 || familles_.EstUnion(famille)) continue;
+        const FamilleExport& f = familles_.familles[famille];
+        const bool parent = f.epoux == n || f.epouse == n;
+        if (!parent || std::ranges::find(dites, famille) != dites.end()) continue;
         dites.push_back(famille);
         sortie_.Renvoi(1, "FAMS", 'F', famille);
     }
-    if (const std::uint32_t famille = familles_.familleDeLEnfant[n.valeur]; famille != 0)
+    if (const std::uint32_t famille = familles_.FamilleDe(n); famille != 0)
         sortie_.Renvoi(1, "FAMC", 'F', famille);
 }
 

@@ -52,8 +52,7 @@ private:
                    std::string_view lieu);
     void EcrireRubriques(const storage::DefinitionSlots& definition,
                          const storage::TableSlots& slots, Sujet sujet, bool attributs);
-    void EcrireRubrique(std::string_view tag, const storage::ValeurSlot& valeur, bool datee,
-                        Sujet sujet);
+    void EcrireRubrique(std::string_view tag, const storage::ValeurSlot& valeur, Sujet sujet);
     void EcrireTexteLibre(std::string_view premiereLigne, std::string_view note, Sujet sujet);
     [[nodiscard]] bool EcrireMotCle(std::string_view mot, Sujet sujet);
     void EcrireLiensFamille(NoOrdre n);

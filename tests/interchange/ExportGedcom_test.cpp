@@ -4,6 +4,7 @@
 #include "interchange/DatesGedcom.h"
 #include "interchange/EcrivainGedcom.h"
 #include "interchange/EssaiImport.h"
+#include "interchange/TitreDocument.h"
 #include "shell/CycleDeVie.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
@@ -243,6 +244,56 @@ TEST_CASE_FIXTURE(
     B().R_IMAGE.EcrireDoc(d, {"Acte", "a.png", "Photo", "Vu aux archives"});
     B().R_TRI.AjouterDocument(d);
     CHECK(Dit("0 @D1@ NOTE Acte\n1 CONT Vu aux archives\n1 REFN a.png\n1 REFN\n2 TYPE Photo\n"));
-    B().R_IMAGE.EcrireDoc(d, {"Vu aux...", "", "", "Vu aux archives"});
-    CHECK(Dit("0 @D1@ NOTE Vu aux archives\n0 TRLR"));
+    SUBCASE("the title that a reader makes of the text is not said twice") {
+        B().R_IMAGE.EcrireDoc(d, {"Vu aux archives", "", "", "Vu aux archives\r\nen 1820"});
+        CHECK(Dit("0 @D1@ NOTE Vu aux archives\n1 CONT en 1820\n0 TRLR"));
+        const std::string longue = "Une note dont le premier rang est plus long que tout titre";
+        B().R_IMAGE.EcrireDoc(d, {TitreDocument(longue + " ne peut"), "", "", longue + " ne peut"});
+        CHECK_FALSE(Dit("..."));
+    }
+    SUBCASE("any other is a line of its own, though the text begins like it") {
+        B().R_IMAGE.EcrireDoc(d, {"Vu", "", "", "Vu aux archives"});
+        CHECK(Dit("0 @D1@ NOTE Vu\n1 CONT Vu aux archives\n0 TRLR"));
+        B().R_IMAGE.EcrireDoc(d, {"Vu...", "", "", "Vu aux archives"});
+        CHECK(Dit("0 @D1@ NOTE Vu...\n1 CONT Vu aux archives\n0 TRLR"));
+    }
+    SUBCASE("without a text the title is the text") {
+        B().R_IMAGE.EcrireDoc(d, {"Acte", "", "", ""});
+        CHECK(Dit("0 @D1@ NOTE Acte\n0 TRLR"));
+    }
+}
+
+TEST_CASE("EcrivainGedcom: a value that no line can hold goes on with CONC, a name never does") {
+    EcrivainGedcom ecrivain{JeuExport::Ansi};
+    CHECK(ecrivain.Valeur(1, "OCCU", std::string(240, 'a')));
+    CHECK(Lignes(ecrivain) == "1 OCCU " + std::string(240, 'a') + '\n');
+    EcrivainGedcom long_{JeuExport::Ansi};
+    CHECK(long_.Valeur(1, "OCCU", std::string(241, 'a')));
+    CHECK(Lignes(long_).starts_with("1 OCCU " + std::string(60, 'a') + "\n2 CONC "));
+    EcrivainGedcom nom{JeuExport::Ansi};
+    CHECK(nom.Valeur(1, "NAME", std::string(270, 'a')));
+    CHECK(Lignes(nom) == "1 NAME " + std::string(270, 'a') + '\n');
+}
+
+TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: pointers of a damaged base lead to records that exist") {
+    const NoOrdre n = F().Creer('H', "Martin", "Paul", "1820");
+    const NoOrdre autre = F().Creer('F', "Blanc", "Rose", "1825");
+    B().R_PERE.EcrireCellule(n, NoOrdre{60000});
+    B().R_MARIAG.ModifierListe(n, NoMariage{500}, 'A');
+    B().R_ENFANT.ModifierListe(n, NoOrdre{59999}, 'A');
+    const NoMariage m = F().Marier({}, autre, "1849");
+    B().R_MARIAG.ModifierListe(n, m, 'A');
+    CHECK(Dit("0 @I1@ INDI\n1 NAME Paul /Martin/\n1 SEX M\n1 BIRT\n2 DATE 1820\n0 @I2@ INDI\n"));
+}
+
+TEST_CASE_FIXTURE(Bureau,
+                  "ExporterGedcom: the word of an attribute stands on its line, date or not") {
+    const NoOrdre n = F().Creer('H', "Martin", "Paul", "1820");
+    B().entete.SlotsIndividu[0].drapeau = '1';
+    const std::string libelle = B().DefinitionIndividu().libelles[0];
+    REQUIRE(libelle == "OCCU");
+    B().R_TEXTE.EcrireTexte(n, "|MARTIN\r\nOCCU 12/3/1850 \\sabotier\r\n");
+    CHECK(Dit("1 OCCU sabotier\n2 DATE 12 MAR 1850\n"));
+    B().R_TEXTE.EcrireTexte(n, "|MARTIN\r\nOCCU 12/3/1850\r\n");
+    CHECK(Dit("1 OCCU\n2 DATE 12 MAR 1850\n"));
 }
