@@ -5,9 +5,6 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <functional>
-#include <string>
-#include <string_view>
 
 namespace dorvane::storage {
 
@@ -15,7 +12,6 @@ enum class IssueReorganisation {
     Faite,
     Abandonnee,  ///< the user gave up
     Refusee,     ///< the system refuses to write the new file, or does not give it back as written
-    Occupee,     ///< another program is writing a file of that name
     TropAbimee,  ///< records run into one another: the new file would be far longer than the old
 };
 
@@ -32,7 +28,7 @@ struct BilanReorganisation {
 /// Writes all that lives in `source` into a new file at `vers`, densely and strictly forward, and
 /// checks that it reads back. Persons keep their numbers; documents, events, unions and entries of
 /// the index get new ones without holes. `source` is as it was, and `vers` is gone, unless `Faite`.
-/// The labels of `source` are neutral (`ConvertirAncienne`).
+/// The labels of `source` are neutral (`ConvertirAncienne`). The caller holds the lock of `vers`.
 [[nodiscard]] BilanReorganisation ReorganiserVers(Disque& disque, Base& source,
                                                   const std::filesystem::path& vers,
                                                   Avancement& avancement);

@@ -1,0 +1,188 @@
+#include "shell/Reorganisation.h"
+
+#include "shell/CycleDeVie.h"
+#include "shell/CycleInterne.h"
+#include "shell/FichierSur.h"
+#include "shell/Libelles.h"
+#include "shell/RelaisAvancement.h"
+#include "storage/Base.h"
+#include "storage/ConversionAncienne.h"
+#include "storage/Reorganiser.h"
+#include "values/Comparaison.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace dorvane::shell {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using storage::IssueReorganisation;
+
+fs::path CheminReorganise(const fs::path& base) {
+    return base.parent_path() / "Reorg.fic";
+}
+
+/// The numbers of a line, in their order: what else it holds is the business of who wrote it.
+std::vector<std::uint32_t> NombresDe(std::string_view ligne) {
+    std::vector<std::uint32_t> nombres;
+    bool dedans = false;
+    for (const char c : ligne) {
+        if (EstChiffre(c)) {
+            if (!dedans) nombres.push_back(0);
+            // Far above any person; more digits change nothing.
+            if (nombres.back() < 1000000)
+                nombres.back() = nombres.back() * 10 + static_cast<std::uint32_t>(c - '0');
+        }
+        dedans = EstChiffre(c);
+    }
+    return nombres;
+}
+
+/// The lines of `texte` whose two persons are both in the sort table.
+std::string PairesVivantes(std::string_view texte, const std::vector<std::uint16_t>& table) {
+    std::vector<bool> vivant(1ULL << 16U);
+    for (const std::uint16_t n : table)
+        vivant[n] = n != 0;
+    std::string gardees;
+    while (!texte.empty()) {
+        const std::size_t fin = texte.find('\n');
+        const std::string_view ligne =
+            texte.substr(0, fin == std::string_view::npos ? fin : fin + 1);
+        texte.remove_prefix(ligne.size());
+        const std::vector<std::uint32_t> nombres = NombresDe(ligne);
+        const auto la = [&](std::size_t i) {
+            return nombres[i] < vivant.size() && vivant[nombres[i]];
+        };
+        if (nombres.size() < 2 || (la(0) && la(1))) gardees += ligne;
+    }
+    return gardees;
+}
+
+/// Takes persons who are gone out of the list of pairs beside the base, if there is one.
+void MettreAJourPaires(Session& session, const fs::path& base,
+                       const std::vector<std::uint16_t>& table) {
+    const fs::path paires = CheminPaires(base);
+    std::error_code erreur;
+    if (!fs::exists(paires, erreur)) return;
+    const std::optional<std::string> texte = LireTout(paires);
+    if (texte) {
+        const std::string gardees = PairesVivantes(*texte, table);
+        if (gardees == *texte || EcrireTout(paires, gardees, ".TMP")) return;
+    }
+    Dire(session, 3907, paires);
+}
+
+storage::ConversionsTextes ConversionsDe(const Session& session) {
+    auto libelles = std::make_shared<TableLibelles>(session.catalogue);
+    return {[libelles](std::string_view libelle) {
+                return std::string{libelles->TagDeLibelle(libelle)};
+            },
+            // What is stored has its day in front of its month, whatever the order of entry.
+            [&session](std::string_view date) {
+                return CvtSaisieDate(date, OrdreDate::JourMoisAnnee, session.Mots());
+            }};
+}
+
+void DireBilan(Session& session, const storage::BilanReorganisation& bilan) {
+    session.dialogue.Annoncer(
+        Msg(3904, std::to_string(bilan.tailleApres), std::to_string(bilan.tailleAvant)));
+    if (bilan.unionsSansEpoux != 0)
+        session.dialogue.Informer(Msg(3905, std::to_string(bilan.unionsSansEpoux)));
+    if (bilan.documentsAbimes != 0 || bilan.evenementsAbimes != 0)
+        session.dialogue.Informer(Msg(3906, std::to_string(bilan.documentsAbimes),
+                                      std::to_string(bilan.evenementsAbimes)));
+}
+
+/// Puts the new file in the place of the old one. The lock of the base is held meanwhile: the old
+/// file stays open until it has gone from its name.
+bool Remplacer(storage::Disque& disque, const fs::path& nouveau, const fs::path& base) {
+    if (!storage::SupprimerJournal(disque, base) || !disque.Renommer(nouveau, base)) {
+        static_cast<void>(disque.Supprimer(nouveau));
+        return false;
+    }
+    disque.ViderDossier(base);
+    return true;
+}
+
+/// The whole work on the closed base at `chemin`.
+IssueSoin Reecrire(Session& session, const fs::path& chemin, storage::BilanReorganisation& bilan) {
+    const fs::path nouveau = CheminReorganise(chemin);
+    const storage::ResultatVerrou verrou = session.disque.Verrouiller(nouveau);
+    if (verrou.etat != storage::EtatVerrou::Pris) {
+        Dire(session, verrou.etat == storage::EtatVerrou::Occupe ? 3901 : 3902, nouveau);
+        return IssueSoin::Refusee;
+    }
+    RelaisAvancement avancement{session.progression, session.catalogue};
+    const storage::ResultatOuverture ouverte =
+        storage::OuvrirBase(session.disque, chemin, avancement);
+    if (!ouverte.base) {
+        DireOuverture(session, ouverte.etat, chemin);
+        return IssueSoin::Refusee;
+    }
+    storage::Base& source = *ouverte.base;
+    if (!storage::ConvertirAncienne(source, ConversionsDe(session), avancement))
+        return IssueSoin::Abandonnee;
+    bilan = storage::ReorganiserVers(session.disque, source, nouveau, avancement);
+    if (bilan.issue == IssueReorganisation::Abandonnee) return IssueSoin::Abandonnee;
+    if (bilan.issue == IssueReorganisation::TropAbimee) {
+        Dire(session, 3903, chemin);
+        return IssueSoin::Refusee;
+    }
+    if (bilan.issue != IssueReorganisation::Faite || !Remplacer(session.disque, nouveau, chemin)) {
+        Dire(session, 3902, nouveau);
+        return IssueSoin::Refusee;
+    }
+    MettreAJourPaires(session, chemin, source.R_TRI.individus.Numeros());
+    return IssueSoin::Faite;
+}
+
+}  // namespace
+
+std::filesystem::path CheminPaires(const std::filesystem::path& base) {
+    std::string nom = base.filename().string();
+    nom.resize(nom.size() - std::min<std::size_t>(3, nom.size()));
+    return base.parent_path() / (nom + "FUS");
+}
+
+IssueSoin ReorganiserBase(Session& session, bool sauvegarder) {
+    if (!session.base) return IssueSoin::Refusee;
+    const fs::path chemin = session.CheminBase;
+    session.ecran.FermerFenetres();
+    if (sauvegarder && !Sauvegarder(session)) {
+        session.ecran.Actualiser();
+        return IssueSoin::Refusee;
+    }
+    // The session has no base while the work yields: nobody can change what is being copied.
+    if (!FermerEtMemoriser(session)) {
+        Oublier(session);
+        session.ecran.Actualiser();
+        return IssueSoin::Refusee;
+    }
+    session.ecran.Actualiser();
+    storage::BilanReorganisation bilan;
+    const IssueSoin issue = Reecrire(session, chemin, bilan);
+    OuvrirChemin(session, chemin);
+    if (issue == IssueSoin::Faite) DireBilan(session, bilan);
+    return issue;
+}
+
+IssueSoin MnuReorganiser(Session& session) {
+    if (!CommandePermise(session) || !session.base) return IssueSoin::Abandonnee;
+    switch (session.dialogue.Demander({Msg(842), Msg(545), Boutons::OuiNonAnnuler})) {
+        case Reponse::Oui:
+            return ReorganiserBase(session, true);
+        case Reponse::Non:
+            return ReorganiserBase(session, false);
+        case Reponse::Annuler:
+            break;
+    }
+    return IssueSoin::Abandonnee;
+}
+
+}  // namespace dorvane::shell
