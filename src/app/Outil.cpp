@@ -128,6 +128,7 @@ int Executer(int nombre, const char* const* arguments) {
     DeclarerVerbesFaits(app, ligne.faire);
     DeclarerVerbesReglages(app, ligne.faire);
     DeclarerVerbesExport(app, ligne.faire);
+    DeclarerVerbesCommunes(app, ligne.faire);
     DeclarerCalcul(app, ligne);
     try {
         app.parse(nombre, arguments);

@@ -18,4 +18,7 @@ void DeclarerVerbesReglages(CLI::App& app, std::function<int()>& faire);
 /// `exporter`.
 void DeclarerVerbesExport(CLI::App& app, std::function<int()>& faire);
 
+/// `communes`: the base of communes, apart from any family.
+void DeclarerVerbesCommunes(CLI::App& app, std::function<int()>& faire);
+
 }  // namespace dorvane::outil

@@ -1,0 +1,178 @@
+#include "app/Atelier.h"
+#include "app/Verbes.h"
+#include "interchange/CsvCommunes.h"
+#include "shell/FichierSur.h"
+#include "shell/RelaisAvancement.h"
+#include "storage/BaseCommunes.h"
+#include "values/Phonetique.h"
+#include "values/Texte1252.h"
+
+#include <algorithm>
+#include <iostream>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+
+namespace dorvane::outil {
+
+namespace {
+
+struct OptionsCommunes {
+    std::string fichier;
+    std::string liste;
+    std::string nom;
+    bool remplacer = false;
+    bool son = false;
+    bool debut = false;
+    bool json = false;
+};
+
+std::string EnTexte(const std::string& chemin) {
+    return Utf8VersTexte(chemin).octets;
+}
+
+/// The communes of a list; nothing once a message has told why not.
+std::optional<std::vector<storage::Commune>> LireListe(Atelier& atelier, const std::string& nom) {
+    const std::optional<std::string> octets = shell::LireTout(nom);
+    if (!octets) {
+        atelier.dialogue.Informer(shell::Msg(4003, EnTexte(nom)));
+        return {};
+    }
+    interchange::ListeCommunes liste = interchange::LireCsvCommunes(*octets);
+    if (liste.nomInconnu || liste.communes.empty()) {
+        atelier.dialogue.Informer(shell::Msg(liste.nomInconnu ? 4004 : 4005, EnTexte(nom)));
+        return {};
+    }
+    if (liste.communes.size() > storage::BaseCommunes::MaxCommunes) {
+        atelier.dialogue.Informer(
+            shell::Msg(4006, EnTexte(nom), std::to_string(storage::BaseCommunes::MaxCommunes)));
+        return {};
+    }
+    for (const std::size_t ligne : liste.sansNom)
+        atelier.dialogue.Informer(shell::Msg(4007, std::to_string(ligne)));
+    if (liste.remplaces != 0)
+        atelier.dialogue.Informer(shell::Msg(4008, std::to_string(liste.remplaces)));
+    return std::move(liste.communes);
+}
+
+int CreerCommunes(const OptionsCommunes& o) {
+    Atelier atelier{{}};
+    std::error_code erreur;
+    if (!o.remplacer && std::filesystem::exists(o.fichier, erreur)) {
+        shell::Question question;
+        question.texte = shell::Msg(4009, EnTexte(o.fichier));
+        question.defaut = shell::Reponse::Non;
+        if (atelier.dialogue.Demander(question) != shell::Reponse::Oui) return Refus;
+    }
+    std::vector<storage::Commune> communes;
+    if (!o.liste.empty()) {
+        std::optional<std::vector<storage::Commune>> lues = LireListe(atelier, o.liste);
+        if (!lues) return Refus;
+        communes = std::move(*lues);
+    }
+    storage::DisqueReel disque;
+    storage::AvancementMuet muet;
+    std::string octets;
+    if (!storage::ComposerLgx(communes, muet, octets) ||
+        !storage::EcrireLgx(disque, o.fichier, o.fichier + ".nouveau", octets)) {
+        atelier.dialogue.Informer(shell::Msg(4001, EnTexte(o.fichier)));
+        return RefusSysteme;
+    }
+    std::cout << communes.size() << '\n';
+    return Fait;
+}
+
+/// Opens a base of communes and runs `travail` on it.
+int AvecCommunes(const OptionsCommunes& o,
+                 const std::function<int(Atelier&, storage::BaseCommunes&)>& travail) {
+    Atelier atelier{{}};
+    storage::DisqueReel disque;
+    const storage::ResultatCommunes r = storage::BaseCommunes::OuvrirCommunes(disque, o.fichier);
+    if (r.etat == storage::OuvertureCommunes::Faite) return travail(atelier, *r.base);
+    const bool absente = r.etat == storage::OuvertureCommunes::Absente;
+    atelier.dialogue.Informer(absente ? shell::Msg(742) : shell::Msg(4000, EnTexte(o.fichier)));
+    return absente ? RefusSysteme : Refus;
+}
+
+nlohmann::ordered_json EnJson(storage::NoCommune n, const storage::Commune& c) {
+    return {{"numero", n.valeur},
+            {"nom", TexteVersUtf8(c.nom)},
+            {"code", TexteVersUtf8(c.code)},
+            {"autreCode", TexteVersUtf8(c.autreCode)},
+            {"rattachement", TexteVersUtf8(c.rattachement)},
+            {"precision", TexteVersUtf8(c.precision)},
+            {"commentaire", TexteVersUtf8(c.commentaire)}};
+}
+
+int ChercherCommunes(Atelier& /*atelier*/, storage::BaseCommunes& base, const OptionsCommunes& o) {
+    const std::string nom = EnTexte(o.nom);
+    const std::vector<storage::NoCommune> trouvees =
+        o.son     ? base.ChercherSoundex(ClePhonetique(nom))
+        : o.debut ? base.ChercherDebut(nom, storage::BaseCommunes::MaxCommunes)
+                  : base.ChercherCommune(nom);
+    nlohmann::ordered_json liste = nlohmann::ordered_json::array();
+    for (const storage::NoCommune n : trouvees) {
+        const storage::Commune c = base.LireCommune(n);
+        if (o.json)
+            liste.push_back(EnJson(n, c));
+        else
+            std::cout << n.valeur << '\t' << TexteVersUtf8(c.code) << '\t'
+                      << TexteVersUtf8(storage::TexteLieu(c)) << '\n';
+    }
+    if (o.json) std::cout << liste.dump(2) << '\n';
+    return trouvees.empty() ? Refus : Fait;
+}
+
+int ReorganiserCommunes(Atelier& atelier, storage::BaseCommunes& base, const OptionsCommunes& o) {
+    shell::RelaisAvancement relais{atelier.progression, atelier.session.catalogue};
+    if (base.ReorganiserCommunes(relais)) return Fait;
+    atelier.dialogue.Informer(shell::Msg(4001, EnTexte(o.fichier)));
+    return RefusSysteme;
+}
+
+}  // namespace
+
+void DeclarerVerbesCommunes(CLI::App& app, std::function<int()>& faire) {
+    CLI::App* communes = app.add_subcommand("communes", "La base des communes (.lgx)");
+    communes->require_subcommand(1);
+    const auto declarer = [&](const char* nom, const char* aide, auto options, auto travail) {
+        auto o = std::make_shared<OptionsCommunes>();
+        CLI::App* verbe = communes->add_subcommand(nom, aide);
+        verbe->add_option("FICHIER", o->fichier, "Le fichier .lgx")->required();
+        options(*verbe, *o);
+        verbe->callback([o, travail, &faire] { faire = [o, travail] { return travail(*o); }; });
+    };
+    declarer(
+        "creer", "Fait une base de communes d'une liste CSV, ou une base vide",
+        [](CLI::App& v, OptionsCommunes& o) {
+            v.add_option("LISTE", o.liste,
+                         "Le fichier CSV : nom, code, autre code, rattachement, precision, "
+                         "commentaire");
+            v.add_flag("--remplacer", o.remplacer, "Remplace le fichier qui existe");
+        },
+        CreerCommunes);
+    declarer(
+        "chercher", "Cherche des communes par leur nom",
+        [](CLI::App& v, OptionsCommunes& o) {
+            v.add_option("NOM", o.nom)->required();
+            CLI::Option* son = v.add_flag("--son", o.son, "Celles dont le nom sonne pareil");
+            v.add_flag("--debut", o.debut, "Celles dont le nom commence ainsi")->excludes(son);
+            v.add_flag("--json", o.json);
+        },
+        [](const OptionsCommunes& o) {
+            return AvecCommunes(o, [&o](Atelier& atelier, storage::BaseCommunes& base) {
+                return ChercherCommunes(atelier, base, o);
+            });
+        });
+    declarer(
+        "reorganiser", "Récrit une base de communes sans ce qui est mort",
+        [](CLI::App& /*verbe*/, OptionsCommunes& /*options*/) {},
+        [](const OptionsCommunes& o) {
+            return AvecCommunes(o, [&o](Atelier& atelier, storage::BaseCommunes& base) {
+                return ReorganiserCommunes(atelier, base, o);
+            });
+        });
+}
+
+}  // namespace dorvane::outil
