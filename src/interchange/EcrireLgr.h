@@ -23,8 +23,10 @@ struct ComptesLgr {
     std::uint32_t unions = 0;
     std::uint32_t evenements = 0;
     std::uint32_t documents = 0;
-    /// Entries of lists past the 200 that a record holds.
+    /// Entries of lists past the 200 that a record holds, and unions without a husband.
     std::uint32_t omis = 0;
+    /// Line ends inside values of one line, which became blanks.
+    std::uint32_t retouches = 0;
 };
 
 enum class IssueLgr : std::uint8_t {
