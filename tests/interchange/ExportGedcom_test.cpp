@@ -1,6 +1,7 @@
 #include "interchange/ExportGedcom.h"
 
 #include "doublures/FamilleEssai.h"
+#include "doublures/VerificateurGedcom.h"
 #include "interchange/DatesGedcom.h"
 #include "interchange/EcrivainGedcom.h"
 #include "interchange/EssaiImport.h"
@@ -42,6 +43,7 @@ struct Bureau : doublures::SessionEssai {
         std::string octets;
         ComptesExport comptes;
         REQUIRE(ComposerGedcom(session, "x.ged", options, octets, comptes));
+        CHECK(doublures::VerificateurGedcom(octets, true).Texte().empty());
         std::erase(octets, '\r');
         return octets.substr(octets.find("1 CHAR"));
     }
@@ -207,6 +209,7 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: the header in full has file, language
     std::string octets;
     ComptesExport comptes;
     REQUIRE(ComposerGedcom(session, "x.ged", {}, octets, comptes));
+    CHECK(doublures::VerificateurGedcom{octets}.Texte().empty());
     std::erase(octets, '\r');
     const std::size_t date = octets.find("1 DATE ");
     CHECK(octets.substr(0, date) == "0 HEAD\n1 SOUR DORVANE\n2 VERS 99.0\n1 DEST PAF\n");
