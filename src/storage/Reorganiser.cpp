@@ -444,11 +444,10 @@ BilanReorganisation ReorganiserVers(Disque& disque, Base& source, const std::fil
     if (!fichier) return bilan;
     avancement.Commencer({TitreReorganisation, {}}, {{}, "Contrôle Documents"_1252});
     {
-        // Nothing of the new file is overwritten: the journal named here is never made.
-        std::filesystem::path journal = vers;
-        journal += ".LOG";
-        auto volume =
-            std::make_unique<Volume>(disque, std::move(fichier), journal, FinZoneFixe, true);
+        // Nothing of the new file is overwritten: there is no journal.
+        auto volume = std::make_unique<Volume>(disque, std::move(fichier), std::filesystem::path{},
+                                               FinZoneFixe, true);
+        volume->ProtegerZones({});
         Base cible{disque, vers, nullptr, std::move(volume)};
         cible.InitColonnes();
         bilan.issue = Copie{source, cible, avancement}.Faire(bilan);
