@@ -1,10 +1,10 @@
 #include "interchange/ImportGedcom.h"
 
+#include "interchange/FaireBase.h"
 #include "interchange/PassesImport.h"
 #include "shell/CycleDeVie.h"
 #include "shell/FichierSur.h"
 #include "shell/Parametres.h"
-#include "storage/Disque.h"
 
 #include <algorithm>
 #include <optional>
@@ -37,24 +37,6 @@ std::string_view Preparer(std::string& octets, RapportImport& rapport) {
     return std::string_view{octets}.substr(marque);
 }
 
-/// Where the base is written until it is whole.
-std::filesystem::path CheminProvisoire(const std::filesystem::path& base) {
-    std::filesystem::path chemin = base;
-    chemin += "~imp";
-    return chemin;
-}
-
-/// Gives the new base its name. The journal of a base that stood there before goes first: it
-/// belongs to no one.
-bool Installer(storage::Disque& disque, const std::filesystem::path& provisoire,
-               const std::filesystem::path& base) {
-    if (!storage::SupprimerJournal(disque, base) || !disque.Renommer(provisoire, base))
-        return false;
-    // The new name is in place, whatever the system says of the folder.
-    disque.ViderDossier(base);
-    return true;
-}
-
 /// The submitter of the file becomes the author in the settings of the base.
 void EnregistrerAuteur(shell::Session& session, const EnTeteLu& entete,
                        const std::filesystem::path& base) {
@@ -84,29 +66,16 @@ IssueImport ImporterTexte(shell::Session& session, std::string octets,
     const std::optional<FinDeLigne> fin = ChercherFinDeLigne(texte);
     if (!fin) return IssueImport::Inexploitable;
 
-    shell::ReprendreAvantRemplacement(session, base);
-    // Held until the end: nobody opens or replaces the base meanwhile.
-    const storage::ResultatVerrou verrou = session.disque.Verrouiller(base);
-    if (verrou.etat == storage::EtatVerrou::Occupe) return IssueImport::Occupee;
-
-    const shell::CadreProgression cadre{session.progression, shell::Msg(774), shell::Msg(775)};
-    const std::filesystem::path provisoire = CheminProvisoire(base);
-    storage::ResultatOuverture ouverture = storage::NouvelleBase(
-        session.disque, provisoire,
-        {'1', session.parametres.generaux.motClePrenom, session.parametres.generaux.motCleNom});
-    if (ouverture.etat != storage::Ouverture::Faite) return IssueImport::Refuse;
-    ouverture.base->regles.particules = session.parametres.generaux.particules;
-    PassesImport import{session, *ouverture.base, texte, *fin, rapport};
-    const bool fini = import.Executer();
-    const bool ecrite = fini && ouverture.base->Fermer();
-    if (!ecrite) ouverture.base.reset();
-    if (!ecrite || !Installer(session.disque, provisoire, base)) {
-        (void)session.disque.Supprimer(provisoire);
-        (void)storage::SupprimerJournal(session.disque, provisoire);
-        return fini ? IssueImport::Refuse : IssueImport::Abandonne;
-    }
-    EnregistrerAuteur(session, import.EnTete(), base);
-    return IssueImport::Fait;
+    EnTeteLu entete;
+    const IssueImport issue =
+        FaireBase(session, base, {shell::Msg(774), shell::Msg(775)}, [&](storage::Base& nouvelle) {
+            PassesImport import{session, nouvelle, texte, *fin, rapport};
+            const bool fini = import.Executer();
+            entete = import.EnTete();
+            return fini;
+        });
+    if (issue == IssueImport::Fait) EnregistrerAuteur(session, entete, base);
+    return issue;
 }
 
 }  // namespace dorvane::interchange

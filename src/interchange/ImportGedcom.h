@@ -1,22 +1,13 @@
 #pragma once
 
+#include "interchange/FaireBase.h"
 #include "interchange/RapportImport.h"
 #include "shell/Session.h"
 
-#include <cstdint>
 #include <filesystem>
 #include <string>
 
 namespace dorvane::interchange {
-
-enum class IssueImport : std::uint8_t {
-    Fait,
-    Illisible,      ///< the file cannot be opened or read
-    Inexploitable,  ///< no line end among its first 1000 characters
-    Abandonne,      ///< the user has given up: no base was made
-    Occupee,        ///< the base to be replaced is open in another program
-    Refuse          ///< the disk refused: no base was made, one that was there is as before
-};
 
 /// Reads a GEDCOM file and makes a new base of it at `base`, which replaces a base of that name.
 /// Nothing stands under that name before the whole is written. The session's own base is closed or

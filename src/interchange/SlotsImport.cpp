@@ -8,9 +8,6 @@
 namespace dorvane::interchange {
 namespace {
 
-/// Every marker, by rank; the first five belong to names and places.
-constexpr std::string_view Marqueurs = "|¶$@~\\°^%¤²µ£§¬±¹»×÷‡ˆ‹•›"_1252;
-
 /// A whole day of the calendar, so that day, month and year can be joined by "/". A year of one or
 /// two digits would be read as one of our own time.
 bool EstJourEntier(const DateLue& date) {
@@ -19,6 +16,10 @@ bool EstJourEntier(const DateLue& date) {
 }
 
 }  // namespace
+
+std::string_view ListeMarqueurs() {
+    return "|¶$@~\\°^%¤²µ£§¬±¹»×÷‡ˆ‹•›"_1252;
+}
 
 MarqueursImport::MarqueursImport(storage::Base& base) : base_{base} {
     for (std::uint32_t k = 1; k <= base_.motsCles.Nombre(); ++k) {
@@ -31,7 +32,7 @@ char MarqueursImport::Marqueur(std::string_view etiquette) {
     const auto connue = std::ranges::find(entrees_, etiquette, &Entree::etiquette);
     if (connue != entrees_.end()) return connue->marqueur;
     if (base_.motsCles.Nombre() >= storage::MaxMotsCles) return '\0';
-    for (const char marqueur : Marqueurs) {
+    for (const char marqueur : ListeMarqueurs()) {
         if (std::ranges::find(entrees_, marqueur, &Entree::marqueur) != entrees_.end()) continue;
         entrees_.push_back({std::string{etiquette}, marqueur});
         const storage::MotCle partage = base_.motsCles.LibelleType(NoMotCle{1});
