@@ -1,8 +1,13 @@
 #include "app/CommandeBase.h"
 #include "app/Verbes.h"
+#include "interchange/EcrireLgr.h"
 #include "interchange/ExportGedcom.h"
+#include "interchange/SelectionExport.h"
+#include "storage/Base.h"
+#include "values/Comparaison.h"
 #include "values/Texte1252.h"
 
+#include <filesystem>
 #include <iostream>
 #include <map>
 
@@ -14,22 +19,91 @@ struct OptionsExporter : OptionsBase {
     std::string sortie;
     std::optional<interchange::JeuExport> jeu;  ///< nothing: the one of the settings
     bool reduit = false;
+    std::uint32_t ascendants = 0;   ///< whose; 0: nobody's
+    std::uint32_t descendants = 0;  ///< the same
+    std::uint32_t generations = interchange::GenerationsParDefaut;
+    interchange::ReglagesSelection reglages;
 };
 
+bool EstLgr(const std::filesystem::path& sortie) {
+    return EnMajuscules(sortie.extension().string()) == ".LGR";
+}
+
+/// Who is written, and whether all events and documents are. False when there is no such person.
+bool Selectionner(Atelier& atelier, const OptionsExporter& o, std::vector<bool>& choisis,
+                  bool& complet) {
+    using interchange::SensExport;
+    interchange::ReglagesSelection reglages = o.reglages;
+    interchange::SelectionExport selection{*atelier.session.base};
+    const std::uint32_t depart = o.ascendants != 0 ? o.ascendants : o.descendants;
+    if (depart != 0) {
+        if (!PersonneExiste(atelier, depart)) return false;
+        selection.MarquerParente(
+            NoOrdre{depart}, o.ascendants != 0 ? SensExport::Ascendants : SensExport::Descendants,
+            o.generations);
+    } else {
+        selection.MarquerTous();
+        reglages.complet = true;
+    }
+    choisis = selection.Choisis(reglages);
+    complet = interchange::ExportComplet(reglages);
+    return true;
+}
+
+int Rapporter(Atelier& atelier, const OptionsExporter& o, bool fait, std::uint32_t individus,
+              std::uint32_t familles, std::uint32_t evenements, std::uint32_t documents) {
+    if (!fait) {
+        atelier.dialogue.Informer(shell::Msg(3701, Utf8VersTexte(o.sortie).octets));
+        return RefusSysteme;
+    }
+    std::cout << individus << ' ' << familles << ' ' << evenements << ' ' << documents << '\n';
+    return Fait;
+}
+
 int Exporter(Atelier& atelier, const OptionsExporter& o) {
+    std::vector<bool> choisis;
+    bool complet = true;
+    if (!Selectionner(atelier, o, choisis, complet)) return Refus;
+    if (EstLgr(o.sortie)) {
+        const interchange::ResultatLgr r =
+            interchange::ExporterLgr(atelier.session, o.sortie, {std::move(choisis), complet});
+        const interchange::ComptesLgr& c = r.comptes;
+        return Rapporter(atelier, o, r.issue == interchange::IssueLgr::Fait, c.individus, c.unions,
+                         c.evenements, c.documents);
+    }
     interchange::OptionsExport options;
     options.jeu =
         o.jeu.value_or(interchange::JeuDuReglage(atelier.session.parametres.generaux.jeuExport));
     options.reduit = o.reduit;
-    const interchange::ResultatExport resultat =
+    options.choisis = std::move(choisis);
+    options.complet = complet;
+    const interchange::ResultatExport r =
         interchange::ExporterGedcom(atelier.session, o.sortie, options);
-    if (resultat.issue != interchange::IssueExport::Fait) {
-        atelier.dialogue.Informer(shell::Msg(3701, Utf8VersTexte(o.sortie).octets));
-        return RefusSysteme;
-    }
-    std::cout << resultat.comptes.individus << ' ' << resultat.comptes.familles << ' '
-              << resultat.comptes.evenements << ' ' << resultat.comptes.documents << '\n';
-    return Fait;
+    const interchange::ComptesExport& c = r.comptes;
+    return Rapporter(atelier, o, r.issue == interchange::IssueExport::Fait, c.individus, c.familles,
+                     c.evenements, c.documents);
+}
+
+/// Who is written.
+void DeclarerSelection(CLI::App& v, OptionsExporter& o) {
+    CLI::Option* haut = v.add_option("--ascendants", o.ascendants,
+                                     "Seulement cette personne, ses ascendants et leurs conjoints");
+    CLI::Option* bas = v.add_option("--descendants", o.descendants,
+                                    "Seulement cette personne, ses descendants et leurs conjoints");
+    haut->check(CLI::Range(1U, 64000U))->excludes(bas);
+    bas->check(CLI::Range(1U, 64000U));
+    // What says nothing of a whole base is a mistake there.
+    const auto avecDepart = [haut, bas](const std::string& /*valeur*/) {
+        return haut->count() + bas->count() > 0 ? std::string{}
+                                                : "--ascendants ou --descendants manque";
+    };
+    v.add_option("--generations", o.generations, "Jusqu'à cette génération ; 1 : la personne seule")
+        ->check(CLI::Range(1U, 64000U))
+        ->check(avecDepart);
+    v.add_flag("--collateraux", o.reglages.collateraux, "Avec les collatéraux")->check(avecDepart);
+    v.add_flag("--complet", o.reglages.complet, "Avec les événements et documents de toute la base")
+        ->check(avecDepart);
+    v.add_flag("--ecarter-1900", o.reglages.ecarter1900, "Sans les naissances après 1900");
 }
 
 }  // namespace
@@ -37,11 +111,11 @@ int Exporter(Atelier& atelier, const OptionsExporter& o) {
 void DeclarerVerbesExport(CLI::App& app, std::function<int()>& faire) {
     Declarer<OptionsExporter>(
         app, faire, "exporter",
-        "Écrit la base en GEDCOM ; dit combien de personnes, de familles, "
-        "d'événements et de documents",
+        "Écrit la base ou une partie en GEDCOM ou en texte d'échange (.lgr) ; dit combien de "
+        "personnes, de familles, d'événements et de documents",
         [](CLI::App& v, OptionsExporter& o) {
             using interchange::JeuExport;
-            v.add_option("SORTIE", o.sortie, "Le fichier .ged")->required();
+            v.add_option("SORTIE", o.sortie, "Le fichier .ged ou .lgr")->required();
             v.add_option("--jeu", o.jeu, "ascii, ansi, ansel, html ou utf8")
                 ->transform(CLI::CheckedTransformer(
                     std::map<std::string, JeuExport>{{"ascii", JeuExport::Ascii},
@@ -50,6 +124,7 @@ void DeclarerVerbesExport(CLI::App& app, std::function<int()>& faire) {
                                                      {"html", JeuExport::Html},
                                                      {"utf8", JeuExport::Utf8}}));
             v.add_flag("--reduit", o.reduit, "En-tête réduit");
+            DeclarerSelection(v, o);
         },
         Exporter);
 }
