@@ -1,6 +1,7 @@
 #include "interchange/PassesImport.h"
 
 #include "interchange/NomGedcom.h"
+#include "interchange/PhaseDImport.h"
 #include "shell/Parametres.h"
 #include "storage/ConstruireIndex.h"
 #include "storage/Textes.h"
@@ -11,28 +12,6 @@ namespace dorvane::interchange {
 namespace {
 
 constexpr std::uint32_t PasDeProgression = 100;  ///< records between two steps of the frame
-
-/// Shows a job of the storage floor as one more phase of the frame that is already there.
-class PhaseDImport final : public storage::Avancement {
-public:
-    /// `progression` outlives the object.
-    explicit PhaseDImport(shell::Progression& progression) : progression_{progression} {}
-
-    void Commencer(const storage::TexteAvancement& titre,
-                   const storage::TexteAvancement& /*texte*/) override {
-        Phase(titre);
-    }
-    void Phase(const storage::TexteAvancement& texte) override {
-        progression_.Phase({texte.message, std::string{texte.litteral}, {}, {}});
-    }
-    [[nodiscard]] bool Avancer(std::uint32_t fait, std::uint32_t total) override {
-        return progression_.Avancer(fait, total);
-    }
-    void Terminer() override {}
-
-private:
-    shell::Progression& progression_;
-};
 
 }  // namespace
 

@@ -107,11 +107,15 @@ std::string ComposerRapport(const RapportImport& rapport, const shell::Session& 
     redaction.Ligne(2202, std::to_string(rapport.evenements), std::to_string(rapport.documents));
     redaction.Ligne(2203, std::to_string(rapport.lignes));
     redaction.Compter(2204, rapport.lignesVides);
-    if (!rapport.finTrouvee) redaction.Ligne(2205);
+    const bool echange = !rapport.version.empty();
+    if (!rapport.finTrouvee) redaction.Ligne(echange ? 3817 : 2205);
 
     redaction.Sauter();
-    redaction.Ligne(RaisonEnClair(rapport.jeu), std::string{NomDeJeu(rapport.jeu.jeu)},
-                    rapport.jeu.declare);
+    if (echange)
+        redaction.Ligne(3816, rapport.version);
+    else
+        redaction.Ligne(RaisonEnClair(rapport.jeu), std::string{NomDeJeu(rapport.jeu.jeu)},
+                        rapport.jeu.declare);
     redaction.Compter(2207, rapport.translitteres);
     redaction.Compter(2208, rapport.perdus);
     redaction.Compter(2209, rapport.octetsNuls);

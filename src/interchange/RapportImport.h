@@ -44,6 +44,7 @@ public:
     [[nodiscard]] std::size_t Nombre(Constat constat, std::string_view chemin) const;
 
     ChoixDeJeu jeu;
+    std::string version;            ///< first line of an exchange text; empty for GEDCOM
     std::size_t translitteres = 0;  ///< characters replaced by their nearest equivalent
     std::size_t perdus = 0;         ///< characters that became "?"
     std::size_t octetsNuls = 0;     ///< bytes 0 that became blanks
