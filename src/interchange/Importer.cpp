@@ -1,6 +1,7 @@
 #include "interchange/Importer.h"
 
 #include "interchange/ImportGedcom.h"
+#include "interchange/ImportLgr.h"
 #include "shell/CycleDeVie.h"
 #include "shell/FichierSur.h"
 #include "storage/EnTete.h"
@@ -25,6 +26,10 @@ std::string Extension(const std::filesystem::path& chemin) {
     return extension;
 }
 
+bool EstGedcom(const std::filesystem::path& fichier) {
+    return Extension(fichier) == ".ged";
+}
+
 /// Tells what stopped an import; nothing when it was done.
 void Expliquer(shell::Session& session, IssueImport issue, const std::filesystem::path& fichier,
                const std::filesystem::path& base) {
@@ -35,7 +40,9 @@ void Expliquer(shell::Session& session, IssueImport issue, const std::filesystem
             session.dialogue.Informer(shell::Msg(2240, NomAffichable(fichier)));
             return;
         case IssueImport::Inexploitable:
-            session.dialogue.Informer(shell::Litteral("Fichier GEDCOM inexploitable"_1252));
+            session.dialogue.Informer(EstGedcom(fichier)
+                                          ? shell::Litteral("Fichier GEDCOM inexploitable"_1252)
+                                          : shell::Msg(3804, NomAffichable(fichier.filename())));
             return;
         case IssueImport::Abandonne:
             session.dialogue.Informer(shell::Msg(2241));
@@ -51,10 +58,14 @@ void Expliquer(shell::Session& session, IssueImport issue, const std::filesystem
 
 /// Limits that left records out are told at once, not only in the report.
 void AvertirLimites(shell::Session& session, const RapportImport& rapport) {
-    if (rapport.Nombre(Constat::Limite, "INDI") > 0) session.dialogue.Informer(shell::Msg(625));
-    if (rapport.Nombre(Constat::Limite, "SOUR") > 0 && rapport.evenements >= storage::MaxEvenements)
+    const auto depasse = [&rapport](std::string_view gedcom, std::string_view echange) {
+        return rapport.Nombre(Constat::Limite, rapport.version.empty() ? gedcom : echange) > 0;
+    };
+    const bool echange = !rapport.version.empty();
+    if (depasse("INDI", "INDIVIDUS")) session.dialogue.Informer(shell::Msg(625));
+    if (depasse("SOUR", "EVENEMENTS") && (echange || rapport.evenements >= storage::MaxEvenements))
         session.dialogue.Informer(shell::Msg(709));
-    if (rapport.Nombre(Constat::Limite, "NOTE") > 0 && rapport.documents >= storage::MaxDocuments)
+    if (depasse("NOTE", "IMAGES") && (echange || rapport.documents >= storage::MaxDocuments))
         session.dialogue.Informer(shell::Msg(707));
 }
 
@@ -74,7 +85,9 @@ bool PeutRemplacer(shell::Session& session, const std::filesystem::path& base) {
 Importation ImporterVers(shell::Session& session, const std::filesystem::path& fichier,
                          const std::filesystem::path& base) {
     Importation importation;
-    const IssueImport issue = ImporterGedcom(session, fichier, base, importation.rapport);
+    const IssueImport issue = EstGedcom(fichier)
+                                  ? ImporterGedcom(session, fichier, base, importation.rapport)
+                                  : ImporterLgr(session, fichier, base, importation.rapport);
     Expliquer(session, issue, fichier, base);
     importation.faite = issue == IssueImport::Fait;
     if (!importation.faite) return importation;
@@ -93,7 +106,8 @@ Importation ImporterVers(shell::Session& session, const std::filesystem::path& f
 
 void ImporterFichier(shell::Session& session, const std::filesystem::path& fichier,
                      const MontrerRapport& montrer) {
-    if (!shell::CommandePermise(session) || Extension(fichier) != ".ged") return;
+    // A base is opened, never read as a text: the new one would take its place.
+    if (!shell::CommandePermise(session) || Extension(fichier) == ".lgd") return;
     std::filesystem::path base = fichier;
     base.replace_extension(".LGD");
     if (!PeutRemplacer(session, base)) return;

@@ -16,8 +16,8 @@ using MontrerRapport = std::function<void(const std::string& titre, const std::s
 void MnuImporter(shell::Session& session, const MontrerRapport& montrer);
 
 /// Imports a file into a new base of its name beside it, asks before it replaces one, opens the
-/// base, writes the report to the working folder and shows it. Other extensions than ".ged" are
-/// left alone.
+/// base, writes the report to the working folder and shows it. ".ged" is read as GEDCOM, any other
+/// extension as an exchange text; a base is not taken for one.
 void ImporterFichier(shell::Session& session, const std::filesystem::path& fichier,
                      const MontrerRapport& montrer);
 

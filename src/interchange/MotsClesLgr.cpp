@@ -89,6 +89,7 @@ void MotsClesLgr::Reprendre(const MotCleLgr& motCle, const shell::TableLibelles&
             return;
         }
         base_.motsCles.CreerType(k, {marqueur, tag, false, {}});
+        nouveaux_.push_back(k);
     }
     types_.push_back(k);
     const storage::MotCle type = base_.motsCles.LibelleType(k);

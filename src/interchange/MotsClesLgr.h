@@ -5,6 +5,7 @@
 #include "shell/Libelles.h"
 #include "storage/Base.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
@@ -34,6 +35,11 @@ public:
     /// Keywords of the file in its order.
     [[nodiscard]] const std::vector<NoMotCle>& Types() const { return types_; }
 
+    /// The base had no such keyword.
+    [[nodiscard]] bool EstNouveau(NoMotCle k) const {
+        return std::ranges::find(nouveaux_, k) != nouveaux_.end();
+    }
+
 private:
     void Reprendre(const MotCleLgr& motCle, const shell::TableLibelles& libelles,
                    RapportImport& rapport);
@@ -50,6 +56,7 @@ private:
     bool change_ = false;                                        ///< `table_` changes something
     std::vector<std::pair<std::string, std::string>> libelles_;  ///< of the file, of the base
     std::vector<NoMotCle> types_;
+    std::vector<NoMotCle> nouveaux_;
 };
 
 /// Brings the keyword line of a person from the name settings of the file to those of the base.
