@@ -56,7 +56,7 @@ std::string LieuDeFiche(std::string_view lieu) {
 }
 
 bool Pareils(const DateEtLieu& a, const DateEtLieu& b) {
-    return a.date == b.date && LieuDeFiche(a.lieu) == LieuDeFiche(b.lieu);
+    return a.date == b.date && MemeLieu(a.lieu, b.lieu);
 }
 
 /// The dated row of the sheet for a keyword; nothing when the sheet has none.
@@ -69,25 +69,6 @@ std::optional<std::size_t> RangeeDe(storage::Base& base, std::string_view tag) {
 
 std::optional<std::size_t> RangeeDe(storage::Base& base, MiroirFiche miroir) {
     return RangeeDe(base, miroir == MiroirFiche::Bapteme ? "CHR" : "BURI");
-}
-
-std::optional<DateEtLieu> LireFiche(shell::Session& session, NoOrdre individu, MiroirFiche miroir) {
-    const SaisieFiche fiche = ChargerFiche(session, individu);
-    if (miroir == MiroirFiche::Naissance)
-        return DateEtLieu{Joindre(fiche.jourMoisNaissance, fiche.anneeNaissance),
-                          fiche.lieuNaissance};
-    if (miroir == MiroirFiche::Deces)
-        return DateEtLieu{Joindre(fiche.jourMoisDeces, fiche.anneeDeces), fiche.lieuDeces};
-    const std::optional<std::size_t> rangee = RangeeDe(*session.base, miroir);
-    if (!rangee) return std::nullopt;
-    const storage::ValeurSlot& valeur = fiche.slots[*rangee];
-    return DateEtLieu{Joindre(MontrerJourMois(session, valeur.jourMois), valeur.annee),
-                      valeur.lieu};
-}
-
-DateEtLieu LireUnion(shell::Session& session, NoMariage mariage) {
-    const SaisieUnion fiche = ChargerUnion(session, mariage);
-    return {Joindre(fiche.jourMois, fiche.debut), fiche.lieu};
 }
 
 /// One of the two day-month fields of a name line; the names stay, byte for byte.
@@ -140,9 +121,45 @@ NoOrdre TenantDuRole(const std::vector<LienEvenement>& liens, std::string_view r
     return lien == liens.end() ? NoOrdre{} : lien->individu;
 }
 
-/// The union that an event tells: the one of husband and wife, by its year when they have several;
-/// of one person alone, the only one.
-NoMariage UnionRacontee(storage::Base& base, const std::vector<LienEvenement>& liens,
+std::optional<DateEtLieu> LireMiroir(shell::Session& session, NoOrdre individu,
+                                     MiroirFiche miroir) {
+    if (miroir == MiroirFiche::Aucun) return std::nullopt;
+    if (miroir != MiroirFiche::Mariage) return LireFiche(session, individu, miroir);
+    if (session.base->R_MARIAG.NbElements(individu) != 1) return std::nullopt;
+    return LireUnion(session, session.base->R_MARIAG.ElementListe(individu, 1));
+}
+
+}  // namespace
+
+bool MemeLieu(std::string_view a, std::string_view b) {
+    return LieuDeFiche(a) == LieuDeFiche(b);
+}
+
+std::optional<DateEtLieu> LireFiche(shell::Session& session, NoOrdre individu, MiroirFiche miroir) {
+    const SaisieFiche fiche = ChargerFiche(session, individu);
+    if (miroir == MiroirFiche::Naissance)
+        return DateEtLieu{Joindre(fiche.jourMoisNaissance, fiche.anneeNaissance),
+                          fiche.lieuNaissance};
+    if (miroir == MiroirFiche::Deces)
+        return DateEtLieu{Joindre(fiche.jourMoisDeces, fiche.anneeDeces), fiche.lieuDeces};
+    const std::optional<std::size_t> rangee = RangeeDe(*session.base, miroir);
+    if (!rangee) return std::nullopt;
+    const storage::ValeurSlot& valeur = fiche.slots[*rangee];
+    return DateEtLieu{Joindre(MontrerJourMois(session, valeur.jourMois), valeur.annee),
+                      valeur.lieu};
+}
+
+DateEtLieu LireUnion(shell::Session& session, NoMariage mariage) {
+    const SaisieUnion fiche = ChargerUnion(session, mariage);
+    return {Joindre(fiche.jourMois, fiche.debut), fiche.lieu};
+}
+
+DateEtLieu LireEvenement(shell::Session& session, NoEvenement e) {
+    const LigneEvenement ligne = LigneDe(session, e);
+    return {ligne.date, ligne.lieu};
+}
+
+NoMariage UnionRacontee(storage::Base& base, const std::vector<storage::LienEvenement>& liens,
                         NoOrdre individu, std::string_view annee) {
     const NoOrdre epoux = TenantDuRole(liens, "HUSB");
     const NoOrdre epouse = TenantDuRole(liens, "WIFE");
@@ -156,21 +173,6 @@ NoMariage UnionRacontee(storage::Base& base, const std::vector<LienEvenement>& l
     return base.R_MARIAG.NbElements(individu) == 1 ? base.R_MARIAG.ElementListe(individu, 1)
                                                    : NoMariage{};
 }
-
-DateEtLieu LireEvenement(shell::Session& session, NoEvenement e) {
-    const LigneEvenement ligne = LigneDe(session, e);
-    return {ligne.date, ligne.lieu};
-}
-
-std::optional<DateEtLieu> LireMiroir(shell::Session& session, NoOrdre individu,
-                                     MiroirFiche miroir) {
-    if (miroir == MiroirFiche::Aucun) return std::nullopt;
-    if (miroir != MiroirFiche::Mariage) return LireFiche(session, individu, miroir);
-    if (session.base->R_MARIAG.NbElements(individu) != 1) return std::nullopt;
-    return LireUnion(session, session.base->R_MARIAG.ElementListe(individu, 1));
-}
-
-}  // namespace
 
 MiroirFiche MiroirDe(std::string_view type, std::string_view role) {
     if (role == "CHIL") {

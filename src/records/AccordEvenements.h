@@ -2,13 +2,20 @@
 
 #include "records/SaisieEvenement.h"
 #include "records/SaisieFiche.h"
+#include "storage/Evenements.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace dorvane::shell {
 class Session;
+}
+
+namespace dorvane::storage {
+class Base;
 }
 
 namespace dorvane::records {
@@ -26,6 +33,24 @@ struct DateEtLieu {
     std::string lieu{};
     friend bool operator==(const DateEtLieu&, const DateEtLieu&) = default;
 };
+
+/// The two places are one: a sheet loses dots and marks of places on the way to its record.
+[[nodiscard]] bool MemeLieu(std::string_view a, std::string_view b);
+
+/// What the sheet of a person says of birth, christening, death or burial; nothing when the sheet
+/// has no row for it.
+[[nodiscard]] std::optional<DateEtLieu> LireFiche(shell::Session& session, NoOrdre individu,
+                                                  MiroirFiche miroir);
+/// What the sheet says of a union.
+[[nodiscard]] DateEtLieu LireUnion(shell::Session& session, NoMariage mariage);
+/// Date and place of an event.
+[[nodiscard]] DateEtLieu LireEvenement(shell::Session& session, NoEvenement e);
+
+/// The union that an event tells: the one of husband and wife, by its year when they have several;
+/// of one person alone, the only one. 0 when there is none.
+[[nodiscard]] NoMariage UnionRacontee(storage::Base& base,
+                                      const std::vector<storage::LienEvenement>& liens,
+                                      NoOrdre individu, std::string_view annee);
 
 /// The date of an event as a sheet holds it: day and month, and year.
 struct DateCoupee {

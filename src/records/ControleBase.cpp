@@ -1,0 +1,259 @@
+#include "records/ControleBase.h"
+
+#include "records/ControleEvenements.h"
+#include "records/FamilleEnMemoire.h"
+#include "records/NomsAffiches.h"
+#include "storage/Base.h"
+#include "values/Comparaison.h"
+#include "values/Texte1252.h"
+
+#include <algorithm>
+#include <bitset>
+#include <string_view>
+
+namespace dorvane::records {
+namespace {
+
+using shell::Msg;
+
+constexpr std::uint32_t MessageMin = 475;
+constexpr std::size_t NbMessages = 64;
+constexpr std::int32_t LongueVie = 100;
+constexpr std::int32_t AgeMinimal = 10;
+constexpr std::int32_t AgeMaximalPere = 75;
+constexpr std::int32_t AgeMaximalMere = 50;
+constexpr std::int32_t MargeDeces = 10;
+
+/// The findings on one side of the parents.
+struct MessagesParent {
+    char sexe;
+    std::uint32_t mauvaisSexe;
+    std::uint32_t pasEnfant;
+    std::uint32_t pasAvant;
+    std::uint32_t tropJeune;
+    std::uint32_t tropVieux;
+    std::int32_t ageMaximal;
+    std::uint32_t bienApresDeces;
+    std::uint32_t apresDeces;  ///< 0: none
+    std::uint32_t decennie;
+};
+constexpr MessagesParent Pere{'H', 511, 512, 513, 478, 476, AgeMaximalPere, 498, 499, 514};
+constexpr MessagesParent Mere{'F', 515, 516, 517, 477, 475, AgeMaximalMere, 497, 0, 518};
+
+/// A year whose last digit is not known can only be compared by its first three.
+bool SansUnite(const AnneeLue& annee) {
+    return annee.decade && !EstChiffre(annee.tri[3]);
+}
+
+bool Avant(const AnneeLue& a, const AnneeLue& b) {
+    return a.exacte && b.exacte && *a.exacte < *b.exacte;
+}
+
+class Controle {
+public:
+    Controle(shell::Session& session, const std::function<void(const Constat&)>& recevoir)
+        : session_{session}, base_{*session.base}, recevoir_{recevoir}, famille_{*session.base} {}
+
+    void Controler(NoOrdre n, std::uint32_t rang) {
+        n_ = n;
+        rang_ = rang;
+        dits_.reset();
+        ControlerRang();
+        ControlerPersonne();
+        ControlerVie();
+        ControlerParent(famille_.Pere(n), Pere);
+        ControlerParent(famille_.Mere(n), Mere);
+        ControlerUnionDesParents();
+        ControlerEnfants();
+        for (const std::uint16_t m : famille_.unions.De(n))
+            ControlerMariage(NoMariage{m});
+        ControlerEvenements(session_, n, [this](std::uint32_t message) { Dire(message); });
+        precedente_ = n;
+    }
+    [[nodiscard]] std::uint32_t Nombre() const { return nombre_; }
+
+private:
+    void Dire(std::uint32_t message) {
+        if (dits_.test(message - MessageMin)) return;
+        dits_.set(message - MessageMin);
+        ++nombre_;
+        recevoir_({n_, rang_, message, session_.Message(message),
+                   std::string{SansBlancs(NomEtDates(session_, n_))}});
+    }
+
+    /// By the form in which the table sorts; an empty year sorts too.
+    void ControlerRang() {
+        bool bas = false;
+        if (base_.entete.TypeTri == '1') {
+            std::string cle = Replie(base_.R_NAISS.AnneeTri(n_));
+            bas = precedente_ && cle < cle_;
+            cle_ = std::move(cle);
+        } else if (base_.entete.TypeTri == '2') {
+            std::string cle = base_.R_TRI.CleDe(n_);
+            bas = precedente_ && cle < cle_;
+            cle_ = std::move(cle);
+        }
+        if (bas) Dire(506);
+    }
+
+    void ControlerPersonne() {
+        const char sexe = famille_.Sexe(n_);
+        if (sexe != 'H' && sexe != 'F') Dire(507);
+        if (!famille_.Naissance(n_).pleine) Dire(508);
+        const storage::LigneNom nom = base_.R_NOM.LireNom(n_);
+        const bool sansPrenom = SansBlancs(nom.prenom).empty();
+        if (SansBlancs(nom.nom).empty()) Dire(484);
+        if (sansPrenom) Dire(483);
+        if (!famille_.Pere(n_) && !famille_.Mere(n_) && famille_.unions.De(n_).empty() &&
+            famille_.enfants.De(n_).empty() && base_.R_LIEN.NbElements(n_) == 0 &&
+            base_.R_LSTEVT.NbElements(n_) == 0 && base_.R_LSTIMG.NbElements(n_) == 0)
+            Dire(509);
+    }
+
+    void ControlerVie() {
+        const AnneeLue& naissance = famille_.Naissance(n_);
+        const AnneeLue& deces = famille_.Deces(n_);
+        if (!naissance.chiffree || !deces.chiffree) return;
+        if (naissance.exacte && deces.exacte) {
+            if (*deces.exacte < *naissance.exacte) Dire(510);
+            if (*deces.exacte > *naissance.exacte + LongueVie) Dire(496);
+        } else if (TexteDe(deces.tri) < TexteDe(naissance.tri)) {
+            Dire(510);
+        }
+    }
+
+    void ControlerParent(NoOrdre parent, const MessagesParent& m) {
+        if (!parent) return;
+        if (famille_.Sexe(parent) != m.sexe) Dire(m.mauvaisSexe);
+        if (!famille_.enfants.Contient(parent, n_.valeur)) Dire(m.pasEnfant);
+        const AnneeLue& naissance = famille_.Naissance(n_);
+        if (!naissance.pleine) return;
+        ControlerAge(naissance, famille_.Naissance(parent), m);
+        ControlerApresDeces(naissance, famille_.Deces(parent), m);
+    }
+    void ControlerAge(const AnneeLue& naissance, const AnneeLue& celleDuParent,
+                      const MessagesParent& m) {
+        if (naissance.exacte && celleDuParent.exacte) {
+            const std::int32_t age = *naissance.exacte - *celleDuParent.exacte;
+            if (age <= 0)
+                Dire(m.pasAvant);
+            else if (age < AgeMinimal)
+                Dire(m.tropJeune);
+            else if (age > m.ageMaximal)
+                Dire(m.tropVieux);
+        } else if (naissance.decade && celleDuParent.decade &&
+                   *naissance.decade < *celleDuParent.decade) {
+            Dire(m.decennie);
+        }
+    }
+    void ControlerApresDeces(const AnneeLue& naissance, const AnneeLue& deces,
+                             const MessagesParent& m) {
+        if (naissance.exacte && deces.exacte) {
+            if (*naissance.exacte > *deces.exacte + MargeDeces) Dire(m.bienApresDeces);
+            if (m.apresDeces != 0 && *naissance.exacte > *deces.exacte + 1) Dire(m.apresDeces);
+        } else if ((SansUnite(naissance) || SansUnite(deces)) && naissance.decade && deces.decade &&
+                   *naissance.decade > *deces.decade + 1) {
+            // Two decades apart: more than ten years whatever the last digits.
+            Dire(m.bienApresDeces);
+        }
+    }
+
+    /// Of several unions of the same couple one that fits is enough.
+    void ControlerUnionDesParents() {
+        const NoOrdre pere = famille_.Pere(n_);
+        const NoOrdre mere = famille_.Mere(n_);
+        if (!pere || !mere) return;
+        if (famille_.unions.De(pere).empty()) return Dire(487);
+        const AnneeLue& naissance = famille_.Naissance(n_);
+        bool vue = false;
+        bool toutesApres = true;
+        bool toutesFinies = true;
+        for (const std::uint16_t numero : famille_.unions.De(pere)) {
+            const NoMariage m{numero};
+            if (famille_.Epoux(m) != pere || famille_.Epouse(m) != mere) continue;
+            vue = true;
+            toutesApres = toutesApres && Avant(naissance, famille_.Debut(m));
+            toutesFinies = toutesFinies && Avant(famille_.Fin(m), naissance);
+        }
+        if (vue && toutesApres) Dire(486);
+        if (vue && toutesFinies) Dire(485);
+    }
+
+    void ControlerEnfants() {
+        const char sexe = famille_.Sexe(n_);
+        for (const std::uint16_t numero : famille_.enfants.De(n_)) {
+            const NoOrdre enfant{numero};
+            if (sexe == 'H' && famille_.Pere(enfant) != n_) Dire(519);
+            if (sexe == 'F' && famille_.Mere(enfant) != n_) Dire(520);
+            if (sexe != 'H' && sexe != 'F') Dire(495);
+        }
+    }
+
+    void ControlerMariage(NoMariage m) {
+        const char sexe = famille_.Sexe(n_);
+        if (sexe == 'H' && famille_.Epoux(m) != n_) Dire(523);
+        if (sexe == 'F' && famille_.Epouse(m) != n_) Dire(522);
+        const AnneeLue& debut = famille_.Debut(m);
+        const AnneeLue& fin = famille_.Fin(m);
+        const AnneeLue& naissance = famille_.Naissance(n_);
+        const AnneeLue& deces = famille_.Deces(n_);
+        if (Avant(fin, debut)) Dire(524);
+        if (Avant(debut, naissance)) Dire(525);
+        if (Avant(deces, debut)) Dire(526);
+        if (Avant(fin, naissance)) Dire(527);
+        if (Avant(deces, fin)) Dire(528);
+    }
+
+    shell::Session& session_;
+    storage::Base& base_;
+    const std::function<void(const Constat&)>& recevoir_;
+    FamilleEnMemoire famille_;
+    NoOrdre n_{};
+    NoOrdre precedente_{};
+    std::uint32_t rang_ = 0;
+    std::string cle_;
+    std::bitset<NbMessages> dits_;
+    std::uint32_t nombre_ = 0;
+};
+
+}  // namespace
+
+BilanControle ControlerBase(shell::Session& session,
+                            const std::function<void(const Constat&)>& recevoir,
+                            const std::function<bool()>& continuer) {
+    BilanControle bilan;
+    if (!session.base) return bilan;
+    const shell::CadreProgression cadre{session.progression, Msg(504), Msg(505)};
+    const storage::Base* const base = session.base.get();
+    Controle controle{session, recevoir};
+    std::vector<bool> vue(storage::MaxIndividus + 1);
+    bilan.complet = true;
+    for (std::uint32_t rang = 1; rang <= base->entete.NbTriIndividus; ++rang) {
+        const NoOrdre n = base->R_TRI.IndividuAuRang(rang);
+        if (n && n.valeur <= base->entete.DernierIndividu && !vue[n.valeur]) {
+            vue[n.valeur] = true;
+            controle.Controler(n, rang);
+        }
+        const bool suite = session.progression.Avancer(rang, base->entete.NbTriIndividus) &&
+                           (!continuer || continuer());
+        // While the screen lives the user may have closed the base.
+        if (!suite || session.base.get() != base) {
+            bilan.complet = rang == base->entete.NbTriIndividus && session.base.get() == base;
+            break;
+        }
+    }
+    bilan.constats = controle.Nombre();
+    if (bilan.complet) session.dialogue.Annoncer(Msg(530));
+    if (bilan.complet && bilan.constats == 0) session.dialogue.Informer(Msg(532));
+    return bilan;
+}
+
+std::string TexteDesConstats(const std::vector<Constat>& constats) {
+    std::string texte;
+    for (const Constat& constat : constats)
+        texte += std::to_string(constat.individu.valeur) + '\t' + constat.texte + '\t' +
+                 constat.identite + '\n';
+    return TexteVersUtf8(texte);
+}
+
+}  // namespace dorvane::records

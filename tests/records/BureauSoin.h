@@ -1,0 +1,46 @@
+#pragma once
+
+#include "doublures/FamilleEssai.h"
+#include "doublures/SessionEssai.h"
+#include "shell/CycleDeVie.h"
+#include "shell/Demarrage.h"
+#include "storage/Base.h"
+#include "values/Texte1252.h"
+
+#include <string>
+#include <vector>
+
+#include <doctest/doctest.h>
+
+namespace dorvane::records {
+
+/// A new base that tests may damage, in a started session.
+class BureauSoin : public doublures::SessionEssai, public doublures::FamilleEssai {
+public:
+    explicit BureauSoin(char tri = '1') : doublures::FamilleEssai{*NouvelleBase(*this, tri)} {}
+
+    [[nodiscard]] storage::Base& B() const { return *session.base; }
+
+    /// Numbers of the messages told since the last call.
+    [[nodiscard]] std::vector<std::uint32_t> Dit() {
+        std::vector<std::uint32_t> numeros;
+        for (const shell::Phrase& phrase : dialogue.entendu)
+            numeros.push_back(phrase.no.valeur);
+        dialogue.entendu.clear();
+        return numeros;
+    }
+
+private:
+    static storage::Base* NouvelleBase(doublures::SessionEssai& essai, char tri) {
+        shell::Demarrage(essai.session);
+        essai.session.TypeTri = tri;
+        essai.dialogue.fichiers.emplace_back(essai.dossier / "Famille.LGD");
+        shell::MnuNouveau(essai.session);
+        REQUIRE(essai.session.BaseOuverte());
+        essai.dialogue.entendu.clear();
+        essai.dialogue.annonces.clear();
+        return essai.session.base.get();
+    }
+};
+
+}  // namespace dorvane::records

@@ -1,0 +1,395 @@
+#include "records/ControleBase.h"
+
+#include "records/BureauSoin.h"
+#include "records/Fiche.h"
+#include "records/FicheEvenement.h"
+#include "records/Individus.h"
+
+#include <algorithm>
+#include <map>
+
+using namespace dorvane;
+using namespace dorvane::records;
+
+namespace {
+
+using Numeros = std::vector<std::uint32_t>;
+
+struct Bureau : BureauSoin {
+    using BureauSoin::BureauSoin;
+    std::vector<Constat> constats;
+    BilanControle bilan;
+
+    /// The findings about a person, by number of message.
+    Numeros Controler(NoOrdre n) {
+        constats.clear();
+        bilan = ControlerBase(session, [this](const Constat& c) { constats.push_back(c); });
+        Numeros messages;
+        for (const Constat& constat : constats)
+            if (constat.individu == n) messages.push_back(constat.message);
+        std::sort(messages.begin(), messages.end());
+        return messages;
+    }
+    [[nodiscard]] bool A(NoOrdre n, std::uint32_t message) {
+        const Numeros messages = Controler(n);
+        return std::count(messages.begin(), messages.end(), message) == 1;
+    }
+
+    /// A child of a father and a mother who are married, without any finding.
+    struct Famille {
+        NoOrdre pere, mere, enfant;
+        NoMariage mariage;
+    };
+    Famille Fonder(std::string_view pere = "1820", std::string_view mere = "1825",
+                   std::string_view enfant = "1850", std::string_view union_ = "1845") {
+        Famille f;
+        f.pere = Creer('H', "DURAND", "Jean", pere);
+        f.mere = Creer('F', "MARTIN", "Anne", mere);
+        f.enfant = Creer('H', "DURAND", "Paul", enfant);
+        f.mariage = Marier(f.pere, f.mere, union_);
+        Parents(f.enfant, f.pere, f.mere);
+        return f;
+    }
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Bureau,
+                  "Check: an empty base ends at once, with the word that nothing was found") {
+    CHECK(Controler({}) == Numeros{});
+    CHECK(bilan.complet);
+    CHECK(Dit() == Numeros{532});
+    CHECK(dialogue.annonces == std::vector{shell::Msg(530)});
+    CHECK(progression.pas == 0);
+    CHECK(progression.cadres == 0);
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: a family in order gives no finding, and changes nothing") {
+    Fonder();
+    REQUIRE(shell::MnuEnregistrer(session));
+    CHECK(Controler({}).empty());
+    CHECK(bilan.constats == 0);
+    CHECK(progression.titres.back() == shell::Msg(504));
+    CHECK(progression.textes.back() == shell::Msg(505));
+    CHECK_FALSE(B().marques.Modifie());
+    CHECK(Dit() == Numeros{532});
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: a finding tells person, rank, message, text and identity") {
+    Creer('H', "ABEL", "Abel", "1700");
+    const NoOrdre n = Creer('H', "DURAND", "", "1850", "1840");
+    CHECK(Controler(n) == Numeros{483, 509, 510});
+    const auto constat = std::find_if(constats.begin(), constats.end(),
+                                      [](const Constat& c) { return c.message == 510; });
+    CHECK(*constat == Constat{n, 2, 510, session.Message(510), "DURAND (1850-1840)"});
+    CHECK(bilan.constats == 4);
+    CHECK(Dit().empty());
+    CHECK(TexteDesConstats({*constat}) ==
+          "2\t" + TexteVersUtf8(session.Message(510)) + "\tDURAND (1850-1840)\n");
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: sex, year, names and ties that are missing") {
+    const NoOrdre n = Creer('I', "", " ");
+    CHECK(Controler(n) == Numeros{483, 484, 507, 508, 509});
+    const NoOrdre autre = Creer('F', "MARTIN", "Anne", "1850");
+    CHECK(Controler(autre) == Numeros{509});
+    Lier(autre, n, "voisin");
+    CHECK(Controler(autre) == Numeros{});
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: a person out of place in the order of birth years") {
+    const NoOrdre a = Creer('H', "A", "A", "1800");
+    const NoOrdre b = Creer('H', "B", "B", "1850");
+    B().R_NAISS.EcrireCellule(a, "1900");
+    CHECK(A(b, 506));
+    CHECK_FALSE(A(a, 506));
+}
+
+TEST_CASE("Check: a person out of place in the order of names; order of creation has none") {
+    Bureau bureau{'2'};
+    const NoOrdre a = bureau.Creer('H', "ABEL", "A", "1900");
+    const NoOrdre b = bureau.Creer('H', "BLANC", "B", "1850");
+    CHECK_FALSE(bureau.A(b, 506));
+    bureau.B().R_NOM.EcrireNom(a, "ZOLA;A");
+    CHECK(bureau.A(b, 506));
+    bureau.B().entete.TypeTri = '0';
+    CHECK_FALSE(bureau.A(b, 506));
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: a living person with a birth year gives no finding on death") {
+    const Famille f = Fonder();
+    for (const NoOrdre n : {f.pere, f.mere, f.enfant})
+        CHECK(Controler(n) == Numeros{});
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: a life that ends too early or lasts too long") {
+    const Famille f = Fonder();
+    B().R_DECES.EcrireCellule(f.enfant, "1849");
+    CHECK(Controler(f.enfant) == Numeros{510});
+    B().R_DECES.EcrireCellule(f.enfant, "1950");
+    CHECK(Controler(f.enfant) == Numeros{});
+    B().R_DECES.EcrireCellule(f.enfant, "1951");
+    CHECK(Controler(f.enfant) == Numeros{496});
+    // Not both numbers: compared as text.
+    B().R_DECES.EcrireCellule(f.enfant, "184?");
+    CHECK(Controler(f.enfant) == Numeros{510});
+    B().R_DECES.EcrireCellule(f.enfant, "?");
+    CHECK(Controler(f.enfant) == Numeros{});
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: sex and list of the parents") {
+    const Famille f = Fonder();
+    B().R_ENFANT.ModifierListe(f.pere, f.enfant, 'S');
+    B().R_ENFANT.ModifierListe(f.mere, f.enfant, 'S');
+    CHECK(Controler(f.enfant) == Numeros{512, 516});
+    B().R_SEXE.EcrireCellule(f.pere, 'I');
+    B().R_SEXE.EcrireCellule(f.mere, 'H');
+    CHECK(Controler(f.enfant) == Numeros{511, 512, 515, 516});
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: ages of the parents at their limits") {
+    struct Cas {
+        const char* pere;
+        const char* mere;
+        Numeros voulus;
+    };
+    for (const Cas& cas :
+         {Cas{"1850", "1850", {513, 517}}, Cas{"1860", "1851", {513, 517}},
+          Cas{"1849", "1841", {477, 478}}, Cas{"1841", "1849", {477, 478}}, Cas{"1840", "1840", {}},
+          Cas{"1775", "1800", {}}, Cas{"1774", "1799", {475, 476}}}) {
+        CAPTURE(cas.pere);
+        Bureau bureau{'0'};
+        const Famille f = bureau.Fonder(cas.pere, cas.mere);
+        CHECK(bureau.Controler(f.enfant) == cas.voulus);
+    }
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: a birth after the death of a parent") {
+    struct Cas {
+        const char* pere;
+        const char* mere;
+        Numeros voulus;
+    };
+    for (const Cas& cas :
+         {Cas{"1849", "1840", {}}, Cas{"1848", "1848", {499}}, Cas{"1840", "1839", {497, 499}},
+          Cas{"1835", "", {498, 499}}, Cas{"183?", "183?", {497, 498}}, Cas{"184?", "184?", {}}}) {
+        CAPTURE(cas.pere);
+        Bureau bureau{'0'};
+        const Famille f = bureau.Fonder("1800", "1805", "1850");
+        bureau.B().R_DECES.EcrireCellule(f.pere, cas.pere);
+        bureau.B().R_DECES.EcrireCellule(f.mere, cas.mere);
+        CHECK(bureau.Controler(f.enfant) == cas.voulus);
+    }
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: a year with an unknown digit is compared on its first three") {
+    struct Cas {
+        const char* pere;
+        const char* mere;
+        const char* enfant;
+        Numeros voulus;
+    };
+    for (const Cas& cas :
+         {Cas{"186?", "187?", "1850", {514, 518}}, Cas{"185?", "185?", "1850", {}},
+          Cas{"1860", "1860", "185?", {514, 518}}, Cas{"18?", "18?", "1750", {}}}) {
+        CAPTURE(cas.pere);
+        Bureau bureau{'0'};
+        const Famille f = bureau.Fonder(cas.pere, cas.mere, cas.enfant, "");
+        CHECK(bureau.Controler(f.enfant) == cas.voulus);
+    }
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: a person who is his own father was not born before himself") {
+    const Famille f = Fonder();
+    B().R_ENFANT.ModifierListe(f.pere, f.enfant, 'S');
+    B().R_PERE.EcrireCellule(f.enfant, f.enfant);
+    B().R_ENFANT.ModifierListe(f.enfant, f.enfant, 'A');
+    CHECK(Controler(f.enfant) == Numeros{487, 513});
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: the union of the parents") {
+    SUBCASE("the father has none") {
+        const NoOrdre pere = Creer('H', "DURAND", "Jean", "1820");
+        const NoOrdre mere = Creer('F', "MARTIN", "Anne", "1825");
+        const NoOrdre enfant = Creer('H', "DURAND", "Paul", "1850");
+        Parents(enfant, pere, mere);
+        CHECK(Controler(enfant) == Numeros{487});
+        Marier(pere, Creer('F', "AUTRE", "Eve", "1825"));
+        CHECK(Controler(enfant) == Numeros{});
+    }
+    SUBCASE("it began after the birth, or ended before it") {
+        const Famille f = Fonder();
+        B().R_DEBMAR.EcrireCellule(f.mariage, "1850");
+        CHECK(Controler(f.enfant) == Numeros{});
+        B().R_DEBMAR.EcrireCellule(f.mariage, "1851");
+        CHECK(Controler(f.enfant) == Numeros{486});
+        B().R_DEBMAR.EcrireCellule(f.mariage, "1840");
+        B().R_FINMAR.EcrireCellule(f.mariage, "1849");
+        CHECK(Controler(f.enfant) == Numeros{485});
+    }
+    SUBCASE("two unions of one couple are no finding, and one that fits is enough") {
+        const Famille f = Fonder();
+        B().R_FINMAR.EcrireCellule(f.mariage, "1846");
+        Marier(f.pere, f.mere, "1848");
+        for (const NoOrdre n : {f.pere, f.mere, f.enfant})
+            CHECK(Controler(n) == Numeros{});
+    }
+}
+
+TEST_CASE_FIXTURE(Bureau,
+                  "Check: children of a list who have another parent, or a parent without a sex") {
+    const Famille f = Fonder();
+    B().R_PERE.EcrireCellule(f.enfant, {});
+    B().R_MERE.EcrireCellule(f.enfant, {});
+    CHECK(Controler(f.pere) == Numeros{519});
+    CHECK(Controler(f.mere) == Numeros{520});
+    B().R_SEXE.EcrireCellule(f.pere, 'I');
+    CHECK(Controler(f.pere) == Numeros{495, 507});
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: a list that names a union of others") {
+    const Famille f = Fonder();
+    B().R_EPOUX.EcrireCellule(f.mariage, {});
+    B().R_EPOUSE.EcrireCellule(f.mariage, {});
+    CHECK(Controler(f.pere) == Numeros{523});
+    CHECK(Controler(f.mere) == Numeros{522});
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: years of a union against each other and against the life") {
+    const Famille f = Fonder();
+    const auto essayer = [&](const char* debut, const char* fin, const char* deces) {
+        B().R_DEBMAR.EcrireCellule(f.mariage, debut);
+        B().R_FINMAR.EcrireCellule(f.mariage, fin);
+        B().R_DECES.EcrireCellule(f.pere, deces);
+        return Controler(f.pere);
+    };
+    CHECK(essayer("1845", "1844", "") == Numeros{524});
+    CHECK(essayer("1819", "", "") == Numeros{525});
+    CHECK(essayer("1820", "1820", "1820") == Numeros{});
+    CHECK(essayer("1845", "", "1844") == Numeros{526});
+    CHECK(essayer("1815", "1816", "") == Numeros{525, 527});
+    CHECK(essayer("1845", "1860", "1859") == Numeros{528});
+    CHECK(essayer("184?", "183?", "?") == Numeros{});
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: one message once per person, however often it holds") {
+    const Famille f = Fonder();
+    for (int i = 0; i < 3; ++i)
+        Marier(f.pere, f.mere, "1810");
+    CHECK(Controler(f.pere) == Numeros{525});
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: events against the sheet") {
+    SaisieFiche fiche;
+    fiche.nom = "DURAND";
+    fiche.prenom = "Paul";
+    fiche.sexe = 'H';
+    fiche.jourMoisNaissance = "12 mars";
+    fiche.anneeNaissance = "1850";
+    fiche.lieuNaissance = "Saint Malo";
+    fiche.jourMoisDeces = "1er mai";
+    fiche.anneeDeces = "1900";
+    fiche.lieuDeces = "Brest";
+    fiche.slots[1] = {"13 mars", "1850", "Lyon"};
+    fiche.slots[2] = {"3 mai", "1900", "Lyon"};
+    const NoOrdre n = CreerIndividu(session, fiche).individu;
+    REQUIRE(bool{n});
+    const auto ajouter = [&](const char* type, const char* role, const char* date,
+                             const char* lieu) {
+        SaisieEvenement saisie = NouvelEvenement(n, role);
+        saisie.type = type;
+        saisie.date = date;
+        saisie.lieu = lieu;
+        dialogue.reponses = {shell::Reponse::Non};
+        REQUIRE(ValiderEvenement(session, saisie).etat != IssueEvenement::Etat::Refuse);
+        dialogue.reponses.clear();
+    };
+    SUBCASE("those that agree") {
+        ajouter("BIRT", "CHIL", "12/3/1850", "Saint Malo");
+        ajouter("DEAT", "DEAD", "1/5/1900", "Brest");
+        ajouter("CHR", "CHIL", "13 mars 1850", "Lyon");
+        ajouter("BURI", "DEAD", "3 mai 1900", "Lyon");
+        ajouter("BIRT", "WITN", "1/1/1800", "Caen");
+        CHECK(Controler(n) == Numeros{});
+    }
+    SUBCASE("dates that differ") {
+        ajouter("BIRT", "CHIL", "13/3/1850", "Saint Malo");
+        ajouter("DEAT", "DEAD", "2/5/1900", "Brest");
+        ajouter("CHR", "CHIL", "14 mars 1850", "Lyon");
+        ajouter("BURI", "DEAD", "4 mai 1900", "Lyon");
+        CHECK(Controler(n) == Numeros{480, 482, 492, 494});
+    }
+    SUBCASE("places that differ") {
+        ajouter("BIRT", "CHIL", "12/3/1850", "Caen");
+        ajouter("DEAT", "DEAD", "1/5/1900", "Caen");
+        ajouter("CHR", "CHIL", "13 mars 1850", "Caen");
+        ajouter("BURI", "DEAD", "3 mai 1900", "Caen");
+        CHECK(Controler(n) == Numeros{479, 481, 491, 493});
+    }
+    SUBCASE("a sheet without a row for burials has nothing to compare") {
+        B().entete.SlotsIndividu[2] = {};
+        ajouter("BURI", "DEAD", "4 mai 1900", "Caen");
+        CHECK(Controler(n) == Numeros{});
+    }
+    SUBCASE("unions") {
+        ajouter("MARR", "HUSB", "1/6/1875", "Brest");
+        CHECK(Controler(n) == Numeros{488});
+        const NoMariage m = Marier(n, Creer('F', "MARTIN", "Anne", "1851"), "1875");
+        EcrireTexteMariage(session, m, "1/6@Brest");
+        CHECK(Controler(n) == Numeros{});
+        EcrireTexteMariage(session, m, "2/6@Lyon");
+        CHECK(Controler(n) == Numeros{489, 490});
+    }
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: a stop keeps the findings so far and says no last word") {
+    for (int i = 0; i < 5; ++i)
+        Creer('H', "", "Paul", "1850");
+    SUBCASE("by the frame") {
+        progression.annulerAu = 2;
+        Controler({});
+        CHECK(bilan.constats == 4);
+    }
+    SUBCASE("by the window") {
+        std::uint32_t fois = 0;
+        bilan = ControlerBase(
+            session, [this](const Constat& c) { constats.push_back(c); },
+            [&fois] { return ++fois < 3; });
+        CHECK(constats.size() == 6);
+    }
+    CHECK_FALSE(bilan.complet);
+    CHECK(Dit().empty());
+    CHECK(dialogue.annonces.empty());
+    CHECK(progression.cadres == 0);
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: a base that is closed meanwhile ends the scan") {
+    for (int i = 0; i < 5; ++i)
+        Creer('H', "DURAND", "Paul", "1850");
+    progression.aChaquePas = [this] {
+        if (progression.pas == 2) session.PoserBase(nullptr);
+    };
+    Controler({});
+    CHECK_FALSE(bilan.complet);
+    CHECK(progression.pas == 2);
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: ranks that name nobody or a person twice are passed over") {
+    const NoOrdre n = Creer('H', "DURAND", "Paul", "1850");
+    for (const std::uint32_t numero : {n.valeur, 0U, 999U, 65535U}) {
+        ++B().entete.NbTriIndividus;
+        B().R_TRI.FixerRang(B().entete.NbTriIndividus, NoOrdre{numero});
+    }
+    Controler({});
+    CHECK(bilan.constats == 1);
+    CHECK(bilan.complet);
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: cells that point out of the base are findings, not faults") {
+    const NoOrdre n = Creer('H', "DURAND", "Paul", "1850");
+    B().R_PERE.EcrireCellule(n, NoOrdre{65000});
+    B().R_MERE.EcrireCellule(n, NoOrdre{64001});
+    B().R_ENFANT.ModifierListe(n, NoOrdre{60000}, 'A');
+    B().R_MARIAG.ModifierListe(n, NoMariage{60000}, 'A');
+    CHECK(Controler(n) == Numeros{487, 511, 512, 515, 516, 519, 523});
+}
