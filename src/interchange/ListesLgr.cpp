@@ -95,7 +95,6 @@ void ListesLgr::AccorderUnions(const Sources& s) {
         Couple& couple = couples_[u];
         couple.epoux = s.Trouver(s.individus, lue.epoux, "MARIAGES", lue.ligne);
         couple.epouse = s.Trouver(s.individus, lue.epouse, "MARIAGES", lue.ligne);
-        if (couple.epouse == couple.epoux) couple.epouse = Aucune;
     }
     LireUnions(s);
     for (Place u = 0; u < couples_.size(); ++u)
@@ -144,7 +143,7 @@ void ListesLgr::AccorderLiens(const Sources& s) {
 
 void ListesLgr::AccorderDocuments(const Sources& s) {
     const auto lire = [&](const TrancheLgr& tranche, std::string_view chemin, std::uint32_t ligne,
-                          std::vector<Place>& liste) {
+                          std::vector<Place>& liste, bool unique) {
         for (const std::uint32_t numero : Tranche(s.contenu.numeros, tranche)) {
             const Place d = s.Trouver(s.documents, numero, chemin, ligne);
             if (d == Aucune) continue;
@@ -152,18 +151,19 @@ void ListesLgr::AccorderDocuments(const Sources& s) {
                 s.rapport.Noter(Constat::Limite, chemin, ligne);
                 return;
             }
-            if (!Contient(liste, d)) liste.push_back(d);
+            if (!unique || !Contient(liste, d)) liste.push_back(d);
         }
     };
     documents_.resize(s.contenu.individus.size());
     for (const Place i : s.individus.Ordre()) {
         const IndividuLgr& lu = s.contenu.individus[i];
-        lire(lu.documents, "INDIVIDUS", lu.ligne, documents_[i]);
+        lire(lu.documents, "INDIVIDUS", lu.ligne, documents_[i], true);
     }
     pieces_.resize(s.contenu.evenements.size());
     for (const Place e : s.evenements.Ordre()) {
         const EvenementLgr& lu = s.contenu.evenements[e];
-        lire(lu.documents, "EVENEMENTS", lu.ligne, pieces_[e]);
+        // Pages of one document may stand in an event several times.
+        lire(lu.documents, "EVENEMENTS", lu.ligne, pieces_[e], false);
     }
 }
 

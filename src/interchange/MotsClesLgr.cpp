@@ -41,7 +41,7 @@ MotsClesLgr::MotsClesLgr(storage::Base& base, const shell::TableLibelles& libell
     for (std::size_t i = 0; i < table_.size(); ++i)
         table_[i] = static_cast<char>(static_cast<unsigned char>(i));
     for (const MotCleLgr& motCle : contenu.motsCles)
-        Reprendre(motCle, libelles, rapport);
+        Reprendre(motCle, contenu, libelles, rapport);
 }
 
 NoMotCle MotsClesLgr::Chercher(std::string_view tag, const shell::TableLibelles& libelles) {
@@ -71,8 +71,23 @@ NoMotCle MotsClesLgr::Place() {
     return k.valeur <= storage::MaxMotsCles ? k : NoMotCle{};
 }
 
-void MotsClesLgr::Reprendre(const MotCleLgr& motCle, const shell::TableLibelles& libelles,
-                            RapportImport& rapport) {
+/// Takes the keyword with this marker out of a new base when the file does not have it.
+void MotsClesLgr::FaireCeder(char marqueur, const ContenuLgr& contenu,
+                             const shell::TableLibelles& libelles) {
+    const NoMotCle k = base_.motsCles.TypeDuSymbole(marqueur);
+    if (!k || base_.entete.DernierIndividu != 0 ||
+        MarqueursPremiereLigne.find(marqueur) != std::string_view::npos)
+        return;
+    const std::string tag{libelles.TagDeLibelle(base_.motsCles.LibelleType(k).libelle)};
+    const bool voulu = std::ranges::any_of(contenu.motsCles, [&](const MotCleLgr& m) {
+        return libelles.TagDeLibelle(SansBlancs(m.libelle)) == tag;
+    });
+    if (voulu) return;
+    base_.motsCles.EffacerType(k);
+}
+
+void MotsClesLgr::Reprendre(const MotCleLgr& motCle, const ContenuLgr& contenu,
+                            const shell::TableLibelles& libelles, RapportImport& rapport) {
     if (motCle.marqueur == MarqueurNom || motCle.marqueur == MarqueurPrenom) {
         types_.push_back(base_.motsCles.TypeDuSymbole(motCle.marqueur));
         return;
@@ -82,6 +97,7 @@ void MotsClesLgr::Reprendre(const MotCleLgr& motCle, const shell::TableLibelles&
     const std::string tag{libelles.TagDeLibelle(libelle)};
     NoMotCle k = Chercher(std::string_view{tag}.substr(0, 34), libelles);
     if (!k) {
+        FaireCeder(motCle.marqueur, contenu, libelles);
         const char marqueur = MarqueurLibre(motCle.marqueur);
         k = Place();
         if (marqueur == '\0' || !k) {

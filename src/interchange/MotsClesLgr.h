@@ -16,7 +16,8 @@ namespace dorvane::interchange {
 
 /// The keywords of an exchange text brought together with those of a base: a keyword of the same
 /// tag is the same whatever its marker, and a new one takes the marker that it had or the next
-/// free one. "|" and "¶" always stand for the names.
+/// free one. "|" and "¶" always stand for the names. In a base without persons a keyword that the
+/// file does not have gives way to one that has its marker: no text changes.
 class MotsClesLgr {
 public:
     /// Enters the keywords that the base lacks. `base` outlives the object. Past 50 keywords the
@@ -41,12 +42,13 @@ public:
     }
 
 private:
-    void Reprendre(const MotCleLgr& motCle, const shell::TableLibelles& libelles,
-                   RapportImport& rapport);
+    void Reprendre(const MotCleLgr& motCle, const ContenuLgr& contenu,
+                   const shell::TableLibelles& libelles, RapportImport& rapport);
     [[nodiscard]] NoMotCle Chercher(std::string_view tag, const shell::TableLibelles& libelles);
     [[nodiscard]] bool EstLibre(char marqueur);
     [[nodiscard]] char MarqueurLibre(char voulu);
     [[nodiscard]] NoMotCle Place();
+    void FaireCeder(char marqueur, const ContenuLgr& contenu, const shell::TableLibelles& libelles);
     void ConvertirMarqueurs(std::string_view texte, std::string& sortie) const;
     [[nodiscard]] std::size_t ConvertirRiche(std::string_view texte, std::string& sortie) const;
     void ConvertirLibelles(std::string& texte) const;
