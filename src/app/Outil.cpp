@@ -62,7 +62,8 @@ void DeclarerBases(CLI::App& app, Ligne& l) {
 }
 
 void DeclarerImport(CLI::App& app, Ligne& l) {
-    CLI::App* importer = app.add_subcommand("importer", "Fait une base d'un fichier GEDCOM");
+    CLI::App* importer = app.add_subcommand(
+        "importer", "Fait une base d'un fichier GEDCOM ou d'un fichier d'échange .lgr");
     importer->add_option("FICHIER", l.base)->required();
     importer->add_option("--base", l.import.base, "Le fichier .LGD à écrire");
     importer->add_flag("--remplacer", l.import.remplacer, "Remplace la base qui existe");
@@ -128,7 +129,9 @@ int Executer(int nombre, const char* const* arguments) {
     DeclarerVerbesFaits(app, ligne.faire);
     DeclarerVerbesReglages(app, ligne.faire);
     DeclarerVerbesExport(app, ligne.faire);
+    DeclarerVerbesEchange(app, ligne.faire);
     DeclarerVerbesCommunes(app, ligne.faire);
+    DeclarerVerbesReleve(app, ligne.faire);
     DeclarerCalcul(app, ligne);
     try {
         app.parse(nombre, arguments);

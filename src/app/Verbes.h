@@ -17,8 +17,13 @@ void DeclarerVerbesReglages(CLI::App& app, std::function<int()>& faire);
 
 /// `exporter`.
 void DeclarerVerbesExport(CLI::App& app, std::function<int()>& faire);
+/// `integrer`.
+void DeclarerVerbesEchange(CLI::App& app, std::function<int()>& faire);
 
 /// `communes`: the base of communes, apart from any family.
 void DeclarerVerbesCommunes(CLI::App& app, std::function<int()>& faire);
+
+/// `releve`: surveys of registers.
+void DeclarerVerbesReleve(CLI::App& app, std::function<int()>& faire);
 
 }  // namespace dorvane::outil

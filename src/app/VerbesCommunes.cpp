@@ -68,7 +68,7 @@ int CreerCommunes(const OptionsCommunes& o) {
     std::vector<storage::Commune> communes;
     if (!o.liste.empty()) {
         std::optional<std::vector<storage::Commune>> lues = LireListe(atelier, o.liste);
-        if (!lues) return Refus;
+        if (!lues) return atelier.dialogue.dernier == NoMessage{4003} ? RefusSysteme : Refus;
         communes = std::move(*lues);
     }
     storage::DisqueReel disque;

@@ -69,6 +69,17 @@ void AvertirLimites(shell::Session& session, const RapportImport& rapport) {
         session.dialogue.Informer(shell::Msg(707));
 }
 
+/// Keeps the report of an import beside the other files of work.
+void EnregistrerRapport(shell::Session& session, const std::filesystem::path& base,
+                        Importation& importation) {
+    std::filesystem::path chemin = session.Travail() / base.stem();
+    chemin += ".IMPORT.TXT";
+    if (shell::EcrireTout(chemin, TexteVersUtf8(importation.texte)))
+        importation.fichierRapport = chemin;
+    else
+        session.dialogue.Informer(shell::Msg(2244));
+}
+
 bool PeutRemplacer(shell::Session& session, const std::filesystem::path& base) {
     std::error_code erreur;
     if (!std::filesystem::exists(base, erreur)) return true;
@@ -78,6 +89,32 @@ bool PeutRemplacer(shell::Session& session, const std::filesystem::path& base) {
     question.defaut = shell::Reponse::Non;
     question.grave = true;
     return session.dialogue.Confirmer(question);
+}
+
+using ImporterDansBase = std::function<Importation(const std::filesystem::path& base)>;
+
+/// Closes the base that is open, imports into the one named like the file, opens that and shows
+/// the report.
+void ImporterEtOuvrir(shell::Session& session, const std::filesystem::path& fichier,
+                      const ImporterDansBase& importer, const shell::Phrase& titre,
+                      const MontrerRapport& montrer) {
+    if (!shell::CommandePermise(session)) return;
+    std::filesystem::path base = fichier;
+    base.replace_extension(".LGD");
+    if (!PeutRemplacer(session, base)) return;
+    if (!shell::Clore(session)) {
+        session.ecran.Actualiser();
+        return;
+    }
+    session.ecran.FermerFenetres();
+    const Importation importation = importer(base);
+    if (!importation.faite) {
+        session.ecran.Actualiser();
+        return;
+    }
+    shell::MnuOuvrir(session, base);
+    session.dialogue.Annoncer(shell::Msg(2243, NomAffichable(base.filename())));
+    if (montrer) montrer(session.Message(titre.no.valeur), importation.texte);
 }
 
 }  // namespace
@@ -95,35 +132,39 @@ Importation ImporterVers(shell::Session& session, const std::filesystem::path& f
     AvertirLimites(session, importation.rapport);
     importation.texte =
         ComposerRapport(importation.rapport, session, NomAffichable(fichier.filename()));
-    std::filesystem::path chemin = session.Travail() / base.stem();
-    chemin += ".IMPORT.TXT";
-    if (shell::EcrireTout(chemin, TexteVersUtf8(importation.texte)))
-        importation.fichierRapport = chemin;
-    else
-        session.dialogue.Informer(shell::Msg(2244));
+    EnregistrerRapport(session, base, importation);
+    return importation;
+}
+
+Importation ImporterActesVers(shell::Session& session, const Releve& releve,
+                              const std::filesystem::path& fichier,
+                              const std::filesystem::path& base) {
+    Importation importation;
+    const IssueImport issue = ImporterReleve(session, releve, fichier, base, importation.releve);
+    Expliquer(session, issue, fichier, base);
+    importation.faite = issue == IssueImport::Fait;
+    if (!importation.faite) return importation;
+    importation.texte = ComposerRapport(importation.releve, releve, session);
+    EnregistrerRapport(session, base, importation);
     return importation;
 }
 
 void ImporterFichier(shell::Session& session, const std::filesystem::path& fichier,
                      const MontrerRapport& montrer) {
     // A base is opened, never read as a text: the new one would take its place.
-    if (!shell::CommandePermise(session) || Extension(fichier) == ".lgd") return;
-    std::filesystem::path base = fichier;
-    base.replace_extension(".LGD");
-    if (!PeutRemplacer(session, base)) return;
-    if (!shell::Clore(session)) {
-        session.ecran.Actualiser();
-        return;
-    }
-    session.ecran.FermerFenetres();
-    const Importation importation = ImporterVers(session, fichier, base);
-    if (!importation.faite) {
-        session.ecran.Actualiser();
-        return;
-    }
-    shell::MnuOuvrir(session, base);
-    session.dialogue.Annoncer(shell::Msg(2243, NomAffichable(base.filename())));
-    if (montrer) montrer(session.Message(2246), importation.texte);
+    if (Extension(fichier) == ".lgd") return;
+    const auto importer = [&](const std::filesystem::path& base) {
+        return ImporterVers(session, fichier, base);
+    };
+    ImporterEtOuvrir(session, fichier, importer, shell::Msg(2246), montrer);
+}
+
+void ImporterActes(shell::Session& session, const Releve& releve,
+                   const std::filesystem::path& fichier, const MontrerRapport& montrer) {
+    const auto importer = [&](const std::filesystem::path& base) {
+        return ImporterActesVers(session, releve, fichier, base);
+    };
+    ImporterEtOuvrir(session, fichier, importer, shell::Msg(4181), montrer);
 }
 
 void MnuImporter(shell::Session& session, const MontrerRapport& montrer) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "interchange/ImportReleve.h"
 #include "interchange/RapportImport.h"
 #include "shell/Session.h"
 
@@ -25,6 +26,7 @@ void ImporterFichier(shell::Session& session, const std::filesystem::path& fichi
 struct Importation {
     bool faite = false;
     RapportImport rapport;
+    RapportReleve releve;                  ///< of a survey, in place of `rapport`
     std::string texte;                     ///< the report; empty when nothing was read
     std::filesystem::path fichierRapport;  ///< where it was written; empty when it could not be
 };
@@ -34,5 +36,15 @@ struct Importation {
 [[nodiscard]] Importation ImporterVers(shell::Session& session,
                                        const std::filesystem::path& fichier,
                                        const std::filesystem::path& base);
+
+/// Imports a survey as `ImporterFichier` does a file: into a new base of its name, which is opened,
+/// with a report of what was not understood.
+void ImporterActes(shell::Session& session, const Releve& releve,
+                   const std::filesystem::path& fichier, const MontrerRapport& montrer);
+
+/// The same into a named base; nothing is asked.
+[[nodiscard]] Importation ImporterActesVers(shell::Session& session, const Releve& releve,
+                                            const std::filesystem::path& fichier,
+                                            const std::filesystem::path& base);
 
 }  // namespace dorvane::interchange

@@ -1,0 +1,94 @@
+#include "app/Atelier.h"
+#include "app/Verbes.h"
+#include "interchange/Importer.h"
+#include "shell/FichierSur.h"
+#include "values/Texte1252.h"
+
+#include <iostream>
+#include <map>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+#include <system_error>
+
+namespace dorvane::outil {
+
+namespace {
+
+namespace fs = std::filesystem;
+using interchange::SorteReleve;
+
+struct OptionsReleve {
+    SorteReleve sorte = SorteReleve::Bapteme;
+    std::string fichier;
+    std::string base;
+    bool remplacer = false;
+    bool json = false;
+};
+
+nlohmann::ordered_json EnJson(const interchange::RapportReleve& rapport,
+                              const shell::Session& session) {
+    nlohmann::ordered_json constats = nlohmann::ordered_json::array();
+    for (const interchange::RapportReleve::Constat& c : rapport.constats)
+        constats.push_back(
+            {{"ligne", c.ligne}, {"constat", TexteVersUtf8(session.Message(c.message.valeur))}});
+    return {{"lignes", rapport.lignes},
+            {"individus", rapport.individus},
+            {"evenements", rapport.evenements},
+            {"unions", rapport.unions},
+            {"constats", std::move(constats)}};
+}
+
+int ImporterActes(const OptionsReleve& o) {
+    Atelier atelier{{}};
+    const std::string nom = Utf8VersTexte(o.fichier).octets;
+    const fs::path base =
+        o.base.empty() ? fs::path{o.fichier}.replace_extension(".LGD") : fs::path{o.base};
+    const std::optional<std::string> octets = shell::LireTout(o.fichier);
+    if (!octets) {
+        atelier.dialogue.Informer(shell::Msg(2240, nom));
+        return RefusSysteme;
+    }
+    std::error_code erreur;
+    if (fs::exists(base, erreur) && !o.remplacer) {
+        atelier.dialogue.Informer(shell::Msg(2247, Utf8VersTexte(base.string()).octets));
+        return Refus;
+    }
+    const interchange::Releve releve = interchange::LireReleve(*octets, o.sorte);
+    if (releve.lignes.empty()) {
+        atelier.dialogue.Informer(shell::Msg(4179, nom));
+        return Refus;
+    }
+    const interchange::Importation importation =
+        interchange::ImporterActesVers(atelier.session, releve, o.fichier, base);
+    if (!importation.faite)
+        return atelier.dialogue.dernier == NoMessage{2242} ? RefusSysteme : Refus;
+    if (o.json)
+        std::cout << EnJson(importation.releve, atelier.session).dump(2) << '\n';
+    else
+        std::cout << TexteVersUtf8(importation.texte);
+    return Fait;
+}
+
+}  // namespace
+
+void DeclarerVerbesReleve(CLI::App& app, std::function<int()>& faire) {
+    auto o = std::make_shared<OptionsReleve>();
+    CLI::App* releve =
+        app.add_subcommand("releve", "Fait une base d'un relevé d'actes tapé dans un tableur");
+    releve->add_option("SORTE", o->sorte, "bapteme, mariage, sepulture ou ascendance")
+        ->required()
+        ->transform(CLI::CheckedTransformer(
+            std::map<std::string, SorteReleve>{{"bapteme", SorteReleve::Bapteme},
+                                               {"mariage", SorteReleve::Mariage},
+                                               {"sepulture", SorteReleve::Sepulture},
+                                               {"ascendance", SorteReleve::Ascendance}}));
+    releve->add_option("FICHIER", o->fichier, "Le fichier .txt ou .csv")->required();
+    releve->add_option("--base", o->base, "Le fichier .LGD à écrire");
+    releve->add_flag("--remplacer", o->remplacer, "Remplace la base qui existe");
+    releve->add_flag("--json", o->json);
+    releve->callback([o, &faire] { faire = [o] { return ImporterActes(*o); }; });
+}
+
+}  // namespace dorvane::outil
