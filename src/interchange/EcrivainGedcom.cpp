@@ -17,10 +17,14 @@ constexpr std::size_t ValeurAuPlus = 240;
 constexpr std::array<std::string_view, 7> Insecables{"NAME", "DATE", "FILE", "REFN",
                                                      "RELA", "ROLE", "CONT"};
 
-std::string DoublerMarques(std::string_view valeur) {
-    std::string double_{valeur};
-    RemplacerTout(double_, "@", "@@");
-    return double_;
+/// A value as a file can hold it: marks twice, no control character but the ends of lines.
+std::string Preparer(std::string_view valeur) {
+    std::string prete{valeur};
+    RemplacerTout(prete, "@", "@@");
+    std::ranges::replace_if(
+        prete, [](char c) { return static_cast<unsigned char>(c) < ' ' && c != '\r' && c != '\n'; },
+        ' ');
+    return prete;
 }
 
 std::string Prefixe(int niveau, std::string_view etiquette) {
@@ -36,7 +40,7 @@ void EcrivainGedcom::Ligne(int niveau, std::string_view etiquette) {
 }
 
 bool EcrivainGedcom::Valeur(int niveau, std::string_view etiquette, std::string_view valeur) {
-    std::string simple = DoublerMarques(valeur);
+    std::string simple = Preparer(valeur);
     RemplacerTout(simple, "\r\n", " ");
     std::ranges::replace(simple, '\r', ' ');
     std::ranges::replace(simple, '\n', ' ');
@@ -69,7 +73,7 @@ void EcrivainGedcom::Enregistrement(char sorte, std::uint32_t numero, std::strin
 }
 
 bool EcrivainGedcom::Texte(std::string_view debut, int niveau, std::string_view texte) {
-    const std::string octets = encodeur_.Encoder(DoublerMarques(texte));
+    const std::string octets = encodeur_.Encoder(Preparer(texte));
     const std::string cont = Prefixe(niveau, "CONT");
     const std::string conc = Prefixe(niveau, "CONC");
     bool premier = true;

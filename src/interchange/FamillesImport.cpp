@@ -13,11 +13,13 @@ void FamillesImport::AjouterIndividu(char sexe) {
     personnes_.emplace_back().sexe = sexe;
 }
 
-void FamillesImport::CorrigerSexe(NoOrdre individu, char sexe) {
+bool FamillesImport::CorrigerSexe(NoOrdre individu, char sexe) {
     Parente& personne = personnes_[individu.valeur - 1];
-    if (personne.sexe == sexe) return;
+    if (personne.sexe == sexe) return false;
+    const bool contraire = personne.sexe != 'I';
     personne.sexe = sexe;
     personne.sexeCorrige = true;
+    return contraire;
 }
 
 bool FamillesImport::PoserParent(NoOrdre enfant, NoOrdre parent, Cote cote,
@@ -36,9 +38,10 @@ bool FamillesImport::PoserParent(NoOrdre enfant, NoOrdre parent, Cote cote,
         contexte_.Noter(Constat::Limite, ligne);
         return false;
     }
-    if (const std::uint16_t ancien = fiche.parents[rang];
-        ancien != 0 && ancien != fiche.parents[1 - rang])
-        --personnes_[ancien - 1U].nbEnfants;
+    if (const std::uint16_t ancien = fiche.parents[rang]; ancien != 0) {
+        contexte_.Noter(Constat::Remplace, ligne);
+        if (ancien != fiche.parents[1 - rang]) --personnes_[ancien - 1U].nbEnfants;
+    }
     if (!dejaEnfant) ++nouveau.nbEnfants;
     fiche.parents[rang] = numero;
     fiche.rangs[rang] = ++rang_;

@@ -18,8 +18,9 @@ public:
     /// A person was read; `sexe` 'H', 'F' or 'I'. Persons come in the order of their numbers.
     void AjouterIndividu(char sexe);
 
-    /// Sex that being a husband or wife tells; a different one is corrected.
-    void CorrigerSexe(NoOrdre individu, char sexe);
+    /// Sex that being a husband or wife tells; a different one is corrected. True when a man became
+    /// a woman or the reverse.
+    [[nodiscard]] bool CorrigerSexe(NoOrdre individu, char sexe);
 
     /// Gives the child a parent and takes it from the one that had the place. False when nothing
     /// changes: it is its parent already, the two are one person, or the parent has 200 children.

@@ -2,6 +2,9 @@
 
 #include "values/Comparaison.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace dorvane::interchange {
 namespace {
 
@@ -19,6 +22,7 @@ void FicheGedcom::Commencer() {
     notes_.clear();
     slots_.Vider();
     structure_ = Structure::Aucune;
+    nu_ = {};
     aSlot_ = false;
     courant_ = nullptr;
     niveauEcarte_ = 0;
@@ -33,6 +37,7 @@ void FicheGedcom::OuvrirStructure(Structure structure, std::string_view libelle)
 void FicheGedcom::FermerStructure() {
     niveauEcarte_ = 0;
     courant_ = nullptr;
+    NoterFaitNu();
     const Structure fermee = structure_;
     structure_ = Structure::Aucune;
     if (fermee != Structure::Autre) return;
@@ -61,6 +66,24 @@ void FicheGedcom::OuvrirPrincipal(Rang rang, const LigneGedcom& ligne) {
 // label of the event in the note.
 void FicheGedcom::GarderValeur(const LigneGedcom& ligne) {
     if (!ligne.valeur.empty() && ligne.valeur != "Y") AjouterApresLibelle(ligne.valeur);
+    if (ligne.valeur != "Y") return;
+    const std::string record{contexte_.pile.Etiquette(0)};
+    nu_ = {ligne.numero, record + '.' + std::string{ligne.etiquette}, notes_.size()};
+}
+
+// That an event took place, without a date, a place or a word, is nothing that a sheet can hold. A
+// union is there all the same.
+void FicheGedcom::NoterFaitNu() {
+    const FaitNu fait = std::exchange(nu_, {});
+    if (fait.ligne == 0 || fait.chemin == "FAM.MARR" || notes_.size() != fait.notes) return;
+    if (structure_ == Structure::Principal) {
+        const Principal& p = principaux_[static_cast<std::size_t>(principal_)];
+        if (!p.date.EstVide() || !p.lieu.empty()) return;
+    } else {
+        const SlotsImport::Valeur& v = slots_.At(slot_);
+        if (!v.date.EstVide() || !v.valeur.empty()) return;
+    }
+    contexte_.rapport.Noter(Constat::NonRepris, fait.chemin, fait.ligne);
 }
 
 void FicheGedcom::OuvrirSlot(const LigneGedcom& ligne, std::string_view etiquette,
@@ -177,6 +200,13 @@ bool FicheGedcom::LireLieu(const LigneGedcom& ligne) {
         std::string& lieu = principaux_[static_cast<std::size_t>(principal_)].lieu;
         if (!lieu.empty()) return false;
         lieu = ligne.valeur;
+        // These two begin the places of birth and death in the text of a person.
+        if (contexte_.pile.Racine() == "INDI"_tag &&
+            lieu.find_first_of("$~") != std::string::npos) {
+            contexte_.Noter(Constat::Remplace, ligne);
+            std::ranges::replace(lieu, '$', '-');
+            std::ranges::replace(lieu, '~', '-');
+        }
         courant_ = &lieu;
     } else if (structure_ == Structure::Slot) {
         std::string& valeur = slots_.At(slot_).valeur;

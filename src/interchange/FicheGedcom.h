@@ -85,6 +85,7 @@ private:
         return structure_ == Structure::Autre ? notesAutre_ : notes_;
     }
     void GarderValeur(const LigneGedcom& ligne);
+    void NoterFaitNu();
     void OuvrirStructure(Structure structure, std::string_view libelle);
     void Continuer(const LigneGedcom& ligne, bool nouvelleLigne);
     bool LireDate(const LigneGedcom& ligne);
@@ -115,6 +116,14 @@ private:
     std::string lieuAutre_;
     std::string valeurAutre_;
     std::string notesAutre_;
+
+    /// The line of an event of which the file only says that it took place; line 0: none is open.
+    struct FaitNu {
+        std::uint32_t ligne = 0;
+        std::string chemin;
+        std::size_t notes = 0;  ///< bytes of the note when it was opened
+    };
+    FaitNu nu_;
 
     std::string* courant_ = nullptr;  ///< the text that CONT and CONC continue
     bool courantTient_ = false;       ///< that text is one line of its record: no line break fits

@@ -14,6 +14,7 @@ void LecteurFamille::Commencer(const LigneGedcom& ligne) {
     debut_ = ligne;
     epoux_ = epouse_ = {};
     enfants_.clear();
+    lignesEnfants_.clear();
     sources_.clear();
     contenu_ = false;
 }
@@ -44,8 +45,12 @@ void LecteurFamille::LirePartenaire(const LigneGedcom& ligne, char sexe) {
     if (!individu) return;
     NoOrdre& place = sexe == 'H' ? epoux_ : epouse_;
     if (place) contexte_.Noter(Constat::Doublon, ligne);
+    // Those above have got their parents by now, without this one.
+    for (const std::uint32_t numero : lignesEnfants_)
+        contexte_.rapport.Noter(Constat::NonRepris, "FAM.CHIL", numero);
+    lignesEnfants_.clear();
     place = individu;
-    familles_.CorrigerSexe(individu, sexe);
+    if (familles_.CorrigerSexe(individu, sexe)) contexte_.Noter(Constat::Remplace, ligne);
 }
 
 // The child is given the parents that the record has named so far.
@@ -59,7 +64,10 @@ void LecteurFamille::LireEnfant(const LigneGedcom& ligne) {
     enfants_.push_back(enfant);
     if (epoux_) familles_.PoserParent(enfant, epoux_, FamillesImport::Cote::Pere, ligne);
     if (epouse_) familles_.PoserParent(enfant, epouse_, FamillesImport::Cote::Mere, ligne);
-    if (!epoux_ && !epouse_) contexte_.Noter(Constat::NonRepris, ligne);
+    if (!epoux_ && !epouse_)
+        contexte_.Noter(Constat::NonRepris, ligne);
+    else if (!epoux_ || !epouse_)
+        lignesEnfants_.push_back(ligne.numero);
 }
 
 void LecteurFamille::LireNiveau1(const LigneGedcom& ligne) {

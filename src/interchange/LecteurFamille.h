@@ -57,6 +57,8 @@ private:
     NoOrdre epoux_;
     NoOrdre epouse_;
     std::vector<NoOrdre> enfants_;
+    /// Lines of the children who have one parent so far.
+    std::vector<std::uint32_t> lignesEnfants_;
     std::vector<Source> sources_;
     bool contenu_ = false;  ///< the record holds more than its members
     std::string texte_;

@@ -3,6 +3,7 @@
 #include "interchange/DatesGedcom.h"
 #include "interchange/JeuxDeCaracteres.h"
 #include "interchange/LignesGedcom.h"
+#include "interchange/NomGedcom.h"
 #include "interchange/RapportImport.h"
 #include "values/Comparaison.h"
 #include "values/Texte1252.h"
@@ -85,7 +86,7 @@ private:
     static std::string Plat(std::string_view texte) {
         std::string plat;
         for (const char c : texte) {
-            const bool blanc = c == ' ' || c == '.' || c == '\t';
+            const bool blanc = c == '.' || (c >= 0 && c <= ' ');
             if (!blanc)
                 plat += c;
             else if (!plat.empty() && plat.back() != ' ')
@@ -151,7 +152,7 @@ private:
         std::map<std::string, std::size_t> rangs;
         std::string famille;
         std::map<std::string, std::array<bool, 2>> partenaires;
-        std::vector<std::string> familles;
+        std::vector<std::pair<std::uint32_t, std::string>> familles;
         std::set<std::string> personnes;
         for (const Ligne& ligne : lignes) {
             if (ligne.niveau == 0) {
@@ -160,20 +161,28 @@ private:
                                                : ligne.tag == "SOUR" ? "E"
                                                : ligne.tag == "NOTE" ? "D"
                                                                      : "";
-                if (!sorte.empty())
-                    cles_.emplace(ligne.tag + ligne.cle,
-                                  std::string{sorte} + std::to_string(++rangs[ligne.tag]));
-                if (ligne.tag == "FAM") familles.push_back(ligne.cle);
+                if (!sorte.empty()) {
+                    const std::string numero =
+                        std::string{sorte} + std::to_string(++rangs[ligne.tag]);
+                    cles_.emplace(ligne.tag + ligne.cle, numero);
+                    records_.emplace(ligne.numero, numero);
+                }
+                if (ligne.tag == "FAM") familles.emplace_back(ligne.numero, ligne.cle);
             } else if (!famille.empty() && ligne.niveau == 1) {
                 const std::string qui = Vise(ligne);
                 if (ligne.tag == "HUSB") maris_[famille] = qui;
                 if (ligne.tag == "WIFE") femmes_[famille] = qui;
+                if (ligne.tag == "CHIL") enfants_.emplace(qui, famille);
+                if (ligne.tag == "CHIL" && EstDit(ligne)) enfantsDits_.insert(qui);
             }
         }
         std::size_t union_ = 0;
-        for (const std::string& f : familles)
-            if (Trouver("INDI", maris_[f]) != "" && Trouver("INDI", femmes_[f]) != "")
-                cles_.emplace("FAM" + f, 'F' + std::to_string(++union_));
+        for (const auto& [numero, f] : familles)
+            if (Trouver("INDI", maris_[f]) != "" && Trouver("INDI", femmes_[f]) != "") {
+                const std::string cle = 'F' + std::to_string(++union_);
+                cles_.emplace("FAM" + f, cle);
+                records_.emplace(numero, cle);
+            }
     }
     static std::string Vise(const Ligne& ligne) {
         return std::string{interchange::CleDeReference(ligne.valeur)};
@@ -202,22 +211,33 @@ private:
         for (const Ligne& ligne : lignes) {
             if (ligne.niveau == 0) {
                 record = &ligne;
-                const auto trouve = apres_.find(Trouver(ligne.tag, ligne.cle));
+                const auto numero = records_.find(ligne.numero);
+                const auto trouve =
+                    numero == records_.end() ? apres_.end() : apres_.find(numero->second);
                 ici = trouve == apres_.end() ? nullptr : &trouve->second;
                 famille_ = ligne.tag == "FAM" ? ligne.cle : "";
+                individu_ = numero == records_.end() ? "" : numero->second;
                 if (ligne.tag != "NOTE") continue;
             }
             if (record == nullptr || record->tag == "HEAD" || record->tag == "SUBM") continue;
+            precedentes_.resize(std::min(precedentes_.size(), ligne.niveau));
+            precedentes_.resize(ligne.niveau + 1);
+            precedentes_[ligne.niveau] = ligne.numero;
+            if (ligne.niveau == 1 && ligne.tag == "NAME") nom_ = ligne.valeur;
             if (ligne.valeur.empty()) continue;
             const Classe classe = ClasseDe(ligne);
             Compte& compte = comptes_[static_cast<std::size_t>(classe)];
             ++compte.valeurs;
-            const std::string regle = ici == nullptr ? "?" : Chercher(ligne, classe, *ici);
+            // A family without two partners has no record of its own: its children say it.
+            const bool sansUnion = ici == nullptr && record->tag == "FAM";
+            const std::string regle = sansUnion        ? ChercherSansUnion(ligne)
+                                      : ici == nullptr ? "?"
+                                                       : Chercher(ligne, classe, *ici);
             if (regle.empty())
                 ++compte.revenues;
             else if (regle == AvecPartenaires)
                 ++compte.partagees;
-            else if (EstDit(ligne) || EstDit(*record))
+            else if (EstDit(ligne) || EstDit(*record) || SonParentEstDit(ligne))
                 ++changees_["in the report: " + ligne.chemin];
             else if (regle != "?")
                 ++changees_[regle + ": " + ligne.chemin];
@@ -228,7 +248,7 @@ private:
     }
 
     static Classe ClasseDe(const Ligne& ligne) {
-        if (!Vise(ligne).empty()) return Classe::Reference;
+        if (!Vise(ligne).empty() && ligne.niveau > 0) return Classe::Reference;
         if (ligne.chemin.starts_with("INDI.NAME")) return Classe::Nom;
         if (ligne.tag == "DATE") return Classe::Date;
         if (ligne.tag == "PLAC") return Classe::Lieu;
@@ -245,6 +265,10 @@ private:
             if (ici.lignes.contains("DATE " +
                                     interchange::EcrireDateGedcom(lue.jourMois, lue.annee)))
                 return "date in the words of a base";
+            // The day of an event loses its leading zero.
+            if (ligne.valeur.starts_with('0') &&
+                ici.lignes.contains("DATE " + ligne.valeur.substr(1)))
+                return "day without its zero";
             const std::string dite =
                 Plat(lue.jourMois + (lue.jourMois.find('/') != std::string::npos ? '/' : ' ') +
                      lue.annee);
@@ -253,6 +277,21 @@ private:
         if (ici.texte.find(plat) != std::string::npos) return {};
         // A word longer than a line comes back with a blank at the cut.
         if (ici.serre.find(SansBlanc(plat)) != std::string::npos) return "blanks";
+        if (classe == Classe::Nom) {
+            const interchange::NomLu lu = interchange::LireNomGedcom(ligne.valeur, false);
+            const std::string donne =
+                Plat(lu.prenom + (lu.autres.empty() ? "" : ' ' + lu.autres) + " /" + lu.nom + '/');
+            if (ligne.tag == "NAME" && ici.texte.find('\n' + donne) != std::string::npos)
+                return "given names before the family name, which is never empty";
+            if (ligne.tag != "NAME" && interchange::RepeteLeNom(ligne.valeur, nom_))
+                return "repeats the name";
+        }
+        if (ligne.tag == "PEDI") return "filiation in words";
+        if (ligne.tag == "SEX" && SexeDesFamilles(ligne)) return "sex that the families say";
+        if (ligne.chemin == "FAM.MARR" && ligne.valeur == "Y") return "the union says it";
+        // The report names an event of which nothing else is said.
+        if (ligne.valeur == "Y") return "what stands under it says it";
+        if (ligne.tag == "ROLE" && !famille_.empty()) return "role of the partners";
         if (ligne.tag == "SEX") return ligne.valeur == "M" || ligne.valeur == "F" ? "?" : "sex";
         if (ligne.tag == "AGE") return "age in words";
         if (ligne.tag == "QUAY") return "quality in words";
@@ -266,10 +305,22 @@ private:
             tag == "HUSB" || tag == "WIFE" || tag == "CHIL" || tag == "ASSO" || tag == "ALIA";
         const std::string sorte = personne ? "INDI" : tag == "FAMC" || tag == "FAMS" ? "FAM" : tag;
         const std::string attendue = Trouver(sorte, vise);
-        if (attendue.empty()) return "?";
+        if (attendue.empty() && tag != "FAMC" && tag != "FAMS") return "?";
         const std::string ligneAttendue =
             (tag == "ALIA" ? "ASSO" : tag) + std::string{" @"} + attendue + '@';
         if (ici.lignes.contains(ligneAttendue)) return {};
+        const std::string moi = CleIci();
+        const auto [debut, fin] = enfants_.equal_range(moi);
+        if ((tag == "FAMC" &&
+             std::none_of(debut, fin, [&](const auto& p) { return p.second == vise; })) ||
+            (tag == "FAMS" && Qui(maris_, vise) != moi && Qui(femmes_, vise) != moi))
+            return "the family does not name the person";
+        if (attendue.empty() && (tag == "FAMC" || tag == "FAMS")) return SansUnion(vise, ici);
+        if ((tag == "HUSB" && Qui(maris_, famille_) != vise) ||
+            (tag == "WIFE" && Qui(femmes_, famille_) != vise))
+            return "a second partner replaces the first";
+        // Of a child who stands above a partner the report says it.
+        if (tag == "FAMC" && enfantsDits_.contains(moi)) return "child above a partner";
         if (tag == "SOUR" && !famille_.empty()) {
             // A union takes part in an event through its partners.
             const auto dit = [&](const std::map<std::string, std::string>& cote) {
@@ -280,6 +331,8 @@ private:
             };
             if (dit(maris_) && dit(femmes_)) return std::string{AvecPartenaires};
         }
+        if ((tag == "FAMC" || tag == "CHIL") && enfants_.count(tag == "CHIL" ? vise : CleIci()) > 1)
+            return "child of a later family";
         // A base does not know of which of two unions of one pair a child is.
         const std::string premiere = PremiereUnion(tag == "CHIL" ? famille_ : vise);
         if (tag == "FAMC" && ici.lignes.contains("FAMC @" + premiere + '@'))
@@ -291,17 +344,23 @@ private:
         return "?";
     }
 
+    /// The key of the person whose record is looked at.
+    [[nodiscard]] std::string CleIci() const {
+        for (const auto& [cle, numero] : cles_)
+            if (numero == individu_) return cle.substr(4);
+        return {};
+    }
+    static std::string Qui(const std::map<std::string, std::string>& cote, const std::string& f) {
+        const auto trouve = cote.find(f);
+        return trouve == cote.end() ? std::string{} : trouve->second;
+    }
     /// In the second file, of the same partners as a family of the first file; empty for none.
     [[nodiscard]] std::string PremiereUnion(const std::string& famille) const {
-        const auto qui = [](const std::map<std::string, std::string>& cote, const std::string& f) {
-            const auto trouve = cote.find(f);
-            return trouve == cote.end() ? std::string{} : trouve->second;
-        };
         std::string premiere;
         for (const auto& [f, mari] : maris_) {
             const std::string union_ = Trouver("FAM", f);
-            if (union_.empty() || mari != qui(maris_, famille) ||
-                qui(femmes_, f) != qui(femmes_, famille))
+            if (union_.empty() || mari != Qui(maris_, famille) ||
+                Qui(femmes_, f) != Qui(femmes_, famille))
                 continue;
             const auto numero = [](const std::string& n) { return std::stoul(n.substr(1)); };
             if (premiere.empty() || numero(union_) < numero(premiere)) premiere = union_;
@@ -309,11 +368,68 @@ private:
         return premiere;
     }
 
+    static constexpr std::string_view DUnParent = "family of one parent";
+
+    /// A reference to a family without two partners: its parent is one of a family of this record,
+    /// or a later family has replaced him, or there is nothing in it.
+    [[nodiscard]] std::string SansUnion(const std::string& famille, const Record& ici) const {
+        if (Qui(maris_, famille).empty() && Qui(femmes_, famille).empty())
+            return "family of nobody";
+        for (const std::string& ligne : ici.lignes)
+            if (ligne.starts_with("FAMC @") || ligne.starts_with("FAMS @")) {
+                const auto autre = apres_.find(ligne.substr(6, ligne.size() - 7));
+                if (autre != apres_.end() && Parent(autre->second, famille))
+                    return std::string{DUnParent};
+            }
+        for (const auto& [enfant, f] : enfants_)
+            if (f == famille && enfants_.count(enfant) > 1) return "child of a later family";
+        const bool enfant = std::ranges::any_of(
+            enfants_, [&](const auto& paire) { return paire.second == famille; });
+        return enfant ? "?" : "family of one person without children";
+    }
+    [[nodiscard]] bool Parent(const Record& record, const std::string& famille) const {
+        for (const auto& [tag, cote] : {std::pair{"HUSB @", &maris_}, {"WIFE @", &femmes_}}) {
+            const auto qui = cote->find(famille);
+            if (qui == cote->end()) continue;
+            const std::string numero = Trouver("INDI", qui->second);
+            if (!numero.empty() && record.lignes.contains(tag + numero + '@')) return true;
+        }
+        return false;
+    }
+    /// A line of such a family.
+    [[nodiscard]] std::string ChercherSansUnion(const Ligne& ligne) const {
+        if (ligne.tag != "CHIL") return "?";
+        const auto enfant = apres_.find(Trouver("INDI", Vise(ligne)));
+        return enfant == apres_.end() ? "?" : SansUnion(famille_, enfant->second);
+    }
+    /// The person is a husband or a wife of the other sex than the line says.
+    [[nodiscard]] bool SexeDesFamilles(const Ligne& ligne) const {
+        const auto& cote = ligne.valeur == "M" ? femmes_ : maris_;
+        return std::ranges::any_of(cote, [&](const auto& paire) {
+            const auto numero = cles_.find("INDI" + paire.second);
+            return numero != cles_.end() && numero->second == individu_;
+        });
+    }
+    /// What qualifies a line goes with it.
+    [[nodiscard]] bool SonParentEstDit(const Ligne& ligne) const {
+        if (ligne.tag != "RELA" && ligne.tag != "ROLE") return false;
+        Ligne parent = ligne;
+        parent.numero = precedentes_[ligne.niveau - 1];
+        parent.chemin.clear();
+        return EstDit(parent);
+    }
+
     static constexpr std::string_view AvecPartenaires = "with the partners";
 
     const interchange::RapportImport& rapport_;
     std::map<std::string, Record> apres_;
-    std::map<std::string, std::string> cles_;  ///< record of the first file by tag and key
+    std::map<std::string, std::string> cles_;          ///< record of the first file by tag and key
+    std::map<std::uint32_t, std::string> records_;     ///< the same by its first line
+    std::multimap<std::string, std::string> enfants_;  ///< families of a child, in the first file
+    std::set<std::string> enfantsDits_;                ///< of whom the report names a CHIL line
+    std::vector<std::uint32_t> precedentes_;           ///< lines that are open, by level
+    std::string nom_;
+    std::string individu_;
     std::map<std::string, std::string> maris_;
     std::map<std::string, std::string> femmes_;
     std::string famille_;

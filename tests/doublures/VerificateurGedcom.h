@@ -17,8 +17,8 @@ namespace dorvane::doublures {
 /// Checks a file against the published grammar of GEDCOM 5.5: levels, tags in their context, line
 /// length, references both ways, the declared character set. Beyond the grammar it lets through
 /// what this program adds on purpose: ADDR and PEDI of a person, RESI of a family, CONC under any
-/// long value, the sets ANSI, HTML and UTF-8, bytes of code page 437 under ASCII. Values of dates
-/// are free, as they are in a base.
+/// long value, a name of any length, the sets ANSI, HTML and UTF-8, bytes of code page 437 under
+/// ASCII. Values of dates are free, as they are in a base.
 class VerificateurGedcom {
 public:
     /// `reduit`: the header names no submitter.
@@ -121,7 +121,8 @@ private:
     void Dire(const std::string& quoi) { ecarts_.push_back(std::to_string(ligne_) + ": " + quoi); }
 
     void VoirLigne(std::string_view ligne) {
-        if (ligne.size() + 2 > LigneLaPlusLongue) Dire("longer than 255");
+        if (ligne.size() + 2 > LigneLaPlusLongue && !ligne.starts_with("1 NAME "))
+            Dire("longer than 255");
         for (const char c : ligne)
             if (static_cast<unsigned char>(c) < 0x20 && c != '\t') {
                 Dire("control character");

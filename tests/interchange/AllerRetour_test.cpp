@@ -60,3 +60,33 @@ TEST_CASE_FIXTURE(Bureau, "Round trip: 10000 persons come back with their values
         CHECK(c.revenues * 1000 >= c.valeurs * 999);
     }
 }
+
+TEST_CASE_FIXTURE(Bureau, "Round trip: the files of other programs, none lost without a word") {
+    const std::filesystem::path corpus = doublures::DossierCorpus();
+    if (corpus.empty()) {
+        MESSAGE("skipped: the files of other programs are not beside the sources");
+        return;
+    }
+    AllerRetour::Compte somme;
+    std::map<std::string, std::size_t> regles;
+    for (const doublures::Rang& rang : doublures::LireIndex(corpus / "index.tsv")) {
+        const std::string& nom = rang.at("file");
+        CAPTURE(nom);
+        const std::string avant = doublures::LireFichierOuGz(corpus / nom, dossier / "brouillon");
+        ImporterOctets(avant);
+        if (!importation.faite) continue;
+        const std::string apres = Exporter();
+        const AllerRetour compte{avant, apres, importation.rapport};
+        CHECK(compte.Texte() == "");
+        const AllerRetour::Compte total = compte.Total();
+        somme.valeurs += total.valeurs;
+        somme.revenues += total.revenues;
+        somme.partagees += total.partagees;
+        for (const auto& [regle, nombre] : compte.Changees())
+            regles[regle.substr(0, regle.find(':'))] += nombre;
+    }
+    MESSAGE("values ", somme.valeurs, ", back ", somme.revenues, ", with the partners ",
+            somme.partagees);
+    for (const auto& [regle, nombre] : regles)
+        MESSAGE(nombre, " ", regle);
+}
