@@ -1,0 +1,100 @@
+#include "records/Depannage.h"
+
+#include "records/AtelierDepannage.h"
+#include "records/NomsAffiches.h"
+#include "shell/CycleDeVie.h"
+#include "shell/FichierSur.h"
+#include "values/Comparaison.h"
+#include "values/Texte1252.h"
+
+namespace dorvane::records {
+
+namespace {
+
+using shell::Msg;
+
+constexpr std::uint32_t PasCompteur = 100;
+constexpr std::uint32_t MsgTitre = 3910;
+constexpr std::uint32_t MsgRien = 3914;
+constexpr std::uint32_t MsgFini = 3915;
+constexpr std::uint32_t MsgJournalRefuse = 3916;
+
+/// Writes the journal in the working folder; empty when that is refused, which is told.
+std::filesystem::path EcrireJournal(shell::Session& session, const AtelierDepannage& atelier) {
+    std::filesystem::path chemin = session.Travail() / session.CheminBase.stem();
+    chemin += ".TXT";
+    const std::string texte =
+        atelier.journal.empty() ? session.Message(MsgRien) + '\n' : atelier.journal;
+    if (shell::EcrireTout(chemin, TexteVersUtf8(texte))) return chemin;
+    session.dialogue.Informer(Msg(MsgJournalRefuse, shell::CheminAffiche(chemin)));
+    return {};
+}
+
+}  // namespace
+
+std::string AtelierDepannage::Nommer(NoOrdre n) const {
+    const std::string nom = NomEtDates(session, n);
+    return std::string{SansBlancs(nom)} + " (" + std::to_string(n.valeur) + ')';
+}
+
+void AtelierDepannage::Noter(std::string_view fait, std::string_view detail) {
+    ++reparations;
+    journal.append(fait).append("\t").append(detail).append("\n");
+}
+
+void AtelierDepannage::Regretter(std::uint32_t message, std::string_view valeur) {
+    std::string texte = session.Message(message);
+    RemplacerTout(texte, "&1", valeur);
+    journal.append(texte).append("\n");
+}
+
+void AtelierDepannage::Phase(std::string_view litteral) {
+    session.progression.Phase(shell::Litteral(litteral));
+}
+
+void AtelierDepannage::Phase(std::uint32_t message) {
+    session.progression.Phase(Msg(message));
+}
+
+bool AtelierDepannage::Continuer(std::uint32_t fait, std::uint32_t total) {
+    return fait % PasCompteur != 0 || (session.progression.Avancer(fait, total) &&
+                                       // While the screen lives the user may close the base.
+                                       session.base.get() == &base);
+}
+
+BilanDepannage DepannerBase(shell::Session& session, bool sauvegarder) {
+    BilanDepannage bilan;
+    if (!session.base) return bilan;
+    if (sauvegarder && !shell::Sauvegarder(session)) {
+        session.ecran.Actualiser();
+        return bilan;
+    }
+    AtelierDepannage atelier{session};
+    {
+        const shell::CadreProgression cadre{session.progression, Msg(MsgTitre), Msg(MsgTitre)};
+        bilan.complet = DepannerTris(atelier) && DepannerMariages(atelier) &&
+                        DepannerPersonnes(atelier) && DepannerFaits(atelier) &&
+                        DepannerIndex(atelier);
+    }
+    bilan.fait = true;
+    bilan.reparations = atelier.reparations;
+    bilan.journal = EcrireJournal(session, atelier);
+    session.dialogue.Annoncer(Msg(MsgFini, std::to_string(bilan.reparations)));
+    session.ecran.Actualiser();
+    return bilan;
+}
+
+BilanDepannage MnuDepannage(shell::Session& session) {
+    if (!shell::CommandePermise(session) || !session.base) return {};
+    switch (session.dialogue.Demander({Msg(843), Msg(842), shell::Boutons::OuiNonAnnuler})) {
+        case shell::Reponse::Oui:
+            return DepannerBase(session, true);
+        case shell::Reponse::Non:
+            return DepannerBase(session, false);
+        case shell::Reponse::Annuler:
+            break;
+    }
+    return {};
+}
+
+}  // namespace dorvane::records
