@@ -60,6 +60,7 @@ public:
           contenu_{contenu},
           libelles_{session.catalogue},
           indexes_{Indexes()},
+          premier_{session.base->entete.DernierIndividu + 1},
           motsCles_{base_, libelles_, contenu, rapport},
           noms_{Noms()},
           poser_{
@@ -79,7 +80,7 @@ public:
         static_cast<void>(poser_.Poser(suivre));
         storage::AvancementMuet muet;
         if (base_.entete.TypeTri != '0') static_cast<void>(base_.R_TRI.TrierIndividus(muet));
-        static_cast<void>(storage::ConstruireIndex(base_, Types(), muet));
+        Indexer();
         for (shell::DeCujus& deCujus : session_.deCujus)
             deCujus.perime = deCujus.perime || static_cast<bool>(deCujus.individu);
     }
@@ -118,6 +119,46 @@ private:
         return types;
     }
 
+    /// Words of these keywords that stand in the texts of the new persons, each as often as it
+    /// does.
+    std::size_t CompterMots(const std::vector<NoMotCle>& types) {
+        std::size_t mots = 0;
+        ParcourirTextes([&](NoOrdre /*n*/, const std::string& texte) {
+            for (const NoMotCle k : types)
+                mots += static_cast<std::size_t>(
+                    std::ranges::count(texte, base_.motsCles.LibelleType(k).symbole));
+        });
+        return mots;
+    }
+
+    template <class Faire>
+    void ParcourirTextes(Faire faire) {
+        for (NoOrdre n{premier_}; n.valeur <= base_.entete.DernierIndividu; ++n.valeur) {
+            faire(n, std::string{base_.R_TEXTE.LireTexte(n)});
+            for (const NoMariage m : base_.R_MARIAG.Elements(n))
+                faire(n, std::string{base_.R_TXTMAR.LireTexte(m)});
+        }
+    }
+
+    // Building the lists anew is quick, but takes an entry for every word of the base. When these
+    // run short the new words are entered one by one.
+    void Indexer() {
+        storage::AvancementMuet muet;
+        const std::vector<NoMotCle> types = Types();
+        std::size_t entrees = base_.entete.NbIndex + CompterMots(types);
+        for (const NoMotCle k : types)
+            entrees += base_.R_INDEX.ListeMots(k).size();
+        if (entrees <= storage::MaxIndex) {
+            static_cast<void>(storage::ConstruireIndex(base_, types, muet));
+            return;
+        }
+        ParcourirTextes(
+            [&](NoOrdre n, const std::string& texte) { base_.R_INDEX.MajIndex(n, {}, texte); });
+        std::vector<NoMotCle> nouveaux = types;
+        std::erase_if(nouveaux, [&](NoMotCle k) { return !motsCles_.EstNouveau(k); });
+        static_cast<void>(storage::ConstruireIndex(base_, nouveaux, muet));
+    }
+
     /// Rows of the file that the base lacks come behind its own while there is room: without its
     /// row a line of a sheet is a line of the note.
     void AjouterSlots(storage::Slots& slots, const std::vector<SlotLgr>& lus) {
@@ -136,6 +177,7 @@ private:
     const ContenuLgr& contenu_;
     shell::TableLibelles libelles_;
     std::string indexes_;
+    std::uint32_t premier_;  ///< number of the first new person
     MotsClesLgr motsCles_;
     NomsLgr noms_;
     PoserLgr poser_;

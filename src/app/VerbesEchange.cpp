@@ -1,0 +1,37 @@
+#include "app/CommandeBase.h"
+#include "app/Verbes.h"
+#include "interchange/IntegrerLgr.h"
+#include "values/Texte1252.h"
+
+#include <iostream>
+
+namespace dorvane::outil {
+
+namespace {
+
+struct OptionsIntegrer : OptionsBase {
+    std::string fichier;
+};
+
+int Integrer(Atelier& atelier, const OptionsIntegrer& o) {
+    const interchange::Integration integration =
+        interchange::IntegrerLgr(atelier.session, o.fichier);
+    if (integration.issue == interchange::IssueIntegration::Illisible) return RefusSysteme;
+    if (integration.issue != interchange::IssueIntegration::Faite) return Refus;
+    std::cout << TexteVersUtf8(integration.texte);
+    return Fait;
+}
+
+}  // namespace
+
+void DeclarerVerbesEchange(CLI::App& app, std::function<int()>& faire) {
+    Declarer<OptionsIntegrer>(
+        app, faire, "integrer",
+        "Ajoute à la base les personnes d'un fichier d'échange .lgr, sous de nouveaux numéros",
+        [](CLI::App& v, OptionsIntegrer& o) {
+            v.add_option("FICHIER", o.fichier, "Le fichier .lgr")->required();
+        },
+        Integrer);
+}
+
+}  // namespace dorvane::outil
