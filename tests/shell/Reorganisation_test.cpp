@@ -1,0 +1,325 @@
+#include "shell/Reorganisation.h"
+
+#include "doublures/ContenuBase.h"
+#include "doublures/DisqueMemoire.h"
+#include "doublures/FamilleEssai.h"
+#include "doublures/SeanceEssai.h"
+#include "doublures/SessionEssai.h"
+#include "shell/CycleDeVie.h"
+#include "shell/Demarrage.h"
+#include "shell/FichierSur.h"
+#include "shell/Libelles.h"
+#include "storage/Base.h"
+#include "values/Texte1252.h"
+
+#include <map>
+#include <memory>
+
+#include <doctest/doctest.h>
+
+using namespace dorvane;
+using namespace dorvane::shell;
+
+namespace {
+
+struct Bureau : doublures::SessionEssai {
+    Bureau() {
+        Demarrage(session);
+        dialogue.fichiers.emplace_back(chemin);
+        MnuNouveau(session);
+        REQUIRE(session.BaseOuverte());
+        storage::SeanceEssai seance{*session.base, 3};
+        for (int i = 0; i < 200; ++i)
+            seance.Agir();
+        REQUIRE(MnuEnregistrer(session));
+        dialogue.entendu.clear();
+        dialogue.annonces.clear();
+    }
+    std::filesystem::path chemin = dossier / "Famille.LGD";
+
+    std::string Octets(const char* nom = "Famille.LGD") {
+        return LireTout(dossier / nom).value_or("absent");
+    }
+    std::string Contenu() { return storage::ContenuBase{*session.base}.Texte(); }
+};
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Bureau, "MnuReorganiser: asks for a copy first; no goes on, cancel stops") {
+    const std::string avant = Octets();
+    const std::string contenu = Contenu();
+    SUBCASE("cancel") {
+        dialogue.reponses = {Reponse::Annuler};
+        CHECK(MnuReorganiser(session) == IssueSoin::Abandonnee);
+        CHECK(Octets() == avant);
+        CHECK(ecran.fermetures == 0);
+    }
+    SUBCASE("no") {
+        dialogue.reponses = {Reponse::Non};
+        CHECK(MnuReorganiser(session) == IssueSoin::Faite);
+        CHECK(Octets().size() < avant.size());
+        CHECK(Octets("Famille.SAV") == "absent");
+    }
+    SUBCASE("yes: the copy is the base as it was") {
+        dialogue.reponses = {Reponse::Oui};
+        CHECK(MnuReorganiser(session) == IssueSoin::Faite);
+        CHECK(Octets().size() < avant.size());
+        CHECK(Octets("Famille.SAV") == avant);
+        CHECK(ecran.fermetures > 0);
+    }
+    REQUIRE(dialogue.questions.size() == 1);
+    CHECK(dialogue.questions[0].texte == Msg(842));
+    CHECK(dialogue.questions[0].titre == Msg(545));
+    CHECK(dialogue.questions[0].boutons == Boutons::OuiNonAnnuler);
+    REQUIRE(session.BaseOuverte());
+    CHECK(Contenu() == contenu);
+    CHECK(Octets("Reorg.fic") == "absent");
+    CHECK(progression.cadres == 0);
+    CHECK(progression.sabliers == 0);
+}
+
+TEST_CASE_FIXTURE(Bureau, "MnuReorganiser: a running job is told, and nothing is asked") {
+    progression.Commencer({}, {});
+    CHECK(MnuReorganiser(session) == IssueSoin::Abandonnee);
+    CHECK(dialogue.entendu == std::vector{Msg(503)});
+}
+
+TEST_CASE_FIXTURE(Bureau, "Reorganisation: what was not saved yet is in the new file") {
+    const NoOrdre n = doublures::FamilleEssai{*session.base}.Creer('H', "NOUVEAU", "Paul", "1850");
+    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    CHECK(session.base->R_NOM.NomDe(n) == "NOUVEAU");
+    CHECK(Octets().find("NOUVEAU;Paul") != std::string::npos);
+}
+
+TEST_CASE_FIXTURE(Bureau, "Reorganisation: current person and numberings are taken up again") {
+    const NoOrdre n = session.base->R_TRI.IndividuAuRang(3);
+    session.PersonneEnCours = n;
+    session.deCujus[0].individu = n;
+    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    CHECK(session.PersonneEnCours == n);
+    CHECK(session.deCujus[0].individu == n);
+    CHECK(session.deCujus[0].NumeroDe(n) == "1");
+    CHECK(session.CheminBase == chemin);
+}
+
+TEST_CASE_FIXTURE(Bureau, "Reorganisation: nobody reaches the base while it is copied") {
+    bool ouverte = false;
+    progression.aChaquePas = [&] {
+        ouverte = ouverte || session.BaseOuverte();
+        Minuterie1(session);
+    };
+    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    CHECK_FALSE(ouverte);
+    CHECK(progression.pas > 5);
+}
+
+TEST_CASE_FIXTURE(Bureau, "Reorganisation: given up, the base is as it was and open again") {
+    const std::string avant = Octets();
+    progression.annulerAu = 4;
+    CHECK(ReorganiserBase(session, false) == IssueSoin::Abandonnee);
+    CHECK(Octets() == avant);
+    CHECK(Octets("Reorg.fic") == "absent");
+    CHECK(session.BaseOuverte());
+    CHECK(dialogue.entendu.empty());
+}
+
+TEST_CASE_FIXTURE(Bureau, "Reorganisation: the size before and after is told") {
+    const std::string avant = std::to_string(Octets().size());
+    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    CHECK(dialogue.annonces.back() == Msg(3904, std::to_string(Octets().size()), avant));
+}
+
+TEST_CASE("Reorganisation: unions that are left out are told with their number") {
+    doublures::SessionEssai essai;
+    Demarrage(essai.session);
+    essai.dialogue.fichiers.emplace_back(essai.dossier / "Famille.LGD");
+    MnuNouveau(essai.session);
+    doublures::FamilleEssai famille{*essai.session.base};
+    famille.Marier({}, famille.Creer('F', "MARTIN", "Anne"));
+    essai.dialogue.entendu.clear();
+    REQUIRE(ReorganiserBase(essai.session, false) == IssueSoin::Faite);
+    CHECK(essai.dialogue.entendu == std::vector{Msg(3905, "1")});
+}
+
+TEST_CASE_FIXTURE(Bureau, "Reorganisation: a leftover of an earlier one is overwritten") {
+    doublures::EcrireFichier(dossier / "Reorg.fic", "un reste");
+    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    CHECK(Octets("Reorg.fic") == "absent");
+}
+
+TEST_CASE_FIXTURE(
+    Bureau, "Reorganisation: the journal of a base of that name in the folder is not touched") {
+    doublures::EcrireFichier(dossier / "Reorg.LOG", "le journal d'une autre base");
+    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    CHECK(Octets("Reorg.LOG") == "le journal d'une autre base");
+}
+
+TEST_CASE_FIXTURE(Bureau, "Reorganisation: two at a time in one folder are refused") {
+    const storage::ResultatVerrou verrou = disque.Verrouiller(dossier / "Reorg.fic");
+    const std::string avant = Octets();
+    CHECK(ReorganiserBase(session, false) == IssueSoin::Refusee);
+    CHECK(dialogue.entendu == std::vector{Msg(3901, CheminAffiche(dossier / "Reorg.fic"))});
+    CHECK(Octets() == avant);
+    CHECK(session.BaseOuverte());
+}
+
+TEST_CASE_FIXTURE(Bureau, "Reorganisation: a new file that cannot be written is told") {
+    const std::string avant = Octets();
+    std::filesystem::create_directories(dossier / "Reorg.fic" / "plein");
+    CHECK(ReorganiserBase(session, false) == IssueSoin::Refusee);
+    CHECK(dialogue.entendu == std::vector{Msg(3902, CheminAffiche(dossier / "Reorg.fic"))});
+    CHECK(Octets() == avant);
+    CHECK(session.BaseOuverte());
+}
+
+TEST_CASE_FIXTURE(Bureau,
+                  "Reorganisation: pairs of persons are kept, those of the deleted dropped") {
+    const NoOrdre a = session.base->R_TRI.IndividuAuRang(1);
+    const NoOrdre b = session.base->R_TRI.IndividuAuRang(2);
+    const auto paire = [](NoOrdre p, std::uint32_t q) {
+        return std::to_string(p.valeur) + "\t" + std::to_string(q) + "\r\n";
+    };
+    CHECK(CheminPaires(chemin) == dossier / "Famille.FUS");
+    const std::string gardees = paire(a, b.valeur) + "en-tete\r\n" + paire(b, a.valeur);
+    doublures::EcrireFichier(dossier / "Famille.FUS", paire(a, 64000) + gardees + paire(b, 99999) +
+                                                          "70000000000000000000 1\n");
+    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    CHECK(Octets("Famille.FUS") == gardees);
+    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    CHECK(Octets("Famille.FUS") == gardees);
+    CHECK(Octets("Famille.FUS.TMP") == "absent");
+}
+
+TEST_CASE_FIXTURE(Bureau,
+                  "Reorganisation: an old base becomes neutral, dates, labels, slots and index") {
+    storage::Base& b = *session.base;
+    doublures::FamilleEssai famille{b};
+    const NoOrdre jean = famille.Creer('H', "DURAND", "Jean", "1820", "1890");
+    const NoOrdre anne = famille.Creer('F', "MARTIN", "Anne", "1825");
+    const NoMariage m = famille.Marier(jean, anne, "1845");
+    b.R_NOM.EcrireNom(jean, "DURAND;Jean;;vers;12 mars");
+    const std::string metier = session.Message(MessageDeTag("OCCU").valeur);
+    const std::string divorce = session.Message(MessageDeTag("DIV").valeur);
+    const std::string parrain = session.Message(MessageDeTag("GODF").valeur);
+    REQUIRE(metier != "OCCU");
+    for (const auto& [k, libelle] : {std::pair{6U, metier}, {10U, divorce}}) {
+        storage::MotCle type = b.motsCles.LibelleType(NoMotCle{k});
+        type.libelle = libelle;
+        b.motsCles.CreerType(NoMotCle{k}, type);
+    }
+    const std::string texte =
+        "|DURAND\r\n" + metier + " meunier \\Brest\n" + "Note : " + metier + " ?";
+    b.R_TEXTE.EcrireTexte(jean, texte);
+    b.R_INDEX.MajIndex(jean, "", texte);
+    b.R_TXTMAR.EcrireTexte(m, "vers @Lyon\r\n" + divorce + " 1/2/1850\n");
+    for (const NoOrdre n : {jean, anne})
+        b.R_INDEX.MajIndex(n, "", b.R_TXTMAR.LireTexte(m));
+    famille.Lier(jean, anne, parrain);
+    b.entete.LibellesNeutres = false;
+    b.marques.ModifBase = true;
+
+    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    storage::Base& neuve = *session.base;
+    CHECK(neuve.entete.LibellesNeutres);
+    CHECK(neuve.motsCles.LibelleType(NoMotCle{6}).libelle == "OCCU");
+    CHECK(neuve.R_NOM.LireTexte(jean) == "DURAND;Jean;;ABT;12/3");
+    CHECK(neuve.R_TEXTE.LireTexte(jean) ==
+          "|DURAND\r\nOCCU meunier \\Brest\nNote : " + metier + " ?");
+    CHECK(neuve.R_LIEN.TexteElement(jean, 1) == "GODF");
+    CHECK(neuve.R_TXTMAR.LireTexte(NoMariage{neuve.R_MARIAG.ElementListe(jean, 1)}) ==
+          "ABT @Lyon\r\nDIV 1/2/1850\n");
+    const std::string avant = Octets();
+    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    CHECK(Octets() == avant);
+}
+
+TEST_CASE_FIXTURE(Bureau,
+                  "Reorganisation: an old base that is given up while it turns neutral stays old") {
+    session.base->entete.LibellesNeutres = false;
+    session.base->marques.ModifBase = true;
+    session.base->R_NOM.EcrireNom(NoOrdre{1}, "DURAND;Jean;;vers");
+    REQUIRE(MnuEnregistrer(session));
+    const std::string avant = Octets();
+    for (const std::uint32_t arret : {1U, 2U, 5U, 9U}) {
+        progression.pas = 0;
+        progression.annulerAu = arret;
+        CHECK(ReorganiserBase(session, false) == IssueSoin::Abandonnee);
+        CHECK(Octets() == avant);
+        CHECK_FALSE(session.base->entete.LibellesNeutres);
+    }
+}
+
+namespace {
+
+/// A session whose bases lie on a disk in memory.
+struct Poste {
+    explicit Poste(storage::DisqueMemoire& memoire)
+        : session{{dossier.chemin, dossier.chemin, dossier.chemin},
+                  {dialogue, progression, horloge, ecran, memoire}} {}
+    doublures::DossierTemporaire dossier;
+    doublures::DialogueScript dialogue;
+    doublures::ProgressionScript progression;
+    doublures::HorlogeFixe horloge;
+    doublures::EcranScript ecran;
+    Session session;
+};
+
+constexpr const char* Chemin = "/bases/famille.LGD";
+
+std::string ContenuSur(storage::DisqueMemoire& disque) {
+    storage::AvancementMuet muet;
+    const storage::ResultatOuverture resultat = storage::OuvrirBase(disque, Chemin, muet);
+    if (!resultat.base) return "illisible " + std::to_string(static_cast<int>(resultat.etat));
+    return storage::ContenuBase{*resultat.base}.Texte();
+}
+
+}  // namespace
+
+TEST_CASE(
+    "Reorganisation: a death, a refusal or a power cut at any operation leaves one whole base") {
+    using storage::Panne;
+    storage::DisqueMemoire depart;
+    {
+        storage::ResultatOuverture neuve = storage::NouvelleBase(depart, Chemin, {});
+        storage::SeanceEssai seance{*neuve.base, 11};
+        for (int i = 0; i < 120; ++i)
+            seance.Agir();
+        REQUIRE(neuve.base->Fermer());
+    }
+    const std::string avant = depart.Octets(Chemin);
+    const auto temoin = depart.Survivre();
+    const std::string contenu = ContenuSur(*temoin);
+    {
+        Poste poste{*temoin};
+        REQUIRE(OuvrirChemin(poste.session, Chemin));
+        REQUIRE(ReorganiserBase(poste.session, true) == IssueSoin::Faite);
+    }
+    const std::string apres = temoin->Octets(Chemin);
+    REQUIRE(apres.size() < avant.size());
+    std::map<bool, int> vus;
+    for (int n = 1; n <= temoin->operations; ++n)
+        for (const Panne panne :
+             {Panne::Refus, Panne::Plein, Panne::Dechirure, Panne::Arret, Panne::ArretDechire}) {
+            CAPTURE(n);
+            CAPTURE(static_cast<int>(panne));
+            const auto disque = depart.Survivre();
+            disque->panne = panne;
+            disque->panneA = n;
+            {
+                Poste poste{*disque};
+                static_cast<void>(OuvrirChemin(poste.session, Chemin));
+                static_cast<void>(ReorganiserBase(poste.session, true));
+            }
+            const auto reste = disque->Survivre();
+            const std::string octets = reste->Octets(Chemin);
+            CHECK((octets == avant || octets == apres));
+            ++vus[octets == apres];
+            for (std::uint32_t graine = 1; disque->Mort() && graine <= 3; ++graine) {
+                CAPTURE(graine);
+                const auto coupe = disque->CouperCourant(graine * 100 + static_cast<unsigned>(n));
+                CHECK(ContenuSur(*coupe) == contenu);
+            }
+        }
+    CHECK(vus[false] > 0);
+    CHECK(vus[true] > 0);
+}
