@@ -128,6 +128,7 @@ int Executer(int nombre, const char* const* arguments) {
     DeclarerVerbesFiche(app, ligne.faire);
     DeclarerVerbesFaits(app, ligne.faire);
     DeclarerVerbesReglages(app, ligne.faire);
+    DeclarerVerbesSoin(app, ligne.faire);
     DeclarerVerbesExport(app, ligne.faire);
     DeclarerVerbesEchange(app, ligne.faire);
     DeclarerVerbesCommunes(app, ligne.faire);

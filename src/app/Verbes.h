@@ -15,6 +15,9 @@ void DeclarerVerbesFaits(CLI::App& app, std::function<int()>& faire);
 /// `motcle`, `rechercher`, `parametre`.
 void DeclarerVerbesReglages(CLI::App& app, std::function<int()>& faire);
 
+/// `reorganiser`, `controler`, `depanner`.
+void DeclarerVerbesSoin(CLI::App& app, std::function<int()>& faire);
+
 /// `exporter`.
 void DeclarerVerbesExport(CLI::App& app, std::function<int()>& faire);
 /// `integrer`.

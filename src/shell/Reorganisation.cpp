@@ -144,6 +144,13 @@ IssueSoin Reecrire(Session& session, const fs::path& chemin, storage::BilanReorg
 
 }  // namespace
 
+IssueSoin ReecrireBase(Session& session, const std::filesystem::path& chemin) {
+    storage::BilanReorganisation bilan;
+    const IssueSoin issue = Reecrire(session, chemin, bilan);
+    if (issue == IssueSoin::Faite) DireBilan(session, bilan);
+    return issue;
+}
+
 std::filesystem::path CheminPaires(const std::filesystem::path& base) {
     std::string nom = base.filename().string();
     nom.resize(nom.size() - std::min<std::size_t>(3, nom.size()));

@@ -21,6 +21,10 @@ IssueSoin MnuReorganiser(Session& session);
 /// The same without the question: with or without a backup.
 IssueSoin ReorganiserBase(Session& session, bool sauvegarder);
 
+/// The rewriting alone, of the base at `chemin` (absolute), which nobody has open. Tells what came
+/// of it. No settings are touched.
+IssueSoin ReecrireBase(Session& session, const std::filesystem::path& chemin);
+
 /// The list of pairs of persons that the search for duplicates keeps beside a base.
 [[nodiscard]] std::filesystem::path CheminPaires(const std::filesystem::path& base);
 

@@ -1,0 +1,97 @@
+#include "app/CommandeBase.h"
+#include "app/Commandes.h"
+#include "app/DecrirePersonne.h"
+#include "app/Verbes.h"
+#include "records/ControleBase.h"
+#include "records/Depannage.h"
+#include "shell/CycleDeVie.h"
+#include "shell/Reorganisation.h"
+#include "values/Texte1252.h"
+
+#include <iostream>
+
+namespace dorvane::outil {
+
+namespace {
+
+struct OptionsSoin : OptionsBase {
+    bool sansSauvegarde = false;
+};
+
+/// Messages that tell of the file system, not of the base.
+bool DitDuSysteme(NoMessage message) {
+    return message == NoMessage{3902} || message == NoMessage{700} || message == NoMessage{2405};
+}
+
+int Reorganiser(const OptionsSoin& o) {
+    const std::filesystem::path chemin = shell::CheminEntier(o.base);
+    if (!o.sansSauvegarde)
+        if (const int statut = Sauvegarder(chemin); statut != Fait) return statut;
+    Atelier atelier{{}};
+    if (shell::ReecrireBase(atelier.session, chemin) == shell::IssueSoin::Faite) return Fait;
+    return DitDuSysteme(atelier.dialogue.dernier) ? RefusSysteme : Refus;
+}
+
+int Controler(Atelier& atelier, const OptionsSoin& o) {
+    Json liste = Json::array();
+    std::vector<records::Constat> constats;
+    const records::BilanControle bilan =
+        records::ControlerBase(atelier.session, [&](const records::Constat& constat) {
+            if (o.json)
+                liste.push_back({{"personne", constat.individu.valeur},
+                                 {"rang", constat.rang},
+                                 {"message", constat.message},
+                                 {"texte", TexteVersUtf8(constat.texte)},
+                                 {"identite", TexteVersUtf8(constat.identite)}});
+            else
+                constats.push_back(constat);
+        });
+    if (o.json)
+        std::cout << EnTexte(liste) << '\n';
+    else
+        std::cout << records::TexteDesConstats(constats);
+    return bilan.constats == 0 ? Fait : Refus;
+}
+
+int Depanner(Atelier& atelier, const OptionsSoin& /*o*/) {
+    const records::BilanDepannage bilan = records::DepannerBase(atelier.session, false);
+    if (!bilan.fait) return Refus;
+    std::cout << bilan.reparations << '\n';
+    if (!bilan.journal.empty()) std::cout << bilan.journal.string() << '\n';
+    return Fait;
+}
+
+/// The copy is made of the closed file, before anything else.
+int SauvegarderPuisDepanner(const OptionsSoin& o) {
+    if (!o.sansSauvegarde)
+        if (const int statut = Sauvegarder(o.base); statut != Fait) return statut;
+    return AvecBase(o, [&o](Atelier& atelier) { return Depanner(atelier, o); });
+}
+
+void DeclarerSeul(CLI::App& app, std::function<int()>& faire, const char* nom, const char* aide,
+                  int (*travail)(const OptionsSoin&)) {
+    auto options = std::make_shared<OptionsSoin>();
+    CLI::App* verbe = app.add_subcommand(nom, aide);
+    DeclarerBase(*verbe, *options);
+    verbe->add_flag("--sans-sauvegarde", options->sansSauvegarde, "Ne copie pas la base en .SAV");
+    verbe->callback(
+        [options, travail, &faire] { faire = [options, travail] { return travail(*options); }; });
+}
+
+}  // namespace
+
+void DeclarerVerbesSoin(CLI::App& app, std::function<int()>& faire) {
+    DeclarerSeul(app, faire, "reorganiser",
+                 "Réécrit la base sans ce qui n'y sert plus ; la copie d'abord en .SAV",
+                 Reorganiser);
+    Declarer<OptionsSoin>(
+        app, faire, "controler",
+        "Dit ce qui paraît faux : numéro, anomalie et nom, un par ligne ; statut 1 s'il y en a",
+        [](CLI::App& v, OptionsSoin& o) { v.add_flag("--json", o.json); }, Controler);
+    DeclarerSeul(app, faire, "depanner",
+                 "Répare les liens de la base ; la copie d'abord en .SAV ; dit combien de "
+                 "réparations, et où est leur compte rendu",
+                 SauvegarderPuisDepanner);
+}
+
+}  // namespace dorvane::outil
