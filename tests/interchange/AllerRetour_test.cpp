@@ -7,6 +7,8 @@
 #include "interchange/EssaiImport.h"
 #include "interchange/ExportGedcom.h"
 
+#include <cstdlib>
+
 #include <doctest/doctest.h>
 
 using namespace dorvane;
@@ -89,4 +91,15 @@ TEST_CASE_FIXTURE(Bureau, "Round trip: the files of other programs, none lost wi
             somme.partagees);
     for (const auto& [regle, nombre] : regles)
         MESSAGE(nombre, " ", regle);
+}
+
+TEST_CASE_FIXTURE(Bureau, "Round trip: the file that DORVANE_ALLER_RETOUR names") {
+    const char* nom = std::getenv("DORVANE_ALLER_RETOUR");
+    if (nom == nullptr) return;
+    const std::string avant = doublures::LireFichierOuGz(nom, dossier / "brouillon");
+    ImporterOctets(avant);
+    REQUIRE(importation.faite);
+    const AllerRetour compte{avant, Exporter(), importation.rapport};
+    CHECK(compte.Texte() == "");
+    Montrer(compte);
 }
