@@ -54,6 +54,27 @@ struct EssaiLgr : FicheEssai {
         return interchange::IntegrerLgr(session, fichier);
     }
 
+    // What `FamilleEssai` lacks.
+    NoDocument Document(std::string_view titre) {
+        const NoDocument d = B().NouveauDocument();
+        B().R_IMAGE.EcrireDoc(d, {std::string{titre}, {}, {}, {}});
+        B().R_TRI.AjouterDocument(d);
+        return d;
+    }
+    NoEvenement Evenement(std::int32_t date, std::string_view type) {
+        const NoEvenement e = B().NouvelEvenement();
+        B().R_EVT.EcrireEvt(e, {.cleDate = date,
+                                .description = storage::DescriptionEvt{{}, {}, std::string{type}}});
+        B().R_TRI.AjouterEvt(e);
+        return e;
+    }
+    void Participer(NoEvenement e, NoOrdre n, std::string_view role) {
+        std::vector<storage::LienEvenement> liens = B().R_EVT.Liens(e);
+        liens.push_back({n, std::string{role}});
+        B().R_EVT.EcrireEvt(e, {.liens = liens});
+        B().R_LSTEVT.ModifierListe(n, e, 'A', role);
+    }
+
     static std::string EnLignes(std::string_view lignes) {
         std::string texte;
         for (const char c : lignes)
