@@ -1,6 +1,7 @@
 // An export that is imported and exported again gives the same file, except for the changes that
 // are named here, one to a case.
 #include "doublures/FamilleEssai.h"
+#include "doublures/HistoireEssai.h"
 #include "doublures/VerificateurGedcom.h"
 #include "interchange/EssaiImport.h"
 #include "interchange/ExportGedcom.h"
@@ -231,4 +232,31 @@ TEST_CASE_FIXTURE(Bureau, "Export again: a family of one parent and one child, a
     DeuxFois();
     CHECK(premiere == seconde);
     CHECK(Dit(premiere, "0 @F2@ FAM\n1 WIFE @I1@\n1 CHIL @I3@\n"));
+}
+
+TEST_CASE_FIXTURE(Bureau,
+                  "Export again: whatever was typed gives a file by the grammar in each set") {
+    for (std::uint32_t graine = 1; graine <= 4; ++graine) {
+        CAPTURE(graine);
+        doublures::HistoireEssai histoire{*this, graine};
+        for (int k = 0; k < 250; ++k)
+            histoire.Agir();
+        for (const JeuExport jeu : {JeuExport::Ascii, JeuExport::Ansi, JeuExport::Ansel,
+                                    JeuExport::Html, JeuExport::Utf8}) {
+            OptionsExport options;
+            options.jeu = jeu;
+            std::string octets;
+            ComptesExport comptes;
+            REQUIRE(ComposerGedcom(session, "x.ged", options, octets, comptes));
+            CHECK(doublures::VerificateurGedcom{octets}.Texte() == "");
+        }
+    }
+    REQUIRE(B().entete.NbTriIndividus > 20);
+    REQUIRE(B().entete.NbTriEvenements > 5);
+    // After two imports nothing changes any more.
+    for (int k = 0; k < 2; ++k)
+        Reprendre(Exporter());
+    const std::string fixe = Exporter();
+    Reprendre(fixe);
+    CHECK(Exporter() == fixe);
 }
