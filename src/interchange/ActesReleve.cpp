@@ -48,16 +48,15 @@ void AjouterLigne(std::string& texte, std::string_view mot, std::string_view val
 /// The acts of one survey, line by line.
 class Actes {
 public:
-    Actes(shell::Session& session, EcrivainReleve& ecrivain, const Releve& releve,
+    Actes(const shell::Session& session, SortieActes& ecrivain, const Releve& releve,
           RapportReleve& rapport)
         : session_{session}, ecrivain_{ecrivain}, releve_{releve}, rapport_{rapport} {}
 
-    bool Ecrire() {
+    bool Ecrire(const AvancerActes& avancer) {
         const auto total = static_cast<std::uint32_t>(releve_.lignes.size());
         std::uint32_t fait = 0;
         for (const LigneReleve& ligne : releve_.lignes) {
-            if (++fait % PasDeProgression == 0 && !session_.progression.Avancer(fait, total))
-                return false;
+            if (++fait % PasDeProgression == 0 && !avancer(fait, total)) return false;
             ligne_ = &ligne;
             if (ligne.trop || ligne.champs.size() > TitresColonnes(releve_.sorte).size())
                 Noter(TropDeColonnes);
@@ -300,7 +299,7 @@ private:
     }
 
     /// An event with those of its participants who are there.
-    void Inscrire(const EcrivainReleve::Evenement& evenement,
+    void Inscrire(const EvenementActe& evenement,
                   std::vector<storage::LienEvenement> participants) {
         std::erase_if(participants,
                       [](const storage::LienEvenement& lien) { return !lien.individu; });
@@ -357,8 +356,8 @@ private:
         return place == ascendants_.end() ? Ascendant{} : place->second;
     }
 
-    shell::Session& session_;
-    EcrivainReleve& ecrivain_;
+    const shell::Session& session_;
+    SortieActes& ecrivain_;
     const Releve& releve_;
     RapportReleve& rapport_;
     const LigneReleve* ligne_ = nullptr;
@@ -367,9 +366,9 @@ private:
 
 }  // namespace
 
-bool EcrireActes(shell::Session& session, EcrivainReleve& ecrivain, const Releve& releve,
-                 RapportReleve& rapport) {
-    return Actes{session, ecrivain, releve, rapport}.Ecrire();
+bool EcrireActes(const shell::Session& session, SortieActes& ecrivain, const Releve& releve,
+                 RapportReleve& rapport, const AvancerActes& avancer) {
+    return Actes{session, ecrivain, releve, rapport}.Ecrire(avancer);
 }
 
 }  // namespace dorvane::interchange

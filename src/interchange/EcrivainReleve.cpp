@@ -23,7 +23,29 @@ std::string Propre(std::string_view champ) {
     return propre;
 }
 
+bool TientEncore(std::uint32_t individus, std::uint32_t evenements) {
+    return individus + MaxParActe <= storage::MaxIndividus && evenements < storage::MaxEvenements;
+}
+
 }  // namespace
+
+bool CompteActes::APlace() const {
+    return TientEncore(individus, evenements);
+}
+
+NoOrdre CompteActes::Creer(const PersonneActe& personne) {
+    return personne.EstVide() ? NoOrdre{} : NoOrdre{++individus};
+}
+
+NoMariage CompteActes::Unir(NoOrdre epoux, NoOrdre epouse, const DateLue& /*date*/,
+                            std::string_view /*lieu*/) {
+    return epoux && epouse ? NoMariage{++unions} : NoMariage{};
+}
+
+void CompteActes::CreerEvenement(const EvenementActe& /*evenement*/,
+                                 const std::vector<storage::LienEvenement>& /*participants*/) {
+    ++evenements;
+}
 
 EcrivainReleve::EcrivainReleve(storage::Base& base, SorteReleve sorte)
     : base_{base}, marqueurs_{base}, slots_{marqueurs_} {
@@ -45,8 +67,7 @@ EcrivainReleve::EcrivainReleve(storage::Base& base, SorteReleve sorte)
 }
 
 bool EcrivainReleve::APlace() const {
-    return base_.entete.DernierIndividu + MaxParActe <= storage::MaxIndividus &&
-           base_.entete.DernierEvenement < storage::MaxEvenements;
+    return TientEncore(base_.entete.DernierIndividu, base_.entete.DernierEvenement);
 }
 
 NoOrdre EcrivainReleve::Creer(const PersonneActe& p) {
@@ -126,7 +147,7 @@ NoMariage EcrivainReleve::Unir(NoOrdre epoux, NoOrdre epouse, const DateLue& dat
     return m;
 }
 
-void EcrivainReleve::CreerEvenement(const Evenement& evenement,
+void EcrivainReleve::CreerEvenement(const EvenementActe& evenement,
                                     const std::vector<storage::LienEvenement>& participants) {
     const NoEvenement e = base_.NouvelEvenement();
     if (!e) return;

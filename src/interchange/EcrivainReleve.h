@@ -30,33 +30,67 @@ struct PersonneActe {
     [[nodiscard]] bool EstVide() const { return nom.empty() && prenoms.empty(); }
 };
 
+/// The event of an act.
+struct EvenementActe {
+    std::string_view tag;
+    std::optional<Serie> jour;
+    std::string_view lieu;
+    std::string titre;
+    std::string texte;
+};
+
+/// Where the records of the acts go.
+class SortieActes {
+public:
+    SortieActes() = default;
+    virtual ~SortieActes() = default;
+    SortieActes(const SortieActes&) = delete;
+    SortieActes& operator=(const SortieActes&) = delete;
+
+    /// There is room for the persons of one more act, and for its event.
+    [[nodiscard]] virtual bool APlace() const = 0;
+    /// 0 for an empty person.
+    virtual NoOrdre Creer(const PersonneActe& personne) = 0;
+    /// Both parents, either of which may be 0.
+    virtual void Rattacher(NoOrdre enfant, NoOrdre pere, NoOrdre mere) = 0;
+    /// 0 when either partner is missing.
+    virtual NoMariage Unir(NoOrdre epoux, NoOrdre epouse, const DateLue& date,
+                           std::string_view lieu) = 0;
+    /// An event with its participants, roles as tags, linked to document 1.
+    virtual void CreerEvenement(const EvenementActe& evenement,
+                                const std::vector<storage::LienEvenement>& participants) = 0;
+};
+
+/// Writes nothing: tells how many records there would be.
+class CompteActes final : public SortieActes {
+public:
+    [[nodiscard]] bool APlace() const override;
+    NoOrdre Creer(const PersonneActe& personne) override;
+    void Rattacher(NoOrdre /*enfant*/, NoOrdre /*pere*/, NoOrdre /*mere*/) override {}
+    NoMariage Unir(NoOrdre epoux, NoOrdre epouse, const DateLue& date,
+                   std::string_view lieu) override;
+    void CreerEvenement(const EvenementActe& evenement,
+                        const std::vector<storage::LienEvenement>& participants) override;
+
+    std::uint32_t individus = 0;
+    std::uint32_t unions = 0;
+    std::uint32_t evenements = 0;
+};
+
 /// Writes the records of a survey into a new base: keywords, persons, events, unions, and the
 /// tables at the end.
-class EcrivainReleve {
+class EcrivainReleve final : public SortieActes {
 public:
     /// `base` is new and outlives the object. The keywords of the kind get numbers from 1.
     EcrivainReleve(storage::Base& base, SorteReleve sorte);
 
-    /// There is room for the persons of one more act, and for its event.
-    [[nodiscard]] bool APlace() const;
-
-    /// 0 for an empty person.
-    NoOrdre Creer(const PersonneActe& personne);
-    /// Both parents, either of which may be 0.
-    void Rattacher(NoOrdre enfant, NoOrdre pere, NoOrdre mere);
-    /// 0 when either partner is missing.
-    NoMariage Unir(NoOrdre epoux, NoOrdre epouse, const DateLue& date, std::string_view lieu);
-
-    struct Evenement {
-        std::string_view tag;
-        std::optional<Serie> jour;
-        std::string_view lieu;
-        std::string titre;
-        std::string texte;
-    };
-    /// An event with its participants, roles as tags, linked to document 1.
-    void CreerEvenement(const Evenement& evenement,
-                        const std::vector<storage::LienEvenement>& participants);
+    [[nodiscard]] bool APlace() const override;
+    NoOrdre Creer(const PersonneActe& personne) override;
+    void Rattacher(NoOrdre enfant, NoOrdre pere, NoOrdre mere) override;
+    NoMariage Unir(NoOrdre epoux, NoOrdre epouse, const DateLue& date,
+                   std::string_view lieu) override;
+    void CreerEvenement(const EvenementActe& evenement,
+                        const std::vector<storage::LienEvenement>& participants) override;
     /// Document 1, which names the file and the kind of survey.
     void CreerDocument(const std::string& titre, const std::string& fichier);
 

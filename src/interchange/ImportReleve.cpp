@@ -25,18 +25,41 @@ std::string NomReleve(const shell::Session& session, SorteReleve sorte) {
     return session.Message(4142);
 }
 
+namespace {
+
+/// The line at which reading stopped is told, and everything in the order of the lines.
+void Ranger(RapportReleve& rapport, const Releve& releve) {
+    if (releve.ligneSansSeparateur != 0)
+        rapport.constats.push_back({releve.ligneSansSeparateur, NoMessage{4150}});
+    std::ranges::stable_sort(rapport.constats, {}, &RapportReleve::Constat::ligne);
+}
+
+}  // namespace
+
+RapportReleve ExaminerReleve(const shell::Session& session, const Releve& releve) {
+    RapportReleve rapport;
+    CompteActes compte;
+    static_cast<void>(EcrireActes(session, compte, releve, rapport,
+                                  [](std::uint32_t, std::uint32_t) { return true; }));
+    rapport.individus = compte.individus;
+    rapport.evenements = compte.evenements;
+    Ranger(rapport, releve);
+    return rapport;
+}
+
 bool RemplirReleve(shell::Session& session, storage::Base& base, const Releve& releve,
                    const std::filesystem::path& fichier, RapportReleve& rapport) {
     EcrivainReleve ecrivain{base, releve.sorte};
     ecrivain.CreerDocument(session.Message(4140) + ' ' + NomReleve(session, releve.sorte),
                            Utf8VersTexte(fichier.string()).octets);
-    if (!EcrireActes(session, ecrivain, releve, rapport)) return false;
+    const auto avancer = [&session](std::uint32_t fait, std::uint32_t total) {
+        return session.progression.Avancer(fait, total);
+    };
+    if (!EcrireActes(session, ecrivain, releve, rapport, avancer)) return false;
     ecrivain.Terminer();
     rapport.individus = base.entete.DernierIndividu;
     rapport.evenements = base.entete.DernierEvenement;
-    if (releve.ligneSansSeparateur != 0)
-        rapport.constats.push_back({releve.ligneSansSeparateur, NoMessage{4150}});
-    std::ranges::stable_sort(rapport.constats, {}, &RapportReleve::Constat::ligne);
+    Ranger(rapport, releve);
     return true;
 }
 

@@ -25,6 +25,9 @@ struct RapportReleve {
     std::uint32_t unions = 0;
 };
 
+/// What a survey would give, without a base: for the preview.
+[[nodiscard]] RapportReleve ExaminerReleve(const shell::Session& session, const Releve& releve);
+
 /// Fills a new base from a survey: one event and the persons of each line, or one person a line
 /// for ascendants. `fichier`: the name that document 1 gets. False when the user gives up.
 [[nodiscard]] bool RemplirReleve(shell::Session& session, storage::Base& base, const Releve& releve,

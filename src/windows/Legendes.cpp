@@ -76,8 +76,9 @@ void Poser(QObject& controle, const Legende& legende, const QString& texte) {
 const std::vector<Legende>& TableLegendes() {
     static const std::vector<Legende> Toutes = [] {
         std::vector<Legende> toutes;
-        for (const auto groupe : {LegendesPrincipales(), LegendesMots(), LegendesReglages(),
-                                  LegendesFamille(), LegendesFiche(), LegendesFaits()})
+        for (const auto groupe :
+             {LegendesPrincipales(), LegendesMots(), LegendesReglages(), LegendesFamille(),
+              LegendesFiche(), LegendesFaits(), LegendesReleve()})
             toutes.insert(toutes.end(), groupe.begin(), groupe.end());
         return toutes;
     }();

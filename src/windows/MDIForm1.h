@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <QTimer>
 
+#include "interchange/Releve.h"
 #include "records/ModeleFamille.h"
 #include "windows/PaletteGraphe.h"
 
@@ -78,6 +79,7 @@ private:
     QMenu* FaireMenu(QWidget* parent, const char* nom);
     QAction* FaireAction(QMenu* menu, const char* nom, const char* touches, Action action);
     void FaireFichier();
+    void FaireReleves(QMenu* menu);
     void FairePersonne();
     void FaireAffichage();
     void FaireOutils();
@@ -95,6 +97,8 @@ private:
     void Sauvegarde();
     void Restauration();
     void Importer();
+    void ImporterActes(interchange::SorteReleve sorte);
+    void Geneanet();
     void Quitter();
     void Precedent();
     void Suivant();

@@ -61,6 +61,8 @@ void MDIForm1::FaireFichier() {
     FaireAction(menu, "MnuRestauration", "Ctrl+R", &MDIForm1::Restauration);
     menu->addSeparator();
     FaireAction(menu, "MnuImporter", "Ctrl+I", &MDIForm1::Importer);
+    FaireReleves(menu);
+    FaireAction(menu, "MnuGénéanet", nullptr, &MDIForm1::Geneanet);
     traitHistorique_ = menu->addSeparator();
     for (std::size_t i = 0; i < historique_.size(); ++i) {
         const std::string nom = "MnuHisto(" + std::to_string(i) + ')';

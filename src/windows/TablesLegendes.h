@@ -14,5 +14,6 @@ namespace dorvane::windows {
 [[nodiscard]] std::span<const Legende> LegendesFamille();
 [[nodiscard]] std::span<const Legende> LegendesFiche();
 [[nodiscard]] std::span<const Legende> LegendesFaits();
+[[nodiscard]] std::span<const Legende> LegendesReleve();
 
 }  // namespace dorvane::windows

@@ -29,6 +29,8 @@ struct EssaiReleve : doublures::SessionEssai {
         const Releve releve = LireReleve(fichier, sorte);
         REQUIRE(ImporterReleve(session, releve, "actes.csv", chemin, rapport) == IssueImport::Fait);
         texteRapport = ComposerRapport(rapport, releve, session);
+        // What the preview tells is what the import does.
+        CHECK(ComposerRapport(ExaminerReleve(session, releve), releve, session) == texteRapport);
         storage::AvancementMuet muet;
         base = storage::OuvrirBase(session.disque, chemin, muet).base;
         REQUIRE(base != nullptr);

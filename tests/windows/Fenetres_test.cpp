@@ -31,6 +31,7 @@
 #include "windows/FrmPere.h"
 #include "windows/FrmRapport.h"
 #include "windows/FrmRecherche.h"
+#include "windows/FrmReleve.h"
 #include "windows/FrmTexte.h"
 #include "windows/FrmUsuels.h"
 #include "windows/FrmUtilImage.h"
@@ -114,6 +115,8 @@ struct Toutes : FenetreEssai {
         fenetres.emplace_back(new FrmMotCle{S(), &Fenetre()});
         fenetres.emplace_back(new FrmUsuels{S(), &Fenetre()});
         fenetres.emplace_back(new FrmParametre{S(), &Fenetre()});
+        fenetres.emplace_back(new FrmReleve{S(), interchange::SorteReleve::Bapteme,
+                                            "1780;1;1;Mer;Dupont;Jean;?\n", {}, &Fenetre()});
         for (FenetreFille* fille : fenetres) {
             parNom[fille->objectName()] = fille;
             // Parts that translate themselves have captions of their own.
