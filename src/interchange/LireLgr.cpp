@@ -1,18 +1,17 @@
 #include "interchange/LireLgr.h"
 
-#include "interchange/LignesGedcom.h"
 #include "shell/Parametres.h"
 #include "values/Comparaison.h"
 #include "values/Texte1252.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace dorvane::interchange {
 namespace {
 
 constexpr std::string_view Retour = "\r\n";
 constexpr std::string_view MarqueUtf8 = "\xEF\xBB\xBF";
+constexpr std::size_t MaxPremiereLigne = 1000;
 constexpr std::uint32_t Pas = 100;  ///< records between two looks at the cancel button
 
 /// The number that a line begins with; 0 for none and for a negative one.
@@ -48,9 +47,10 @@ bool Preparer(std::string& octets, PreparationLgr& preparation) {
         preparation.octetsNuls = static_cast<std::size_t>(std::ranges::count(octets, '\0'));
         std::ranges::replace(octets, '\0', ' ');
     }
-    const std::optional<FinDeLigne> fin = ChercherFinDeLigne(octets);
-    if (!fin) return false;
-    if (*fin != FinDeLigne::CrLf) octets = EnCrLf(octets);
+    // The end of the first line tells how all lines end.
+    const std::size_t fin = octets.find_first_of(Retour);
+    if (fin >= MaxPremiereLigne) return false;
+    if (!std::string_view{octets}.substr(fin).starts_with(Retour)) octets = EnCrLf(octets);
     return true;
 }
 

@@ -24,8 +24,9 @@ struct PreparationLgr {
 using AvancerLgr = std::function<bool(std::uint32_t fait, std::uint32_t total)>;
 
 /// Reads an exchange text of any version. `octets` outlives `contenu` and is brought into shape:
-/// lines end in CR LF. Where they do, a return or a line feed that stands alone belongs to its
-/// line; where they do not in the first 1000 bytes, each of them ends one.
+/// lines end in CR LF. Where the first one does, a return or a line feed that stands alone belongs
+/// to its line; where it does not, each of them ends one. A first line of 1000 bytes or more is no
+/// version line.
 [[nodiscard]] LectureLgr LireLgr(std::string& octets, ContenuLgr& contenu,
                                  PreparationLgr& preparation, const AvancerLgr& avancer);
 

@@ -93,7 +93,10 @@ void MotsClesLgr::Reprendre(const MotCleLgr& motCle, const ContenuLgr& contenu,
         return;
     }
     const std::string libelle = storage::SansDiese(SansBlancs(motCle.libelle));
-    if (libelle.empty() || EstInterdit(motCle.marqueur)) return;
+    if (libelle.empty() || EstInterdit(motCle.marqueur)) {
+        rapport.Noter(Constat::Illisible, "MOTS CLES", 0);
+        return;
+    }
     const std::string tag{libelles.TagDeLibelle(libelle)};
     NoMotCle k = Chercher(std::string_view{tag}.substr(0, 34), libelles);
     if (!k) {
