@@ -14,6 +14,7 @@ namespace {
 using shell::Msg;
 
 constexpr std::uint32_t PasCompteur = 100;
+constexpr std::uint32_t MaxLignes = 20000;  // a base of garbage has millions: they are only counted
 constexpr std::uint32_t MsgTitre = 3910;
 constexpr std::uint32_t MsgRien = 3914;
 constexpr std::uint32_t MsgFini = 3915;
@@ -33,12 +34,13 @@ std::filesystem::path EcrireJournal(shell::Session& session, const AtelierDepann
 }  // namespace
 
 std::string AtelierDepannage::Nommer(NoOrdre n) const {
+    if (reparations >= MaxLignes) return {};
     const std::string nom = NomEtDates(session, n);
     return std::string{SansBlancs(nom)} + " (" + std::to_string(n.valeur) + ')';
 }
 
 void AtelierDepannage::Noter(std::string_view fait, std::string_view detail) {
-    ++reparations;
+    if (++reparations > MaxLignes) return;
     journal.append(fait).append("\t").append(detail).append("\n");
 }
 

@@ -4,6 +4,7 @@
 #include "values/Texte1252.h"
 
 #include <algorithm>
+#include <set>
 #include <unordered_map>
 #include <utility>
 
@@ -130,9 +131,9 @@ void DepannerEvenement(AtelierDepannage& a, const Presents& presents, NoEvenemen
     const std::string numero = std::to_string(e.valeur);
     const std::vector<LienEvenement> liens = b.R_EVT.Liens(e);
     std::vector<LienEvenement> gardes;
+    std::set<std::pair<std::uint32_t, std::string_view>> vus;
     for (const LienEvenement& lien : liens) {
-        if (a.Vivant(lien.individu) &&
-            std::find(gardes.begin(), gardes.end(), lien) == gardes.end())
+        if (a.Vivant(lien.individu) && vus.emplace(lien.individu.valeur, lien.role).second)
             gardes.push_back(lien);
         else
             a.Noter("Suppression Personne " + std::to_string(lien.individu.valeur),
