@@ -80,6 +80,7 @@ int Exporter(Atelier& atelier, const OptionsExporter& o) {
     const interchange::ResultatExport r =
         interchange::ExporterGedcom(atelier.session, o.sortie, options);
     const interchange::ComptesExport& c = r.comptes;
+    if (c.perdus > 0) atelier.dialogue.Informer(shell::Msg(3702, std::to_string(c.perdus)));
     return Rapporter(atelier, o, r.issue == interchange::IssueExport::Fait, c.individus, c.familles,
                      c.evenements, c.documents);
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 
 namespace dorvane::interchange {
 
@@ -27,53 +28,90 @@ std::string Preparer(std::string_view valeur) {
     return prete;
 }
 
+/// Nothing in it is to be changed.
+bool EstPrete(std::string_view valeur) {
+    return std::ranges::none_of(
+        valeur, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '@'; });
+}
+
 std::string Prefixe(int niveau, std::string_view etiquette) {
     return std::to_string(niveau) + ' ' + std::string{etiquette} + ' ';
 }
 
 }  // namespace
 
-void EcrivainGedcom::Ligne(int niveau, std::string_view etiquette) {
-    sortie_ += std::to_string(niveau) + ' ';
+void EcrivainGedcom::Debuter(int niveau, std::string_view etiquette) {
+    sortie_ += static_cast<char>('0' + niveau);
+    sortie_ += ' ';
     sortie_ += etiquette;
+}
+
+void EcrivainGedcom::Numero(char sorte, std::uint32_t numero) {
+    std::array<char, 10> chiffres{};
+    const auto [fin, erreur] =
+        std::to_chars(chiffres.data(), chiffres.data() + chiffres.size(), numero);
+    sortie_ += '@';
+    sortie_ += sorte;
+    sortie_.append(chiffres.data(), fin);
+    sortie_ += '@';
+}
+
+void EcrivainGedcom::Encoder(std::string& sortie, std::string_view texte) {
+    encodeur_.Ecrire(sortie, texte);
+    perdus_ += encodeur_.Perdus(texte);
+}
+
+void EcrivainGedcom::Ligne(int niveau, std::string_view etiquette) {
+    Debuter(niveau, etiquette);
     Finir();
 }
 
 bool EcrivainGedcom::Valeur(int niveau, std::string_view etiquette, std::string_view valeur) {
-    std::string simple = Preparer(valeur);
-    RemplacerTout(simple, "\r\n", " ");
-    std::ranges::replace(simple, '\r', ' ');
-    std::ranges::replace(simple, '\n', ' ');
-    const std::string_view texte = SansBlancs(simple);
+    std::string prete;
+    if (!EstPrete(valeur)) {
+        prete = Preparer(valeur);
+        RemplacerTout(prete, "\r\n", " ");
+        std::ranges::replace(prete, '\r', ' ');
+        std::ranges::replace(prete, '\n', ' ');
+        valeur = prete;
+    }
+    const std::string_view texte = SansBlancs(valeur);
     if (texte.empty()) return false;
-    const std::string octets = encodeur_.Encoder(texte);
-    const std::string prefixe = Prefixe(niveau, etiquette);
-    if (octets.size() > ValeurAuPlus &&
+    const std::size_t debut = sortie_.size();
+    Debuter(niveau, etiquette);
+    sortie_ += ' ';
+    const std::size_t ou = sortie_.size();
+    Encoder(sortie_, texte);
+    if (sortie_.size() - ou > ValeurAuPlus &&
         std::ranges::find(Insecables, etiquette) == Insecables.end()) {
-        Paragraphe(prefixe, Prefixe(niveau + 1, "CONC"), octets);
+        const std::string octets = sortie_.substr(ou);
+        sortie_.resize(debut);
+        Paragraphe(Prefixe(niveau, etiquette), Prefixe(niveau + 1, "CONC"), octets);
         return true;
     }
-    sortie_ += prefixe;
-    sortie_ += octets;
     Finir();
     return true;
 }
 
 void EcrivainGedcom::Renvoi(int niveau, std::string_view etiquette, char sorte,
                             std::uint32_t numero) {
-    sortie_ += Prefixe(niveau, etiquette) + '@' + sorte + std::to_string(numero) + '@';
+    Debuter(niveau, etiquette);
+    sortie_ += ' ';
+    Numero(sorte, numero);
     Finir();
 }
 
 void EcrivainGedcom::Enregistrement(char sorte, std::uint32_t numero, std::string_view etiquette) {
-    sortie_ += "0 @";
-    sortie_ += sorte + std::to_string(numero) + "@ ";
+    sortie_ += "0 ";
+    Numero(sorte, numero);
+    sortie_ += ' ';
     sortie_ += etiquette;
     Finir();
 }
 
 bool EcrivainGedcom::Texte(std::string_view debut, int niveau, std::string_view texte) {
-    const std::string octets = encodeur_.Encoder(Preparer(texte));
+    std::string octets;
+    Encoder(octets, EstPrete(texte) ? std::string{texte} : Preparer(texte));
     const std::string cont = Prefixe(niveau, "CONT");
     const std::string conc = Prefixe(niveau, "CONC");
     bool premier = true;

@@ -2,8 +2,11 @@
 
 #include "interchange/EncoderJeu.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace dorvane::interchange {
 
@@ -31,14 +34,22 @@ public:
 
     /// What has been written so far.
     [[nodiscard]] const std::string& Octets() const { return sortie_; }
+    /// The same, given away: the writer has nothing left.
+    [[nodiscard]] std::string Prendre() { return std::move(sortie_); }
+    /// Characters of the values that the set has no form of.
+    [[nodiscard]] std::size_t Perdus() const { return perdus_; }
 
 private:
+    void Debuter(int niveau, std::string_view etiquette);
+    void Numero(char sorte, std::uint32_t numero);
+    void Encoder(std::string& sortie, std::string_view texte);
     void Paragraphe(std::string_view debut, std::string_view suite, std::string_view paragraphe);
     void Finir() { sortie_ += "\r\n"; }
     [[nodiscard]] std::size_t Reculer(std::string_view texte, std::size_t fin) const;
 
     Encodeur encodeur_;
     std::string sortie_;
+    std::size_t perdus_ = 0;
 };
 
 }  // namespace dorvane::interchange

@@ -4,6 +4,7 @@
 #include "values/Equivalents.h"
 #include "values/Texte1252.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -139,9 +140,24 @@ Encodeur::Encodeur(JeuExport jeu) : jeu_{jeu} {
     for (unsigned octet = 0; octet < formes_.size(); ++octet)
         formes_[octet] = octet < 0x80 ? FormeBasse(jeu, static_cast<char>(octet))
                                       : FormeHaute(jeu, static_cast<unsigned char>(octet));
+    if (jeu != JeuExport::Ascii && jeu != JeuExport::Ansel) return;
+    // A form without a high byte is the one of another character.
+    for (unsigned octet = 0x80; octet < formes_.size(); ++octet)
+        perdus_[octet] = static_cast<unsigned char>(formes_[octet].front()) < 0x80;
+    perd_ = true;
+}
+
+std::size_t Encodeur::Perdus(std::string_view texte) const {
+    if (!perd_) return 0;
+    return static_cast<std::size_t>(std::ranges::count_if(
+        texte, [this](char octet) { return perdus_[static_cast<unsigned char>(octet)]; }));
 }
 
 void Encodeur::Ecrire(std::string& sortie, std::string_view texte) const {
+    if (jeu_ == JeuExport::Ansi) {
+        sortie += texte;
+        return;
+    }
     for (const char octet : texte)
         sortie += formes_[static_cast<unsigned char>(octet)];
 }

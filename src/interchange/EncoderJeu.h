@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -25,11 +26,15 @@ public:
     /// Appends a text.
     void Ecrire(std::string& sortie, std::string_view texte) const;
     [[nodiscard]] std::string Encoder(std::string_view texte) const;
+    /// Characters of a text that the set has no form of: they lose their accent or become "?".
+    [[nodiscard]] std::size_t Perdus(std::string_view texte) const;
     [[nodiscard]] JeuExport Jeu() const { return jeu_; }
 
 private:
     JeuExport jeu_;
     std::array<std::string, 256> formes_;
+    std::array<bool, 256> perdus_{};
+    bool perd_ = false;  ///< any of them
 };
 
 }  // namespace dorvane::interchange

@@ -55,8 +55,8 @@ bool ComposerGedcom(shell::Session& session, const std::string& nomFichier,
                                });
     if (!fait) return false;
     redaction.Terminer();
-    octets = redaction.Octets();
     comptes = redaction.Comptes();
+    octets = redaction.Prendre();
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "interchange/EncoderJeu.h"
 #include "values/Numeros.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -28,6 +29,8 @@ struct ComptesExport {
     std::uint32_t familles = 0;
     std::uint32_t evenements = 0;
     std::uint32_t documents = 0;
+    /// Characters that the set has no form of: they have lost their accent or become "?".
+    std::size_t perdus = 0;
 };
 
 enum class IssueExport {

@@ -39,8 +39,13 @@ public:
     [[nodiscard]] std::uint32_t NombreFamilles() const {
         return static_cast<std::uint32_t>(familles_.familles.size()) - 1;
     }
-    [[nodiscard]] const std::string& Octets() const { return sortie_.Octets(); }
-    [[nodiscard]] const ComptesExport& Comptes() const { return comptes_; }
+    /// The file; nothing can be written afterwards.
+    [[nodiscard]] std::string Prendre() { return sortie_.Prendre(); }
+    [[nodiscard]] ComptesExport Comptes() const {
+        ComptesExport comptes = comptes_;
+        comptes.perdus = sortie_.Perdus();
+        return comptes;
+    }
 
 private:
     /// Where the lines of a person or of a family differ.

@@ -78,3 +78,14 @@ TEST_CASE("NomDeclare: what the header says") {
     CHECK(NomDeclare(JeuExport::Html) == "HTML");
     CHECK(NomDeclare(JeuExport::Utf8) == "UTF-8");
 }
+
+TEST_CASE("Encodeur: the characters that a set has no form of are counted") {
+    const std::string texte{"Ève, « Bœuf » été €"_1252};
+    CHECK(Encodeur{JeuExport::Ansi}.Perdus(texte) == 0);
+    CHECK(Encodeur{JeuExport::Html}.Perdus(texte) == 0);
+    CHECK(Encodeur{JeuExport::Utf8}.Perdus(texte) == 0);
+    // "È", "œ" and "€".
+    CHECK(Encodeur{JeuExport::Ascii}.Perdus(texte) == 3);
+    // The quotation marks.
+    CHECK(Encodeur{JeuExport::Ansel}.Perdus(texte) == 2);
+}
