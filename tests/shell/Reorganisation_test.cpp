@@ -10,6 +10,7 @@
 #include "shell/FichierSur.h"
 #include "shell/Libelles.h"
 #include "storage/Base.h"
+#include "storage/BaseAncienne.h"
 #include "values/Texte1252.h"
 
 #include <map>
@@ -247,6 +248,53 @@ TEST_CASE_FIXTURE(Bureau,
         CHECK(Octets() == avant);
         CHECK_FALSE(session.base->entete.LibellesNeutres);
     }
+}
+
+TEST_CASE("Reorganisation: a file of version 3.1 comes out current and neutral") {
+    doublures::SessionEssai essai;
+    Demarrage(essai.session);
+    const std::string metier = essai.session.Message(MessageDeTag("OCCU").valeur);
+    storage::BaseAncienne ancienne{"[Dorvane Version 3.1]"};
+    ancienne.Individus({{"DURAND;Jean;;vers;12 mars", "1820"}, {"MARTIN;Paul", "1850"}});
+    ancienne.MotsCles({{'|', "BIRN"}, {'\\', metier}});
+    const unsigned texte = ancienne.Ajouter("|DURAND\r\n" + metier + " meunier\n#");
+    ancienne.Colonne(1297, 4, '\0', {storage::BaseAncienne::Nombre(texte, 4)});
+    doublures::EcrireFichier(essai.dossier / "vieille.LGD", ancienne.Finir());
+
+    REQUIRE(OuvrirChemin(essai.session, essai.dossier / "vieille.LGD"));
+    REQUIRE_FALSE(essai.session.base->entete.LibellesNeutres);
+    REQUIRE(ReorganiserBase(essai.session, true) == IssueSoin::Faite);
+    storage::Base& neuve = *essai.session.base;
+    CHECK(
+        LireTout(essai.dossier / "vieille.LGD").value_or("").starts_with(storage::MarqueCourante));
+    CHECK(neuve.entete.LibellesNeutres);
+    CHECK(neuve.R_NOM.LireTexte(NoOrdre{1}) == "DURAND;Jean;;ABT;12/3");
+    CHECK(neuve.R_NOM.LireTexte(NoOrdre{2}) == "MARTIN;Paul");
+    CHECK(neuve.R_TEXTE.LireTexte(NoOrdre{1}) == "|DURAND\r\nOCCU meunier\n");
+    CHECK(neuve.motsCles.LibelleType(NoMotCle{2}).libelle == "OCCU");
+    CHECK(neuve.entete.SlotsIndividu[0].symbole == '\\');
+    CHECK(storage::SlotsDe(neuve, NoOrdre{1})[0].lieu == "meunier");
+}
+
+TEST_CASE_FIXTURE(Bureau,
+                  "Reorganisation: without the copy that was asked for nothing is rewritten") {
+    const std::string avant = Octets();
+    std::filesystem::create_directories(dossier / "Famille.SAV" / "plein");
+    CHECK(ReorganiserBase(session, true) == IssueSoin::Refusee);
+    CHECK(dialogue.entendu == std::vector{Msg(2407, CheminAffiche(dossier / "Famille.SAV"))});
+    CHECK(Octets() == avant);
+}
+
+TEST_CASE_FIXTURE(Bureau,
+                  "Reorganisation: a base that another program has taken meanwhile is left alone") {
+    const std::string avant = Octets();
+    MnuFermer(session);
+    const storage::ResultatVerrou verrou = disque.Verrouiller(chemin);
+    dialogue.entendu.clear();
+    CHECK(ReecrireBase(session, chemin) == IssueSoin::Refusee);
+    CHECK(dialogue.entendu == std::vector{Msg(2403, CheminAffiche(chemin))});
+    CHECK(Octets() == avant);
+    CHECK(Octets("Reorg.fic") == "absent");
 }
 
 namespace {
