@@ -116,7 +116,7 @@ bool EcrivainGedcom::Texte(std::string_view debut, int niveau, std::string_view 
     const std::string conc = Prefixe(niveau, "CONC");
     bool premier = true;
     for (std::string_view reste = octets; !reste.empty();) {
-        const std::size_t fin = std::min(reste.find_first_of("\r\n"), reste.size());
+        const std::size_t fin = std::min({reste.find('\r'), reste.find('\n'), reste.size()});
         if (const std::string_view paragraphe = reste.substr(0, fin); !paragraphe.empty()) {
             Paragraphe(premier ? debut : std::string_view{cont}, conc, paragraphe);
             premier = false;

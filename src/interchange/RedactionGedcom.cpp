@@ -37,6 +37,10 @@ bool Contient(const std::array<std::string_view, N>& mots, std::string_view mot)
     return std::ranges::find(mots, mot) != mots.end();
 }
 
+bool FinitUnMot(char c) {
+    return c == ' ' || c == '\r' || c == '\n';
+}
+
 bool EstVide(const storage::ValeurSlot& valeur) {
     return valeur == storage::ValeurSlot{};
 }
@@ -56,6 +60,28 @@ RedactionGedcom::RedactionGedcom(shell::Session& session, const OptionsExport& o
       evenements_(base_.entete.DernierEvenement + 1ULL),
       documents_(base_.entete.DernierDocument + 1ULL) {
     MarquerChoisis();
+    ReleverCodes();
+}
+
+void RedactionGedcom::ReleverCodes() {
+    for (std::uint32_t k = 1; k <= base_.motsCles.Nombre(); ++k) {
+        const storage::MotCle& type = base_.motsCles.LibelleType(NoMotCle{k});
+        const bool connu = Contient(Attributs, type.libelle) ||
+                           Contient(Evenements, type.libelle) ||
+                           Contient(EvenementsDeFamille, type.libelle);
+        if (connu && CodesFixes.find(type.symbole) == std::string_view::npos)
+            codes_[static_cast<unsigned char>(type.symbole)] = true;
+    }
+}
+
+/// A word of the text begins with the code of a keyword that may go out under its tag.
+bool RedactionGedcom::AMotCle(std::string_view texte) const {
+    bool debut = true;
+    for (const char c : texte) {
+        if (debut && codes_[static_cast<unsigned char>(c)]) return true;
+        debut = FinitUnMot(c);
+    }
+    return false;
 }
 
 void RedactionGedcom::MarquerChoisis() {
@@ -129,7 +155,7 @@ void RedactionGedcom::EcrireIndividu(NoOrdre n) {
               storage::LireLieu(texte, '~'));
     EcrireRubriques(definitionIndividu_, decoupe.slots, Sujet::Individu, false);
     const std::string_view entier{texte};
-    EcrireTexteLibre(entier.substr(0, entier.find_first_of("\r\n")), decoupe.note, Sujet::Individu);
+    EcrireTexteLibre(entier.substr(0, entier.find('\r')), decoupe.note, Sujet::Individu);
     EcrireLiensFamille(n);
     EcrireAutresLiens(n);
 }
@@ -195,7 +221,7 @@ void RedactionGedcom::EcrireRubrique(std::string_view tag, const storage::Valeur
 /// A word of a text with the code of a keyword in front: goes out under its tag when that is known
 /// to the format. False: it stays in the note.
 bool RedactionGedcom::EcrireMotCle(std::string_view mot, Sujet sujet) {
-    if (mot.size() < 2 || CodesFixes.find(mot[0]) != std::string_view::npos) return false;
+    if (mot.size() < 2 || !codes_[static_cast<unsigned char>(mot[0])]) return false;
     const NoMotCle k = base_.motsCles.TypeDuSymbole(mot[0]);
     const std::string tag = base_.motsCles.LibelleType(k).libelle;
     const std::string valeur = PointsEnBlancs(mot.substr(1));
@@ -213,13 +239,18 @@ bool RedactionGedcom::EcrireMotCle(std::string_view mot, Sujet sujet) {
 
 void RedactionGedcom::EcrireTexteLibre(std::string_view premiereLigne, std::string_view note,
                                        Sujet sujet) {
-    for (std::size_t i = 0; i < premiereLigne.size();) {
+    for (std::size_t i = AMotCle(premiereLigne) ? 0 : premiereLigne.size();
+         i < premiereLigne.size();) {
         const std::size_t fin = std::min(premiereLigne.find(' ', i), premiereLigne.size());
         static_cast<void>(EcrireMotCle(premiereLigne.substr(i, fin - i), sujet));
         i = fin + 1;
     }
     std::string tampon;
     const std::string_view simple = TexteSansRtf(note, tampon);
+    if (!AMotCle(simple)) {
+        static_cast<void>(sortie_.Texte("1 NOTE ", 2, simple));
+        return;
+    }
     std::string reste;
     for (std::size_t i = 0; i < simple.size();) {
         const std::size_t fin = std::min(simple.find_first_of(" \r\n", i), simple.size());

@@ -5,6 +5,7 @@
 #include "interchange/FamillesExport.h"
 #include "storage/Slots.h"
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,6 +53,8 @@ private:
     enum class Sujet { Individu, Famille };
 
     void MarquerChoisis();
+    void ReleverCodes();
+    [[nodiscard]] bool AMotCle(std::string_view texte) const;
     void EcrireNom(NoOrdre n, const storage::TableSlots& slots);
     void EcrireVie(std::string_view etiquette, std::string_view jourMois, std::string_view annee,
                    std::string_view lieu);
@@ -74,6 +77,7 @@ private:
     std::vector<bool> evenementsEnTable_;  ///< by number: the event is in the sort table
     std::vector<bool> evenements_;
     std::vector<bool> documents_;
+    std::array<bool, 256> codes_{};  ///< codes of keywords of which the format has the tag
     ComptesExport comptes_;
 };
 
