@@ -44,6 +44,7 @@ FrmReleve::FrmReleve(shell::Session& session, SorteReleve sorte, std::string oct
     releve_.sorte = sorte;
     ui_->GrdLignes->setModel(modele_);
     ui_->GrdLignes->verticalHeader()->hide();
+    ui_->GrdLignes->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
     ui_->GrdLignes->horizontalHeader()->setResizeContentsPrecision(RangeesMesurees);
     ui_->EtiFichier->setText(nom_);
     connect(ui_->CboSorte, &QComboBox::currentIndexChanged, this, &FrmReleve::Lire);

@@ -64,12 +64,12 @@ QVariant ModeleReleve::headerData(int section, Qt::Orientation orientation, int 
     if (section == 0)
         return role == Qt::DisplayRole ? QVariant{TexteEcran(session_, 4191)} : QVariant{};
     const auto colonne = static_cast<std::size_t>(section - 1);
-    if (role == Qt::DisplayRole)
-        return TexteEcran(session_, interchange::TitresColonnes(releve_->sorte)[colonne]);
-    // What the file itself calls the column, to see at once whether they agree.
-    if (role == Qt::ToolTipRole && releve_->titres)
-        return TexteVersQt(releve_->titres->Champ(colonne));
-    return {};
+    if (role != Qt::DisplayRole) return {};
+    const QString titre =
+        TexteEcran(session_, interchange::TitresColonnes(releve_->sorte)[colonne]);
+    if (!releve_->titres) return titre;
+    // What the file itself calls the column stands below, to see at once whether they agree.
+    return QString{titre + u'\n' + TexteVersQt(releve_->titres->Champ(colonne))};
 }
 
 }  // namespace dorvane::windows

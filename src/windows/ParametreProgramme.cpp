@@ -46,7 +46,7 @@ ParametreProgramme::ParametreProgramme(shell::Session& session, QWidget* parent)
     auto* grille = new QGridLayout{dossiers};
     travail_ = FaireChemin(dossiers, "Travail", "CmdTravail", true, "");
     communes_ = FaireChemin(dossiers, "Communes", "CmdCommunes", false, "*.lgx *.LGX");
-    geneanet_ = FaireChemin(dossiers, "Généanet", "CmdGeneanet", false, "ged2gen.bat");
+    geneanet_ = FaireChemin(dossiers, "Généanet", "CmdGeneanet", false, "généanet (ged2gen.bat)");
     int ligne = 0;
     for (const char* nom : {"Travail", "Communes", "Généanet"}) {
         const QString q = QString::fromUtf8(nom);
@@ -104,7 +104,7 @@ QLineEdit* ParametreProgramme::FaireChemin(QWidget* ligne, const char* nom, cons
     auto* parcourir = new QPushButton{QStringLiteral("…"), ligne};
     parcourir->setObjectName(QString::fromLatin1(bouton));
     parcourir->setAutoDefault(false);
-    const QString motif = QString::fromLatin1(filtre);
+    const QString motif = QString::fromUtf8(filtre);
     connect(parcourir, &QPushButton::clicked, this, [this, champ, etiquette, dossier, motif] {
         const QString titre = SansMnemonique(etiquette->text());
         QString choisi = dossier ? QFileDialog::getExistingDirectory(this, titre, champ->text())

@@ -1,0 +1,52 @@
+// links: interchange
+// Any bytes as a survey: cut, examined, written into a base on a disk in memory, and read again.
+// The first byte chooses the kind.
+#include "doublures/Coherence.h"
+#include "doublures/DialogueScript.h"
+#include "doublures/DisqueMemoire.h"
+#include "doublures/EcranScript.h"
+#include "doublures/HorlogeFixe.h"
+#include "doublures/ProgressionScript.h"
+#include "interchange/CsvCommunes.h"
+#include "interchange/ImportReleve.h"
+#include "storage/Base.h"
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+using namespace dorvane;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+    if (taille == 0) return 0;
+    const std::string_view fichier{reinterpret_cast<const char*>(octets) + 1, taille - 1};
+    (void)interchange::LireCsvCommunes(fichier);
+
+    doublures::DialogueScript dialogue;
+    doublures::ProgressionScript progression;
+    doublures::HorlogeFixe horloge;
+    doublures::EcranScript ecran;
+    storage::DisqueMemoire disque;
+    const std::filesystem::path nulle = "/nulle-part";
+    shell::Session session{{nulle, nulle, nulle}, {dialogue, progression, horloge, ecran, disque}};
+    const auto sorte = static_cast<interchange::SorteReleve>(octets[0] % 4);
+    const interchange::Releve releve = interchange::LireReleve(fichier, sorte);
+    const interchange::RapportReleve prevu = interchange::ExaminerReleve(session, releve);
+    interchange::RapportReleve rapport;
+    if (interchange::ImporterReleve(session, releve, "actes.csv", "/essai.LGD", rapport) !=
+        interchange::IssueImport::Fait)
+        std::abort();
+    if (prevu.individus != rapport.individus || prevu.constats.size() != rapport.constats.size())
+        std::abort();
+    storage::AvancementMuet avancement;
+    storage::ResultatOuverture ouverte = storage::OuvrirBase(disque, "/essai.LGD", avancement);
+    if (ouverte.etat != storage::Ouverture::Faite) std::abort();
+    if (const std::string ecarts = doublures::Ecarts(*ouverte.base); !ecarts.empty()) {
+        std::puts(ecarts.c_str());
+        std::abort();
+    }
+    return 0;
+}
