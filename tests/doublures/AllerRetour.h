@@ -293,7 +293,13 @@ private:
         if (ligne.valeur == "Y") return "what stands under it says it";
         if (ligne.tag == "ROLE" && !famille_.empty()) return "role of the partners";
         if (ligne.tag == "SEX") return ligne.valeur == "M" || ligne.valeur == "F" ? "?" : "sex";
-        if (ligne.tag == "AGE") return "age in words";
+        // The numbers of an age stay, its letters become words.
+        if (ligne.tag == "AGE") {
+            const std::string nombre =
+                ligne.valeur.substr(0, ligne.valeur.find_first_not_of("0123456789"));
+            if (nombre.empty() || ici.texte.find(' ' + nombre + ' ') != std::string::npos)
+                return "age in words";
+        }
         if (ligne.tag == "QUAY") return "quality in words";
         return "?";
     }
