@@ -5,6 +5,7 @@
 #include "doublures/SeanceEssai.h"
 #include "storage/Essai.h"
 #include "storage/OctetsVivants.h"
+#include "values/Octets.h"
 #include "values/Texte1252.h"
 
 #include <algorithm>
@@ -339,28 +340,29 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: a year keeps its place in its cell") 
 
 TEST_CASE_FIXTURE(Bureau,
                   "Reorganisation: a damaged record is counted and copied as an empty one") {
+    const NoOrdre jean = famille.Creer('H', "DURAND", "Jean");
     const NoDocument d = base->NouveauDocument();
     base->R_IMAGE.EcrireDoc(d, {"Titre", "a.jpg", "", ""});
     base->R_TRI.AjouterDocument(d);
+    base->R_LSTIMG.ModifierListe(jean, d, 'A');
     const NoEvenement e = base->NouvelEvenement();
     base->R_EVT.EcrireEvt(e, {.cleDate = 5, .description = DescriptionEvt{"Brest", "", "BIRT"}});
     base->R_TRI.AjouterEvt(e);
-    REQUIRE(base->Enregistrer());
-    // Nothing ends behind the last record of the file.
+    // The last record of the file has no end.
     const Position fin = base->volume.Ajouter(std::string(40000, 'x'));
     base->R_IMAGE.EcrireCellule(d, fin);
-    base->R_IMAGE.InitColonne();
-    base->R_EVT.EcrireCellule(
-        e, base->volume.Ajouter(std::string("\0\x0F\x42\x45\0\0\0\0\0\0\0\0\0\0\0\0", 16) +
-                                std::string("\0\0\x10\x10", 4)));
+    std::string tete = NumVersChaine4(1000005) + std::string(12, '\0');
+    base->R_EVT.EcrireCellule(e, base->volume.Ajouter(tete + NumVersChaine4(fin.valeur)));
+    REQUIRE(base->Enregistrer());
+    base->InitColonnes();
     BilanReorganisation bilan;
-    base->R_IMAGE.InitColonne();
-    base->R_IMAGE.EcrireCellule(d, fin);
-    Reorganiser(&bilan);
+    const std::unique_ptr<Base> neuve = Ouvrir(Reorganiser(&bilan));
     CHECK(bilan.documentsAbimes == 1);
-    const std::unique_ptr<Base> neuve = Ouvrir(disque->Octets(Nouveau));
+    CHECK(bilan.evenementsAbimes == 1);
     CHECK(neuve->R_IMAGE.LireDoc(NoDocument{1}) == Document{});
+    CHECK(neuve->R_LSTIMG.Elements(jean) == std::vector{NoDocument{1}});
     CHECK(neuve->R_EVT.CleDateEvt(NoEvenement{1}) == 5);
+    CHECK(neuve->R_EVT.Description(NoEvenement{1}) == DescriptionEvt{});
 }
 
 TEST_CASE_FIXTURE(Bureau,
