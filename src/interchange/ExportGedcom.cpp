@@ -53,23 +53,20 @@ bool ComposerGedcom(shell::Session& session, const std::string& nomFichier,
                                    if (redaction.EstEcrit(NoDocument{d}))
                                        redaction.EcrireDocument(NoDocument{d});
                                });
-    if (!fait) return false;
-    redaction.Terminer();
+    if (fait) redaction.Terminer();
     comptes = redaction.Comptes();
     octets = redaction.Prendre();
-    return true;
+    return fait;
 }
 
 ResultatExport ExporterGedcom(shell::Session& session, const std::filesystem::path& chemin,
                               const OptionsExport& options) {
     ResultatExport resultat;
     std::string octets;
-    if (!ComposerGedcom(session, shell::CheminAffiche(chemin.filename()), options, octets,
-                        resultat.comptes)) {
-        resultat.issue = IssueExport::Abandon;
-        return resultat;
-    }
-    if (shell::EcrireTout(chemin, octets)) resultat.issue = IssueExport::Fait;
+    const bool fait = ComposerGedcom(session, shell::CheminAffiche(chemin.filename()), options,
+                                     octets, resultat.comptes);
+    if (shell::EcrireTout(chemin, octets))
+        resultat.issue = fait ? IssueExport::Fait : IssueExport::Abandon;
     return resultat;
 }
 

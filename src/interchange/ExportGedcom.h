@@ -35,8 +35,8 @@ struct ComptesExport {
 
 enum class IssueExport {
     Fait,
-    Abandon,  ///< the user gave up: no file, or the former one
-    Refus,    ///< the system refuses to write: the same
+    Abandon,  ///< the user gave up: the file ends where the writer had come
+    Refus,    ///< the system refuses to write: no file, or the former one
 };
 
 struct ResultatExport {
@@ -50,7 +50,7 @@ struct ResultatExport {
                                             const std::filesystem::path& chemin,
                                             const OptionsExport& options);
 
-/// The bytes of such a file; nothing when the user gave up.
+/// The bytes of such a file. False when the user gave up: they end where the writer had come.
 [[nodiscard]] bool ComposerGedcom(shell::Session& session, const std::string& nomFichier,
                                   const OptionsExport& options, std::string& octets,
                                   ComptesExport& comptes);

@@ -190,15 +190,20 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: only the persons chosen, and no point
     CHECK(fichier.find("0 @F1@ FAM\n1 HUSB @I1@\n") != std::string::npos);
 }
 
-TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: a cancel leaves the former file") {
+TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: a cancel leaves the file as far as it got") {
     for (int i = 0; i < 200; ++i)
         F().Creer('H', "Martin", "Paul", "1820");
     doublures::EcrireFichier(dossier / "x.ged", "avant");
     progression.annulerAu = progression.pas + 1;
     CHECK(ExporterGedcom(session, dossier / "x.ged", {}).issue == IssueExport::Abandon);
-    CHECK(doublures::LireFichier(dossier / "x.ged") == "avant");
+    const std::string partiel = doublures::LireFichier(dossier / "x.ged");
     progression.annulerAu = 0;
     CHECK(ExporterGedcom(session, dossier / "x.ged", {}).issue == IssueExport::Fait);
+    const std::string entier = doublures::LireFichier(dossier / "x.ged");
+    CHECK(entier.starts_with(partiel));
+    // Whole records, and no end.
+    CHECK(partiel.ends_with("1 SEX M\r\n1 BIRT\r\n2 DATE 1820\r\n"));
+    CHECK(partiel.size() < entier.size());
     CHECK(ExporterGedcom(session, dossier / "rien/x.ged", {}).issue == IssueExport::Refus);
 }
 
