@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <unordered_set>
 #include <utility>
 
 namespace dorvane::interchange {
@@ -119,16 +120,18 @@ private:
         return types;
     }
 
-    /// Words of these keywords that stand in the texts of the new persons, each as often as it
-    /// does.
+    /// Different words of these keywords in the texts of the new persons.
     std::size_t CompterMots(const std::vector<NoMotCle>& types) {
-        std::size_t mots = 0;
+        std::unordered_set<std::string> mots;
         ParcourirTextes([&](NoOrdre /*n*/, const std::string& texte) {
-            for (const NoMotCle k : types)
-                mots += static_cast<std::size_t>(
-                    std::ranges::count(texte, base_.motsCles.LibelleType(k).symbole));
+            for (const NoMotCle k : types) {
+                const char symbole = base_.motsCles.LibelleType(k).symbole;
+                if (texte.find(symbole) == std::string::npos) continue;
+                for (const std::string& mot : storage::MotsDuTexte(texte, symbole))
+                    mots.insert(symbole + mot);
+            }
         });
-        return mots;
+        return mots.size();
     }
 
     template <class Faire>

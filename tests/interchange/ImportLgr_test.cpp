@@ -410,3 +410,42 @@ TEST_CASE_FIXTURE(Lecture, "From the menu a file of another extension is read, a
     ImporterFichier(session, chemin, {});
     CHECK(doublures::LireFichier(chemin) == avant);
 }
+
+TEST_CASE_FIXTURE(Lecture,
+                  "A new base: a keyword that the file lacks gives way, so that no text changes") {
+    Lire(
+        "[MOTS CLES]\n^\nSobriquet\n\\\nOCCU\n[FIN MOTS CLES]\n"
+        "[INDIVIDUS]\n 1 \nA;;;;\nH\n\n\n 0 \n 0 \n|A ^Petit\n2^3\n#\n#\n#\n[FIN INDIVIDUS]\n");
+    REQUIRE(importation.faite);
+    CHECK(Texte(1) == "|A ^Petit\r\n2^3");
+    CHECK(neuve->motsCles.LibelleType(NoMotCle{1}).libelle == "Sobriquet");
+    CHECK(neuve->motsCles.LibelleType(NoMotCle{2}).libelle == "OCCU");
+    CHECK(neuve->motsCles.TypeDuSymbole('|'));
+}
+
+TEST_CASE_FIXTURE(
+    Lecture, "A new base: a keyword whose marker another one of the file needs takes a free one") {
+    // "$" is that of the places of birth in every base.
+    Lire(
+        "[MOTS CLES]\n$\nSobriquet\n[FIN MOTS CLES]\n"
+        "[INDIVIDUS]\n 1 \nA;;;;\nH\n\n\n 0 \n 0 \n|A $Petit\n#\n#\n#\n[FIN INDIVIDUS]\n");
+    REQUIRE(importation.faite);
+    CHECK(Texte(1) == "|A \xB5Petit");
+}
+
+TEST_CASE_FIXTURE(Lecture,
+                  "A new base: name settings, rows and the description are those of the file") {
+    Lire(
+        "[PARAMETRES]\n1\n1\n[FIN PARAMETRES]\n[DESCRIPTION]\n 2 \n[FIN DESCRIPTION]\n"
+        "[DONNEES INDIVIDUS]\n%\n1\n?\n1\n[FIN DONNEES INDIVIDUS]\n"
+        "[DONNEES MARIAGES]\n[FIN DONNEES MARIAGES]\n"
+        "[IMAGES]\n 2 \nMa famille\n\n#\n[FIN IMAGES]\n");
+    REQUIRE(importation.faite);
+    CHECK(neuve->entete.OptParticules);
+    CHECK(neuve->entete.OptPrenomUnique);
+    CHECK(neuve->entete.DocBase == NoDocument{2});
+    // No keyword has the marker "?".
+    CHECK(storage::NbSlots(neuve->entete.SlotsIndividu) == 1);
+    CHECK(neuve->entete.SlotsIndividu[0] == storage::Slot{'%', '1'});
+    CHECK(storage::NbSlots(neuve->entete.SlotsMariage) == 0);
+}
