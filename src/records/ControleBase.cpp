@@ -228,19 +228,16 @@ BilanControle ControlerBase(shell::Session& session,
     Controle controle{session, recevoir};
     std::vector<bool> vue(storage::MaxIndividus + 1);
     bilan.complet = true;
-    for (std::uint32_t rang = 1; rang <= base->entete.NbTriIndividus; ++rang) {
+    const std::uint32_t nombre = base->entete.NbTriIndividus;
+    for (std::uint32_t rang = 1; rang <= nombre && bilan.complet; ++rang) {
         const NoOrdre n = base->R_TRI.IndividuAuRang(rang);
         if (n && n.valeur <= base->entete.DernierIndividu && !vue[n.valeur]) {
             vue[n.valeur] = true;
             controle.Controler(n, rang);
         }
-        const bool suite = session.progression.Avancer(rang, base->entete.NbTriIndividus) &&
-                           (!continuer || continuer());
+        const bool suite = session.progression.Avancer(rang, nombre) && (!continuer || continuer());
         // While the screen lives the user may have closed the base.
-        if (!suite || session.base.get() != base) {
-            bilan.complet = rang == base->entete.NbTriIndividus && session.base.get() == base;
-            break;
-        }
+        bilan.complet = session.base.get() == base && (suite || rang == nombre);
     }
     bilan.constats = controle.Nombre();
     if (bilan.complet) session.dialogue.Annoncer(Msg(530));
