@@ -434,6 +434,18 @@ TEST_CASE_FIXTURE(Bureau, "Repair: a stop keeps what was mended") {
     CHECK(progression.cadres == 0);
 }
 
+TEST_CASE_FIXTURE(Bureau,
+                  "Repair: a base that is closed meanwhile ends the repair, the journal stands") {
+    for (int i = 0; i < 5; ++i)
+        B().R_PERE.EcrireCellule(Homme("Paul"), NoOrdre{999});
+    progression.aChaquePas = [this] {
+        if (progression.pas == 3) session.PoserBase(nullptr);
+    };
+    CHECK(Depanner().size() == 5);
+    CHECK_FALSE(bilan.complet);
+    CHECK(progression.pas == 3);
+}
+
 TEST_CASE_FIXTURE(Bureau, "Repair: a journal that cannot be written is told, the repairs stay") {
     Homme("Paul");
     std::filesystem::create_directories(session.Travail() / "Famille.TXT");

@@ -155,6 +155,19 @@ TEST_CASE_FIXTURE(
     CHECK(Octets("Reorg.LOG") == "le journal d'une autre base");
 }
 
+TEST_CASE_FIXTURE(Bureau,
+                  "Reorganisation: a base that bears the name of the new file is not overwritten") {
+    MnuFermer(session);
+    std::filesystem::rename(chemin, dossier / "Reorg.fic");
+    const std::string avant = Octets("Reorg.fic");
+    REQUIRE(OuvrirChemin(session, dossier / "Reorg.fic"));
+    dialogue.entendu.clear();
+    CHECK(ReorganiserBase(session, false) == IssueSoin::Refusee);
+    CHECK(dialogue.entendu.size() == 1);
+    CHECK(Octets("Reorg.fic") == avant);
+    CHECK(session.BaseOuverte());
+}
+
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: two at a time in one folder are refused") {
     const storage::ResultatVerrou verrou = disque.Verrouiller(dossier / "Reorg.fic");
     const std::string avant = Octets();
