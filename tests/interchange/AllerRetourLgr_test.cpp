@@ -72,3 +72,41 @@ TEST_CASE_FIXTURE(EssaiLgr, "Round trip: bases that somebody edits by chance") {
         }
     }
 }
+
+TEST_CASE_FIXTURE(EssaiLgr, "Merging in: both bases are there whole, with any story behind them") {
+    int compares = 0;
+    for (std::uint32_t graine = 21; graine <= 32; ++graine) {
+        CAPTURE(graine);
+        EssaiLgr autre;
+        EssaiLgr essai;
+        for (EssaiLgr* e : {&autre, &essai}) {
+            doublures::HistoireEssai histoire{*e, graine + (e == &autre ? 100 : 0)};
+            for (int pas = 0; pas < 250; ++pas) {
+                e->dialogue.reponses = {histoire.Repondre(), histoire.Repondre()};
+                histoire.Agir();
+            }
+        }
+        essai.Importer(essai.Exporter());
+        REQUIRE(essai.importation.faite);
+        const storage::EnTete avant = essai.B().entete;
+        REQUIRE(essai.Integrer(autre.Exporter()).issue == IssueIntegration::Faite);
+        CHECK(doublures::ComparerBases{*essai.neuve, essai.B(), {0, 0, 0, true}}.Ecarts() == "");
+        CHECK(doublures::Coherence{essai.B(), {false}}.Ecarts() == "");
+        // Where the keywords are the same no text changes.
+        bool memes = true;
+        for (NoMotCle k{1}; k.valeur <= autre.B().motsCles.Nombre(); ++k.valeur) {
+            const storage::MotCle type = autre.B().motsCles.LibelleType(k);
+            const NoMotCle ici = essai.B().motsCles.TypeDuSymbole(type.symbole);
+            memes = memes && (type.symbole == ' ' ||
+                              essai.B().motsCles.LibelleType(ici).libelle == type.libelle);
+        }
+        if (!memes) continue;
+        ++compares;
+        CHECK(doublures::ComparerBases{
+                  autre.B(),
+                  essai.B(),
+                  {avant.DernierIndividu, avant.DernierDocument, avant.DernierEvenement, true}}
+                  .Ecarts() == "");
+    }
+    CHECK(compares > 2);
+}
