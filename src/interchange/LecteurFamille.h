@@ -32,6 +32,10 @@ public:
     NoMariage Terminer();
 
     [[nodiscard]] const std::string& Texte() const { return texte_; }
+    /// Whom the record names, until the next one begins.
+    [[nodiscard]] NoOrdre Epoux() const { return epoux_; }
+    [[nodiscard]] NoOrdre Epouse() const { return epouse_; }
+    [[nodiscard]] const std::vector<NoOrdre>& Enfants() const { return enfants_; }
 
 private:
     void LireNiveau1(const LigneGedcom& ligne);

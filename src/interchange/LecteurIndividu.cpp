@@ -66,7 +66,8 @@ void LecteurIndividu::LireNiveau1(const LigneGedcom& ligne) {
 
 void LecteurIndividu::NoterFamille(const LigneGedcom& ligne) {
     familles_.push_back({CleDeReference(ligne.valeur),
-                         ligne.code == "FAMC"_tag ? "INDI.FAMC" : "INDI.FAMS", ligne.numero});
+                         ligne.code == "FAMC"_tag ? "INDI.FAMC" : "INDI.FAMS", ligne.numero,
+                         individu_, ligne.code == "FAMC"_tag});
 }
 
 bool LecteurIndividu::LireEvenement(const LigneGedcom& ligne) {

@@ -19,6 +19,8 @@ public:
         std::string_view cle;
         std::string_view chemin;
         std::uint32_t ligne;
+        NoOrdre individu;
+        bool enfant;  ///< FAMC, else FAMS
     };
 
     LecteurIndividu(const ContexteImport& contexte, SlotsImport& slots, LiensImport& liens,

@@ -6,10 +6,16 @@
 #include "storage/ConstruireIndex.h"
 #include "storage/Textes.h"
 
+#include <algorithm>
 #include <string>
 
 namespace dorvane::interchange {
 namespace {
+
+/// One number for the place of a person in the family of that rank in the file.
+constexpr std::uint64_t Appartenance(std::uint64_t rang, NoOrdre individu, bool enfant) {
+    return rang << 32U | std::uint64_t{individu.valeur} << 1U | (enfant ? 1U : 0U);
+}
 
 constexpr std::uint32_t PasDeProgression = 100;  ///< records between two steps of the frame
 
@@ -69,7 +75,8 @@ void PassesImport::OuvrirEnregistrement(const LigneGedcom& ligne, std::size_t de
         case "FAM"_tag:
             genre_ = Genre::Famille;
             debuts_.push_back({debut, ligne.numero});
-            if (!ligne.cle.empty() && !cles_.familles.Noter(ligne.cle, 1))
+            if (!ligne.cle.empty() &&
+                !cles_.familles.Noter(ligne.cle, static_cast<std::uint32_t>(debuts_.size())))
                 contexte_.Noter(Constat::Doublon, ligne);
             break;
         case "TRLR"_tag:
@@ -210,20 +217,36 @@ void PassesImport::LireFamille(LecteurFamille& lecteur, const Famille& famille) 
     }
 }
 
+void PassesImport::ReleverMembres(const LecteurFamille& lecteur, std::uint64_t rang) {
+    membres_.push_back(Appartenance(rang, lecteur.Epoux(), false));
+    membres_.push_back(Appartenance(rang, lecteur.Epouse(), false));
+    for (const NoOrdre enfant : lecteur.Enfants())
+        membres_.push_back(Appartenance(rang, enfant, true));
+}
+
+// The families decide who is in them: what a person says alone is lost, and named.
 void PassesImport::VerifierFamilles() {
-    for (const LecteurIndividu::Reference& r : individu_.Familles())
-        if (cles_.familles.Chercher(r.cle) == 0)
+    std::ranges::sort(membres_);
+    for (const LecteurIndividu::Reference& r : individu_.Familles()) {
+        const std::uint32_t rang = cles_.familles.Chercher(r.cle);
+        if (rang == 0)
             rapport_.Noter(Constat::Reference,
                            std::string{r.chemin} + " @" + std::string{r.cle} + "@", r.ligne);
+        else if (!std::ranges::binary_search(membres_, Appartenance(rang, r.individu, r.enfant)))
+            rapport_.Noter(Constat::NonRepris, r.chemin, r.ligne);
+    }
 }
 
 bool PassesImport::SecondePasse() {
     session_.progression.Phase(shell::Msg(808));
     LecteurFamille lecteur{contexte_, slotsMariage_, liens_, familles_, cles_};
     compteMontre_ = 0;
+    std::uint64_t rang = 0;
+    membres_.reserve(debuts_.size() * 4);
     for (const Famille& famille : debuts_) {
         LireFamille(lecteur, famille);
         if (lecteur.Terminer()) memoire_.AjouterUnion(lecteur.Texte());
+        ReleverMembres(lecteur, ++rang);
         if (!Avancer(famille.debut, 918, base_.entete.DernierMariage)) return false;
     }
     VerifierFamilles();

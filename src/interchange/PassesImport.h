@@ -65,6 +65,7 @@ private:
     [[nodiscard]] bool SecondePasse();
     void LireFamille(LecteurFamille& lecteur, const Famille& famille);
     void VerifierFamilles();
+    void ReleverMembres(const LecteurFamille& lecteur, std::uint64_t rang);
     void EcrireSlots();
     [[nodiscard]] ReglesNoms Regles() const;
     [[nodiscard]] bool Trier();
@@ -91,6 +92,8 @@ private:
     MemoireImport memoire_;
     ClesImport cles_;
     std::vector<Famille> debuts_;
+    /// Who is a child and who a partner of which family, see `Appartenance`.
+    std::vector<std::uint64_t> membres_;
     std::uint32_t enregistrements_ = 0;
     std::uint32_t compteMontre_ = 0;
     Genre genre_ = Genre::Aucun;

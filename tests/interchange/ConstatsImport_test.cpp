@@ -87,3 +87,12 @@ TEST_CASE_FIXTURE(Bureau, "Import: a mark that stands twice in a value is one in
     CHECK(base->R_IMAGE.LireDoc(NoDocument{1}).note == "k@l");
     CHECK(base->R_IMAGE.LireDoc(NoDocument{1}).fichier == "m@n");
 }
+
+TEST_CASE_FIXTURE(Bureau, "Import: a family that does not name the person is named in the report") {
+    Importer(
+        "0 @I1@ INDI\n1 FAMS @F1@\n1 FAMC @F2@\n0 @I2@ INDI\n1 FAMC @F1@\n1 FAMS @F1@\n"
+        "0 @F1@ FAM\n1 HUSB @I1@\n1 CHIL @I2@\n0 @F2@ FAM\n1 HUSB @I2@\n");
+    CHECK(Nomme(Constat::NonRepris, "INDI.FAMC", 6));
+    CHECK(Nomme(Constat::NonRepris, "INDI.FAMS", 9));
+    CHECK(Constats(Constat::NonRepris) == 2);
+}
