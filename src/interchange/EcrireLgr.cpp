@@ -102,7 +102,7 @@ ResultatLgr ExporterLgr(shell::Session& session, const std::filesystem::path& ch
     ResultatLgr resultat;
     std::string octets;
     const bool fini = ComposerLgr(session, options, octets, resultat.comptes);
-    if (shell::EcrireTout(chemin, octets))
+    if (shell::EcrireTout(fini ? chemin : shell::CheminPartiel(chemin), octets))
         resultat.issue = fini ? IssueLgr::Fait : IssueLgr::Abandon;
     return resultat;
 }

@@ -31,7 +31,7 @@ struct ComptesLgr {
 
 enum class IssueLgr : std::uint8_t {
     Fait,
-    Abandon,  ///< the user gave up: the file ends where the writer had come
+    Abandon,  ///< the user gave up: what was written stands at `shell::CheminPartiel`
     Refus     ///< the system refuses to write: no file, or the former one
 };
 

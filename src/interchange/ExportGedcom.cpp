@@ -65,7 +65,7 @@ ResultatExport ExporterGedcom(shell::Session& session, const std::filesystem::pa
     std::string octets;
     const bool fait = ComposerGedcom(session, shell::CheminAffiche(chemin.filename()), options,
                                      octets, resultat.comptes);
-    if (shell::EcrireTout(chemin, octets))
+    if (shell::EcrireTout(fait ? chemin : shell::CheminPartiel(chemin), octets))
         resultat.issue = fait ? IssueExport::Fait : IssueExport::Abandon;
     return resultat;
 }

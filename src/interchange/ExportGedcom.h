@@ -35,7 +35,7 @@ struct ComptesExport {
 
 enum class IssueExport {
     Fait,
-    Abandon,  ///< the user gave up: the file ends where the writer had come
+    Abandon,  ///< the user gave up: what was written stands at `shell::CheminPartiel`
     Refus,    ///< the system refuses to write: no file, or the former one
 };
 

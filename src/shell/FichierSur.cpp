@@ -116,6 +116,11 @@ bool EcrireTout(const std::filesystem::path& chemin, std::string_view octets,
                      [octets](const Descripteur& sortie) { return sortie.Ecrire(octets); });
 }
 
+std::filesystem::path CheminPartiel(const std::filesystem::path& chemin) {
+    std::filesystem::path partiel = chemin;
+    return partiel += ".partiel";
+}
+
 bool CopierTout(const std::filesystem::path& source, const std::filesystem::path& cible) {
     const Descripteur entree{source, O_RDONLY};
     if (!entree.Ouvert()) return false;

@@ -16,6 +16,9 @@ namespace dorvane::shell {
 [[nodiscard]] bool EcrireTout(const std::filesystem::path& chemin, std::string_view octets,
                               std::string_view suffixe = ".nouveau");
 
+/// Where a writer that the user stops leaves what it has written: beside the file that was to be,
+/// which stays as it was.
+[[nodiscard]] std::filesystem::path CheminPartiel(const std::filesystem::path& chemin);
 /// Copies a file by the same steps. `source` and `cible` are different files.
 [[nodiscard]] bool CopierTout(const std::filesystem::path& source,
                               const std::filesystem::path& cible);

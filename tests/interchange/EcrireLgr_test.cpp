@@ -211,7 +211,8 @@ TEST_CASE_FIXTURE(EssaiLgr, "The export shows its counts every 100 persons and e
     progression.pas = 0;
     progression.annulerAu = 2;
     CHECK(ExporterLgr(session, sortie, {}).issue == IssueLgr::Abandon);
-    const std::string octets = doublures::LireFichier(sortie);
+    CHECK(doublures::LireFichier(sortie).ends_with("[FIN]\r\n"));
+    const std::string octets = doublures::LireFichier(shell::CheminPartiel(sortie));
     CHECK(octets.find("\r\n 199 \r\n") != std::string::npos);
     CHECK(octets.find("\r\n 200 \r\n") == std::string::npos);
     CHECK(octets.find("[FIN INDIVIDUS]") == std::string::npos);

@@ -190,13 +190,14 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: only the persons chosen, and no point
     CHECK(fichier.find("0 @F1@ FAM\n1 HUSB @I1@\n") != std::string::npos);
 }
 
-TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: a cancel leaves the file as far as it got") {
+TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: a cancel leaves what it got beside the former file") {
     for (int i = 0; i < 200; ++i)
         F().Creer('H', "Martin", "Paul", "1820");
     doublures::EcrireFichier(dossier / "x.ged", "avant");
     progression.annulerAu = progression.pas + 1;
     CHECK(ExporterGedcom(session, dossier / "x.ged", {}).issue == IssueExport::Abandon);
-    const std::string partiel = doublures::LireFichier(dossier / "x.ged");
+    CHECK(doublures::LireFichier(dossier / "x.ged") == "avant");
+    const std::string partiel = doublures::LireFichier(dossier / "x.ged.partiel");
     progression.annulerAu = 0;
     CHECK(ExporterGedcom(session, dossier / "x.ged", {}).issue == IssueExport::Fait);
     const std::string entier = doublures::LireFichier(dossier / "x.ged");
