@@ -38,7 +38,7 @@ public:
     [[nodiscard]] std::size_t Morts() const {
         std::size_t morts = 0;
         for (std::size_t i = 1; i < vivant_.size(); ++i)
-            morts += vivant_[i] ? 0 : 1;
+            if (!vivant_[i]) ++morts;
         return morts;
     }
     /// Something leads past the end of the file.
