@@ -1,5 +1,6 @@
 #include "shell/Session.h"
 
+#include "shell/Communes.h"
 #include "storage/Base.h"
 
 namespace dorvane::shell {
@@ -42,6 +43,7 @@ Session::Session(const Lieux& lieux, const Ports& ports)
       ecran{ports.ecran},
       disque{ports.disque},
       parametres{lieux},
+      communes{std::make_unique<Communes>(ports.disque, parametres)},
       veilleur_{std::make_unique<Veilleur>(*this)} {
     deCujus[0].libelle = "[...]";
     deCujus[1].libelle = "{...}";

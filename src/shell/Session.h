@@ -28,6 +28,8 @@ enum class Incident;
 
 namespace dorvane::shell {
 
+class Communes;
+
 /// What the session cannot do by itself. All outlive the session.
 struct Ports {
     Dialogue& dialogue;
@@ -69,6 +71,8 @@ public:
 
     Parametres parametres;
     Catalogue catalogue;
+    /// With which places are completed; never null.
+    std::unique_ptr<Communes> communes;
 
     /// The open base; null when none is open.
     std::unique_ptr<storage::Base> base;
