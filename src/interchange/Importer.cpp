@@ -144,6 +144,8 @@ Importation ImporterActesVers(shell::Session& session, const Releve& releve,
     Expliquer(session, issue, fichier, base);
     importation.faite = issue == IssueImport::Fait;
     if (!importation.faite) return importation;
+    if (releve.ligneSansSeparateur != 0)
+        session.dialogue.Informer(shell::Msg(4161, std::to_string(releve.ligneSansSeparateur)));
     importation.texte = ComposerRapport(importation.releve, releve, session);
     EnregistrerRapport(session, base, importation);
     return importation;

@@ -45,6 +45,11 @@ TEST_CASE_FIXTURE(Poste, "Command line: a survey becomes a base, with what was n
         Contient(Lancer("releve bapteme actes.csv --remplacer --json").sortie, "\"individus\": 4"));
     CHECK(Lancer("releve bapteme absent.csv").statut == 3);
     CHECK(Lancer("releve divorce actes.csv").statut == 2);
+    EcrireFichier(dossier / "coupe.csv", "1780;1;1;Mer;Dupont;Luc;M\nrien\n");
+    const Reponse coupe = Lancer("releve bapteme coupe.csv");
+    CHECK(coupe.statut == 0);
+    CHECK(Contient(coupe.messages, "La ligne 2"));
+    CHECK(Contient(Lancer("lister coupe.LGD").sortie, "Luc"));
     EcrireFichier(dossier / "vide.csv", "rien\n");
     CHECK(Lancer("releve mariage vide.csv").statut == 1);
 }
