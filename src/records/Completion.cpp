@@ -1,12 +1,15 @@
 #include "records/Completion.h"
 
+#include "shell/Communes.h"
 #include "storage/Base.h"
+#include "storage/BaseCommunes.h"
 #include "values/Comparaison.h"
 #include "values/Noms.h"
 #include "values/Texte1252.h"
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <utility>
 
 namespace dorvane::records {
@@ -15,6 +18,9 @@ namespace {
 
 /// Whoever carries a word has it written in a record; past these the word is shown by itself.
 constexpr std::size_t MaxPorteurs = 8;
+
+/// Communes looked at once more than a name is typed: more than any name has homonyms.
+constexpr std::size_t MaxHomonymes = 1000;
 
 /// What a person has written behind a symbol, in whole words.
 std::vector<std::string> EcrituresDe(storage::Base& base, NoOrdre n, char symbole) {
@@ -63,7 +69,30 @@ std::vector<std::string> Completion::Chercher(std::string_view debut, std::size_
         if (mots.size() == max) break;
         mots.push_back(std::move(ecriture));
     }
+    if (!cherche.empty() && symboles_.find(mots::Lieux) != std::string::npos)
+        AjouterCommunes(debut, max, mots);
     return mots;
+}
+
+/// A commune fits by its name, and once a comma is typed by the whole of its place.
+void Completion::AjouterCommunes(std::string_view debut, std::size_t max,
+                                 std::vector<std::string>& lieux) const {
+    const storage::BaseCommunes* communes = session_.communes->Base();
+    const std::string_view nom = SansBlancs(debut.substr(0, debut.find(',')));
+    if (communes == nullptr || nom.empty() || lieux.size() >= max) return;
+    const bool nomSeul = debut.find(',') == std::string_view::npos;
+    std::set<std::string> vus;
+    for (const std::string& lieu : lieux)
+        vus.insert(Replie(lieu));
+    const std::string cherche{SansBlancs(Replie(debut))};
+    for (const storage::NoCommune n :
+         communes->ChercherDebut(nom, nomSeul ? 2 * max : MaxHomonymes)) {
+        if (lieux.size() == max) return;
+        std::string lieu = storage::TexteLieu(communes->LireCommune(n));
+        const std::string replie = Replie(lieu);
+        if (replie.starts_with(cherche) && vus.insert(replie).second)
+            lieux.push_back(std::move(lieu));
+    }
 }
 
 std::string Completion::Ecriture(NoIndex e, const std::string& mot, char symbole) {

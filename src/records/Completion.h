@@ -18,8 +18,9 @@ inline constexpr std::string_view Prenoms = "\xB6";
 inline constexpr std::string_view Lieux = "$~@";
 }  // namespace mots
 
-/// Proposes known words while one is typed, from the word index of the base. A word costs a few
-/// reads however many there are. It is made anew when another base is opened.
+/// Proposes known words while one is typed, from the word index of the base; places also from the
+/// communes, behind those of the base. A word costs a few reads however many there are. It is made
+/// anew when another base is opened.
 class Completion {
 public:
     /// `session` outlives the object. `symboles`: keywords whose words are proposed.
@@ -28,7 +29,7 @@ public:
 
     /// At most `max` words that begin with `debut`, whatever its case and accents, each as the
     /// first person who carries it has it written; without doubles, by their folded form. Empty
-    /// for an empty `debut` unless `tous`.
+    /// for an empty `debut` unless `tous`, which does not ask for communes.
     [[nodiscard]] std::vector<std::string> Chercher(std::string_view debut, std::size_t max,
                                                     bool tous = false);
 
@@ -40,6 +41,8 @@ private:
     };
 
     [[nodiscard]] std::string Ecriture(NoIndex e, const std::string& mot, char symbole);
+    void AjouterCommunes(std::string_view debut, std::size_t max,
+                         std::vector<std::string>& lieux) const;
 
     shell::Session& session_;
     std::string symboles_;

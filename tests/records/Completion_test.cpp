@@ -2,7 +2,12 @@
 
 #include "doublures/FicheEssai.h"
 #include "records/Individus.h"
+#include "shell/Communes.h"
+#include "storage/BaseCommunes.h"
 #include "values/Texte1252.h"
+
+#include <array>
+#include <chrono>
 
 #include <doctest/doctest.h>
 
@@ -27,6 +32,24 @@ struct Lexique : doublures::FicheEssai {
         fiche.anneeNaissance = "1850";
         fiche.lieuNaissance = lieu;
         return CreerIndividu(session, fiche).individu;
+    }
+    /// The communes of the settings, by name, commune that they belong to, and precision.
+    void Communes(const std::vector<std::array<const char*, 3>>& lignes) {
+        std::vector<storage::Commune> communes;
+        for (const auto& [nom, rattachement, precision] : lignes) {
+            communes.emplace_back();
+            communes.back().nom = Utf8VersTexte(nom).octets;
+            communes.back().rattachement = Utf8VersTexte(rattachement).octets;
+            communes.back().precision = Utf8VersTexte(precision).octets;
+        }
+        Poser(communes);
+    }
+    void Poser(const std::vector<storage::Commune>& communes) {
+        storage::AvancementMuet muet;
+        std::string octets;
+        REQUIRE(storage::ComposerLgx(communes, muet, octets));
+        session.parametres.generaux.fichierCommunes = dossier / "Pays.lgx";
+        REQUIRE(shell::EcrireTout(dossier / "Pays.lgx", octets));
     }
 };
 
@@ -85,4 +108,61 @@ TEST_CASE_FIXTURE(Lexique, "Completion: no base, no words") {
     Completion noms{session, mots::Noms};
     REQUIRE(shell::Clore(session));
     CHECK(noms.Chercher("d", 9).empty());
+}
+
+TEST_CASE_FIXTURE(Lexique, "Completion: communes come behind the places of the base") {
+    Communes({{"Sai", "", ""}, {"Saint-Aubin", "", "Loir-et-Cher"}, {"Blois", "", ""}});
+    Completion lieux{session, mots::Lieux};
+    CHECK(lieux.Chercher("SAI", 9) == Mots{"Saint-Malo", "Sai", "Saint-Aubin, Loir-et-Cher"});
+    CHECK(lieux.Chercher("sai", 2) == Mots{"Saint-Malo", "Sai"});
+    CHECK(lieux.Chercher("sai", 1) == Mots{"Saint-Malo"});
+}
+
+TEST_CASE_FIXTURE(Lexique, "Completion: a commune that the base writes as a place comes once") {
+    Communes({{"SAINT MALO", "", ""}, {"Brest", "", "Finistère"}, {"Brest", "", "Finistere"}});
+    Completion lieux{session, mots::Lieux};
+    CHECK(lieux.Chercher("saint", 9) == Mots{"Saint-Malo"});
+    CHECK(lieux.Chercher("bre", 9) == Mots{"Brest", std::string{"Brest, Finistère"_1252}});
+}
+
+TEST_CASE_FIXTURE(Lexique, "Completion: behind a comma the rest of a place tells homonyms apart") {
+    Communes({{"Mer", "", "Loir-et-Cher"}, {"Mer", "Suèvres", "Eure"}, {"Merey", "", "Loiret"}});
+    Completion lieux{session, mots::Lieux};
+    CHECK(lieux.Chercher("mer, l", 9) == Mots{"Mer, Loir-et-Cher"});
+    CHECK(lieux.Chercher("Mer, suevres, E", 9) == Mots{std::string{"Mer, Suèvres, Eure"_1252}});
+    CHECK(lieux.Chercher("mer, zz", 9).empty());
+    CHECK(lieux.Chercher(", l", 9).empty());
+    CHECK(lieux.Chercher(",", 9).empty());
+}
+
+TEST_CASE_FIXTURE(Lexique, "Completion: communes are proposed for places alone, and once typed") {
+    Communes({{"Dupontville", "", ""}, {"Élisville", "", ""}});
+    CHECK(Completion{session, mots::Noms}.Chercher("dup", 9) == Mots{"Dupont"});
+    CHECK(Completion{session, mots::Prenoms}.Chercher("elis", 9).size() == 1);
+    CHECK(Completion{session, mots::Lieux}.Chercher("", 9).empty());
+    CHECK(Completion{session, mots::Lieux}.Chercher("", 9, true) == Mots{"Brest", "Saint-Malo"});
+    CHECK(Completion{session, std::string{"&"}.append(mots::Lieux)}.Chercher("dup", 9) ==
+          Mots{"Dupontville"});
+}
+
+TEST_CASE_FIXTURE(Lexique, "Completion: without a file of communes the base alone answers") {
+    session.parametres.generaux.fichierCommunes = dossier / "absent.lgx";
+    CHECK(Completion{session, mots::Lieux}.Chercher("b", 9) == Mots{"Brest"});
+    CHECK(dialogue.entendu.empty());
+}
+
+TEST_CASE_FIXTURE(Lexique, "Completion: a whole country of communes answers while one types") {
+    std::vector<storage::Commune> pays(40000);
+    for (std::size_t i = 0; i < pays.size(); ++i)
+        pays[i].nom = "Saint-" + std::to_string(i % 36000) + "-sur-Loire";
+    Poser(pays);
+    Completion lieux{session, mots::Lieux};
+    CHECK(lieux.Chercher("s", 12).size() == 12);  // reads the file
+    const auto debut = std::chrono::steady_clock::now();
+    for (int i = 0; i < 100; ++i)
+        CHECK(lieux.Chercher("saint " + std::to_string(100 + i), 12).size() == 12);
+    const std::chrono::duration<double, std::milli> duree =
+        std::chrono::steady_clock::now() - debut;
+    MESSAGE("ms for one letter: " << duree.count() / 100);
+    CHECK(duree.count() / 100 < 20.0);
 }
