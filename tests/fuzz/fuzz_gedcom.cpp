@@ -1,11 +1,7 @@
 // links: interchange
 // Any bytes as a GEDCOM file: imported on a disk in memory, opened again and read through. The
 // first byte chooses whether the persons are sorted.
-#include "doublures/DialogueScript.h"
-#include "doublures/DisqueMemoire.h"
-#include "doublures/EcranScript.h"
-#include "doublures/HorlogeFixe.h"
-#include "doublures/ProgressionScript.h"
+#include "doublures/SessionMemoire.h"
 #include "interchange/ImportGedcom.h"
 #include "storage/Base.h"
 #include "storage/Slots.h"
@@ -36,14 +32,9 @@ void Parcourir(storage::Base& base) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
     if (taille == 0) return 0;
-    doublures::DialogueScript dialogue;
-    doublures::ProgressionScript progression;
-    doublures::HorlogeFixe horloge;
-    doublures::EcranScript ecran;
-    storage::DisqueMemoire disque;
-    const std::filesystem::path nulle = "/nulle-part";
-    shell::Session session{{nulle, nulle, nulle}, {dialogue, progression, horloge, ecran, disque}};
-    if (octets[0] % 2 == 0) dialogue.reponses = {shell::Reponse::Oui};
+    doublures::SessionMemoire poste;
+    shell::Session& session = poste.session;
+    if (octets[0] % 2 == 0) poste.dialogue.reponses = {shell::Reponse::Oui};
 
     const std::string_view fichier{reinterpret_cast<const char*>(octets) + 1, taille - 1};
     interchange::RapportImport rapport;
@@ -51,7 +42,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
         interchange::ImporterTexte(session, std::string{fichier}, "/essai.LGD", rapport);
     if (issue != interchange::IssueImport::Fait) return 0;
     storage::AvancementMuet avancement;
-    storage::ResultatOuverture ouverte = storage::OuvrirBase(disque, "/essai.LGD", avancement);
+    storage::ResultatOuverture ouverte =
+        storage::OuvrirBase(poste.disque, "/essai.LGD", avancement);
     if (ouverte.etat != storage::Ouverture::Faite) std::abort();
     if (ouverte.base->entete.DernierIndividu != rapport.individus) std::abort();
     Parcourir(*ouverte.base);

@@ -1,11 +1,7 @@
 // links: interchange
 // Any bytes as an exchange text: made a new base of on a disk in memory, opened again, read
 // through, written and read once more. The first byte chooses the version where the text has none.
-#include "doublures/DialogueScript.h"
-#include "doublures/DisqueMemoire.h"
-#include "doublures/EcranScript.h"
-#include "doublures/HorlogeFixe.h"
-#include "doublures/ProgressionScript.h"
+#include "doublures/SessionMemoire.h"
 #include "interchange/EcrireLgr.h"
 #include "interchange/ImportLgr.h"
 #include "storage/Base.h"
@@ -57,20 +53,16 @@ void Verifier(storage::Base& base) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
     if (taille == 0) return 0;
-    doublures::DialogueScript dialogue;
-    doublures::ProgressionScript progression;
-    doublures::HorlogeFixe horloge;
-    doublures::EcranScript ecran;
-    storage::DisqueMemoire disque;
-    const std::filesystem::path nulle = "/nulle-part";
-    shell::Session session{{nulle, nulle, nulle}, {dialogue, progression, horloge, ecran, disque}};
+    doublures::SessionMemoire poste;
+    shell::Session& session = poste.session;
 
     interchange::RapportImport rapport;
     const auto issue =
         interchange::ImporterOctetsLgr(session, AvecVersion(octets, taille), "/essai.LGD", rapport);
     if (issue != interchange::IssueImport::Fait) return 0;
     storage::AvancementMuet avancement;
-    storage::ResultatOuverture ouverte = storage::OuvrirBase(disque, "/essai.LGD", avancement);
+    storage::ResultatOuverture ouverte =
+        storage::OuvrirBase(poste.disque, "/essai.LGD", avancement);
     if (ouverte.etat != storage::Ouverture::Faite) std::abort();
     if (ouverte.base->entete.NbTriIndividus != rapport.individus) std::abort();
     Verifier(*ouverte.base);

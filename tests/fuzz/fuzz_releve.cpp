@@ -2,11 +2,7 @@
 // Any bytes as a survey: cut, examined, written into a base on a disk in memory, and read again.
 // The first byte chooses the kind.
 #include "doublures/Coherence.h"
-#include "doublures/DialogueScript.h"
-#include "doublures/DisqueMemoire.h"
-#include "doublures/EcranScript.h"
-#include "doublures/HorlogeFixe.h"
-#include "doublures/ProgressionScript.h"
+#include "doublures/SessionMemoire.h"
 #include "interchange/CsvCommunes.h"
 #include "interchange/ImportReleve.h"
 #include "storage/Base.h"
@@ -25,13 +21,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     const std::string_view fichier{reinterpret_cast<const char*>(octets) + 1, taille - 1};
     (void)interchange::LireCsvCommunes(fichier);
 
-    doublures::DialogueScript dialogue;
-    doublures::ProgressionScript progression;
-    doublures::HorlogeFixe horloge;
-    doublures::EcranScript ecran;
-    storage::DisqueMemoire disque;
-    const std::filesystem::path nulle = "/nulle-part";
-    shell::Session session{{nulle, nulle, nulle}, {dialogue, progression, horloge, ecran, disque}};
+    doublures::SessionMemoire poste;
+    shell::Session& session = poste.session;
     const auto sorte = static_cast<interchange::SorteReleve>(octets[0] % 4);
     const interchange::Releve releve = interchange::LireReleve(fichier, sorte);
     const interchange::RapportReleve prevu = interchange::ExaminerReleve(session, releve);
@@ -42,7 +33,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     if (prevu.individus != rapport.individus || prevu.constats.size() != rapport.constats.size())
         std::abort();
     storage::AvancementMuet avancement;
-    storage::ResultatOuverture ouverte = storage::OuvrirBase(disque, "/essai.LGD", avancement);
+    storage::ResultatOuverture ouverte =
+        storage::OuvrirBase(poste.disque, "/essai.LGD", avancement);
     if (ouverte.etat != storage::Ouverture::Faite) std::abort();
     if (const std::string ecarts = doublures::Ecarts(*ouverte.base); !ecarts.empty()) {
         std::puts(ecarts.c_str());

@@ -1,14 +1,9 @@
 // `dorvane-outil importer --remplacer` as built, killed at moments of chance: what stands under the
 // name of the base is the old one or the new one, whole, and the next import is not locked out.
-#include "doublures/DossierTemporaire.h"
-
-#include <fcntl.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include "parcours/PosteTue.h"
 
 #include <chrono>
 #include <csignal>
-#include <cstdlib>
 #include <random>
 #include <string>
 #include <thread>
@@ -16,48 +11,21 @@
 #include <doctest/doctest.h>
 
 using namespace dorvane::doublures;
+using namespace dorvane::parcours;
 
 namespace {
 
 using Horloge = std::chrono::steady_clock;
 
-std::string Gedcom(int personnes) {
-    std::string texte = "0 HEAD\n1 CHAR ANSI\n";
-    for (int i = 1; i <= personnes; ++i)
-        texte += "0 @I" + std::to_string(i) + "@ INDI\n1 NAME Jean /Nom" + std::to_string(i) +
-                 "/\n1 BIRT\n2 DATE 1" + std::to_string(500 + i % 400) +
-                 "\n2 PLAC Saint Malo\n1 OCCU laboureur\n1 NOTE une note de quelques mots\n";
-    return texte + "0 TRLR\n";
-}
-
-struct Poste {
+struct Poste : PosteTue {
     Poste() {
-        setenv("XDG_CONFIG_HOME", (dossier / "config").c_str(), 1);
-        setenv("XDG_CACHE_HOME", (dossier / "cache").c_str(), 1);
-        EcrireFichier(dossier / "ancien.ged", Gedcom(300));
-        EcrireFichier(dossier / "nouveau.ged", Gedcom(12000));
+        EcrireFichier(dossier / "ancien.ged", GedcomDe(300));
+        EcrireFichier(dossier / "nouveau.ged", GedcomDe(12000));
     }
-
-    /// Starts an import over the base; the caller waits for it.
-    pid_t Lancer(const char* fichier) const {
-        const std::string source = (dossier / fichier).string();
-        const std::string base = (dossier / "b.LGD").string();
-        const pid_t fils = ::fork();
-        REQUIRE(fils >= 0);
-        if (fils == 0) {
-            const int nulle = ::open("/dev/null", O_RDWR);
-            ::dup2(nulle, 1);
-            ::dup2(nulle, 2);
-            ::execl(OUTIL, OUTIL, "importer", source.c_str(), "--base", base.c_str(), "--remplacer",
-                    "--trier", static_cast<char*>(nullptr));
-            ::_exit(127);
-        }
-        return fils;
-    }
-    static int Attendre(pid_t fils) {
-        int statut = 0;
-        ::waitpid(fils, &statut, 0);
-        return WIFEXITED(statut) ? WEXITSTATUS(statut) : -1;
+    /// Starts an import over the base.
+    [[nodiscard]] pid_t Lancer(const char* fichier) const {
+        return PosteTue::Lancer({"importer", (dossier / fichier).string(), "--base",
+                                 (dossier / "b.LGD").string(), "--remplacer", "--trier"});
     }
     /// How many persons the base lists; -1 when it cannot be opened.
     int Compter() const {
@@ -69,8 +37,6 @@ struct Poste {
             lignes += c == '\n' ? 1 : 0;
         return lignes;
     }
-
-    DossierTemporaire dossier;
 };
 
 }  // namespace
