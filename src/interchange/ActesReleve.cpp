@@ -30,6 +30,7 @@ constexpr std::uint32_t SosaIllisible = 4157;
 constexpr std::uint32_t SosaDouble = 4158;
 constexpr std::uint32_t SansEnfant = 4159;
 constexpr std::uint32_t BasePleine = 4160;
+constexpr std::uint32_t SansConjoint = 4162;
 
 std::string NomComplet(std::string_view nom, std::string_view prenoms) {
     std::string complet{prenoms};
@@ -101,7 +102,7 @@ private:
 
     /// The three columns of the date are the same in every kind of act.
     DateActe LireDate() {
-        const DateActe date =
+        DateActe date =
             LireDateActe(Champ(col::BapAnnee), Champ(col::BapMois), Champ(col::BapJour));
         if (!date.serie)
             Noter(SansDate);
@@ -332,19 +333,27 @@ private:
         return true;
     }
 
+    [[nodiscard]] static bool DitMariage(const LigneReleve& ligne) {
+        return !ligne.Champ(col::AscDateMariage).empty() ||
+               !ligne.Champ(col::AscLieuMariage).empty();
+    }
+
     /// Parents 2n and 2n + 1 of each n, and their union, whose date either line may give.
     void Lier() {
         for (const auto& [sosa, ascendant] : ascendants_) {
+            const std::uint32_t ligneLue = ascendant.ligne->numero;
             if (sosa > 1 && !ascendants_.contains(sosa / 2))
-                rapport_.constats.push_back({ascendant.ligne->numero, NoMessage{SansEnfant}});
+                rapport_.constats.push_back({ligneLue, NoMessage{SansEnfant}});
+            // The partner of 2n is 2n + 1; number 1 has none in the file.
+            if (DitMariage(*ascendant.ligne) &&
+                (sosa == 1 || !ascendants_.contains(sosa ^ 1U) || !ascendants_.contains(sosa / 2)))
+                rapport_.constats.push_back({ligneLue, NoMessage{SansConjoint}});
             if (sosa > UINT64_MAX / 2 - 1) continue;
             const Ascendant pere = Trouver(sosa * 2);
             const Ascendant mere = Trouver(sosa * 2 + 1);
             ecrivain_.Rattacher(ascendant.n, pere.n, mere.n);
-            if (!pere.n || !mere.n) continue;
-            const bool chezLui = !pere.ligne->Champ(col::AscDateMariage).empty() ||
-                                 !pere.ligne->Champ(col::AscLieuMariage).empty();
-            const LigneReleve& ligne = chezLui ? *pere.ligne : *mere.ligne;
+            if (pere.ligne == nullptr || mere.ligne == nullptr) continue;
+            const LigneReleve& ligne = DitMariage(*pere.ligne) ? *pere.ligne : *mere.ligne;
             if (ecrivain_.Unir(pere.n, mere.n, LireDateLibre(ligne.Champ(col::AscDateMariage)),
                                ligne.Champ(col::AscLieuMariage)))
                 ++rapport_.unions;

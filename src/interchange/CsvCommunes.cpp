@@ -62,7 +62,7 @@ public:
         if (liste_.nomInconnu) return;
         storage::Commune commune;
         for (std::size_t i = 0; i < std::min(champs.size(), colonnes_.size()); ++i)
-            if (colonnes_[i]) commune.*(*colonnes_[i]) = champs[i];
+            if (const std::optional<Champ>& colonne = colonnes_[i]) commune.*(*colonne) = champs[i];
         commune = storage::NettoyerCommune(commune);
         if (!commune.nom.empty())
             liste_.communes.push_back(std::move(commune));

@@ -58,13 +58,14 @@ void ImageLgx::FixerNombre(AireLgx aire, std::uint32_t nombre) {
 
 Position ImageLgx::Cellule(AireLgx aire, std::uint32_t n) const {
     if (n - 1U >= MaxCellules) return {};
-    const std::uint32_t bloc = Nombre4(PlaceDe(aire).repertoire + (n - 1) / ParBloc * 4);
+    const std::uint32_t bloc =
+        Nombre4(PlaceDe(aire).repertoire + std::size_t{(n - 1) / ParBloc} * 4);
     if (bloc == 0) return {};
     return Position{Nombre4(std::size_t{bloc} - 1 + std::size_t{(n - 1) % ParBloc} * 4)};
 }
 
 void ImageLgx::FixerCellule(AireLgx aire, std::uint32_t n, Position position) {
-    const std::size_t entree = PlaceDe(aire).repertoire + (n - 1) / ParBloc * 4;
+    const std::size_t entree = PlaceDe(aire).repertoire + std::size_t{(n - 1) / ParBloc} * 4;
     std::uint32_t bloc = Nombre4(entree);
     if (bloc == 0) {
         bloc = Ajouter(std::string(TailleBloc, '\0')).valeur;

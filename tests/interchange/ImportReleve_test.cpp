@@ -195,6 +195,16 @@ TEST_CASE_FIXTURE(EssaiReleve, "ascendants are joined by their Sosa numbers, in 
     CHECK(rapport.constats[0].ligne == 5);
 }
 
+TEST_CASE_FIXTURE(EssaiReleve, "a marriage without its other partner is told, never dropped") {
+    Importer(Sorte::Ascendance,
+             "1;Dupont;Luc;;;;;;1870;Mer\n2;Dupont;Jean;;;;;;1844;Mer\n6;A;B;;;;;;1800\n7;C;D\n");
+    CHECK(base->entete.DernierMariage == 0);
+    CHECK(Constats() == Messages{4162, 4162, 4159, 4162, 4159});
+    Importer(Sorte::Ascendance, "1;Dupont;Luc\n2;Dupont;Jean;;;;;;1844;Mer\n3;Martin;Anne\n");
+    CHECK(Constats().empty());
+    CHECK(base->R_DEBMAR.LireCellule(NoMariage{1}) == "1844");
+}
+
 TEST_CASE_FIXTURE(EssaiReleve, "a line without a separator stops the import and keeps the rest") {
     Importer(Sorte::Bapteme, "1780;1;1;Mer;Dupont;Jean;M\nrien\n1781;1;1;Mer;Durand;Luc;M\n");
     CHECK(base->entete.NbTriIndividus == 1);
