@@ -11,6 +11,7 @@
 #include "storage/ConstruireIndex.h"
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 #include <unordered_set>
 #include <utility>
@@ -214,9 +215,12 @@ IssueIntegration Preparer(shell::Session& session, std::string& octets, ContenuL
                                              : IssueIntegration::Abandonnee;
 }
 
-}  // namespace
+/// Asks the user once the content is known; empty: nothing is asked. False to leave the base alone:
+/// why is known to the user.
+using PermettreLgr = std::function<bool(const ContenuLgr& contenu)>;
 
-Integration IntegrerLgr(shell::Session& session, const std::filesystem::path& fichier) {
+Integration Integrer(shell::Session& session, const std::filesystem::path& fichier,
+                     const PermettreLgr& permettre) {
     Integration integration;
     const std::string nom = shell::CheminAffiche(fichier.filename());
     std::optional<std::string> octets = shell::LireTout(fichier);
@@ -226,6 +230,10 @@ Integration IntegrerLgr(shell::Session& session, const std::filesystem::path& fi
                                             shell::Msg(3803)};
         integration.issue = Preparer(session, *octets, contenu, integration.rapport, nom);
         if (integration.issue == IssueIntegration::Faite) {
+            if (permettre && !permettre(contenu)) {
+                integration.issue = IssueIntegration::Abandonnee;
+                return integration;
+            }
             session.progression.Phase(shell::Msg(3812));
             Ecriture{session, contenu, integration.rapport}.Executer();
         }
@@ -236,13 +244,44 @@ Integration IntegrerLgr(shell::Session& session, const std::filesystem::path& fi
     return integration;
 }
 
+std::string DireContenu(const shell::Session& session, const ContenuLgr& contenu) {
+    const auto dire = [&session](std::uint32_t message, std::size_t un, std::size_t deux) {
+        return session.catalogue.Composer(
+            shell::Msg(message, std::to_string(un), std::to_string(deux)));
+    };
+    return dire(4241, contenu.individus.size(), contenu.unions.size()) + ", " +
+           dire(4242, contenu.evenements.size(), contenu.documents.size());
+}
+
+/// Says what will be added, and that a copy is the only way back; the copy is made on a yes.
+bool Permettre(shell::Session& session, const ContenuLgr& contenu, const std::string& nom) {
+    shell::Question question;
+    question.texte = shell::Msg(4240, nom, DireContenu(session, contenu));
+    question.texte.suite = NoMessage{842};
+    question.titre = shell::Msg(3802);
+    question.boutons = shell::Boutons::OuiNonAnnuler;
+    question.grave = true;
+    const shell::Reponse reponse = session.dialogue.Demander(question);
+    if (reponse == shell::Reponse::Annuler) return false;
+    return reponse == shell::Reponse::Non || shell::Sauvegarder(session);
+}
+
+}  // namespace
+
+Integration IntegrerLgr(shell::Session& session, const std::filesystem::path& fichier) {
+    return Integrer(session, fichier, {});
+}
+
 void IntegrerFichier(shell::Session& session, const std::filesystem::path& fichier,
                      const MontrerRapport& montrer) {
     if (!session.BaseOuverte() || !shell::CommandePermise(session)) return;
-    const Integration integration = IntegrerLgr(session, fichier);
+    const std::string nom = shell::CheminAffiche(fichier.filename());
+    const Integration integration = Integrer(session, fichier, [&](const ContenuLgr& contenu) {
+        return Permettre(session, contenu, nom);
+    });
     session.ecran.Actualiser();
     if (integration.issue != IssueIntegration::Faite) return;
-    session.dialogue.Annoncer(shell::Msg(3811, shell::CheminAffiche(fichier.filename())));
+    session.dialogue.Annoncer(shell::Msg(3811, nom));
     if (montrer) montrer(session.Message(3802), integration.texte);
 }
 

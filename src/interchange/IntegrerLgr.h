@@ -32,7 +32,8 @@ struct Integration {
 [[nodiscard]] Integration IntegrerLgr(shell::Session& session,
                                       const std::filesystem::path& fichier);
 
-/// The menu command: asks for the file, merges it in and shows the report.
+/// The menu command: asks for the file, says what it would add, offers a backup first, merges it in
+/// and shows the report. A backup that fails leaves the base closed and merges nothing.
 void MnuIntegrer(shell::Session& session, const MontrerRapport& montrer);
 /// The same for a file that is known.
 void IntegrerFichier(shell::Session& session, const std::filesystem::path& fichier,

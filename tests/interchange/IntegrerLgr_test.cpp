@@ -291,15 +291,70 @@ TEST_CASE_FIXTURE(Fusion, "When entries of the index run short, new words are en
 
 TEST_CASE_FIXTURE(Fusion, "The menu asks for the file, merges it in and shows the report") {
     dialogue.fichiers.emplace_back(fichier);
+    dialogue.reponses = {shell::Reponse::Non};
     doublures::EcrireFichier(fichier, texte);
     std::string montre;
     MnuIntegrer(session, [&](const std::string&, const std::string& rapport) { montre = rapport; });
     CHECK(dialogue.demandesFichier.back().filtre == "Export Dorvane (*.lgr) |*.lgr|");
     CHECK(B().entete.NbTriIndividus == 6);
     CHECK(montre.find("Personnes : 3") != std::string::npos);
+    CHECK_FALSE(std::filesystem::exists(shell::CheminSauvegarde(session.CheminBase)));
     progression.cadres = 1;
     MnuIntegrer(session, {});
     CHECK(dialogue.entendu.back().no == NoMessage{503});
     progression.cadres = 0;
     CHECK(B().entete.NbTriIndividus == 6);
+}
+
+TEST_CASE_FIXTURE(Fusion, "Before it is merged in, the question says what the file holds") {
+    doublures::EcrireFichier(fichier, texte);
+    const std::string avant = Etat();
+    IntegrerFichier(session, fichier, {});
+    REQUIRE(dialogue.questions.size() == 1);
+    const shell::Question& question = dialogue.questions.back();
+    CHECK(question.texte.no == NoMessage{4240});
+    CHECK(question.texte.valeur == fichier.filename().string());
+    CHECK(question.texte.valeur2 ==
+          "personnes : 3, unions : 1, \xE9v\xE9nements : 1, documents : 2");
+    CHECK(question.texte.suite == NoMessage{842});
+    CHECK(question.boutons == shell::Boutons::OuiNonAnnuler);
+    // It was closed without an answer: nothing happened, and nothing more is said.
+    CHECK(dialogue.entendu.size() == 1);
+    CHECK(Etat() == avant);
+}
+
+TEST_CASE_FIXTURE(Fusion, "The backup is the base as it was before, what was not saved included") {
+    doublures::EcrireFichier(fichier, texte);
+    const std::string avant = Etat();
+    dialogue.reponses = {shell::Reponse::Oui};
+    IntegrerFichier(session, fichier, {});
+    CHECK(B().entete.NbTriIndividus == 6);
+    const std::filesystem::path copie = shell::CheminSauvegarde(session.CheminBase);
+    REQUIRE(std::filesystem::exists(copie));
+    storage::AvancementMuet muet;
+    const auto sauvee = storage::OuvrirBase(disque, copie, muet).base;
+    REQUIRE(sauvee != nullptr);
+    CHECK(storage::Inventaire{*sauvee}.Texte() == avant);
+}
+
+TEST_CASE_FIXTURE(Fusion, "Without the backup that was asked for nothing is merged in") {
+    doublures::EcrireFichier(fichier, texte);
+    // A folder stands where the backup should be.
+    std::filesystem::create_directories(shell::CheminSauvegarde(session.CheminBase) / "plein");
+    const std::filesystem::path ouverte = session.CheminBase;
+    dialogue.reponses = {shell::Reponse::Oui};
+    IntegrerFichier(session, fichier, {});
+    CHECK(dialogue.entendu.back().no == NoMessage{2407});
+    CHECK_FALSE(session.BaseOuverte());
+    storage::AvancementMuet muet;
+    const auto base = storage::OuvrirBase(disque, ouverte, muet).base;
+    REQUIRE(base != nullptr);
+    CHECK(base->entete.NbTriIndividus == 3);
+}
+
+TEST_CASE_FIXTURE(Fusion, "What is no exchange file is told, and no question is asked") {
+    doublures::EcrireFichier(fichier, "0 HEAD\r\n");
+    IntegrerFichier(session, fichier, {});
+    CHECK(dialogue.questions.empty());
+    CHECK(dialogue.entendu.back().no == NoMessage{3804});
 }
