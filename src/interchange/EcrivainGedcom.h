@@ -16,6 +16,8 @@ namespace dorvane::interchange {
 class EcrivainGedcom {
 public:
     explicit EcrivainGedcom(JeuExport jeu) : encodeur_{jeu} {}
+    /// About how many bytes there will be: memory is taken once, and touched as it fills.
+    void Prevoir(std::size_t octets) { sortie_.reserve(octets); }
 
     /// A line without a value: "1 BIRT".
     void Ligne(int niveau, std::string_view etiquette);

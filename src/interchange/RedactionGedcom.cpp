@@ -61,6 +61,8 @@ RedactionGedcom::RedactionGedcom(shell::Session& session, const OptionsExport& o
       documents_(base_.entete.DernierDocument + 1ULL) {
     MarquerChoisis();
     ReleverCodes();
+    // Tags and dates in words make the text a third longer than the base.
+    sortie_.Prevoir(std::size_t{base_.volume.FinFichier()} / 2 * 3);
 }
 
 void RedactionGedcom::ReleverCodes() {
