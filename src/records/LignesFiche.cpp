@@ -1,0 +1,140 @@
+#include "records/LignesFiche.h"
+
+#include "records/FicheDocument.h"
+#include "records/FicheEvenement.h"
+#include "records/Liens.h"
+#include "records/ModeleFamille.h"
+#include "records/NomsAffiches.h"
+#include "shell/Libelles.h"
+#include "shell/Session.h"
+#include "storage/Base.h"
+#include "values/Comparaison.h"
+#include "values/TexteRiche.h"
+
+#include <initializer_list>
+#include <string_view>
+#include <utility>
+
+namespace dorvane::records {
+
+namespace {
+
+constexpr std::uint32_t MsgPersonne = 3070;
+constexpr std::uint32_t MsgNumero = 2910;
+constexpr std::uint32_t MsgUnion = 4270;
+constexpr std::uint32_t MsgEnfant = 4271;
+constexpr std::uint32_t MsgFinUnion = 4272;
+constexpr std::uint32_t MsgNote = 4273;
+constexpr std::uint32_t MsgEvenement = 644;
+constexpr std::uint32_t MsgDocument = 646;
+
+/// The filled parts, separated by commas.
+std::string Enumerer(std::initializer_list<std::string_view> morceaux) {
+    std::string texte;
+    for (const std::string_view morceau : morceaux) {
+        const std::string_view propre = SansBlancs(morceau);
+        if (propre.empty()) continue;
+        if (!texte.empty()) texte += ", ";
+        texte += propre;
+    }
+    return texte;
+}
+
+class Lecture {
+public:
+    Lecture(shell::Session& session, NoOrdre individu)
+        : session_{session}, base_{*session.base}, n_{individu} {}
+
+    std::vector<LigneLue> Lire() {
+        LirePersonne();
+        LireParents();
+        LireUnions();
+        for (const NoOrdre enfant : base_.R_ENFANT.Elements(n_))
+            Ajouter(session_.Message(MsgEnfant), NomEtDates(session_, enfant), enfant);
+        for (const LienAffiche& lien : ListerLiens(session_, n_))
+            Ajouter(lien.libelle, NomEtDates(session_, lien.autre), lien.autre);
+        LireFaits();
+        return std::move(lignes_);
+    }
+
+private:
+    void Ajouter(std::string libelle, std::string_view texte, NoOrdre individu = {}) {
+        texte = SansBlancs(texte);
+        if (!texte.empty()) lignes_.push_back({std::move(libelle), std::string{texte}, individu});
+    }
+    [[nodiscard]] std::string Libelle(std::string_view tag) const {
+        return shell::LibelleDeTag(session_.catalogue, tag);
+    }
+
+    void LirePersonne() {
+        const char sexe = base_.R_SEXE.LireCellule(n_);
+        const std::uint32_t messageSexe = sexe == 'H' ? 661 : sexe == 'F' ? 663 : 664;
+        Ajouter(
+            session_.Message(MsgPersonne),
+            Enumerer({session_.catalogue.Composer(shell::Msg(MsgNumero, std::to_string(n_.valeur))),
+                      session_.Message(messageSexe)}));
+        Ajouter(Libelle("BIRT"),
+                Enumerer({DateNaissance(session_, n_), storage::LieuNaissance(base_, n_)}));
+        Ajouter(Libelle("DEAT"),
+                Enumerer({DateDeces(session_, n_), storage::LieuDeces(base_, n_)}));
+        AjouterRangees(base_.DefinitionIndividu(), storage::SlotsDe(base_, n_));
+    }
+    void AjouterRangees(const storage::DefinitionSlots& definition,
+                        const storage::TableSlots& rangees) {
+        for (std::size_t k = 0; k < rangees.size() && k < definition.libelles.size(); ++k) {
+            const storage::ValeurSlot& valeur = rangees[k];
+            Ajouter(Libelle(definition.libelles[k]),
+                    Enumerer({DateAffichee(session_, valeur.jourMois, valeur.annee), valeur.lieu}));
+        }
+    }
+
+    void LireParents() {
+        const NoOrdre pere = base_.R_PERE.LireCellule(n_);
+        const NoOrdre mere = base_.R_MERE.LireCellule(n_);
+        if (pere) Ajouter(Libelle("FATH"), NomEtDates(session_, pere), pere);
+        if (mere) Ajouter(Libelle("MOTH"), NomEtDates(session_, mere), mere);
+    }
+
+    void LireUnions() {
+        for (const NoMariage m : base_.R_MARIAG.Elements(n_)) {
+            const NoOrdre autre = PartenaireDe(base_, n_, m);
+            std::string fin = base_.R_FINMAR.LireCellule(m);
+            if (!SansBlancs(fin).empty())
+                fin = session_.catalogue.Composer(shell::Msg(MsgFinUnion, SansBlancs(fin)));
+            Ajouter(session_.Message(MsgUnion),
+                    Enumerer({NomEtDates(session_, autre), DateMariage(session_, m),
+                              storage::LieuMariage(base_, m), fin}),
+                    autre);
+            AjouterRangees(base_.DefinitionMariage(), storage::SlotsMariageDe(base_, m));
+        }
+    }
+
+    void LireFaits() {
+        for (std::size_t k = 1; k <= base_.R_LSTEVT.NbElements(n_); ++k)
+            Ajouter(session_.Message(MsgEvenement),
+                    ResumeEvenement(session_, base_.R_LSTEVT.ElementListe(n_, k)));
+        for (const NoDocument d : base_.R_LSTIMG.Elements(n_))
+            Ajouter(session_.Message(MsgDocument), TitreAffiche(session_, d));
+        std::string tampon;
+        const std::string note = storage::NoteDe(base_, n_);
+        std::string texte{TexteSansRtf(note, tampon)};
+        // The list has one line for each thing.
+        for (char& octet : texte)
+            if (octet == '\r' || octet == '\n' || octet == '\t') octet = ' ';
+        Ajouter(session_.Message(MsgNote), texte);
+    }
+
+    shell::Session& session_;
+    storage::Base& base_;
+    NoOrdre n_;
+    std::vector<LigneLue> lignes_;
+};
+
+}  // namespace
+
+std::vector<LigneLue> LignesFiche(shell::Session& session, NoOrdre individu) {
+    if (!session.base || !Existe(*session.base, individu)) return {};
+    return Lecture{session, individu}.Lire();
+}
+
+}  // namespace dorvane::records
