@@ -77,7 +77,7 @@ const std::vector<Legende>& TableLegendes() {
     static const std::vector<Legende> Toutes = [] {
         std::vector<Legende> toutes;
         for (const auto groupe :
-             {LegendesPrincipales(), LegendesMots(), LegendesReglages(), LegendesFamille(),
+             {LegendesPrincipales(), LegendesSoin(), LegendesMots(), LegendesReglages(), LegendesFamille(),
               LegendesFiche(), LegendesFaits(), LegendesReleve()})
             toutes.insert(toutes.end(), groupe.begin(), groupe.end());
         return toutes;

@@ -83,6 +83,7 @@ private:
     void FairePersonne();
     void FaireAffichage();
     void FaireOutils();
+    void FaireSoin(QMenu* menu);
     void PoserLangues();
     void PoserHistorique();
     void PoserIcones();
@@ -129,6 +130,9 @@ private:
     void BarreIcones();
     void BarreFenetres();
     void Calendrier();
+    void Controle();
+    void Depannage();
+    void Reorganiser();
 
     void Histo(int rang);
     void Presentation(int presentation);

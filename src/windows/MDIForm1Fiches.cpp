@@ -9,6 +9,7 @@
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "windows/FrmCalendrier.h"
+#include "windows/FrmControle.h"
 #include "windows/FrmCreation.h"
 #include "windows/FrmDebut.h"
 #include "windows/FrmLstEvt.h"
@@ -99,6 +100,10 @@ void MDIForm1::Usuels() {
 
 void MDIForm1::Calendrier() {
     Montrer<FrmCalendrier>();
+}
+
+void MDIForm1::Controle() {
+    if (shell::CommandePermise(session_) && session_.base) Montrer<FrmControle>().Controler();
 }
 
 void MDIForm1::Reglages() {

@@ -138,6 +138,8 @@ void MDIForm1::FaireOutils() {
     menu->addSeparator();
     FaireAction(menu, "MnuCalendrier", "Ctrl+K", &MDIForm1::Calendrier);
     menu->addSeparator();
+    FaireSoin(menu);
+    menu->addSeparator();
     FaireAction(menu, "MnuParametres", "Ctrl+,", &MDIForm1::Reglages)
         ->setMenuRole(QAction::PreferencesRole);
 }

@@ -9,6 +9,7 @@ namespace dorvane::windows {
 // The captions by groups of windows, each in a source of its own.
 
 [[nodiscard]] std::span<const Legende> LegendesPrincipales();
+[[nodiscard]] std::span<const Legende> LegendesSoin();
 [[nodiscard]] std::span<const Legende> LegendesMots();
 [[nodiscard]] std::span<const Legende> LegendesReglages();
 [[nodiscard]] std::span<const Legende> LegendesFamille();

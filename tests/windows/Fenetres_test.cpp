@@ -14,6 +14,7 @@
 #include "windows/Essai.h"
 #include "windows/FrmCalendrier.h"
 #include "windows/FrmConjoints.h"
+#include "windows/FrmControle.h"
 #include "windows/FrmCreation.h"
 #include "windows/FrmDesEvt.h"
 #include "windows/FrmDesImage.h"
@@ -103,6 +104,7 @@ struct Toutes : FenetreEssai {
         fenetres.emplace_back(new FrmLiens{S(), NoOrdre{3}, &Fenetre()});
         fenetres.emplace_back(new FrmNouveauLien{S(), NoOrdre{3}, NoOrdre{1}, &Fenetre()});
         fenetres.emplace_back(new FrmRecherche{S(), &Fenetre()});
+        fenetres.emplace_back(new FrmControle{S(), &Fenetre()});
         fenetres.emplace_back(new FrmMisajour{S(), &Fenetre()});
         fenetres.emplace_back(new FrmCreation{S(), {}, &Fenetre()});
         fenetres.emplace_back(new FrmDesEvt{S(), {}, {}, {}, &Fenetre()});
