@@ -1,7 +1,6 @@
 #include "app/Atelier.h"
 #include "app/Verbes.h"
-#include "interchange/CsvCommunes.h"
-#include "shell/FichierSur.h"
+#include "interchange/LireListeCommunes.h"
 #include "shell/RelaisAvancement.h"
 #include "storage/BaseCommunes.h"
 #include "values/Phonetique.h"
@@ -34,26 +33,14 @@ std::string EnTexte(const std::string& chemin) {
 
 /// The communes of a list; nothing once a message has told why not.
 std::optional<std::vector<storage::Commune>> LireListe(Atelier& atelier, const std::string& nom) {
-    const std::optional<std::string> octets = shell::LireTout(nom);
-    if (!octets) {
-        atelier.dialogue.Informer(shell::Msg(4003, EnTexte(nom)));
-        return {};
-    }
-    interchange::ListeCommunes liste = interchange::LireCsvCommunes(*octets);
-    if (liste.nomInconnu || liste.communes.empty()) {
-        atelier.dialogue.Informer(shell::Msg(liste.nomInconnu ? 4004 : 4005, EnTexte(nom)));
-        return {};
-    }
-    if (liste.communes.size() > storage::BaseCommunes::MaxCommunes) {
-        atelier.dialogue.Informer(
-            shell::Msg(4006, EnTexte(nom), std::to_string(storage::BaseCommunes::MaxCommunes)));
-        return {};
-    }
-    for (const std::size_t ligne : liste.sansNom)
+    std::optional<interchange::ListeCommunes> liste =
+        interchange::LireListeCommunes(atelier.dialogue, nom);
+    if (!liste) return {};
+    for (const std::size_t ligne : liste->sansNom)
         atelier.dialogue.Informer(shell::Msg(4007, std::to_string(ligne)));
-    if (liste.remplaces != 0)
-        atelier.dialogue.Informer(shell::Msg(4008, std::to_string(liste.remplaces)));
-    return std::move(liste.communes);
+    if (liste->remplaces != 0)
+        atelier.dialogue.Informer(shell::Msg(4008, std::to_string(liste->remplaces)));
+    return std::move(liste->communes);
 }
 
 int CreerCommunes(const OptionsCommunes& o) {

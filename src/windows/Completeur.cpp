@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QStringListModel>
 
+#include "windows/SuiviLieu.h"
 #include "windows/Unicode.h"
 
 namespace dorvane::windows {
@@ -23,6 +24,7 @@ Completeur::Completeur(QLineEdit& champ, shell::Session& session, std::string_vi
       liste_{session, enListe.empty() ? symboles : enListe},
       mots_{new QStringListModel{this}} {
     setModel(mots_);
+    if (symboles.find(records::mots::Lieux) != std::string_view::npos) MarquerLieu(champ);
     // The words are already those that fit, whatever their accents.
     setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     setMaxVisibleItems(static_cast<int>(MaxEnTapant));

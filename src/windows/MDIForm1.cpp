@@ -32,6 +32,7 @@
 #include "windows/FrmRapport.h"
 #include "windows/Icones.h"
 #include "windows/Legendes.h"
+#include "windows/SuiviLieu.h"
 #include "windows/Unicode.h"
 
 namespace dorvane::windows {
@@ -57,6 +58,7 @@ MDIForm1::MDIForm1(shell::Session& session)
     setObjectName(QStringLiteral("MDIForm1"));
     setWindowIcon(IconeProgramme());
     setAcceptDrops(true);
+    new SuiviLieu{this};
     resize(1180, 760);
     setCentralWidget(pages_);
     pages_->addWidget(accueil_);

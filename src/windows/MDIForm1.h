@@ -130,6 +130,7 @@ private:
     void BarreIcones();
     void BarreFenetres();
     void Calendrier();
+    void Communes();
     void Controle();
     void Depannage();
     void Reorganiser();

@@ -9,6 +9,7 @@
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "windows/FrmCalendrier.h"
+#include "windows/FrmCommune.h"
 #include "windows/FrmControle.h"
 #include "windows/FrmCreation.h"
 #include "windows/FrmDebut.h"
@@ -104,6 +105,12 @@ void MDIForm1::Calendrier() {
 
 void MDIForm1::Controle() {
     if (shell::CommandePermise(session_) && session_.base) Montrer<FrmControle>().Controler();
+}
+
+void MDIForm1::Communes() {
+    auto& communes = Montrer<FrmCommune>();
+    // Without its file the window has nothing to show.
+    if (!communes.Ouvrir()) communes.close();
 }
 
 void MDIForm1::Reglages() {

@@ -137,6 +137,7 @@ void MDIForm1::FaireOutils() {
     FaireAction(menu, "MnuUsuels", "Ctrl+U", &MDIForm1::Usuels);
     menu->addSeparator();
     FaireAction(menu, "MnuCalendrier", "Ctrl+K", &MDIForm1::Calendrier);
+    FaireAction(menu, "MnuCommunes", nullptr, &MDIForm1::Communes);
     menu->addSeparator();
     FaireSoin(menu);
     menu->addSeparator();

@@ -13,6 +13,7 @@
 
 #include "windows/Essai.h"
 #include "windows/FrmCalendrier.h"
+#include "windows/FrmCommune.h"
 #include "windows/FrmConjoints.h"
 #include "windows/FrmControle.h"
 #include "windows/FrmCreation.h"
@@ -95,6 +96,7 @@ struct Toutes : FenetreEssai {
     Toutes() {
         DemarrerFamille();
         fenetres.emplace_back(new FrmNom{S(), {}, &Fenetre()});
+        fenetres.emplace_back(new FrmCommune{S(), &Fenetre()});
         fenetres.emplace_back(new FrmRapport{S(), {}, {}, &Fenetre()});
         fenetres.emplace_back(new FrmPalette{S(), Palette::Claire, &Fenetre()});
         fenetres.emplace_back(new FrmCalendrier{S(), &Fenetre()});
@@ -117,8 +119,11 @@ struct Toutes : FenetreEssai {
         fenetres.emplace_back(new FrmMotCle{S(), &Fenetre()});
         fenetres.emplace_back(new FrmUsuels{S(), &Fenetre()});
         fenetres.emplace_back(new FrmParametre{S(), &Fenetre()});
-        fenetres.emplace_back(new FrmReleve{S(), interchange::SorteReleve::Bapteme,
-                                            "1780;1;1;Mer;Dupont;Jean;?\n", {}, &Fenetre()});
+        fenetres.emplace_back(new FrmReleve{S(),
+                                            interchange::SorteReleve::Bapteme,
+                                            "1780;1;1;Mer;Dupont;Jean;?\n",
+                                            {},
+                                            &Fenetre()});
         for (FenetreFille* fille : fenetres) {
             parNom[fille->objectName()] = fille;
             // Parts that translate themselves have captions of their own.
