@@ -15,15 +15,21 @@ class AtelierDepannage {
 public:
     /// A base is open in `session`, which outlives the object.
     explicit AtelierDepannage(shell::Session& ouverte)
-        : session{ouverte}, base{*ouverte.base}, vivants(1ULL << 16U) {}
+        : session{ouverte},
+          base{*ouverte.base},
+          dernierConnu{ouverte.base->entete.DernierIndividu},
+          vivants(1ULL << 16U) {}
 
     shell::Session& session;
     storage::Base& base;
-    std::vector<bool> vivants;  ///< by number: the persons of the sort table
-    std::string journal{};      ///< lines ended by a line feed, code page 1252
+    const std::uint32_t dernierConnu;  ///< highest number of a person when the repair began
+    std::vector<bool> vivants;         ///< by number: the persons of the sort table at that time
+    std::string journal{};             ///< lines ended by a line feed, code page 1252
     std::uint32_t reparations = 0;
 
+    /// While the screen lives the user may create a person: a number is never given twice.
     [[nodiscard]] bool Vivant(NoOrdre n) const {
+        if (n.valeur > dernierConnu) return n.valeur <= base.entete.DernierIndividu;
         return n.valeur < vivants.size() && vivants[n.valeur];
     }
     /// Name and life dates.

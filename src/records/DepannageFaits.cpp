@@ -18,17 +18,34 @@ constexpr std::uint32_t MsgPhaseIndex = 3913;
 constexpr std::uint32_t MsgListePleine = 3917;
 constexpr std::uint32_t MsgIndexPlein = 3918;
 
-/// Which documents and events the tables name.
-struct Presents {
-    std::vector<bool> documents = std::vector<bool>(1ULL << 16U);
-    std::vector<bool> evenements = std::vector<bool>(1ULL << 16U);
-
-    explicit Presents(storage::Base& base) {
+/// Which documents and events the tables name, and what the user has made since.
+class Presents {
+public:
+    explicit Presents(storage::Base& base)
+        : base_{base},
+          dernierDocument_{base.entete.DernierDocument},
+          dernierEvenement_{base.entete.DernierEvenement} {
         for (const std::uint16_t d : base.R_TRI.documents.Numeros())
-            documents[d] = true;
+            documents_[d] = true;
         for (const std::uint16_t e : base.R_TRI.evenements.Numeros())
-            evenements[e] = true;
+            evenements_[e] = true;
     }
+
+    [[nodiscard]] bool Contient(NoDocument d) const {
+        if (d.valeur > dernierDocument_) return d.valeur <= base_.entete.DernierDocument;
+        return documents_[d.valeur];
+    }
+    [[nodiscard]] bool Contient(NoEvenement e) const {
+        if (e.valeur > dernierEvenement_) return e.valeur <= base_.entete.DernierEvenement;
+        return evenements_[e.valeur];
+    }
+
+private:
+    storage::Base& base_;
+    std::uint32_t dernierDocument_;
+    std::uint32_t dernierEvenement_;
+    std::vector<bool> documents_ = std::vector<bool>(1ULL << 16U);
+    std::vector<bool> evenements_ = std::vector<bool>(1ULL << 16U);
 };
 
 /// The entries of a list of numbers with texts.
@@ -93,8 +110,7 @@ void DepannerDocuments(AtelierDepannage& a, const Presents& presents, NoOrdre n)
     std::vector<NoDocument> gardes;
     std::string octets;
     for (const NoDocument d : documents) {
-        if (presents.documents[d.valeur] &&
-            std::find(gardes.begin(), gardes.end(), d) == gardes.end()) {
+        if (presents.Contient(d) && std::find(gardes.begin(), gardes.end(), d) == gardes.end()) {
             gardes.push_back(d);
             octets += NumVersChaine2(d.valeur);
         } else {
@@ -109,7 +125,7 @@ void DepannerDocuments(AtelierDepannage& a, const Presents& presents, NoOrdre n)
 void DepannerEvenementsDe(AtelierDepannage& a, const Presents& presents, NoOrdre n) {
     storage::Base& b = a.base;
     const auto gardes = Filtrer<NoEvenement>(
-        b.R_LSTEVT, n, [&](NoEvenement e) { return presents.evenements[e.valeur]; },
+        b.R_LSTEVT, n, [&](NoEvenement e) { return presents.Contient(e); },
         [&](NoEvenement e) {
             a.Noter(std::string{"Suppression Evénement "_1252} + std::to_string(e.valeur),
                     std::string{"Suppression lien événement de "_1252} + a.Nommer(n));
@@ -154,7 +170,7 @@ void DepannerEvenement(AtelierDepannage& a, const Presents& presents, NoEvenemen
     }
     std::vector<NoDocument> documents = b.R_EVT.Documents(e);
     const std::size_t nombre = documents.size();
-    std::erase_if(documents, [&](NoDocument d) { return !presents.documents[d.valeur]; });
+    std::erase_if(documents, [&](NoDocument d) { return !presents.Contient(d); });
     if (documents.size() == nombre) return;
     b.R_EVT.EcrireEvt(e, {.documents = std::move(documents)});
     a.Noter("Suppression Documents",

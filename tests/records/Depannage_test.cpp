@@ -552,3 +552,40 @@ TEST_CASE("Repair: whatever was damaged, once is enough, nobody is lost, and the
         });
     }
 }
+
+TEST_CASE_FIXTURE(Bureau, "Repair: who and what is made while it runs is not taken for damage") {
+    const NoOrdre paul = Homme("Paul", "1850");
+    NoOrdre pere{};
+    NoEvenement acte{};
+    NoDocument photo{};
+    progression.aChaquePas = [&] {
+        // In the middle of the phases about persons, then of those about events.
+        if (progression.textes.back() == shell::Litteral("Analyse Mariages") ||
+            progression.textes.back() == shell::Litteral("Analyse Personnes")) {
+            if (pere) return;
+            pere = Homme("Louis");
+            Parents(paul, pere, {});
+        } else if (progression.textes.back() == shell::Msg(3912) && !acte) {
+            acte = B().NouvelEvenement();
+            storage::PartiesEvt parties;
+            parties.description = storage::DescriptionEvt{"Brest", {}, "CENS"};
+            parties.liens = std::vector{storage::LienEvenement{paul, "MAIN"}};
+            B().R_EVT.EcrireEvt(acte, parties);
+            B().R_TRI.AjouterEvt(acte);
+            B().R_LSTEVT.ModifierListe(paul, acte, 'A', "MAIN");
+            photo = B().NouveauDocument();
+            B().R_IMAGE.EcrireDoc(photo, {"Photo", "photo.jpg", {}, {}});
+            B().R_TRI.AjouterDocument(photo);
+            B().R_LSTIMG.ModifierListe(paul, photo, 'A');
+        }
+    };
+    Depanner();
+    progression.aChaquePas = {};
+    REQUIRE(pere);
+    REQUIRE(acte);
+    CHECK(bilan.reparations == 0);
+    CHECK(B().R_PERE.LireCellule(paul) == pere);
+    CHECK(B().R_LSTEVT.NbElements(paul) == 1);
+    CHECK(B().R_LSTIMG.NbElements(paul) == 1);
+    Sain();
+}
