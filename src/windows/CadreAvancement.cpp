@@ -40,22 +40,26 @@ void CadreAvancement::Montrer(const QString& texte) {
     barre_->setRange(0, 0);
     annuler_->setEnabled(true);
     show();
+    Q_EMIT montre(texte, 0, 0);
 }
 
 void CadreAvancement::Texte(const QString& texte) {
     texte_->setText(texte);
     barre_->setRange(0, 0);
+    Q_EMIT montre(texte, 0, 0);
 }
 
 void CadreAvancement::Avancer(std::uint32_t fait, std::uint32_t total) {
     if (total == 0) return;
     barre_->setRange(0, Pas);
     barre_->setValue(static_cast<int>(std::uint64_t{fait} * Pas / total));
+    Q_EMIT montre(texte_->text(), fait, total);
 }
 
 void CadreAvancement::DireAnnulation(const QString& texte) {
     texte_->setText(texte);
     annuler_->setEnabled(false);
+    Q_EMIT montre(texte, 0, 0);
 }
 
 }  // namespace dorvane::windows

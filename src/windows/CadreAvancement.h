@@ -26,6 +26,8 @@ public:
 
 Q_SIGNALS:
     void annulationDemandee();
+    /// What the frame shows, for a window that shows it too.
+    void montre(const QString& texte, quint32 fait, quint32 total);
 
 private:
     QLabel* texte_;

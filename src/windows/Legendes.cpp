@@ -76,9 +76,10 @@ void Poser(QObject& controle, const Legende& legende, const QString& texte) {
 const std::vector<Legende>& TableLegendes() {
     static const std::vector<Legende> Toutes = [] {
         std::vector<Legende> toutes;
-        for (const auto groupe : {LegendesPrincipales(), LegendesSoin(), LegendesMots(),
-                                  LegendesReglages(), LegendesFamille(), LegendesFiche(),
-                                  LegendesFaits(), LegendesReleve(), LegendesCommunes()})
+        for (const auto groupe :
+             {LegendesPrincipales(), LegendesSoin(), LegendesMots(), LegendesReglages(),
+              LegendesFamille(), LegendesFiche(), LegendesFaits(), LegendesReleve(),
+              LegendesEchange(), LegendesCommunes()})
             toutes.insert(toutes.end(), groupe.begin(), groupe.end());
         return toutes;
     }();

@@ -8,6 +8,7 @@
 #include "windows/PaletteGraphe.h"
 
 #include <array>
+#include <vector>
 
 class QActionGroup;
 class QLabel;
@@ -26,6 +27,7 @@ class Accueil;
 class CadreAvancement;
 class FenetreFille;
 class FrmDebut;
+class FrmExporter;
 
 /// The main window: menus, bars, the family chart.
 class MDIForm1 final : public QMainWindow {
@@ -62,6 +64,9 @@ public:
     /// current person and for who has no record.
     void AllerA(NoOrdre individu);
 
+    /// Opens the export window with the persons of a list as what is selected.
+    void ExporterListe(const std::vector<NoOrdre>& liste);
+
     [[nodiscard]] CadreAvancement& Cadre() { return *cadre_; }
     [[nodiscard]] FrmDebut& Graphe() { return *graphe_; }
 
@@ -79,6 +84,7 @@ private:
     QMenu* FaireMenu(QWidget* parent, const char* nom);
     QAction* FaireAction(QMenu* menu, const char* nom, const char* touches, Action action);
     void FaireFichier();
+    void FaireEchange(QMenu* menu);
     void FaireReleves(QMenu* menu);
     void FairePersonne();
     void FaireAffichage();
@@ -98,6 +104,10 @@ private:
     void Sauvegarde();
     void Restauration();
     void Importer();
+    void Exporter();
+    void ExporterSelectif();
+    void Integrer();
+    FrmExporter* FenetreExport();
     void ImporterActes(interchange::SorteReleve sorte);
     void Geneanet();
     void Quitter();
@@ -177,5 +187,19 @@ private:
     bool arrete_ = false;          ///< the session has been closed
     const void* baseMontree_ = nullptr;
 };
+
+template <class Fenetre>
+Fenetre& MDIForm1::Montrer() {
+    auto* fenetre = findChild<Fenetre*>(QString{}, Qt::FindDirectChildrenOnly);
+    if (fenetre == nullptr) {
+        fenetre = new Fenetre{session_, this};
+        Accueillir(*fenetre);
+    }
+    fenetre->show();
+    fenetre->raise();
+    fenetre->activateWindow();
+    SuivreFenetres();
+    return *fenetre;
+}
 
 }  // namespace dorvane::windows

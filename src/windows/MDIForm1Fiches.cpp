@@ -9,8 +9,8 @@
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "windows/FrmCalendrier.h"
-#include "windows/FrmCommune.h"
 #include "windows/FrmControle.h"
+#include "windows/FrmCommune.h"
 #include "windows/FrmCreation.h"
 #include "windows/FrmDebut.h"
 #include "windows/FrmLstEvt.h"
@@ -27,20 +27,6 @@
 #include "windows/Unicode.h"
 
 namespace dorvane::windows {
-
-template <class Fenetre>
-Fenetre& MDIForm1::Montrer() {
-    auto* fenetre = findChild<Fenetre*>(QString{}, Qt::FindDirectChildrenOnly);
-    if (fenetre == nullptr) {
-        fenetre = new Fenetre{session_, this};
-        Accueillir(*fenetre);
-    }
-    fenetre->show();
-    fenetre->raise();
-    fenetre->activateWindow();
-    SuivreFenetres();
-    return *fenetre;
-}
 
 void MDIForm1::Accueillir(FenetreFille& fille) {
     connect(&fille, &FenetreFille::allerDemande, this,

@@ -62,6 +62,7 @@ void MDIForm1::FaireFichier() {
     menu->addSeparator();
     FaireAction(menu, "MnuImporter", "Ctrl+I", &MDIForm1::Importer);
     FaireReleves(menu);
+    FaireEchange(menu);
     FaireAction(menu, "MnuGénéanet", nullptr, &MDIForm1::Geneanet);
     traitHistorique_ = menu->addSeparator();
     for (std::size_t i = 0; i < historique_.size(); ++i) {

@@ -16,6 +16,7 @@ namespace dorvane::windows {
 [[nodiscard]] std::span<const Legende> LegendesFiche();
 [[nodiscard]] std::span<const Legende> LegendesFaits();
 [[nodiscard]] std::span<const Legende> LegendesReleve();
+[[nodiscard]] std::span<const Legende> LegendesEchange();
 [[nodiscard]] std::span<const Legende> LegendesCommunes();
 
 }  // namespace dorvane::windows

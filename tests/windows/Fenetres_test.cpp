@@ -20,6 +20,7 @@
 #include "windows/FrmDesEvt.h"
 #include "windows/FrmDesImage.h"
 #include "windows/FrmEnfants.h"
+#include "windows/FrmExporter.h"
 #include "windows/FrmLiens.h"
 #include "windows/FrmLstEvt.h"
 #include "windows/FrmLstImage.h"
@@ -118,12 +119,10 @@ struct Toutes : FenetreEssai {
         fenetres.emplace_back(new FrmTexte{S(), &Fenetre()});
         fenetres.emplace_back(new FrmMotCle{S(), &Fenetre()});
         fenetres.emplace_back(new FrmUsuels{S(), &Fenetre()});
+        fenetres.emplace_back(new FrmExporter{S(), &Fenetre()});
         fenetres.emplace_back(new FrmParametre{S(), &Fenetre()});
-        fenetres.emplace_back(new FrmReleve{S(),
-                                            interchange::SorteReleve::Bapteme,
-                                            "1780;1;1;Mer;Dupont;Jean;?\n",
-                                            {},
-                                            &Fenetre()});
+        fenetres.emplace_back(new FrmReleve{S(), interchange::SorteReleve::Bapteme,
+                                            "1780;1;1;Mer;Dupont;Jean;?\n", {}, &Fenetre()});
         for (FenetreFille* fille : fenetres) {
             parNom[fille->objectName()] = fille;
             // Parts that translate themselves have captions of their own.
