@@ -172,7 +172,7 @@ void FrmExporter::reject() {
 
 /// The next time begins without a selection.
 void FrmExporter::done(int resultat) {
-    interchange::RetenirExport(S(), Demande());
+    Retenir();
     liste_.clear();
     parcours_.clear();
     ui_->PnlResultat->hide();
@@ -228,11 +228,6 @@ DemandeExport FrmExporter::Demande() const {
                         ui_->Chk1900->isChecked()};
     demande.liste = liste_;
     demande.parcours = parcours_;
-    if (demande.parcours.empty()) {
-        // A walk from nobody selects nobody: it only says what is shown.
-        demande.parcours = {ParcoursMontre()};
-        demande.parcours.front().depart = NoOrdre{};
-    }
     return demande;
 }
 
@@ -329,13 +324,19 @@ void FrmExporter::Occuper(bool enCours) {
     PoserEtats();
 }
 
+/// The walk that is shown is kept, whether it was taken or not.
+void FrmExporter::Retenir() {
+    DemandeExport demande = Demande();
+    demande.parcours = {ParcoursMontre()};
+    interchange::RetenirExport(S(), demande);
+}
+
 void FrmExporter::Lancer() {
     if (enCours_) return;
     ui_->PnlResultat->hide();
-    const DemandeExport demande = Demande();
-    interchange::RetenirExport(S(), demande);
+    Retenir();
     Occuper(true);
-    dernier_ = interchange::LancerExport(S(), demande);
+    dernier_ = interchange::LancerExport(S(), Demande());
     Occuper(false);
     Compter();
     if (dernier_.issue == interchange::IssueLancement::Fait) {

@@ -57,6 +57,7 @@ private:
     void RetirerLigne();
     void Vider();
     void Lancer();
+    void Retenir();
     void MontrerResultat(const interchange::Lancement& lancement);
     void MontrerSelection();
     void Compter();

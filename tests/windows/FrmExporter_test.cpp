@@ -449,17 +449,44 @@ TEST_CASE_FIXTURE(Export,
     CHECK(rapport->isVisible());
 }
 
-TEST_CASE_FIXTURE(Export, "MDIForm1: an exchange file of the command line becomes a base") {
-    DemarrerFamille();
-    REQUIRE(interchange::ExporterLgr(S(), dossier / "envoi.LGR", {}).issue ==
-            interchange::IssueLgr::Fait);
-    Action("MnuFermer").trigger();
-    Enchainement suite;
-    shell::OuvrirFichierDepose(S(), dossier / "envoi.LGR");
+TEST_CASE_FIXTURE(Export,
+                  "MDIForm1: an exchange file becomes a base, named at the start or dropped") {
+    doublures::EcrireFichier(dossier / "envoi.LGR",
+                             "[Dorvane Version 99.0]\r\n[INDIVIDUS]\r\n 1 \r\n"
+                             "Duval;Ana;;;\r\nF\r\n\r\n\r\n 0 \r\n 0 \r\n#\r\n#\r\n#\r\n#\r\n"
+                             "[FIN INDIVIDUS]\r\n[FIN]\r\n");
+    const Enchainement sansQuestion;
+    SUBCASE("on the command line") {
+        Demarrer(dossier / "envoi.LGR");
+    }
+    SUBCASE("dropped on the main window") {
+        Demarrer(base);
+        QMimeData donnees;
+        donnees.setUrls(
+            {QUrl::fromLocalFile(QString::fromStdString((dossier / "envoi.LGR").string()))});
+        QDragEnterEvent entree{{50, 50}, Qt::CopyAction, &donnees, Qt::LeftButton, {}};
+        QApplication::sendEvent(&Fenetre(), &entree);
+        QDropEvent depot{{50, 50}, Qt::CopyAction, &donnees, Qt::LeftButton, {}};
+        QApplication::sendEvent(&Fenetre(), &depot);
+        QTest::qWait(50);
+    }
     REQUIRE(S().BaseOuverte());
     CHECK(S().CheminBase == dossier / "envoi.LGD");
-    CHECK(S().base->entete.NbTriIndividus == 8);
+    REQUIRE(S().base->entete.NbTriIndividus == 1);
+    CHECK(S().base->R_NOM.PrenomDe(NoOrdre{1}) == "Ana");
     CHECK(Fenetre().findChild<QDialog*>(QStringLiteral("FrmRapport")) != nullptr);
+}
+
+TEST_CASE_FIXTURE(Export, "FrmExporter: a walk that was set but not taken is kept as well") {
+    Ouvrir();
+    Clic("OptBase(1)");
+    Clic("CmdSélection");
+    Clic("OptExport(1)");
+    C<QSpinBox>("UpDown1").setValue(6);
+    F().close();
+    FrmExporter autre{S(), &Fenetre()};
+    CHECK(autre.findChild<QRadioButton*>(QStringLiteral("OptExport(1)"))->isChecked());
+    CHECK(autre.findChild<QSpinBox*>(QStringLiteral("UpDown1"))->value() == 6);
 }
 
 TEST_CASE_FIXTURE(Export, "MDIForm1: the entries of the export need a base") {
