@@ -18,7 +18,8 @@ enum class IssueSoin {
 /// documents, events and unions get new numbers.
 IssueSoin MnuReorganiser(Session& session);
 
-/// The same without the question: with or without a backup.
+/// The same without a question: with or without a backup. What becomes of unsaved entries is the
+/// caller's (`CommandePermise`): the windows are closed.
 IssueSoin ReorganiserBase(Session& session, bool sauvegarder);
 
 /// The rewriting alone, of the base at `chemin` (absolute), which nobody has open. Tells what came

@@ -118,8 +118,8 @@ void FrmControle::Controler() {
     modele_->Vider();
     sortes_->Vider();
     ui_->LstSortes->setCurrentIndex(sortes_->index(0, 0));
-    ui_->Progression->setRange(0, static_cast<int>(S().base->entete.NbTriIndividus));
-    ui_->Progression->setValue(0);
+    ui_->Avancement->setRange(0, static_cast<int>(S().base->entete.NbTriIndividus));
+    ui_->Avancement->setValue(0);
     std::vector<records::Constat> recus;
     Verser(recus);
     QElapsedTimer depuis;
@@ -130,7 +130,7 @@ void FrmControle::Controler() {
         [&] {
             ++rang;
             if (depuis.elapsed() >= EntreVersements) {
-                ui_->Progression->setValue(rang);
+                ui_->Avancement->setValue(rang);
                 Verser(recus);
                 depuis.start();
             }
@@ -188,7 +188,7 @@ void FrmControle::PoserEtat() {
     if (etat_ == Etat::Complet) message = modele_->Nombre() == 0 ? 532 : 530;
     if (etat_ == Etat::Interrompu) message = 4274;
     ui_->LblEtat->setText(message == 0 ? QString{} : TexteEcran(S(), message));
-    ui_->Progression->setVisible(enCours);
+    ui_->Avancement->setVisible(enCours);
     // An empty list says why: the scan may not have come to an end.
     if (modele_->Nombre() == 0) ui_->LblVide->setText(ui_->LblEtat->text());
     ui_->CmdQuitter->setText(TexteEcran(S(), enCours ? 4267 : 4268));

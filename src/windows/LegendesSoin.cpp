@@ -28,7 +28,7 @@ constexpr Legende Table[] = {
     {"FrmControle", "GrdFiche", Acces, 4277},
     {"FrmControle", "GrdFiche", Colonne, 4275, 0},
     {"FrmControle", "GrdFiche", Colonne, 4276, 1},
-    {"FrmControle", "Progression", Acces, 4269},
+    {"FrmControle", "Avancement", Acces, 4269},
     {"FrmControle", "CmdFiche", Texte, 3076},
     {"FrmControle", "CmdAller", Texte, 3075},
     {"FrmControle", "CmdTexte", Texte, 4265},

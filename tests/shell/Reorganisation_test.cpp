@@ -85,6 +85,16 @@ TEST_CASE_FIXTURE(Bureau, "MnuReorganiser: a running job is told, and nothing is
     CHECK(dialogue.entendu == std::vector{Msg(503)});
 }
 
+TEST_CASE_FIXTURE(Bureau, "MnuReorganiser: a sheet that stays open stops it before the question") {
+    const std::string avant = Octets();
+    ecran.ficheSeFerme = false;
+    CHECK(MnuReorganiser(session) == IssueSoin::Abandonnee);
+    CHECK(dialogue.questions.empty());
+    CHECK(ecran.fermetures == 0);
+    CHECK(Octets() == avant);
+    CHECK(session.BaseOuverte());
+}
+
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: what was not saved yet is in the new file") {
     const NoOrdre n = doublures::FamilleEssai{*session.base}.Creer('H', "NOUVEAU", "Paul", "1850");
     REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);

@@ -122,7 +122,7 @@ TEST_CASE_FIXTURE(Controle, "FrmControle: findings in sort order, with their kin
     CHECK(C<QLabel>("LblNombre").text() == QStringLiteral("Anomalies\u00A0: 5"));
     CHECK(C<QLabel>("LblEtat").text() == QStringLiteral("Contrôle terminé"));
     CHECK(C<QPushButton>("CmdQuitter").text() == "F&ermer");
-    CHECK_FALSE(C<QProgressBar>("Progression").isVisible());
+    CHECK_FALSE(C<QProgressBar>("Avancement").isVisible());
 }
 
 TEST_CASE_FIXTURE(Controle, "FrmControle: a kind, and words, narrow the list; both are told") {
@@ -326,7 +326,7 @@ TEST_CASE_FIXTURE(Controle, "FrmControle: CmdQuitter stops the scan and keeps th
         QTimer::singleShot(0, [&] {
             vu = true;
             CHECK(C<QPushButton>("CmdQuitter").text() == "&Interrompre");
-            CHECK(C<QProgressBar>("Progression").isVisible());
+            CHECK(C<QProgressBar>("Avancement").isVisible());
             CHECK_FALSE(C<QPushButton>("CmdRelancer").isEnabled());
             Cliquer("CmdQuitter");
         });
