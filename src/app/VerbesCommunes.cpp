@@ -38,6 +38,8 @@ std::optional<std::vector<storage::Commune>> LireListe(Atelier& atelier, const s
     if (!liste) return {};
     for (const std::size_t ligne : liste->sansNom)
         atelier.dialogue.Informer(shell::Msg(4007, std::to_string(ligne)));
+    for (const std::size_t ligne : liste->tropLongues)
+        atelier.dialogue.Informer(shell::Msg(4026, std::to_string(ligne)));
     if (liste->remplaces != 0)
         atelier.dialogue.Informer(shell::Msg(4008, std::to_string(liste->remplaces)));
     return std::move(liste->communes);

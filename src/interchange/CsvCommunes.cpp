@@ -64,10 +64,13 @@ public:
         for (std::size_t i = 0; i < std::min(champs.size(), colonnes_.size()); ++i)
             if (const std::optional<Champ>& colonne = colonnes_[i]) commune.*(*colonne) = champs[i];
         commune = storage::NettoyerCommune(commune);
-        if (!commune.nom.empty())
+        if (commune.nom.empty()) {
+            if (!champs.empty()) liste_.sansNom.push_back(numero_);
+        } else if (storage::TropLongue(commune)) {
+            liste_.tropLongues.push_back(numero_);
+        } else {
             liste_.communes.push_back(std::move(commune));
-        else if (!champs.empty())
-            liste_.sansNom.push_back(numero_);
+        }
     }
 
 private:

@@ -12,9 +12,10 @@ namespace dorvane::interchange {
 /// What a list of communes gave.
 struct ListeCommunes {
     std::vector<storage::Commune> communes;
-    std::vector<std::size_t> sansNom;  ///< records left out, by number from 1 with the heading
-    std::size_t remplaces = 0;         ///< characters that code page 1252 lacks
-    bool nomInconnu = false;           ///< the heading names no column "nom": nothing was read
+    std::vector<std::size_t> sansNom;      ///< records left out, by number from 1 with the heading
+    std::vector<std::size_t> tropLongues;  ///< the same, for records too long for a base
+    std::size_t remplaces = 0;             ///< characters that code page 1252 lacks
+    bool nomInconnu = false;               ///< the heading names no column "nom": nothing was read
 };
 
 /// Reads a list of communes as comma-separated values (RFC 4180; the separator is ";", a tab or

@@ -8,6 +8,7 @@
 #include "values/Phonetique.h"
 
 #include <algorithm>
+#include <optional>
 #include <set>
 #include <string>
 #include <system_error>
@@ -190,6 +191,10 @@ NoCommune GestionCommunes::Enregistrer(NoCommune n, const Commune& commune) {
         session_.dialogue.Informer(shell::Msg(4010));
         return {};
     }
+    if (storage::TropLongue(commune)) {
+        session_.dialogue.Informer(shell::Msg(4028));
+        return {};
+    }
     if (!n && base_->Nombre() >= BaseCommunes::MaxCommunes) {
         session_.dialogue.Informer(shell::Msg(4011, std::to_string(BaseCommunes::MaxCommunes)));
         return {};
@@ -210,9 +215,10 @@ bool GestionCommunes::Supprimer(NoCommune n) {
     const std::string cle = storage::CleCommune(commune.nom);
     std::size_t rattachees = 0;
     // A homonym takes over those that name it.
-    if (base_->ChercherCommune(commune.nom).size() == 1)
-        for (NoCommune i{1}; i.valeur <= base_->Nombre(); ++i.valeur)
-            if (i != n && storage::CleCommune(base_->LireCommune(i).rattachement) == cle)
+    if (const auto toutes = base_->Toutes();
+        toutes && base_->ChercherCommune(commune.nom).size() == 1)
+        for (std::size_t i = 0; i < toutes->size(); ++i)
+            if (i + 1 != n.valeur && storage::CleCommune((*toutes)[i].rattachement) == cle)
                 ++rattachees;
     const std::string lieu = storage::TexteLieu(commune);
     shell::Question question;
@@ -274,11 +280,16 @@ bool GestionCommunes::ChargerListe(bool remplacer) {
     }
     std::vector<Commune> communes;
     std::set<std::string> connues;
-    if (!remplacer)
-        for (NoCommune n{1}; n.valeur <= base_->Nombre(); ++n.valeur) {
-            communes.push_back(base_->LireCommune(n));
-            connues.insert(CleEntiere(communes.back()));
+    if (!remplacer) {
+        std::optional<std::vector<Commune>> toutes = base_->Toutes();
+        if (!toutes) {
+            session_.dialogue.Informer(shell::Msg(4000, shell::CheminAffiche(chemin_)));
+            return false;
         }
+        communes = std::move(*toutes);
+        for (const Commune& commune : communes)
+            connues.insert(CleEntiere(commune));
+    }
     const std::size_t avant = communes.size();
     for (const Commune& commune : liste->communes)
         if (connues.insert(CleEntiere(commune)).second) communes.push_back(commune);
@@ -297,6 +308,7 @@ bool GestionCommunes::ChargerListe(bool remplacer) {
     };
     dire(4019, liste->communes.size() - ajoutees, {});
     dire(4020, liste->sansNom.size(), Joindre(liste->sansNom));
+    dire(4027, liste->tropLongues.size(), Joindre(liste->tropLongues));
     dire(4008, liste->remplaces, {});
     session_.dialogue.Informer(shell::Litteral(bilan));
     return true;

@@ -59,7 +59,7 @@ ResultatCommunes BaseCommunes::OuvrirCommunes(Disque& disque, const std::filesys
 bool BaseCommunes::Lire(NoCommune n, EnregistrementCommune& e, Position* liens) const {
     if (n.valeur > Nombre()) return false;
     const Position debut = image_.Cellule(AireLgx::Communes, n.valeur);
-    const std::size_t place = AnalyserCommune(image_.Depuis(debut), e);
+    const std::size_t place = AnalyserCommune(image_.Depuis(debut).substr(0, MaxFicheCommune), e);
     if (place == std::string_view::npos) return false;
     if (liens != nullptr) *liens = Position{debut.valeur + static_cast<std::uint32_t>(place)};
     return true;
@@ -73,19 +73,37 @@ Commune BaseCommunes::LireCommune(NoCommune n) const {
     return e.commune;
 }
 
+std::optional<std::vector<Commune>> BaseCommunes::Toutes() const {
+    std::vector<Commune> communes;
+    communes.reserve(Nombre());
+    // No two of them share a byte of a sound file.
+    std::size_t reste = image_.Depuis(Position{1}).size();
+    for (NoCommune n{1}; n.valeur <= Nombre(); ++n.valeur) {
+        const Commune& c = communes.emplace_back(LireCommune(n));
+        const std::size_t taille = c.nom.size() + c.code.size() + c.autreCode.size() +
+                                   c.rattachement.size() + c.precision.size() +
+                                   c.commentaire.size();
+        if (taille > reste) return std::nullopt;
+        reste -= taille;
+    }
+    return communes;
+}
+
 std::uint32_t BaseCommunes::NbEntrees(const Index& index) const {
     const std::uint32_t nombre = image_.Nombre(index.aire);
     return nombre == 0 ? 0 : nombre - 1;  // the sentinel counts, and is no entry
 }
 
 std::string_view BaseCommunes::TexteEntree(const Index& index, std::uint32_t i) const {
-    const std::string_view octets = image_.Depuis(image_.Cellule(index.aire, i));
+    const std::string_view octets =
+        image_.Depuis(image_.Cellule(index.aire, i)).substr(0, MaxFicheCommune);
     const std::size_t fin = octets.find('#');
     return fin == std::string_view::npos ? std::string_view{} : octets.substr(0, fin);
 }
 
 NoCommune BaseCommunes::PremiereDe(const Index& index, std::uint32_t i) const {
-    const std::string_view octets = image_.Depuis(image_.Cellule(index.aire, i));
+    const std::string_view octets =
+        image_.Depuis(image_.Cellule(index.aire, i)).substr(0, MaxFicheCommune);
     const std::size_t fin = octets.find('#');
     if (fin == std::string_view::npos) return {};
     return NoCommune{Chaine4VersNum(octets.substr(fin + 1))};
@@ -166,12 +184,9 @@ EcritureCommunes BaseCommunes::EnregistrerCommunes() {
 }
 
 bool BaseCommunes::ReorganiserCommunes(Avancement& avancement) {
-    std::vector<Commune> communes;
-    communes.reserve(Nombre());
-    for (std::uint32_t n = 1; n <= Nombre(); ++n)
-        communes.push_back(LireCommune(NoCommune{n}));
+    const std::optional<std::vector<Commune>> communes = Toutes();
     std::string octets;
-    if (!ComposerLgx(communes, avancement, octets) ||
+    if (!communes || !ComposerLgx(*communes, avancement, octets) ||
         !EcrireLgx(disque_, chemin_, chemin_.parent_path() / "Commune.reo", octets))
         return false;
     marque_ = MarqueDe(octets);

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -51,6 +52,10 @@ public:
     /// An empty name means a deleted commune, a damaged record or a number out of reach.
     [[nodiscard]] Commune LireCommune(NoCommune n) const;
 
+    /// All communes by their numbers from 1, deleted ones with an empty name. Nothing when they
+    /// would hold more than the file: it is damaged.
+    [[nodiscard]] std::optional<std::vector<Commune>> Toutes() const;
+
     /// All communes of a name, in the order in which they came in.
     [[nodiscard]] std::vector<NoCommune> ChercherCommune(std::string_view nom) const;
     /// All communes of a phonetic key.
@@ -63,10 +68,10 @@ public:
     /// not in the base.
     [[nodiscard]] NoCommune ChercherRattachement(NoCommune n) const;
 
-    /// Adds a commune. 0 when its name is empty or the base is full.
+    /// Adds a commune. 0 when its name is empty, it is too long, or the base is full.
     NoCommune AjouterCommune(const Commune& commune);
-    /// Replaces what a commune holds. False, and nothing done, when there is no such commune or
-    /// the new name is empty.
+    /// Replaces what a commune holds. False, and nothing done, when there is no such commune, the
+    /// new name is empty or all is too long.
     bool MajCommune(NoCommune n, const Commune& commune);
     /// The number stays unused. False when there is no such commune.
     bool SupprimerCommune(NoCommune n);
@@ -75,7 +80,7 @@ public:
     /// Writes the file beside and renames it, when anything has changed.
     [[nodiscard]] EcritureCommunes EnregistrerCommunes();
     /// Writes the base anew without what is dead, through "Commune.reo" beside the file. False
-    /// when the user gives up or the system refuses: the file is then as it was.
+    /// when the user gives up, the file is damaged or the system refuses: it is then as it was.
     [[nodiscard]] bool ReorganiserCommunes(Avancement& avancement);
 
 private:

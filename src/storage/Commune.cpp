@@ -56,6 +56,13 @@ Commune NettoyerCommune(const Commune& commune) {
     return propre;
 }
 
+bool TropLongue(const Commune& commune) {
+    EnregistrementCommune e;
+    e.commune = NettoyerCommune(commune);
+    e.commentaire = Position{1};
+    return ComposerCommune(e).size() > MaxFicheCommune;
+}
+
 std::string TexteLieu(const Commune& commune) {
     std::string lieu = commune.nom;
     for (const std::string* suite : {&commune.rattachement, &commune.precision})

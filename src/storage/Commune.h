@@ -27,6 +27,9 @@ struct Commune {
 /// comment; bytes 0 become blanks, outer blanks go.
 [[nodiscard]] Commune NettoyerCommune(const Commune& commune);
 
+/// Its record would be longer than the longest that is read.
+[[nodiscard]] bool TropLongue(const Commune& commune);
+
 /// Name, commune it belongs to and precision as one place, joined by ", ".
 [[nodiscard]] std::string TexteLieu(const Commune& commune);
 
@@ -38,6 +41,9 @@ struct EnregistrementCommune {
     NoCommune suivanteNom{};  ///< next commune of the same folded name
     NoCommune suivanteSon{};  ///< next commune of the same phonetic key
 };
+
+/// Longest record: what a damaged file takes for one ends somewhere.
+inline constexpr std::size_t MaxFicheCommune = 8192;
 
 [[nodiscard]] std::string ComposerCommune(const EnregistrementCommune& e);
 

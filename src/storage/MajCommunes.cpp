@@ -7,7 +7,7 @@ namespace dorvane::storage {
 
 NoCommune BaseCommunes::AjouterCommune(const Commune& commune) {
     const Commune propre = NettoyerCommune(commune);
-    if (propre.nom.empty() || Nombre() >= MaxCommunes) return {};
+    if (propre.nom.empty() || TropLongue(propre) || Nombre() >= MaxCommunes) return {};
     const NoCommune n{Nombre() + 1};
     image_.FixerNombre(AireLgx::Communes, n.valeur);
     EnregistrementCommune e;
@@ -20,7 +20,7 @@ NoCommune BaseCommunes::AjouterCommune(const Commune& commune) {
 bool BaseCommunes::MajCommune(NoCommune n, const Commune& commune) {
     const Commune propre = NettoyerCommune(commune);
     EnregistrementCommune e;
-    if (propre.nom.empty() || !Lire(n, e)) return false;
+    if (propre.nom.empty() || TropLongue(propre) || !Lire(n, e)) return false;
     const std::string ancienNom = CleCommune(e.commune.nom);
     const std::string nouveauNom = CleCommune(propre.nom);
     const std::string ancienSon = ClePhonetique(e.commune.nom);

@@ -141,6 +141,22 @@ TEST_CASE_FIXTURE(Gazette, "GestionCommunes: a commune without a name is refused
     CHECK(Fichier(fichier).size() == 5);
 }
 
+TEST_CASE_FIXTURE(Gazette, "GestionCommunes: what no record holds is refused, or left out") {
+    const std::string longue(storage::MaxFicheCommune, 'x');
+    CHECK_FALSE(communes.Enregistrer({}, Lieu(longue)));
+    CHECK_FALSE(communes.Enregistrer(NoCommune{2}, Lieu("Blois", {}, longue)));
+    CHECK(dialogue.entendu == std::vector{Msg(4028), Msg(4028)});
+    Liste("nom\nTalcy\n" + longue + "\n");
+    CHECK(communes.ChargerListe(false));
+    CHECK(Bilan().find(seance.catalogue.Composer(Msg(4027, "1", "3"))) != std::string::npos);
+    CHECK(Fichier(fichier).size() == 6);
+    // A comment stands by itself.
+    Commune bavarde = Lieu("Blois");
+    bavarde.commentaire = longue;
+    CHECK(communes.Enregistrer(NoCommune{2}, bavarde));
+    CHECK(Fichier(fichier).at(1) == bavarde);
+}
+
 TEST_CASE_FIXTURE(Gazette, "GestionCommunes: what is saved is in the file at once") {
     CHECK(communes.Enregistrer({}, Lieu("Talcy")) == NoCommune{6});
     CHECK(communes.Enregistrer(NoCommune{2}, Lieu("Blois", {}, "Centre")) == NoCommune{2});
