@@ -101,6 +101,20 @@ TEST_CASE_FIXTURE(Export,
     CHECK(C<QComboBox>("ChxFormat").itemText(1) == "Dorvane");
 }
 
+TEST_CASE_FIXTURE(Export, "FrmExporter: a choice clicked again stays, and the two are apart") {
+    Ouvrir();
+    Clic("OptBase(0)");
+    CHECK(C<QRadioButton>("OptBase(0)").isChecked());
+    CHECK(C<QRadioButton>("OptExport(0)").isChecked());
+    Clic("OptBase(1)");
+    Clic("OptExport(1)");
+    Clic("OptExport(1)");
+    CHECK(C<QRadioButton>("OptExport(1)").isChecked());
+    CHECK(C<QRadioButton>("OptBase(1)").isChecked());
+    CHECK_FALSE(C<QRadioButton>("OptBase(0)").isChecked());
+    CHECK_FALSE(C<QRadioButton>("OptExport(0)").isChecked());
+}
+
 TEST_CASE_FIXTURE(Export,
                   "FrmExporter: a selection of nobody is message 959, and nothing is asked") {
     Ouvrir();
