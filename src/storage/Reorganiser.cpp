@@ -4,6 +4,8 @@
 #include "storage/Reorganiser.h"
 
 #include "storage/CopieIndex.h"
+#include "storage/ParcoursReorganisation.h"
+#include "storage/Renumerotation.h"
 #include "values/Octets.h"
 #include "values/Texte1252.h"
 
@@ -22,8 +24,6 @@ constexpr std::uint32_t FinAvantSuites = 3572;
 constexpr std::uint32_t TailleSuiteIndividus = 1664;
 constexpr std::uint32_t TailleSuiteIndex = 384;
 constexpr std::uint32_t TailleSuiteMariages = 640;
-constexpr std::uint32_t PasCompteur = 100;
-constexpr NoMessage UnionsAbandonnees{3900};
 constexpr NoMessage TitreReorganisation{545};
 
 constexpr std::size_t TailleTeteEvt = 20;
@@ -35,13 +35,6 @@ constexpr std::size_t MaxNoteDoc = 32050;
 constexpr std::size_t SansLimite = std::numeric_limits<std::size_t>::max();
 constexpr std::string_view FinDeListe{"\0\0", 2};
 
-/// New numbers by old ones; 0: the record is dropped.
-using Carte = std::vector<std::uint16_t>;
-
-std::uint32_t Nouveau(const Carte& carte, std::uint32_t ancien) {
-    return ancien < carte.size() ? carte[ancien] : 0;
-}
-
 /// A year as its cell holds it: reading has dropped the blanks behind it.
 std::string CelluleEntiere(std::string annee) {
     annee.resize(4, ' ');
@@ -51,143 +44,23 @@ std::string CelluleEntiere(std::string annee) {
 class Copie {
 public:
     Copie(Base& source, Base& cible, Avancement& avancement)
-        : s_{source}, c_{cible}, avancement_{avancement}, index_{source, cible} {
-        // Each live record is written once, and blocks hardly differ: what grows beyond that comes
-        // of records that run into one another.
-        limite_ = 2 * source.volume.TailleDisque() + (1U << 20U);
-    }
+        : s_{source},
+          c_{cible},
+          avancement_{avancement},
+          index_{source, cible},
+          parcours_{source, cible, avancement},
+          numeros_{source, index_, parcours_, avancement} {}
 
     IssueReorganisation Faire(BilanReorganisation& bilan) {
-        const bool fait = Controler(bilan) && NumeroterDocuments() && NumeroterEvenements() &&
-                          NumeroterMariages(bilan) && NumeroterIndex() && LireRangs() &&
-                          Preparer() && index_.EcrireTypes() && CopierIndex() &&
-                          CopierIndividus() && CopierMariages() && CopierDocuments() &&
-                          CopierEvenements();
-        if (!fait) return issue_;
+        const bool fait = numeros_.Faire(bilan) && Preparer() && index_.EcrireTypes() &&
+                          CopierIndex() && CopierIndividus() && CopierMariages() &&
+                          CopierDocuments() && CopierEvenements();
+        if (!fait) return parcours_.Issue();
         EcrireTris();
         return c_.Enregistrer() ? IssueReorganisation::Faite : IssueReorganisation::Refusee;
     }
 
 private:
-    /// One phase: `travail` for 1 to `nombre`.
-    template <class Travail>
-    bool Parcourir(std::string_view titre, std::size_t nombre, Travail travail) {
-        avancement_.Phase({{}, titre});
-        const auto total = static_cast<std::uint32_t>(nombre);
-        for (std::uint32_t i = 1; i <= total; ++i) {
-            if ((i - 1) % PasCompteur == 0 && !Continuer(i - 1, total)) return false;
-            travail(i);
-            if (c_.volume.FinFichier() > limite_) return Continuer(i, total);
-        }
-        return true;
-    }
-    bool Continuer(std::uint32_t fait, std::uint32_t total) {
-        if (c_.EnDefaut())
-            issue_ = IssueReorganisation::Refusee;
-        else if (c_.volume.FinFichier() > limite_)
-            issue_ = IssueReorganisation::TropAbimee;
-        else if (!avancement_.Avancer(fait, total))
-            issue_ = IssueReorganisation::Abandonnee;
-        else
-            return true;
-        return false;
-    }
-
-    /// Counts the records without an end; the others are at hand when they are copied.
-    bool Controler(BilanReorganisation& bilan) {
-        Compteur compteur;
-        Observateur* const avant = std::exchange(s_.marques.observateur, &compteur);
-        const std::vector<std::uint16_t>& documents = s_.R_TRI.documents.Numeros();
-        const std::vector<std::uint16_t>& evenements = s_.R_TRI.evenements.Numeros();
-        const bool fait =
-            Parcourir("Contrôle Documents"_1252, documents.size(),
-                      [&](std::uint32_t r) {
-                          static_cast<void>(s_.R_IMAGE.LireDoc(NoDocument{documents[r - 1]}));
-                      }) &&
-            Parcourir("Contrôle Evénements"_1252, evenements.size(), [&](std::uint32_t r) {
-                static_cast<void>(s_.R_EVT.Description(NoEvenement{evenements[r - 1]}));
-            });
-        s_.marques.observateur = avant;
-        bilan.documentsAbimes = compteur.documents;
-        bilan.evenementsAbimes = compteur.evenements;
-        return fait;
-    }
-
-    /// The record numbers of a table that stand for something, each once, and their new numbers.
-    template <class EstLa>
-    bool Numeroter(std::string_view titre, const std::vector<std::uint16_t>& table,
-                   std::uint32_t dernier, Carte& carte, std::vector<std::uint16_t>& vivants,
-                   EstLa estLa) {
-        carte.assign(dernier + 1ULL, 0);
-        return Parcourir(titre, table.size(), [&](std::uint32_t r) {
-            const std::uint16_t n = table[r - 1];
-            if (n == 0 || n > dernier || carte[n] != 0 || !estLa(n)) return;
-            vivants.push_back(n);
-            carte[n] = static_cast<std::uint16_t>(vivants.size());
-        });
-    }
-    bool NumeroterDocuments() {
-        return Numeroter(
-            "Réorganisation Documents"_1252, s_.R_TRI.documents.Numeros(),
-            std::min(s_.entete.DernierDocument, MaxDocuments), carteDocuments_, documents_,
-            [this](std::uint16_t d) { return bool{s_.R_IMAGE.LireCellule(NoDocument{d})}; });
-    }
-    bool NumeroterEvenements() {
-        return Numeroter(
-            "Réorganisation Evénements"_1252, s_.R_TRI.evenements.Numeros(),
-            std::min(s_.entete.DernierEvenement, MaxEvenements), carteEvenements_, evenements_,
-            [this](std::uint16_t e) { return bool{s_.R_EVT.LireCellule(NoEvenement{e})}; });
-    }
-    bool LireRangs() {
-        Carte rangs;
-        return Numeroter("Réorganisation Indices"_1252, s_.R_TRI.individus.Numeros(),
-                         s_.entete.DernierIndividu, rangs, individus_,
-                         [](std::uint16_t) { return true; });
-    }
-
-    /// A union belongs to its husband, whatever his sex cell holds. One whose living husband does
-    /// not list it comes behind the others; one without a living husband is dropped.
-    bool NumeroterMariages(BilanReorganisation& bilan) {
-        const std::uint32_t dernier = s_.entete.DernierMariage;
-        carteMariages_.assign(dernier + 1ULL, 0);
-        const auto prendre = [&](NoMariage m) {
-            if (carteMariages_[m.valeur] != 0) return;
-            mariages_.push_back(static_cast<std::uint16_t>(m.valeur));
-            carteMariages_[m.valeur] = static_cast<std::uint16_t>(mariages_.size());
-        };
-        const std::vector<std::uint16_t>& table = s_.R_TRI.individus.Numeros();
-        std::vector<bool> vivant(std::numeric_limits<std::uint16_t>::max() + 1ULL);
-        const bool fait =
-            Parcourir("Réorganisation Mariages"_1252, table.size(), [&](std::uint32_t r) {
-                const NoOrdre n{table[r - 1]};
-                if (!n || n.valeur > s_.entete.DernierIndividu || vivant[n.valeur]) return;
-                vivant[n.valeur] = true;
-                for (const NoMariage m : s_.R_MARIAG.Elements(n))
-                    if (m.valeur <= dernier && s_.R_EPOUX.LireCellule(m) == n) prendre(m);
-            });
-        if (!fait) return false;
-        for (NoMariage m{1}; m.valeur <= dernier; ++m.valeur) {
-            const NoOrdre epoux = s_.R_EPOUX.LireCellule(m);
-            const NoOrdre epouse = s_.R_EPOUSE.LireCellule(m);
-            if (epoux && vivant[epoux.valeur]) {
-                prendre(m);
-            } else if (epoux || epouse) {
-                ++bilan.unionsSansEpoux;
-                const std::string texte{s_.R_TXTMAR.LireTexte(m)};
-                for (const NoOrdre n : {epoux, epouse})
-                    if (n) index_.Retirer(n, texte);
-            }
-        }
-        if (bilan.unionsSansEpoux != 0)
-            avancement_.Phase({UnionsAbandonnees, std::to_string(bilan.unionsSansEpoux)});
-        return true;
-    }
-
-    bool NumeroterIndex() {
-        return Parcourir("Réorganisation Index"_1252, index_.NbTypes(),
-                         [&](std::uint32_t k) { index_.Numeroter(NoMotCle{k}); });
-    }
-
     /// Header and overflow zones: the next allocation comes behind them.
     bool Preparer() {
         avancement_.Phase({{}, "Recopie fichier"_1252});
@@ -201,11 +74,11 @@ private:
         nouveau.LibellesNeutres = true;
         nouveau.SlotsIndividu = ancien.SlotsIndividu;
         nouveau.SlotsMariage = ancien.SlotsMariage;
-        nouveau.DocBase = NoDocument{Nouveau(carteDocuments_, ancien.DocBase.valeur)};
+        nouveau.DocBase = NoDocument{Nouveau(numeros_.carteDocuments, ancien.DocBase.valeur)};
         nouveau.DernierIndividu = ancien.DernierIndividu;
-        nouveau.DernierMariage = static_cast<std::uint32_t>(mariages_.size());
-        nouveau.DernierDocument = static_cast<std::uint32_t>(documents_.size());
-        nouveau.DernierEvenement = static_cast<std::uint32_t>(evenements_.size());
+        nouveau.DernierMariage = static_cast<std::uint32_t>(numeros_.mariages.size());
+        nouveau.DernierDocument = static_cast<std::uint32_t>(numeros_.documents.size());
+        nouveau.DernierEvenement = static_cast<std::uint32_t>(numeros_.evenements.size());
         nouveau.NbIndex = index_.Nombre();
         const auto reserver = [this](bool besoin, Position& position, std::uint32_t taille) {
             if (!besoin) return;
@@ -224,17 +97,18 @@ private:
     }
 
     bool CopierIndex() {
-        return Parcourir("Recopie Index"_1252, index_.Nombre(),
-                         [&](std::uint32_t e) { index_.Copier(NoIndex{e}); });
+        return parcours_.Parcourir("Recopie Index"_1252, index_.Nombre(),
+                                   [&](std::uint32_t e) { index_.Copier(NoIndex{e}); });
     }
 
     bool CopierIndividus() {
-        return Parcourir("Recopie Individus"_1252, s_.entete.DernierIndividu, [&](std::uint32_t i) {
-            const NoOrdre n{i};
-            CopierCellules(n);
-            CopierTextes(n);
-            CopierListes(n);
-        });
+        return parcours_.Parcourir("Recopie Individus"_1252, s_.entete.DernierIndividu,
+                                   [&](std::uint32_t i) {
+                                       const NoOrdre n{i};
+                                       CopierCellules(n);
+                                       CopierTextes(n);
+                                       CopierListes(n);
+                                   });
     }
     // A cell that is empty is not written: a block of such cells costs no space.
     void CopierCellules(NoOrdre n) {
@@ -261,10 +135,10 @@ private:
     }
     void CopierListes(NoOrdre n) {
         CopierNumeros(s_.R_ENFANT, c_.R_ENFANT, n, nullptr);
-        CopierNumeros(s_.R_MARIAG, c_.R_MARIAG, n, &carteMariages_);
-        CopierNumeros(s_.R_LSTIMG, c_.R_LSTIMG, n, &carteDocuments_);
+        CopierNumeros(s_.R_MARIAG, c_.R_MARIAG, n, &numeros_.carteMariages);
+        CopierNumeros(s_.R_LSTIMG, c_.R_LSTIMG, n, &numeros_.carteDocuments);
         CopierPaires(s_.R_LIEN, c_.R_LIEN, n, nullptr);
-        CopierPaires(s_.R_LSTEVT, c_.R_LSTEVT, n, &carteEvenements_);
+        CopierPaires(s_.R_LSTEVT, c_.R_LSTEVT, n, &numeros_.carteEvenements);
     }
     void EcrireListe(ColonneListe& vers, NoOrdre n) {
         if (!entrees_.empty()) vers.EcrireCellule(n, c_.volume.Ajouter(entrees_, FinDeListe));
@@ -305,18 +179,19 @@ private:
     }
 
     bool CopierMariages() {
-        return Parcourir("Recopie Mariages"_1252, mariages_.size(), [&](std::uint32_t i) {
-            const NoMariage nouveau{i};
-            const NoMariage ancien{mariages_[i - 1]};
-            c_.R_EPOUX.EcrireCellule(nouveau, s_.R_EPOUX.LireCellule(ancien));
-            if (const NoOrdre epouse = s_.R_EPOUSE.LireCellule(ancien))
-                c_.R_EPOUSE.EcrireCellule(nouveau, epouse);
-            if (std::string debut = s_.R_DEBMAR.LireCellule(ancien); !debut.empty())
-                c_.R_DEBMAR.EcrireCellule(nouveau, CelluleEntiere(std::move(debut)));
-            if (std::string fin = s_.R_FINMAR.LireCellule(ancien); !fin.empty())
-                c_.R_FINMAR.EcrireCellule(nouveau, CelluleEntiere(std::move(fin)));
-            CopierTexte(s_.R_TXTMAR, c_.R_TXTMAR, ancien, nouveau);
-        });
+        return parcours_.Parcourir(
+            "Recopie Mariages"_1252, numeros_.mariages.size(), [&](std::uint32_t i) {
+                const NoMariage nouveau{i};
+                const NoMariage ancien{numeros_.mariages[i - 1]};
+                c_.R_EPOUX.EcrireCellule(nouveau, s_.R_EPOUX.LireCellule(ancien));
+                if (const NoOrdre epouse = s_.R_EPOUSE.LireCellule(ancien))
+                    c_.R_EPOUSE.EcrireCellule(nouveau, epouse);
+                if (std::string debut = s_.R_DEBMAR.LireCellule(ancien); !debut.empty())
+                    c_.R_DEBMAR.EcrireCellule(nouveau, CelluleEntiere(std::move(debut)));
+                if (std::string fin = s_.R_FINMAR.LireCellule(ancien); !fin.empty())
+                    c_.R_FINMAR.EcrireCellule(nouveau, CelluleEntiere(std::move(fin)));
+                CopierTexte(s_.R_TXTMAR, c_.R_TXTMAR, ancien, nouveau);
+            });
     }
 
     /// Appends the text at `debut` as it stands; 0 for none. `*fini`: it had an end.
@@ -328,41 +203,44 @@ private:
     }
 
     bool CopierDocuments() {
-        return Parcourir("Recopie Documents"_1252, documents_.size(), [&](std::uint32_t i) {
-            const Position fiche = s_.R_IMAGE.LireCellule(NoDocument{documents_[i - 1]});
-            std::string tete(TailleTeteDoc, '\0');
-            s_.volume.Lire(fiche, tete);
-            bool fini = false;
-            const std::string texte =
-                s_.volume.LireTexte(Position{fiche.valeur + TailleTeteDoc}, MaxFicheDoc, &fini);
-            bool noteFinie = true;
-            Position note{};
-            if (fini) note = Recopier(Position{Chaine4VersNum(tete)}, MaxNoteDoc, &noteFinie);
-            const bool bon = fini && noteFinie;
-            const std::string debut =
-                NumVersChaine4(note.valeur) + (bon ? texte : std::string(1, '\0'));
-            c_.R_IMAGE.EcrireCellule(NoDocument{i}, c_.volume.Ajouter(debut, "#"));
-        });
+        return parcours_.Parcourir(
+            "Recopie Documents"_1252, numeros_.documents.size(), [&](std::uint32_t i) {
+                const Position fiche =
+                    s_.R_IMAGE.LireCellule(NoDocument{numeros_.documents[i - 1]});
+                std::string tete(TailleTeteDoc, '\0');
+                s_.volume.Lire(fiche, tete);
+                bool fini = false;
+                const std::string texte =
+                    s_.volume.LireTexte(Position{fiche.valeur + TailleTeteDoc}, MaxFicheDoc, &fini);
+                bool noteFinie = true;
+                Position note{};
+                if (fini) note = Recopier(Position{Chaine4VersNum(tete)}, MaxNoteDoc, &noteFinie);
+                const bool bon = fini && noteFinie;
+                const std::string debut =
+                    NumVersChaine4(note.valeur) + (bon ? texte : std::string(1, '\0'));
+                c_.R_IMAGE.EcrireCellule(NoDocument{i}, c_.volume.Ajouter(debut, "#"));
+            });
     }
 
     bool CopierEvenements() {
-        return Parcourir("Recopie Evénements"_1252, evenements_.size(), [&](std::uint32_t i) {
-            const NoEvenement ancien{evenements_[i - 1]};
-            std::string tete(TailleTeteEvt, '\0');
-            s_.volume.Lire(s_.R_EVT.LireCellule(ancien), tete);
-            const auto champ = [&tete](std::size_t rang) {
-                return Position{Chaine4VersNum(std::string_view{tete}.substr(rang * 4, 4))};
-            };
-            bool fini = false;
-            const Position note = Recopier(champ(1), SansLimite);
-            const Position liens = CopierLiensEvt(ancien);
-            const Position documents = CopierDocumentsEvt(ancien);
-            const Position description = Recopier(champ(4), MaxDescription, &fini);
-            std::string nouvelle = tete.substr(0, 4);
-            for (const Position position : {note, liens, documents, description})
-                nouvelle += NumVersChaine4(position.valeur);
-            c_.R_EVT.EcrireCellule(NoEvenement{i}, c_.volume.Ajouter(nouvelle));
-        });
+        return parcours_.Parcourir(
+            "Recopie Evénements"_1252, numeros_.evenements.size(), [&](std::uint32_t i) {
+                const NoEvenement ancien{numeros_.evenements[i - 1]};
+                std::string tete(TailleTeteEvt, '\0');
+                s_.volume.Lire(s_.R_EVT.LireCellule(ancien), tete);
+                const auto champ = [&tete](std::size_t rang) {
+                    return Position{Chaine4VersNum(std::string_view{tete}.substr(rang * 4, 4))};
+                };
+                bool fini = false;
+                const Position note = Recopier(champ(1), SansLimite);
+                const Position liens = CopierLiensEvt(ancien);
+                const Position documents = CopierDocumentsEvt(ancien);
+                const Position description = Recopier(champ(4), MaxDescription, &fini);
+                std::string nouvelle = tete.substr(0, 4);
+                for (const Position position : {note, liens, documents, description})
+                    nouvelle += NumVersChaine4(position.valeur);
+                c_.R_EVT.EcrireCellule(NoEvenement{i}, c_.volume.Ajouter(nouvelle));
+            });
     }
     Position CopierLiensEvt(NoEvenement e) {
         entrees_.clear();
@@ -374,7 +252,8 @@ private:
     Position CopierDocumentsEvt(NoEvenement e) {
         entrees_.clear();
         for (const NoDocument d : s_.R_EVT.Documents(e))
-            if (const std::uint32_t nouveau = Nouveau(carteDocuments_, d.valeur); nouveau != 0)
+            if (const std::uint32_t nouveau = Nouveau(numeros_.carteDocuments, d.valeur);
+                nouveau != 0)
                 entrees_ += NumVersChaine2(nouveau);
         return entrees_.empty() ? Position{} : c_.volume.Ajouter(entrees_, FinDeListe);
     }
@@ -387,40 +266,22 @@ private:
                 numeros[i] = static_cast<std::uint16_t>(i + 1);
             return numeros;
         };
-        c_.entete.NbTriIndividus = static_cast<std::uint32_t>(individus_.size());
-        c_.entete.NbTriDocuments = static_cast<std::uint32_t>(documents_.size());
-        c_.entete.NbTriEvenements = static_cast<std::uint32_t>(evenements_.size());
-        c_.R_TRI.individus.Remplacer(individus_);
-        c_.R_TRI.documents.Remplacer(suite(documents_.size()));
-        c_.R_TRI.evenements.Remplacer(suite(evenements_.size()));
+        c_.entete.NbTriIndividus = static_cast<std::uint32_t>(numeros_.individus.size());
+        c_.entete.NbTriDocuments = static_cast<std::uint32_t>(numeros_.documents.size());
+        c_.entete.NbTriEvenements = static_cast<std::uint32_t>(numeros_.evenements.size());
+        c_.R_TRI.individus.Remplacer(numeros_.individus);
+        c_.R_TRI.documents.Remplacer(suite(numeros_.documents.size()));
+        c_.R_TRI.evenements.Remplacer(suite(numeros_.evenements.size()));
         c_.marques.ModifTriIndividus = c_.marques.ModifTriDocuments =
             c_.marques.ModifTriEvenements = true;
     }
-
-    class Compteur final : public Observateur {
-    public:
-        std::uint32_t documents = 0;
-        std::uint32_t evenements = 0;
-        void ParentChange(NoOrdre /*enfant*/, NoOrdre /*parent*/) override {}
-        void Signaler(Incident incident, std::uint32_t /*numero*/) override {
-            if (incident == Incident::DocumentAbime) ++documents;
-            if (incident == Incident::EvenementAbime) ++evenements;
-        }
-    };
 
     Base& s_;
     Base& c_;
     Avancement& avancement_;
     CopieIndex index_;
-    std::uint64_t limite_ = 0;
-    IssueReorganisation issue_ = IssueReorganisation::Abandonnee;
-    Carte carteDocuments_;
-    Carte carteEvenements_;
-    Carte carteMariages_;
-    std::vector<std::uint16_t> documents_;  // old numbers by new ones less 1
-    std::vector<std::uint16_t> evenements_;
-    std::vector<std::uint16_t> mariages_;
-    std::vector<std::uint16_t> individus_;  // the sort table
+    ParcoursReorganisation parcours_;
+    Renumerotation numeros_;
     std::unordered_map<std::string, Position> partages_;
     std::string entrees_;
 };
