@@ -89,9 +89,18 @@ storage::ConversionsTextes ConversionsDe(const Session& session) {
             }};
 }
 
+/// A size with a no-break space between thousands.
+std::string EnGroupes(std::uint64_t taille) {
+    constexpr std::size_t Groupe = 3;
+    std::string texte = std::to_string(taille);
+    for (std::size_t place = texte.size(); place > Groupe;)
+        texte.insert(place -= Groupe, 1, '\xA0');
+    return texte;
+}
+
 void DireBilan(Session& session, const storage::BilanReorganisation& bilan) {
     session.dialogue.Annoncer(
-        Msg(3904, std::to_string(bilan.tailleApres), std::to_string(bilan.tailleAvant)));
+        Msg(3904, EnGroupes(bilan.tailleApres), EnGroupes(bilan.tailleAvant)));
     if (bilan.unionsSansEpoux != 0)
         session.dialogue.Informer(Msg(3905, std::to_string(bilan.unionsSansEpoux)));
     if (bilan.documentsAbimes != 0 || bilan.evenementsAbimes != 0)

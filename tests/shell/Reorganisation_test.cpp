@@ -134,10 +134,16 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: given up, the base is as it was and o
     CHECK(dialogue.entendu.empty());
 }
 
-TEST_CASE_FIXTURE(Bureau, "Reorganisation: the size before and after is told") {
-    const std::string avant = std::to_string(Octets().size());
+TEST_CASE_FIXTURE(Bureau, "Reorganisation: the size before and after is told, by thousands") {
+    const auto dite = [this] {
+        std::string taille = std::to_string(Octets().size());
+        REQUIRE(taille.size() > 3);
+        REQUIRE(taille.size() <= 6);
+        return taille.insert(taille.size() - 3, "\xA0");
+    };
+    const std::string avant = dite();
     REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
-    CHECK(dialogue.annonces.back() == Msg(3904, std::to_string(Octets().size()), avant));
+    CHECK(dialogue.annonces.back() == Msg(3904, dite(), avant));
 }
 
 TEST_CASE("Reorganisation: unions that are left out are told with their number") {
