@@ -92,7 +92,9 @@ void FrmControle::PreparerListes() {
             &FrmControle::MontrerSorte);
 
     ui_->GrdFiche->Attacher(S(), "FrmControle", 2, 1);
-    ui_->Partage->setSizes({34 * cadratin, 90 * cadratin});
+    ui_->GrdFiche->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    ui_->GrdFiche->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+    ui_->Partage->setSizes({48 * cadratin, 130 * cadratin});
     ui_->Partage->setStretchFactor(1, 1);
     ui_->PartageFiche->setSizes({360, 200});
     ui_->PartageFiche->setStretchFactor(0, 1);
