@@ -165,6 +165,7 @@ Lancement Ecrire(shell::Session& session, const fs::path& fichier, const Demande
         lancement.unions = r.comptes.unions;
         lancement.evenements = r.comptes.evenements;
         lancement.documents = r.comptes.documents;
+        lancement.omis = r.comptes.omis;
         return lancement;
     }
     OptionsExport gedcom;
@@ -201,6 +202,8 @@ void Dire(shell::Session& session, const Lancement& lancement, const fs::path& f
             session.dialogue.Informer(shell::Msg(652));
             if (lancement.perdus > 0)
                 session.dialogue.Informer(shell::Msg(3702, std::to_string(lancement.perdus)));
+            if (lancement.omis > 0)
+                session.dialogue.Informer(shell::Msg(4201, std::to_string(lancement.omis)));
             return;
         case IssueLancement::Interrompu:
             return ProposerSuppression(session, shell::CheminPartiel(fichier));

@@ -71,6 +71,7 @@ struct Lancement {
     std::uint32_t evenements = 0;
     std::uint32_t documents = 0;
     std::size_t perdus = 0;  ///< characters that the set has no form of
+    std::uint32_t omis = 0;  ///< unions and list entries that the format has no place for
 };
 
 /// Asks for the file, writes it and tells how it ended. A name without the extension of the format

@@ -359,6 +359,7 @@ void FrmExporter::MontrerResultat(const Lancement& lancement) {
                   .join(Separateur)
            << Remplir(S(), 4231, CheminVersQt(lancement.fichier));
     if (lancement.perdus > 0) lignes << Remplir(S(), 3702, QString::number(lancement.perdus));
+    if (lancement.omis > 0) lignes << Remplir(S(), 4201, lancement.omis);
     ui_->LblResultat->setText(lignes.join(u'\n'));
     ui_->PnlResultat->show();
     BornerHauteur();

@@ -12,7 +12,7 @@ constexpr Legende Table[] = {
     {"MDIForm1", "MnuIntégrer", Texte, 4245},
 
     {"FrmExporter", "", Texte, 4200},
-    {"FrmExporter", "LblPersonnes", Texte, 4201},
+    {"FrmExporter", "LblPersonnes", Texte, 3044},
     {"FrmExporter", "OptBase(0)", Texte, 4202},
     {"FrmExporter", "OptBase(1)", Texte, 4203},
     {"FrmExporter", "LblNom", Texte, 4204},

@@ -277,6 +277,17 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: what the set lacks is counted and told 
     CHECK(Lu("u.ged").find("Lou\xE2\x82\xACs") != std::string::npos);
 }
 
+TEST_CASE_FIXTURE(Depart, "LancerExport: a union that the format has no place for is told") {
+    F().Marier(NoOrdre{}, Rose);
+    DemandeExport demande;
+    demande.format = FormatExport::Dorvane;
+    Vers("a.lgr");
+    const Lancement l = LancerExport(session, demande);
+    CHECK(l.unions == 2);
+    CHECK(l.omis == 1);
+    CHECK(dialogue.entendu == std::vector{shell::Msg(652), shell::Msg(4201, "1")});
+}
+
 TEST_CASE_FIXTURE(Depart,
                   "LancerExport: the next file is proposed where the last one was written") {
     std::filesystem::create_directory(dossier / "envois");
