@@ -61,6 +61,8 @@ bool BaseCommunes::Lire(NoCommune n, EnregistrementCommune& e, Position* liens) 
     const Position debut = image_.Cellule(AireLgx::Communes, n.valeur);
     const std::size_t place = AnalyserCommune(image_.Depuis(debut).substr(0, MaxFicheCommune), e);
     if (place == std::string_view::npos) return false;
+    // With the position of a comment too it must be short enough to be read again.
+    if (place + 8 + (e.commentaire ? 0 : 5) > MaxFicheCommune) return false;
     if (liens != nullptr) *liens = Position{debut.valeur + static_cast<std::uint32_t>(place)};
     return true;
 }

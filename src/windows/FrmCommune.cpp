@@ -32,6 +32,8 @@ namespace {
 using storage::Commune;
 using storage::NoCommune;
 
+constexpr const char* SectionVolets = "Fenêtres";
+constexpr const char* CleVolets = "FrmCommune.Volets";
 constexpr std::size_t ChiffresCode = 5;
 constexpr std::size_t ChiffresAutreCode = 4;
 
@@ -54,10 +56,10 @@ FrmCommune::FrmCommune(shell::Session& session, QWidget* parent)
     ui_->setupUi(this);
     ui_->LstCommunes->setModel(modele_);
     const int cadratin = fontMetrics().averageCharWidth();
-    ui_->LstCommunes->setColumnWidth(ModeleCommunes::Nom, 30 * cadratin);
-    ui_->LstCommunes->setColumnWidth(ModeleCommunes::Rattachement, 18 * cadratin);
-    ui_->LstCommunes->setColumnWidth(ModeleCommunes::Precision, 18 * cadratin);
-    ui_->LstCommunes->setColumnWidth(ModeleCommunes::Code, 10 * cadratin);
+    ui_->LstCommunes->setColumnWidth(ModeleCommunes::Nom, 26 * cadratin);
+    ui_->LstCommunes->setColumnWidth(ModeleCommunes::Rattachement, 14 * cadratin);
+    ui_->LstCommunes->setColumnWidth(ModeleCommunes::Precision, 15 * cadratin);
+    ui_->LstCommunes->setColumnWidth(ModeleCommunes::Code, 9 * cadratin);
     ui_->LstCommunes->horizontalHeader()->setStretchLastSection(true);
     // The words for an empty list depend on the search: they are set with it.
     liste_ = new ListeFiltree{session,
@@ -69,6 +71,8 @@ FrmCommune::FrmCommune(shell::Session& session, QWidget* parent)
     ui_->CmdRattachement->setIcon(Icone("MnuSuivant"));
     for (QLabel* avis : {ui_->LblAvisRattachement, ui_->LblAvisCode, ui_->LblAvisAutreCode})
         Avertir(*avis);
+    ui_->Volets->restoreState(QByteArray::fromBase64(
+        QByteArray::fromStdString(session.parametres.Valeur(SectionVolets, CleVolets))));
     PoserMenuListe();
     Connecter();
     Traduire();
@@ -375,6 +379,9 @@ void FrmCommune::reject() {
 
 void FrmCommune::done(int resultat) {
     liste_->Memoriser();
+    // A refusal is told when the settings are saved at the end.
+    static_cast<void>(S().parametres.SauverValeur(
+        SectionVolets, CleVolets, ui_->Volets->saveState().toBase64().toStdString()));
     FenetreFille::done(resultat);
 }
 

@@ -8,6 +8,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QSplitter>
 #include <QStackedWidget>
 #include <QTableView>
 #include <QToolButton>
@@ -467,6 +468,20 @@ TEST_CASE_FIXTURE(Bureau, "FrmCommune: other settings show the other file") {
     S().parametres.generaux.fichierCommunes = dossier / "Autre.lgx";
     fenetre->Recharger();
     CHECK(Rangees() == QStringList{"Talcy"});
+}
+
+TEST_CASE_FIXTURE(Bureau, "FrmCommune: the border between list and sheet comes back") {
+    Partir();
+    Ouvrir();
+    C<QSplitter>("Volets").setSizes({500, 400});
+    const int large = C<QSplitter>("Volets").sizes().first();
+    fenetre->resize(fenetre->width() + 40, fenetre->height());
+    C<QSplitter>("Volets").setSizes({large, 500});
+    const QList<int> avant = C<QSplitter>("Volets").sizes();
+    fenetre->close();
+    REQUIRE(QTest::qWaitFor([this] { return fenetre.isNull(); }));
+    Ouvrir();
+    CHECK(C<QSplitter>("Volets").sizes() == avant);
 }
 
 TEST_CASE_FIXTURE(Bureau, "FrmCommune: a whole country of communes opens and is searched at once") {
