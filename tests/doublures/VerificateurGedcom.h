@@ -266,9 +266,9 @@ private:
                 Dire("leads nowhere: " + r.tag + ' ' + r.vers);
                 continue;
             }
-            const std::string_view attendue = Dans("FAMC FAMS", r.tag)                  ? "FAM"
-                                              : Dans("HUSB WIFE CHIL ASSO ALIA", r.tag) ? "INDI"
-                                                                                        : r.tag;
+            const std::string attendue = Dans("FAMC FAMS", r.tag)                  ? "FAM"
+                                         : Dans("HUSB WIFE CHIL ASSO ALIA", r.tag) ? "INDI"
+                                                                                   : r.tag;
             if (sorte->second != attendue) Dire(r.tag + " leads to " + sorte->second);
             liens.insert({r.de, r.tag, r.vers});
         }
