@@ -180,9 +180,14 @@ IssueSoin ReorganiserBase(Session& session, bool sauvegarder) {
         session.ecran.Actualiser();
         return IssueSoin::Refusee;
     }
-    session.ecran.Actualiser();
     storage::BilanReorganisation bilan;
-    const IssueSoin issue = Reecrire(session, chemin, bilan);
+    IssueSoin issue = IssueSoin::Refusee;
+    {
+        // The windows know that the base comes back.
+        const CadreProgression cadre{session.progression, Msg(545), Msg(545)};
+        session.ecran.Actualiser();
+        issue = Reecrire(session, chemin, bilan);
+    }
     OuvrirChemin(session, chemin);
     if (issue == IssueSoin::Faite) DireBilan(session, bilan);
     return issue;

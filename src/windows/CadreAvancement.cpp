@@ -53,6 +53,7 @@ void CadreAvancement::Avancer(std::uint32_t fait, std::uint32_t total) {
     if (total == 0) return;
     barre_->setRange(0, Pas);
     barre_->setValue(static_cast<int>(std::uint64_t{fait} * Pas / total));
+    barre_->setFormat(QStringLiteral("%1/%2").arg(fait).arg(total));
     Q_EMIT montre(texte_->text(), fait, total);
 }
 

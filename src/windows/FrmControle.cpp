@@ -67,7 +67,7 @@ void FrmControle::PreparerListes() {
     QTableView& anomalies = *ui_->GrdAno;
     anomalies.setModel(modele_);
     anomalies.setColumnWidth(ModeleAnomalies::Numero_, 11 * cadratin);
-    anomalies.setColumnWidth(ModeleAnomalies::Anomalie, 55 * cadratin);
+    anomalies.setColumnWidth(ModeleAnomalies::Anomalie, 62 * cadratin);
     anomalies.setColumnHidden(ModeleAnomalies::Compte, true);
     anomalies.horizontalHeader()->setStretchLastSection(true);
     liste_ =

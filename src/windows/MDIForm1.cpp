@@ -150,9 +150,11 @@ void MDIForm1::Actualiser() {
 
 void MDIForm1::ActualiserEtat() {
     const bool graphe = session_.BaseOuverte() && session_.PersonneEnCours;
+    // A job that has closed the base opens it again: another one is not offered meanwhile.
+    const bool reprise = !session_.BaseOuverte() && session_.progression.EnCours();
     graphe_->Actualiser();
     accueil_->Actualiser();
-    if (graphe != (pages_->currentWidget() == graphe_)) {
+    if (!reprise && graphe != (pages_->currentWidget() == graphe_)) {
         pages_->setCurrentWidget(graphe ? static_cast<QWidget*>(graphe_) : accueil_);
         if (graphe) graphe_->setFocus();
     }

@@ -204,3 +204,16 @@ TEST_CASE_FIXTURE(Soin, "MnuRéorganiser: a file that cannot be written is told;
     CHECK(EnCours() == 3);
     CHECK(Octets("Martin.LGD") == avant);
 }
+
+TEST_CASE_FIXTURE(Soin, "A job that has closed the base leaves nothing to open in its place") {
+    REQUIRE(Graphe().isVisible());
+    {
+        const shell::CadreProgression cadre{S().progression, shell::Msg(545), shell::Msg(545)};
+        REQUIRE(shell::FermerEtMemoriser(S()));
+        Fenetre().Actualiser();
+        CHECK_FALSE(Trouver<QWidget>("CmdAccueilOuvrir").isVisible());
+        CHECK(Graphe().isVisible());
+    }
+    Fenetre().Actualiser();
+    CHECK(Trouver<QWidget>("CmdAccueilOuvrir").isVisible());
+}

@@ -284,6 +284,7 @@ TEST_CASE_FIXTURE(FenetreEssai,
         QTest::qSleep(2);
         if (bouton.isVisible() && fait > 300 && !clic.isValid()) {
             valeur = barre.value();
+            CHECK(barre.text().endsWith(QStringLiteral("/100000")));
             clic.start();
             // As from outside: the event waits for the next pass of the loop.
             QTimer::singleShot(0, &bouton, &QToolButton::click);
