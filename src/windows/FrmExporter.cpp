@@ -369,8 +369,10 @@ void FrmExporter::DireAvancement(const QString& texte, quint32 fait, quint32 tot
     if (!enCours_) return;
     ui_->LblFiche->setText(texte);
     ui_->BarAvancement->setRange(0, total == 0 ? 0 : PasBarre);
-    if (total != 0)
+    if (total != 0) {
         ui_->BarAvancement->setValue(static_cast<int>(std::uint64_t{fait} * PasBarre / total));
+        ui_->BarAvancement->setFormat(QStringLiteral("%1/%2").arg(fait).arg(total));
+    }
     ui_->BarAvancement->show();
 }
 

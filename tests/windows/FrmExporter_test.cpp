@@ -420,6 +420,7 @@ TEST_CASE_FIXTURE(Export,
                      [&](const QString& texte, quint32 /*fait*/, quint32 total) {
                          if (total == 0 || ++vus > 1) return;
                          CHECK(Fiche() == texte);
+                         CHECK(C<QProgressBar>("BarAvancement").text().endsWith("/60008"));
                          barre = C<QProgressBar>("BarAvancement").isVisible();
                          CHECK(C<QPushButton>("CmdFermer").text() == "Annuler");
                          CHECK_FALSE(C<QWidget>("CmdLancer").isEnabled());
