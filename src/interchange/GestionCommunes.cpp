@@ -126,6 +126,7 @@ std::vector<NoCommune> GestionCommunes::Chercher(std::string_view texte, bool pa
         noms.emplace_back(storage::CleCommune(base_->LireCommune(n).nom), n);
     std::sort(noms.begin(), noms.end());
     std::vector<NoCommune> trouvees;
+    trouvees.reserve(noms.size());
     for (const auto& [nom, n] : noms)
         trouvees.push_back(n);
     return trouvees;

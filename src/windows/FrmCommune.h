@@ -66,6 +66,7 @@ private:
     void AllerA(storage::NoCommune n);
     void Montrer(storage::NoCommune n);
     void SuivreFiche();
+    void CompleterRattachement();
     void SuivreDestination();
 
     bool Enregistrer();

@@ -33,7 +33,7 @@ QLineEdit* SuiviLieu::Champ() const {
                : nullptr;
 }
 
-bool SuiviLieu::Poser(const QString& lieu) {
+bool SuiviLieu::Poser(const QString& lieu) const {
     QLineEdit* champ = Champ();
     if (champ == nullptr) return false;
     champ->window()->raise();

@@ -22,7 +22,7 @@ public:
     [[nodiscard]] QLineEdit* Champ() const;
     /// Replaces what the field says, as if it had been typed, and goes to it. False when there is
     /// no field.
-    bool Poser(const QString& lieu);
+    bool Poser(const QString& lieu) const;
 
 Q_SIGNALS:
     /// The user is in a field of a place.

@@ -181,6 +181,23 @@ TEST_CASE_FIXTURE(Bureau,
     CHECK_FALSE(C<QLabel>("LblAvisRattachement").isVisible());
 }
 
+TEST_CASE_FIXTURE(Bureau,
+                  "FrmCommune: the parent commune is completed from the base, each name once") {
+    Partir();
+    Ouvrir();
+    Choisir("Blois");
+    Saisir("TxtRattachement", "me");
+    const QCompleter& mots = *Champ("TxtRattachement").completer();
+    REQUIRE(mots.popup()->isVisible());
+    CHECK(mots.completionModel()->rowCount() == 2);
+    QTest::keyClick(mots.popup(), Qt::Key_Down);
+    QTest::keyClick(mots.popup(), Qt::Key_Return);
+    CHECK(Champ("TxtRattachement").text() == "Mer");
+    CHECK(C<QToolButton>("CmdRattachement").isEnabled());
+    Saisir("TxtRattachement", "zz");
+    CHECK_FALSE(mots.popup()->isVisible());
+}
+
 TEST_CASE_FIXTURE(Bureau, "FrmCommune: Ctrl+S writes a changed commune, and the row follows") {
     Partir();
     Ouvrir();
