@@ -63,7 +63,7 @@ void ExporterTexteDEchange(benchmark::State& etat) {
     for (auto _ : etat) {
         banc.B().InitColonnes();
         if (interchange::ExporterLgr(banc.session, banc.dossier / "x.lgr", {}).issue !=
-            interchange::IssueLgr::Fait)
+            interchange::IssueExport::Fait)
             std::abort();
     }
 }

@@ -49,7 +49,7 @@ BENCHMARK(LireEtEcrireAutant)->Unit(benchmark::kMillisecond);
 void Exporter(benchmark::State& etat) {
     for (auto _ : etat)
         if (interchange::ExporterLgr(LeBanc().session, LeBanc().dossier / "sortie.lgr", {}).issue !=
-            interchange::IssueLgr::Fait)
+            interchange::IssueExport::Fait)
             std::abort();
 }
 BENCHMARK(Exporter)->Unit(benchmark::kMillisecond);

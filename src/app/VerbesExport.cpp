@@ -68,8 +68,8 @@ int Exporter(Atelier& atelier, const OptionsExporter& o) {
         const interchange::ResultatLgr r =
             interchange::ExporterLgr(atelier.session, o.sortie, {std::move(choisis), complet});
         const interchange::ComptesLgr& c = r.comptes;
-        return Rapporter(atelier, o, r.issue == interchange::IssueLgr::Fait, c.individus, c.unions,
-                         c.evenements, c.documents);
+        return Rapporter(atelier, o, r.issue == interchange::IssueExport::Fait, c.individus,
+                         c.unions, c.evenements, c.documents);
     }
     interchange::OptionsExport options;
     options.jeu =

@@ -1,7 +1,6 @@
 #include "interchange/EcrireLgr.h"
 
 #include "interchange/RedactionLgr.h"
-#include "shell/FichierSur.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 
@@ -102,8 +101,7 @@ ResultatLgr ExporterLgr(shell::Session& session, const std::filesystem::path& ch
     ResultatLgr resultat;
     std::string octets;
     const bool fini = ComposerLgr(session, options, octets, resultat.comptes);
-    if (shell::EcrireTout(fini ? chemin : shell::CheminPartiel(chemin), octets))
-        resultat.issue = fini ? IssueLgr::Fait : IssueLgr::Abandon;
+    resultat.issue = EcrireExport(chemin, octets, fini);
     return resultat;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "interchange/IssueExport.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -29,14 +31,8 @@ struct ComptesLgr {
     std::uint32_t retouches = 0;
 };
 
-enum class IssueLgr : std::uint8_t {
-    Fait,
-    Abandon,  ///< the user gave up: what was written stands at `shell::CheminPartiel`
-    Refus     ///< the system refuses to write: no file, or the former one
-};
-
 struct ResultatLgr {
-    IssueLgr issue = IssueLgr::Refus;
+    IssueExport issue = IssueExport::Refus;
     ComptesLgr comptes;
 };
 

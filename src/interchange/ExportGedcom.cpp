@@ -1,7 +1,6 @@
 #include "interchange/ExportGedcom.h"
 
 #include "interchange/RedactionGedcom.h"
-#include "shell/FichierSur.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 
@@ -65,8 +64,7 @@ ResultatExport ExporterGedcom(shell::Session& session, const std::filesystem::pa
     std::string octets;
     const bool fait = ComposerGedcom(session, shell::CheminAffiche(chemin.filename()), options,
                                      octets, resultat.comptes);
-    if (shell::EcrireTout(fait ? chemin : shell::CheminPartiel(chemin), octets))
-        resultat.issue = fait ? IssueExport::Fait : IssueExport::Abandon;
+    resultat.issue = EcrireExport(chemin, octets, fait);
     return resultat;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interchange/EncoderJeu.h"
+#include "interchange/IssueExport.h"
 #include "values/Numeros.h"
 
 #include <cstddef>
@@ -31,12 +32,6 @@ struct ComptesExport {
     std::uint32_t documents = 0;
     /// Characters that the set has no form of: they have lost their accent or become "?".
     std::size_t perdus = 0;
-};
-
-enum class IssueExport {
-    Fait,
-    Abandon,  ///< the user gave up: what was written stands at `shell::CheminPartiel`
-    Refus,    ///< the system refuses to write: no file, or the former one
 };
 
 struct ResultatExport {

@@ -153,14 +153,24 @@ std::optional<fs::path> ChoisirFichier(shell::Session& session, FormatExport for
     return fichier;
 }
 
+IssueLancement Traduire(IssueExport issue) {
+    switch (issue) {
+        case IssueExport::Fait:
+            return IssueLancement::Fait;
+        case IssueExport::Abandon:
+            return IssueLancement::Interrompu;
+        case IssueExport::Refus:
+            break;
+    }
+    return IssueLancement::Echec;
+}
+
 Lancement Ecrire(shell::Session& session, const fs::path& fichier, const DemandeExport& demande,
                  OptionsLgr options) {
     Lancement lancement;
     if (demande.format == FormatExport::Dorvane) {
         const ResultatLgr r = ExporterLgr(session, fichier, options);
-        lancement.issue = r.issue == IssueLgr::Fait      ? IssueLancement::Fait
-                          : r.issue == IssueLgr::Abandon ? IssueLancement::Interrompu
-                                                         : IssueLancement::Echec;
+        lancement.issue = Traduire(r.issue);
         lancement.individus = r.comptes.individus;
         lancement.unions = r.comptes.unions;
         lancement.evenements = r.comptes.evenements;
@@ -173,9 +183,7 @@ Lancement Ecrire(shell::Session& session, const fs::path& fichier, const Demande
     gedcom.choisis = std::move(options.choisis);
     gedcom.complet = options.complet;
     const ResultatExport r = ExporterGedcom(session, fichier, gedcom);
-    lancement.issue = r.issue == IssueExport::Fait      ? IssueLancement::Fait
-                      : r.issue == IssueExport::Abandon ? IssueLancement::Interrompu
-                                                        : IssueLancement::Echec;
+    lancement.issue = Traduire(r.issue);
     lancement.individus = r.comptes.individus;
     lancement.unions = r.comptes.familles;
     lancement.evenements = r.comptes.evenements;

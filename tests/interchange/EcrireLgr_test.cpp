@@ -198,7 +198,7 @@ TEST_CASE_FIXTURE(EssaiLgr, "The export shows its counts every 100 persons and e
         F().Creer('H', "Dupont", std::to_string(i), "1820");
     progression.textes.clear();
     const std::filesystem::path sortie = dossier / "sortie.lgr";
-    CHECK(ExporterLgr(session, sortie, {}).issue == IssueLgr::Fait);
+    CHECK(ExporterLgr(session, sortie, {}).issue == IssueExport::Fait);
     std::vector<std::string> textes;
     for (const shell::Phrase& texte : progression.textes)
         textes.push_back(texte.valeur);
@@ -210,7 +210,7 @@ TEST_CASE_FIXTURE(EssaiLgr, "The export shows its counts every 100 persons and e
 
     progression.pas = 0;
     progression.annulerAu = 2;
-    CHECK(ExporterLgr(session, sortie, {}).issue == IssueLgr::Abandon);
+    CHECK(ExporterLgr(session, sortie, {}).issue == IssueExport::Abandon);
     CHECK(doublures::LireFichier(sortie).ends_with("[FIN]\r\n"));
     const std::string octets = doublures::LireFichier(shell::CheminPartiel(sortie));
     CHECK(octets.find("\r\n 199 \r\n") != std::string::npos);
@@ -220,6 +220,6 @@ TEST_CASE_FIXTURE(EssaiLgr, "The export shows its counts every 100 persons and e
 
 TEST_CASE_FIXTURE(Foyer, "An export that the system refuses leaves the former file") {
     const std::filesystem::path absent = dossier / "absent" / "sortie.lgr";
-    CHECK(ExporterLgr(session, absent, {}).issue == IssueLgr::Refus);
+    CHECK(ExporterLgr(session, absent, {}).issue == IssueExport::Refus);
     CHECK_FALSE(std::filesystem::exists(absent));
 }

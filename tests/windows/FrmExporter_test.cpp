@@ -448,7 +448,7 @@ TEST_CASE_FIXTURE(Export,
     DemarrerFamille();
     const interchange::ResultatLgr ecrit =
         interchange::ExporterLgr(S(), dossier / "autres.lgr", {});
-    REQUIRE(ecrit.issue == interchange::IssueLgr::Fait);
+    REQUIRE(ecrit.issue == interchange::IssueExport::Fait);
     Ouvrir();
     CHECK(Fiche().startsWith(QStringLiteral("Personnes\u00A0: 8 ")));
     {
