@@ -51,7 +51,11 @@ void SelectionExport::MarquerListe(std::span<const NoOrdre> individus) {
 
 void SelectionExport::MarquerParente(NoOrdre depart, SensExport sens, std::uint32_t generations) {
     if (!Existe(depart) || generations == 0) return;
+    const std::string avant = marques_;
     Parcourir(depart, sens, generations);
+    // Where this walk stops it makes near kin of persons whom an earlier one has selected.
+    for (std::size_t n = 1; n < avant.size(); ++n)
+        if (avant[n] == Retenu) marques_[n] = Retenu;
     FixerMarques();
 }
 

@@ -151,6 +151,23 @@ TEST_CASE_FIXTURE(Bureau, "SelectionExport: walks add up until the selection is 
     CHECK(Marques(selection) == "............");
 }
 
+TEST_CASE_FIXTURE(Bureau, "SelectionExport: who was selected stays so where a later walk stops") {
+    Peupler();
+    SelectionExport selection{B()};
+    SUBCASE("a parent") {
+        const std::array<NoOrdre, 1> liste{NoOrdre{7}};
+        selection.MarquerListe(liste);
+        selection.MarquerParente(NoOrdre{11}, SensExport::Ascendants, 1);
+        CHECK(Marques(selection) == "......34..3.");
+    }
+    SUBCASE("a child") {
+        selection.MarquerParente(NoOrdre{5}, SensExport::Descendants, 1);
+        selection.MarquerParente(NoOrdre{1}, SensExport::Descendants, 1);
+        CHECK(Marques(selection) == "33..34......");
+    }
+    CHECK(selection.NbRetenus() == std::ranges::count(Marques(selection), '3'));
+}
+
 TEST_CASE_FIXTURE(Bureau, "SelectionExport: the whole base and a list of persons") {
     Peupler();
     SelectionExport selection{B()};
