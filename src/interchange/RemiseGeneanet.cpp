@@ -46,7 +46,8 @@ fs::path PreparerCompteRendu(const fs::path& sortie) {
 void MnuGeneanet(shell::Session& session, const LancerOutil& lancer,
                  const MontrerFichier& montrer) {
     if (!session.base || !shell::CommandePermise(session)) return;
-    const fs::path& outil = session.parametres.generaux.geneanet;
+    // The tool runs in its folder, where a relative name would lead elsewhere.
+    const fs::path outil = shell::CheminEntier(session.parametres.generaux.geneanet);
     fs::path sortie = outil / "geneanet" / session.base->Chemin().stem();
     sortie += ".ged";
     if (!Exporter(session, sortie)) return;

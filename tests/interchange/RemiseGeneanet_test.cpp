@@ -62,6 +62,17 @@ TEST_CASE_FIXTURE(EssaiRemise, "the header of the file is reduced, and missing f
     }
 }
 
+TEST_CASE_FIXTURE(EssaiRemise, "a folder that depends on where the program runs is made whole") {
+    session.parametres.generaux.geneanet = fs::relative(dossier / "outil", fs::current_path());
+    Remettre();
+    REQUIRE(appels.size() == 2);
+    // The tool runs elsewhere: a relative name would lead it astray.
+    CHECK(fs::path{appels[1].arguments.at(1)}.is_absolute());
+    CHECK(appels[1].dossier.is_absolute());
+    CHECK(fs::exists(Sortie()));
+    CHECK(montres.size() == 1);
+}
+
 TEST_CASE_FIXTURE(EssaiRemise, "without perl the failing call is told") {
     Remettre("python");
     REQUIRE(dialogue.entendu.size() == 1);
