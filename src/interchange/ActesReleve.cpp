@@ -128,9 +128,9 @@ private:
     /// A parent named in an act; one who is told to be dead died before it.
     NoOrdre CreerParent(std::string_view nom, std::string_view prenoms, char sexe,
                         const DateActe& date) {
-        const ParentActe parent = LireParent(prenoms);
+        const ParentActe parent = LireParent(nom, prenoms);
         PersonneActe p;
-        p.nom = nom;
+        p.nom = parent.nom;
         p.prenoms = parent.prenoms;
         p.sexe = sexe;
         if (parent.decede && !date.date.annee.empty()) p.deces = {"BEF", date.date.annee};
@@ -259,8 +259,9 @@ private:
             CreerParent(Champ(col::SepNomMere), Champ(col::SepPrenomsMere), 'F', date);
         ecrivain_.Rattacher(n, pere, mere);
         PersonneActe autre;
-        autre.nom = Champ(col::SepNomConjoint);
-        const ParentActe veuf = LireParent(Champ(col::SepPrenomsConjoint));
+        const ParentActe veuf =
+            LireParent(Champ(col::SepNomConjoint), Champ(col::SepPrenomsConjoint));
+        autre.nom = veuf.nom;
         autre.prenoms = veuf.prenoms;
         autre.sexe = defunt.sexe == 'H' ? 'F' : defunt.sexe == 'F' ? 'H' : 'I';
         if (veuf.decede && !date.date.annee.empty()) autre.deces = {"BEF", date.date.annee};
@@ -282,8 +283,8 @@ private:
         const bool ne = !Champ(col::SepDateNaissance).empty();
         Ajouter(texte, " Naissance : ", Champ(col::SepDateNaissance));
         Ajouter(texte, ne ? " de " : " Naissance : de ", Champ(col::SepLieuNaissance));
-        const ParentActe pere = LireParent(Champ(col::SepPrenomsPere));
-        const std::string nomPere = NomComplet(Champ(col::SepNomPere), pere.prenoms);
+        const ParentActe pere = LireParent(Champ(col::SepNomPere), Champ(col::SepPrenomsPere));
+        const std::string nomPere = NomComplet(pere.nom, pere.prenoms);
         if (pere.decede)
             texte.append("\r\n\t")
                 .append("Père décédé"_1252)

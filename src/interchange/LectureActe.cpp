@@ -57,6 +57,14 @@ std::string PrendreMot(std::string_view& reste) {
     return mot;
 }
 
+/// Length of the word that a dead person's names begin with; 0 when there is none.
+std::size_t MotDuMort(std::string_view noms) {
+    const std::string minuscules = EnMinuscules(noms);
+    for (const std::string_view mot : {"feu ", "feue "})
+        if (minuscules.starts_with(mot)) return mot.size();
+    return 0;
+}
+
 bool Ajouter(Age& age, int nombre, std::string_view unite) {
     if (unite == "AN" || unite == "ANS" || unite == "ANNEE" || unite == "ANNEES")
         age.ans += nombre;
@@ -150,14 +158,20 @@ DateLue AnneeSelonAge(const Age& age, const std::optional<Serie>& jour) {
     return LireDateGedcom("CAL " + std::to_string(date->annee - age.ans));
 }
 
-ParentActe LireParent(std::string_view prenoms) {
-    prenoms = SansBlancs(prenoms);
-    const std::string minuscules = EnMinuscules(prenoms);
-    for (const std::string_view mot : {"feu ", "feue "})
-        if (minuscules.starts_with(mot)) return {SansBlancs(prenoms.substr(mot.size())), true};
-    for (const std::string_view mot : {"feu", "feue"})
-        if (minuscules == mot) return {{}, true};
-    return {prenoms, false};
+ParentActe LireParent(std::string_view nom, std::string_view prenoms) {
+    ParentActe parent{SansBlancs(nom), SansBlancs(prenoms), false};
+    for (std::string_view* champ : {&parent.nom, &parent.prenoms})
+        if (const std::size_t mort = MotDuMort(*champ); mort != 0) {
+            *champ = SansBlancs(champ->substr(mort));
+            parent.decede = true;
+        }
+    // Nothing else stands in the column; as a surname it is one.
+    const std::string minuscules = EnMinuscules(parent.prenoms);
+    if (minuscules == "feu" || minuscules == "feue") {
+        parent.prenoms = {};
+        parent.decede = true;
+    }
+    return parent;
 }
 
 }  // namespace dorvane::interchange

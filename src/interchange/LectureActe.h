@@ -41,12 +41,13 @@ struct Age {
 /// The calculated year of birth alone.
 [[nodiscard]] DateLue AnneeSelonAge(const Age& age, const std::optional<Serie>& jour);
 
-/// The given names of a parent, and whether they begin with the words of a dead one: "feu Jean",
+/// The names of a parent, and whether one of them begins with the words of a dead one: "feu Jean",
 /// "feue Anne".
 struct ParentActe {
+    std::string_view nom;
     std::string_view prenoms;
     bool decede = false;
 };
-[[nodiscard]] ParentActe LireParent(std::string_view prenoms);
+[[nodiscard]] ParentActe LireParent(std::string_view nom, std::string_view prenoms);
 
 }  // namespace dorvane::interchange

@@ -176,6 +176,18 @@ TEST_CASE_FIXTURE(EssaiReleve, "a burial reads an age, a dead father and a partn
     CHECK(Annee(4) == "1780");
 }
 
+TEST_CASE_FIXTURE(EssaiReleve, "a dead parent is told in the column of the surname as well") {
+    Importer(Sorte::Sepulture,
+             "1780;3;12;Mer;Dupont;Luc;M;;;;feu Dupont;Pierre;Feue Martin;Anne;Blanc;feue Rose\n");
+    CHECK(Nom(2) == "Dupont;Pierre;;;BEF");
+    CHECK(Nom(3) == "Martin;Anne;;;BEF");
+    CHECK(Nom(4) == "Blanc;Rose;;;BEF");
+    CHECK(base->R_DECES.LireCellule(NoOrdre{3}) == "1780");
+    CHECK(base->R_EVT.NoteEvt(NoEvenement{1}) ==
+          "Inhumation\r\nDéfunt Luc Dupont Sexe : H\r\n\tPère décédé Pierre Dupont\r\n\tMère Anne "
+          "Feue Martin\r\n\tConjoint feue Rose Blanc"_1252);
+}
+
 TEST_CASE_FIXTURE(EssaiReleve, "ascendants are joined by their Sosa numbers, in any order") {
     Importer(Sorte::Ascendance,
              "Sosa;Nom\n3;Martin;Anne;;;;;;1844;Mer\n1;Dupont;Luc;;1845;Blois\n2;Dupont;Jean;"

@@ -95,12 +95,14 @@ TEST_CASE("an age in years gives two years of birth, a shorter one the day") {
 }
 
 TEST_CASE("feu and feue in front of a parent tell a death") {
-    CHECK(LireParent("feu Jean").prenoms == "Jean");
-    CHECK(LireParent("Feue Anne Marie").prenoms == "Anne Marie");
-    CHECK(LireParent("feue Anne").decede);
-    CHECK(LireParent("feu").decede);
-    CHECK_FALSE(LireParent("Feuillet").decede);
-    CHECK_FALSE(LireParent("Jean").decede);
+    CHECK(LireParent("", "feu Jean").prenoms == "Jean");
+    CHECK(LireParent("", "Feue Anne Marie").prenoms == "Anne Marie");
+    CHECK(LireParent("Roux", "feue Anne").decede);
+    CHECK(LireParent("", "feu").decede);
+    CHECK(LireParent("feue Le Roux", "Anne").nom == "Le Roux");
+    CHECK(LireParent("feue Le Roux", "Anne").decede);
+    CHECK_FALSE(LireParent("Feu", "Feuillet").decede);
+    CHECK_FALSE(LireParent("Roux", "Jean").decede);
 }
 
 }  // namespace dorvane::interchange
