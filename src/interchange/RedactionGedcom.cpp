@@ -136,10 +136,10 @@ void RedactionGedcom::EcrireEnTete(const std::string& nomFichier) {
     const shell::ReglagesBase& reglages = session_.parametres.base;
     sortie_.Enregistrement('S', 1, "SUBM");
     sortie_.Valeur(1, "NAME", reglages.auteur);
-    if (SansBlancs(reglages.adresse[0]).empty()) return;
-    sortie_.Valeur(1, "ADDR", reglages.adresse[0]);
-    for (std::size_t i = 1; i < 7; ++i)
-        sortie_.Valeur(2, "CONT", reglages.adresse[i]);
+    bool commencee = false;
+    for (std::size_t i = 0; i < 7; ++i)
+        commencee |=
+            sortie_.Valeur(commencee ? 2 : 1, commencee ? "CONT" : "ADDR", reglages.adresse[i]);
 }
 
 void RedactionGedcom::EcrireIndividu(NoOrdre n) {
@@ -285,6 +285,18 @@ void RedactionGedcom::EcrireLiensFamille(NoOrdre n) {
         sortie_.Renvoi(1, "FAMC", 'F', famille);
 }
 
+/// A role of the format may be stored as its tag or in words.
+void RedactionGedcom::EcrireRole(std::string_view role) {
+    if (SansBlancs(role).empty()) return;
+    const auto* const connu = std::ranges::find_if(Roles, [&](std::string_view tag) {
+        return role == tag || role == shell::LibelleDeTag(session_.catalogue, tag);
+    });
+    if (connu != Roles.end())
+        sortie_.Valeur(3, "ROLE", *connu);
+    else
+        sortie_.Valeur(3, "ROLE", '(' + shell::LibelleDeTag(session_.catalogue, role) + ')');
+}
+
 void RedactionGedcom::EcrireAutresLiens(NoOrdre n) {
     for (std::size_t k = 1; k <= base_.R_LIEN.NbElements(n); ++k) {
         const NoOrdre autre = base_.R_LIEN.ElementListe(n, k);
@@ -298,11 +310,7 @@ void RedactionGedcom::EcrireAutresLiens(NoOrdre n) {
         evenements_[e.valeur] = true;
         sortie_.Renvoi(1, "SOUR", 'E', e.valeur);
         sortie_.Ligne(2, "EVEN");
-        const std::string role = base_.R_LSTEVT.TexteElement(n, k);
-        if (Contient(Roles, role))
-            sortie_.Valeur(3, "ROLE", role);
-        else
-            sortie_.Valeur(3, "ROLE", '(' + shell::LibelleDeTag(session_.catalogue, role) + ')');
+        EcrireRole(base_.R_LSTEVT.TexteElement(n, k));
     }
     for (const NoDocument d : base_.R_LSTIMG.Elements(n)) {
         if (!d || d.valeur >= documents_.size()) continue;

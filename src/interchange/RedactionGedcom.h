@@ -64,6 +64,7 @@ private:
     void EcrireTexteLibre(std::string_view premiereLigne, std::string_view note, Sujet sujet);
     [[nodiscard]] bool EcrireMotCle(std::string_view mot, Sujet sujet);
     void EcrireLiensFamille(NoOrdre n);
+    void EcrireRole(std::string_view role);
     void EcrireAutresLiens(NoOrdre n);
 
     shell::Session& session_;

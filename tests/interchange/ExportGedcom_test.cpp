@@ -224,6 +224,15 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: the header in full has file, language
           "1 SUBM @S1@\n0 @S1@ SUBM\n1 NAME H\xE9l\xE8ne\n1 ADDR 1 rue\n2 CONT Brest\n0 TRLR\n");
 }
 
+TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: an address begins with the first line that is filled") {
+    session.parametres.base.adresse[1] = "2 rue";
+    session.parametres.base.adresse[3] = "Brest";
+    std::string octets;
+    ComptesExport comptes;
+    REQUIRE(ComposerGedcom(session, "x.ged", {}, octets, comptes));
+    CHECK(octets.ends_with("0 @S1@ SUBM\r\n1 ADDR 2 rue\r\n2 CONT Brest\r\n0 TRLR\r\n"));
+}
+
 TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: events are sources with the role of each person") {
     const NoOrdre n = F().Creer('H', "Martin", "Paul", "1820");
     const NoEvenement e = B().NouvelEvenement();
@@ -240,6 +249,15 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: events are sources with the role of e
     SUBCASE("another role stands in parentheses, in words") {
         B().R_LSTEVT.EcrireListe(n, B().R_LSTEVT.ComposerElement(e, "WITN"));
         CHECK(Dit("3 ROLE (T\xE9moin)\n"));
+    }
+    SUBCASE("a known role may be stored in words") {
+        B().R_LSTEVT.EcrireListe(n, B().R_LSTEVT.ComposerElement(e, "Enfant"));
+        CHECK(Dit("3 ROLE CHIL\n"));
+    }
+    SUBCASE("without a role there is no line for it") {
+        B().R_LSTEVT.EcrireListe(n, B().R_LSTEVT.ComposerElement(e, ""));
+        CHECK(Dit("1 SOUR @E1@\n2 EVEN\n"));
+        CHECK_FALSE(Dit("ROLE"));
     }
     SUBCASE("an event out of the table is pointed at by nobody") {
         B().R_TRI.RetirerEvt(e);
