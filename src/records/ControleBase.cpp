@@ -113,7 +113,7 @@ private:
     void ControlerVie() {
         const AnneeLue& naissance = famille_.Naissance(n_);
         const AnneeLue& deces = famille_.Deces(n_);
-        if (!naissance.chiffree || !deces.chiffree) return;
+        if (!naissance.comparable || !deces.comparable) return;
         if (naissance.exacte && deces.exacte) {
             if (*deces.exacte < *naissance.exacte) Dire(510);
             if (*deces.exacte > *naissance.exacte + LongueVie) Dire(496);

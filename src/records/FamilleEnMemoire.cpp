@@ -42,12 +42,15 @@ std::vector<AnneeLue> Annees(Colonne& colonne, Numero dernier,
 
 AnneeLue LireAnnee(std::string_view cellule, const QuatreOctets& forme) {
     AnneeLue annee;
-    annee.pleine = !SansBlancs(cellule).empty();
-    annee.chiffree = std::any_of(cellule.begin(), cellule.end(), EstChiffre);
     annee.tri = forme;
+    cellule = SansBlancs(cellule);
+    annee.pleine = !cellule.empty();
     if (!annee.pleine) return annee;
     annee.exacte = Nombre(TexteDe(forme));
-    annee.decade = Nombre(TexteDe(forme).substr(0, 3));
+    // The form of a short cell begins with zeros that nobody typed: "18?" is no year 180.
+    annee.comparable = annee.exacte || (cellule.size() == forme.size() &&
+                                        std::any_of(cellule.begin(), cellule.end(), EstChiffre));
+    if (annee.comparable) annee.decade = Nombre(TexteDe(forme).substr(0, 3));
     return annee;
 }
 

@@ -14,11 +14,13 @@ namespace dorvane::records {
 
 /// A year as it is compared. An empty one takes part in no comparison.
 struct AnneeLue {
-    bool pleine = false;                   ///< the cell holds anything but blanks
-    bool chiffree = false;                 ///< and a digit: "?" alone tells nothing
+    bool pleine = false;  ///< the cell holds anything but blanks
+    /// A number, or four characters with a digit among them: "?" and "18?" tell nothing.
+    bool comparable = false;
     QuatreOctets tri{};                    ///< comparison form
     std::optional<std::int32_t> exacte{};  ///< the year, when the form is a number
-    std::optional<std::int32_t> decade{};  ///< its first three characters, when they are a number
+    /// The first three characters of a comparable year, when they are a number.
+    std::optional<std::int32_t> decade{};
 };
 
 /// Reads a cell; `forme` is its comparison form.

@@ -393,3 +393,99 @@ TEST_CASE_FIXTURE(Bureau, "Check: cells that point out of the base are findings,
     B().R_MARIAG.ModifierListe(n, NoMariage{60000}, 'A');
     CHECK(Controler(n) == Numeros{487, 511, 512, 515, 516, 519, 523});
 }
+
+TEST_CASE_FIXTURE(Bureau, "Check: any one tie is enough for a person not to be isolated") {
+    const NoOrdre n = Creer('H', "DURAND", "Paul", "1850");
+    const NoOrdre autre = Creer('H', "AUTRE", "Jean", "1820");
+    REQUIRE(A(n, 509));
+    SUBCASE("a father") {
+        B().R_PERE.EcrireCellule(n, autre);
+    }
+    SUBCASE("a mother") {
+        B().R_MERE.EcrireCellule(n, autre);
+    }
+    SUBCASE("a union") {
+        Marier(n, {});
+    }
+    SUBCASE("a child") {
+        B().R_ENFANT.ModifierListe(n, autre, 'A');
+    }
+    SUBCASE("a link") {
+        Lier(n, autre, "voisin");
+    }
+    SUBCASE("an event") {
+        B().R_LSTEVT.ModifierListe(n, NoEvenement{1}, 'A', "WITN");
+    }
+    SUBCASE("a document") {
+        B().R_LSTIMG.ModifierListe(n, NoDocument{1}, 'A');
+    }
+    CHECK_FALSE(A(n, 509));
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: a name of blanks is no name") {
+    CHECK(A(Creer('F', "  ", "Anne", "1850"), 484));
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: years before our era and years that are missing keep the order") {
+    const NoOrdre marc = Creer('H', "ANTOINE", "Marc", "-83");
+    const NoOrdre inconnu = Creer('H', "INCONNU", "Jean");
+    const NoOrdre jean = Creer('H', "DURAND", "Jean", "950");
+    for (const NoOrdre n : {marc, inconnu, jean})
+        CHECK_FALSE(A(n, 506));
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: years before our era are counted as numbers") {
+    const Famille f = Fonder("-100", "-95", "-70", "-75");
+    for (const NoOrdre n : {f.pere, f.mere, f.enfant})
+        CHECK(Controler(n) == Numeros{});
+    B().R_DECES.EcrireCellule(f.enfant, "-71");
+    CHECK(Controler(f.enfant) == Numeros{510});
+    B().R_DECES.EcrireCellule(f.enfant, "30");
+    CHECK(Controler(f.enfant) == Numeros{});
+    B().R_DECES.EcrireCellule(f.enfant, "31");
+    CHECK(Controler(f.enfant) == Numeros{496});
+    B().R_DECES.EcrireCellule(f.enfant, "");
+    B().R_DECES.EcrireCellule(f.pere, "-80");
+    CHECK(Controler(f.enfant) == Numeros{499});
+    B().R_DECES.EcrireCellule(f.pere, "-81");
+    CHECK(Controler(f.enfant) == Numeros{498, 499});
+    B().R_DEBMAR.EcrireCellule(f.mariage, "-69");
+    CHECK(Controler(f.enfant) == Numeros{486, 498, 499});
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: a year that tells no decade is compared with nothing") {
+    for (const char* annee : {"?", "18?", "1?"}) {
+        CAPTURE(annee);
+        Bureau bureau{'0'};
+        const Famille f = bureau.Fonder("1820", "1825", annee, "");
+        CHECK(bureau.Controler(f.enfant) == Numeros{});
+        const Famille g = bureau.Fonder(annee, annee, "1850", "");
+        bureau.B().R_DECES.EcrireCellule(g.pere, annee);
+        bureau.B().R_DECES.EcrireCellule(g.mere, annee);
+        bureau.B().R_DECES.EcrireCellule(g.enfant, annee);
+        for (const NoOrdre n : {g.pere, g.mere, g.enfant})
+            CHECK(bureau.Controler(n) == Numeros{});
+    }
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: a child of no known year after the death of a parent") {
+    const Famille f = Fonder("1820", "1825", "186?");
+    B().R_DECES.EcrireCellule(f.pere, "1850");
+    B().R_DECES.EcrireCellule(f.mere, "1850");
+    CHECK(Controler(f.enfant) == Numeros{});
+    B().R_DECES.EcrireCellule(f.pere, "1849");
+    B().R_DECES.EcrireCellule(f.mere, "1849");
+    CHECK(Controler(f.enfant) == Numeros{497, 498});
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: only a union of both parents is compared with the birth") {
+    const NoOrdre pere = Creer('H', "DURAND", "Jean", "1820");
+    const NoOrdre mere = Creer('F', "MARTIN", "Anne", "1825");
+    const NoOrdre enfant = Creer('H', "DURAND", "Paul", "1850");
+    Parents(enfant, pere, {});
+    CHECK(Controler(enfant) == Numeros{});  // nor does one parent alone ask for any
+    B().R_MERE.EcrireCellule(enfant, mere);
+    B().R_ENFANT.ModifierListe(mere, enfant, 'A');
+    Marier(pere, Creer('F', "AUTRE", "Eve", "1825"), "1860");
+    CHECK(Controler(enfant) == Numeros{});
+}
