@@ -16,8 +16,8 @@ struct AppelOutil {
     std::filesystem::path dossier;  ///< where it runs
 };
 
-/// How the floor above runs a program and waits for its end. False when it could not be started,
-/// or was ended otherwise than by itself.
+/// How the floor above runs a program and waits for its end. False when it could not be started
+/// or crashed; true when the user has ended it.
 using LancerOutil = std::function<bool(const AppelOutil&)>;
 /// How it shows the report of the tool.
 using MontrerFichier = std::function<void(const std::filesystem::path&)>;

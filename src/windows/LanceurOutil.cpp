@@ -34,7 +34,7 @@ bool LancerEtAttendre(shell::Session& session, const interchange::AppelOutil& ap
         outil.terminate();
         if (!outil.waitForFinished(DelaiArretMs)) outil.kill();
         outil.waitForFinished(DelaiArretMs);
-        return false;
+        return true;
     }
     return outil.exitStatus() == QProcess::NormalExit;
 }

@@ -9,7 +9,9 @@
 #include "shell/Session.h"
 #include "windows/FrmReleve.h"
 #include "windows/LanceurOutil.h"
+#include "windows/Legendes.h"
 #include "windows/MDIForm1.h"
+#include "windows/OuvrirTexte.h"
 #include "windows/Unicode.h"
 
 #include <optional>
@@ -61,11 +63,7 @@ void MDIForm1::Geneanet() {
         session_,
         [this](const interchange::AppelOutil& appel) { return LancerEtAttendre(session_, appel); },
         [this](const std::filesystem::path& fichier) {
-            const std::optional<std::string> octets = shell::LireTout(fichier);
-            if (!octets) return;
-            MontrerRapport(session_.Message(4183), Utf8VersTexte(*octets).remplaces == 0
-                                                       ? Utf8VersTexte(*octets).octets
-                                                       : *octets);
+            OuvrirTexte(session_, fichier, TexteEcran(session_, 4183), *this);
         });
 }
 

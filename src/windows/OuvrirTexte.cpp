@@ -6,11 +6,13 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QStringDecoder>
 
 #include "shell/FichierSur.h"
 #include "shell/Session.h"
 #include "windows/DialogueQt.h"
 #include "windows/FrmRapport.h"
+#include "windows/Unicode.h"
 
 #include <functional>
 #include <optional>
@@ -108,7 +110,11 @@ void OuvrirTexte(shell::Session& session, const std::filesystem::path& fichier,
     const auto montrer = [&session, fichier, titre, &parent] {
         const std::optional<std::string> texte = shell::LireTout(fichier);
         if (!texte) return;
-        auto* rapport = new FrmRapport{session, titre, QString::fromStdString(*texte), &parent};
+        // A tool of old may have written it in the code page.
+        QStringDecoder utf8{QStringDecoder::Utf8, QStringDecoder::Flag::Stateless};
+        QString lu = utf8.decode(QByteArray::fromStdString(*texte));
+        if (utf8.hasError()) lu = TexteVersQt(*texte);
+        auto* rapport = new FrmRapport{session, titre, lu, &parent};
         rapport->show();
     };
     const auto parLeBureau = [montrer, fichier, &parent] {
