@@ -34,6 +34,54 @@ std::vector<std::uint16_t> Nettoyer(AtelierDepannage& a, const std::vector<std::
     return garde;
 }
 
+/// Adds the records that `cites` names and no rank does: a rank that was overwritten has lost its
+/// record, but the lists of the persons still have it. What nobody names may have been deleted.
+template <class EstLa>
+void Retrouver(AtelierDepannage& a, std::vector<std::uint16_t>& garde,
+               const std::vector<bool>& cites, EstLa estLa, std::string_view objet) {
+    std::vector<bool> la(1ULL << 16U);
+    for (const std::uint16_t n : garde)
+        la[n] = true;
+    for (std::uint32_t n = 1; n < cites.size(); ++n) {
+        if (!cites[n] || la[n] || !estLa(static_cast<std::uint16_t>(n))) continue;
+        garde.push_back(static_cast<std::uint16_t>(n));
+        a.Noter("Ajout Indice " + std::to_string(garde.size()),
+                "Ajout " + std::string{objet} + ' ' + std::to_string(n));
+    }
+}
+
+/// The events that a person lists and that list the person.
+std::vector<bool> EvenementsCites(AtelierDepannage& a) {
+    storage::Base& b = a.base;
+    std::vector<bool> cites(1ULL << 16U);
+    for (const std::uint16_t numero : b.R_TRI.individus.Numeros()) {
+        const NoOrdre n{numero};
+        const std::size_t nombre = b.R_LSTEVT.NbElements(n);
+        for (std::size_t k = 1; k <= nombre; ++k) {
+            const NoEvenement e = b.R_LSTEVT.ElementListe(n, k);
+            if (e.valeur > b.entete.DernierEvenement || cites[e.valeur]) continue;
+            const std::vector<storage::LienEvenement> liens = b.R_EVT.Liens(e);
+            cites[e.valeur] = std::any_of(liens.begin(), liens.end(),
+                                          [n](const auto& lien) { return lien.individu == n; });
+        }
+    }
+    return cites;
+}
+
+/// The documents of the persons and of these events.
+std::vector<bool> DocumentsCites(AtelierDepannage& a,
+                                 const std::vector<std::uint16_t>& evenements) {
+    storage::Base& b = a.base;
+    std::vector<bool> cites(1ULL << 16U);
+    for (const std::uint16_t n : b.R_TRI.individus.Numeros())
+        for (const NoDocument d : b.R_LSTIMG.Elements(NoOrdre{n}))
+            cites[d.valeur] = true;
+    for (const std::uint16_t e : evenements)
+        for (const NoDocument d : b.R_EVT.Documents(NoEvenement{e}))
+            cites[d.valeur] = true;
+    return cites;
+}
+
 bool EstTriee(AtelierDepannage& a) {
     if (a.base.entete.TypeTri != '1' && a.base.entete.TypeTri != '2') return true;
     std::string avant;
@@ -100,21 +148,27 @@ bool DepannerTris(AtelierDepannage& a) {
     a.Phase(MsgPhaseTris);
     if (!a.Continuer(0, 3)) return false;
     DepannerIndividus(a);
-    std::vector<std::uint16_t> documents = Nettoyer(
-        a, b.R_TRI.documents.Numeros(), b.entete.NbTriDocuments,
+    const auto estDocument = [&](std::uint16_t d) {
+        return d <= b.entete.DernierDocument && b.R_IMAGE.LireCellule(NoDocument{d});
+    };
+    const auto estEvenement = [&](std::uint16_t e) {
+        return e <= b.entete.DernierEvenement && b.R_EVT.LireCellule(NoEvenement{e});
+    };
+    constexpr std::string_view Evenement = "événement"_1252;
+    std::vector<std::uint16_t> documents =
+        Nettoyer(a, b.R_TRI.documents.Numeros(), b.entete.NbTriDocuments, estDocument, "document");
+    std::vector<std::uint16_t> evenements = Nettoyer(
+        a, b.R_TRI.evenements.Numeros(), b.entete.NbTriEvenements, estEvenement, Evenement);
+    Retrouver(a, evenements, EvenementsCites(a), estEvenement, Evenement);
+    Retrouver(
+        a, documents, DocumentsCites(a, evenements),
         [&](std::uint16_t d) {
-            return d <= b.entete.DernierDocument && b.R_IMAGE.LireCellule(NoDocument{d});
+            return estDocument(d) && b.R_IMAGE.LireDoc(NoDocument{d}) != storage::Document{};
         },
         "document");
     DepannerTable(a, b.R_TRI.documents, b.entete.NbTriDocuments, b.marques.ModifTriDocuments,
                   std::move(documents),
                   [&](std::uint16_t d) { return Replie(b.R_IMAGE.TitreDoc(NoDocument{d})); });
-    std::vector<std::uint16_t> evenements = Nettoyer(
-        a, b.R_TRI.evenements.Numeros(), b.entete.NbTriEvenements,
-        [&](std::uint16_t e) {
-            return e <= b.entete.DernierEvenement && b.R_EVT.LireCellule(NoEvenement{e});
-        },
-        "événement"_1252);
     DepannerTable(a, b.R_TRI.evenements, b.entete.NbTriEvenements, b.marques.ModifTriEvenements,
                   std::move(evenements),
                   [&](std::uint16_t e) { return b.R_EVT.CleDateEvt(NoEvenement{e}); });

@@ -395,6 +395,54 @@ TEST_CASE_FIXTURE(Bureau, "Repair: events and documents against the lists of per
     Sain();
 }
 
+TEST_CASE_FIXTURE(
+    Bureau, "Repair: documents and events that persons name come back when their rank is lost") {
+    const NoOrdre jean = Homme("Jean");
+    const auto document = [&](const char* titre) {
+        const NoDocument d = B().NouveauDocument();
+        B().R_IMAGE.EcrireDoc(d, {titre, "a.jpg", "", "Une note"});
+        B().R_TRI.AjouterDocument(d);
+        return d;
+    };
+    const NoDocument abbaye = document("Abbaye");
+    const NoDocument pont = document("Pont");
+    const NoDocument zinc = document("Zinc");
+    const NoDocument inutile = document("Inutile");
+    const NoDocument efface = document("Moulin");
+    std::vector<NoEvenement> actes;
+    for (const std::int32_t date : {100, 300}) {
+        const NoEvenement e = actes.emplace_back(B().NouvelEvenement());
+        B().R_EVT.EcrireEvt(e, {.cleDate = date,
+                                .liens = {{{jean, "WITN"}}},
+                                .documents = {{zinc}},
+                                .description = storage::DescriptionEvt{"Brest", "", "CENS"}});
+        B().R_TRI.AjouterEvt(e);
+        B().R_LSTEVT.ModifierListe(jean, e, 'A', "WITN");
+    }
+    for (const NoDocument d : {abbaye, efface})
+        B().R_LSTIMG.ModifierListe(jean, d, 'A');
+    B().R_IMAGE.EffacerDoc(efface);
+    // Each rank of the documents names the second one, that of the events the later one.
+    for (std::uint32_t rang = 1; rang <= 5; ++rang)
+        B().R_TRI.FixerRang(rang, pont);
+    B().R_TRI.FixerRang(1, actes[1]);
+    Depanner();
+    CHECK(B().R_TRI.evenements.Numeros() ==
+          std::vector{static_cast<std::uint16_t>(actes[0].valeur),
+                      static_cast<std::uint16_t>(actes[1].valeur)});
+    // One that nobody names may be a deleted one.
+    CHECK(B().R_TRI.documents.Numeros() == std::vector{static_cast<std::uint16_t>(abbaye.valeur),
+                                                       static_cast<std::uint16_t>(pont.valeur),
+                                                       static_cast<std::uint16_t>(zinc.valeur)});
+    CHECK(B().entete.NbTriDocuments == 3);
+    CHECK(B().entete.NbTriEvenements == 2);
+    CHECK(B().R_LSTIMG.Elements(jean) == std::vector{abbaye});
+    CHECK(B().R_EVT.Documents(actes[0]) == std::vector{zinc});
+    CHECK(B().R_LSTEVT.NbElements(jean) == 2);
+    B().R_IMAGE.EffacerDoc(inutile);
+    Sain();
+}
+
 TEST_CASE_FIXTURE(Bureau, "Repair: word lists that do not tell the texts are made anew") {
     const NoOrdre jean = Homme("Jean");
     EcrireTexteIndividu(session, jean, "$Brest ~Lyon");
