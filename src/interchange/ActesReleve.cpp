@@ -2,10 +2,12 @@
 #include "interchange/ActesReleve.h"
 
 #include "interchange/LectureActe.h"
+#include "interchange/NomGedcom.h"
 #include "shell/Libelles.h"
 #include "values/Comparaison.h"
 #include "values/Texte1252.h"
 
+#include <algorithm>
 #include <charconv>
 #include <map>
 #include <optional>
@@ -31,6 +33,22 @@ constexpr std::uint32_t SosaDouble = 4158;
 constexpr std::uint32_t SansEnfant = 4159;
 constexpr std::uint32_t BasePleine = 4160;
 constexpr std::uint32_t SansConjoint = 4162;
+constexpr std::uint32_t ValeurTropLongue = 4163;
+
+/// Persons whom one line may name.
+std::uint32_t PersonnesParActe(SorteReleve sorte) {
+    switch (sorte) {
+        case SorteReleve::Bapteme:
+            return 3;
+        case SorteReleve::Mariage:
+            return 6;
+        case SorteReleve::Sepulture:
+            return 4;
+        case SorteReleve::Ascendance:
+            break;
+    }
+    return 1;
+}
 
 std::string NomComplet(std::string_view nom, std::string_view prenoms) {
     std::string complet{prenoms};
@@ -61,7 +79,8 @@ public:
             ligne_ = &ligne;
             if (ligne.trop || ligne.champs.size() > TitresColonnes(releve_.sorte).size())
                 Noter(TropDeColonnes);
-            if (!ecrivain_.APlace())
+            if (EstTropLongue(ligne)) Noter(ValeurTropLongue);
+            if (!ecrivain_.APlace(PersonnesParActe(releve_.sorte)))
                 Noter(BasePleine);
             else if (Reprendre())
                 ++rapport_.lignes;
@@ -78,6 +97,13 @@ private:
 
     [[nodiscard]] std::string_view Champ(std::size_t colonne) const {
         return ligne_->Champ(colonne);
+    }
+    /// Names are cut at this length; remarks, in the last column, have no limit.
+    [[nodiscard]] bool EstTropLongue(const LigneReleve& ligne) const {
+        const std::size_t remarques = TitresColonnes(releve_.sorte).size() - 1;
+        for (std::size_t i = 0; i < std::min(remarques, ligne.champs.size()); ++i)
+            if (ligne.champs[i].size() > NomLePlusLong) return true;
+        return false;
     }
     void Noter(std::uint32_t message) {
         rapport_.constats.push_back({ligne_->numero, NoMessage{message}});

@@ -12,8 +12,6 @@ namespace dorvane::interchange {
 
 namespace {
 
-/// Persons of the largest act: two partners and their parents.
-constexpr std::uint32_t MaxParActe = 6;
 /// Bytes of a place or title that fit the description of an event many times over.
 constexpr std::size_t MaxChampEvenement = 1000;
 
@@ -23,14 +21,15 @@ std::string Propre(std::string_view champ) {
     return propre;
 }
 
+/// `individus`: with those who are to come.
 bool TientEncore(std::uint32_t individus, std::uint32_t evenements) {
-    return individus + MaxParActe <= storage::MaxIndividus && evenements < storage::MaxEvenements;
+    return individus <= storage::MaxIndividus && evenements < storage::MaxEvenements;
 }
 
 }  // namespace
 
-bool CompteActes::APlace() const {
-    return TientEncore(individus, evenements);
+bool CompteActes::APlace(std::uint32_t personnes) const {
+    return TientEncore(individus + personnes, evenements);
 }
 
 NoOrdre CompteActes::Creer(const PersonneActe& personne) {
@@ -66,8 +65,8 @@ EcrivainReleve::EcrivainReleve(storage::Base& base, SorteReleve sorte)
     base_.motsCles.Reordonner(ordre);
 }
 
-bool EcrivainReleve::APlace() const {
-    return TientEncore(base_.entete.DernierIndividu, base_.entete.DernierEvenement);
+bool EcrivainReleve::APlace(std::uint32_t personnes) const {
+    return TientEncore(base_.entete.DernierIndividu + personnes, base_.entete.DernierEvenement);
 }
 
 NoOrdre EcrivainReleve::Creer(const PersonneActe& p) {

@@ -47,8 +47,8 @@ public:
     SortieActes(const SortieActes&) = delete;
     SortieActes& operator=(const SortieActes&) = delete;
 
-    /// There is room for the persons of one more act, and for its event.
-    [[nodiscard]] virtual bool APlace() const = 0;
+    /// There is room for so many persons more, and for an event.
+    [[nodiscard]] virtual bool APlace(std::uint32_t personnes) const = 0;
     /// 0 for an empty person.
     virtual NoOrdre Creer(const PersonneActe& personne) = 0;
     /// Both parents, either of which may be 0.
@@ -64,7 +64,7 @@ public:
 /// Writes nothing: tells how many records there would be.
 class CompteActes final : public SortieActes {
 public:
-    [[nodiscard]] bool APlace() const override;
+    [[nodiscard]] bool APlace(std::uint32_t personnes) const override;
     NoOrdre Creer(const PersonneActe& personne) override;
     void Rattacher(NoOrdre /*enfant*/, NoOrdre /*pere*/, NoOrdre /*mere*/) override {}
     NoMariage Unir(NoOrdre epoux, NoOrdre epouse, const DateLue& date,
@@ -84,7 +84,7 @@ public:
     /// `base` is new and outlives the object. The keywords of the kind get numbers from 1.
     EcrivainReleve(storage::Base& base, SorteReleve sorte);
 
-    [[nodiscard]] bool APlace() const override;
+    [[nodiscard]] bool APlace(std::uint32_t personnes) const override;
     NoOrdre Creer(const PersonneActe& personne) override;
     void Rattacher(NoOrdre enfant, NoOrdre pere, NoOrdre mere) override;
     NoMariage Unir(NoOrdre epoux, NoOrdre epouse, const DateLue& date,

@@ -249,6 +249,26 @@ TEST_CASE_FIXTURE(EssaiReleve, "a cancel leaves no base") {
     CHECK_FALSE(std::filesystem::exists(chemin));
 }
 
+TEST_CASE_FIXTURE(EssaiReleve, "a survey fills a base up to its last person") {
+    std::string lignes;
+    for (int i = 1; i <= 64001; ++i)
+        lignes += std::to_string(i) + ";D;J\n";
+    Importer(Sorte::Ascendance, lignes);
+    CHECK(base->entete.NbTriIndividus == 64000);
+    CHECK(base->entete.DernierMariage == 31999);
+    CHECK(Constats() == Messages{4160});
+    CHECK(rapport.constats[0].ligne == 64001);
+}
+
+TEST_CASE_FIXTURE(EssaiReleve, "a name that is cut is told, a long remark is kept whole") {
+    const std::string longue(301, 'N');
+    Importer(Sorte::Bapteme, "1780;1;1;Mer;" + longue + ";Luc;M;;;;;" + longue + "\n1780;1;1;Mer;" +
+                                 longue.substr(1) + ";Jean;M\n");
+    CHECK(Constats() == Messages{4163});
+    CHECK(base->R_NOM.NomDe(NoOrdre{1}) == longue.substr(1));
+    CHECK(base->R_EVT.NoteEvt(NoEvenement{1}).ends_with("\r\n" + longue));
+}
+
 TEST_CASE_FIXTURE(EssaiReleve, "a survey past the limit of events keeps what fits") {
     std::string lignes;
     for (int i = 0; i < 32010; ++i)
