@@ -297,6 +297,96 @@ TEST_CASE("a reorganisation drops what is dead and leaves nothing beside") {
     CHECK(e.base->LireCommune(NoCommune{1}) == Blois());
 }
 
+TEST_CASE("a base written anew has its counts, and its sentinels behind the last entries") {
+    const auto compte = [](const std::string& octets, std::size_t decalage) {
+        return Chaine4VersNum(std::string_view{octets}.substr(decalage));
+    };
+    // The text that an entry of an index begins with.
+    const auto entree = [&](const std::string& octets, std::size_t repertoire, std::size_t i) {
+        const std::size_t cellule = compte(octets, repertoire) - 1 + 4 * (i - 1);
+        const std::string texte = octets.substr(compte(octets, cellule) - 1, 20);
+        return texte.substr(0, texte.find('#'));
+    };
+    EssaiCommunes e;
+    SUBCASE("of an empty base") {
+        REQUIRE(e.base->ReorganiserCommunes(e.muet));
+        const std::string octets = e.disque.Octets(Chemin);
+        CHECK(compte(octets, 4) == 0);
+        CHECK(compte(octets, 264) == 1);
+        CHECK(compte(octets, 524) == 1);
+        CHECK(compte(octets, 784) == 0);
+        CHECK(entree(octets, 268, 1) == "Zzzzzzzzzz");
+        CHECK(entree(octets, 528, 1) == "Zzzz");
+    }
+    SUBCASE("of homonyms and others") {
+        for (const Commune& c : {Nommer("Mer"), Blois(), Nommer("Mer", "Sarthe"), Blois()})
+            e.base->AjouterCommune(c);
+        Commune muette = Blois();
+        muette.commentaire.clear();
+        REQUIRE(e.base->MajCommune(NoCommune{4}, muette));
+        e.Rouvrir();
+        CHECK(compte(e.disque.Octets(Chemin), 784) == 1);
+        REQUIRE(e.base->ReorganiserCommunes(e.muet));
+        const std::string octets = e.disque.Octets(Chemin);
+        CHECK(compte(octets, 0) == octets.size());
+        CHECK(compte(octets, 4) == 4);
+        CHECK(compte(octets, 264) == 3);
+        CHECK(compte(octets, 524) == 3);
+        CHECK(compte(octets, 784) == 1);
+        CHECK(entree(octets, 268, 2) == CleCommune("Mer"));
+        CHECK(entree(octets, 268, 3) == "Zzzzzzzzzz");
+        CHECK(entree(octets, 528, 3) == "Zzzz");
+    }
+}
+
+TEST_CASE("a base that has been saved is not written again") {
+    EssaiCommunes e;
+    e.base->AjouterCommune(Blois());
+    REQUIRE(e.base->EnregistrerCommunes() == EcritureCommunes::Faite);
+    CHECK_FALSE(e.base->Modifiee());
+    const int avant = e.disque.operations;
+    CHECK(e.base->EnregistrerCommunes() == EcritureCommunes::Faite);
+    CHECK(e.disque.operations == avant);
+}
+
+TEST_CASE("a new file that cannot take its place is not left beside") {
+    for (const bool reorganise : {false, true}) {
+        EssaiCommunes temoin;
+        temoin.base->AjouterCommune(Blois());
+        const auto ecrire = [reorganise](EssaiCommunes& e) {
+            return reorganise ? e.base->ReorganiserCommunes(e.muet)
+                              : e.base->EnregistrerCommunes() == EcritureCommunes::Faite;
+        };
+        const int debut = temoin.disque.operations;
+        REQUIRE(ecrire(temoin));
+        const int nombre = temoin.disque.operations - debut;
+        for (int operation = 1; operation <= nombre; ++operation) {
+            CAPTURE(operation);
+            EssaiCommunes e;
+            e.base->AjouterCommune(Blois());
+            e.disque.panne = Panne::Refus;
+            e.disque.panneA = e.disque.operations + operation;
+            static_cast<void>(ecrire(e));
+            CHECK_FALSE(e.disque.Existe("France.lgx.nouveau"));
+            CHECK_FALSE(e.disque.Existe("Commune.reo"));
+        }
+    }
+}
+
+TEST_CASE("a full base takes no further commune") {
+    EssaiCommunes e;
+    std::string octets;
+    REQUIRE(ComposerLgx(std::vector<Commune>(BaseCommunes::MaxCommunes, Nommer("Mer")), e.muet,
+                        octets));
+    e.disque.Poser(Chemin, octets);
+    e.Ouvrir();
+    CHECK_FALSE(bool{e.base->AjouterCommune(Blois())});
+    CHECK(e.base->Nombre() == BaseCommunes::MaxCommunes);
+    CHECK_FALSE(e.base->Modifiee());
+    CHECK_FALSE(ComposerLgx(std::vector<Commune>(BaseCommunes::MaxCommunes + 1, Nommer("Mer")),
+                            e.muet, octets));
+}
+
 TEST_CASE("a disk that refuses leaves the old file, at whatever operation") {
     for (const Panne panne : {Panne::Refus, Panne::Plein, Panne::Dechirure}) {
         for (int operation = 1; operation <= 6; ++operation) {

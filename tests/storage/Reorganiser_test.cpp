@@ -329,6 +329,34 @@ TEST_CASE_FIXTURE(Bureau,
     CHECK(neuve->R_INDEX.MotIndex(NoIndex{25700}) == "M125699");
 }
 
+TEST_CASE_FIXTURE(Bureau, "Reorganisation: order, options and rows of the base stay") {
+    base->entete.TypeTri = '2';
+    base->entete.OptPrenomUnique = true;
+    base->entete.OptParticules = true;
+    base->entete.OptOrigine97 = true;
+    base->entete.SlotsIndividu[1] = {'%', '1'};
+    base->marques.ModifBase = true;
+    const std::unique_ptr<Base> neuve = Ouvrir(Reorganiser());
+    CHECK(neuve->entete.TypeTri == '2');
+    CHECK(neuve->entete.OptPrenomUnique);
+    CHECK(neuve->entete.OptParticules);
+    CHECK(neuve->entete.OptOrigine97);
+    CHECK(neuve->entete.SlotsIndividu == base->entete.SlotsIndividu);
+}
+
+TEST_CASE_FIXTURE(Bureau, "Reorganisation: what two ranks name is there once") {
+    const NoOrdre jean = famille.Creer('H', "DURAND", "Jean");
+    const NoDocument d = base->NouveauDocument();
+    base->R_IMAGE.EcrireDoc(d, {"Titre", "a.jpg", "", ""});
+    base->R_TRI.AjouterDocument(d);
+    base->R_TRI.FixerRang(++base->entete.NbTriDocuments, d);
+    base->R_TRI.FixerRang(++base->entete.NbTriIndividus, jean);
+    const std::unique_ptr<Base> neuve = Ouvrir(Reorganiser());
+    CHECK(neuve->entete.DernierDocument == 1);
+    CHECK(neuve->R_TRI.documents.Numeros() == std::vector<std::uint16_t>{1});
+    CHECK(neuve->R_TRI.individus.Numeros() == std::vector<std::uint16_t>{1});
+}
+
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: a year keeps its place in its cell") {
     const NoOrdre jean = famille.Creer('H', "DURAND", "Jean", "18", "44");
     // As another program may have left it.
