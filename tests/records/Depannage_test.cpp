@@ -119,6 +119,7 @@ TEST_CASE_FIXTURE(Bureau,
                   "and index words") {
     const NoOrdre anne = Femme("Anne");
     const NoMariage m = Marier({}, anne, "1850");
+    B().R_FINMAR.EcrireCellule(m, "1860");
     EcrireTexteMariage(session, m, "1/2@Brest");
     B().R_EPOUX.EcrireCellule(m, NoOrdre{500});
     const std::vector<std::string> voulues{
@@ -127,6 +128,8 @@ TEST_CASE_FIXTURE(Bureau,
     CHECK(Depanner() == voulues);
     CHECK(B().R_MARIAG.NbElements(anne) == 0);
     CHECK(B().R_EPOUSE.LireCellule(m) == NoOrdre{});
+    CHECK(B().R_DEBMAR.LireCellule(m).empty());
+    CHECK(B().R_FINMAR.LireCellule(m).empty());
     CHECK(B().R_TXTMAR.LireTexte(m).empty());
     CHECK(B().R_INDEX.ListeMots(NoMotCle{4}).empty());
     Sain();
@@ -165,6 +168,47 @@ TEST_CASE_FIXTURE(Bureau, "Repair: a deleted partner leaves the union to the one
     CHECK(B().R_EPOUX.LireCellule(m) == NoOrdre{});
     CHECK(B().R_MARIAG.Elements(anne) == std::vector{m});
     CHECK(B().R_DEBMAR.LireCellule(m) == "1850");
+    Sain();
+}
+
+TEST_CASE_FIXTURE(Bureau, "Repair: the words of a union leave a partner who was deleted") {
+    const NoOrdre jean = Homme("Jean");
+    const NoOrdre anne = Femme("Anne");
+    const NoMariage m = Marier(jean, anne, "1850");
+    EcrireTexteMariage(session, m, "1/2@Brest");
+    B().R_TRI.RetirerIndividu(jean);
+    B().R_NOM.EcrireNom(jean, "");
+    B().R_SEXE.EcrireCellule(jean, ' ');
+    B().R_NAISS.EcrireCellule(jean, "");
+    B().R_MARIAG.ModifierListe(jean, m, 'S');
+    B().marques.AffichagePerime = false;
+    // The list of words need not be made anew for that.
+    CHECK(Depanner() ==
+          std::vector<std::string>{"Suppression Conjoint 1\tSuppression conjoint du mariage 1"});
+    const NoIndex brest = B().R_INDEX.ChercherMot(NoMotCle{4}, "BREST");
+    CHECK(B().R_INDEX.PersonnesIndex(brest) == std::vector{anne});
+    CHECK(B().marques.AffichagePerime);
+    Sain();
+}
+
+TEST_CASE_FIXTURE(Bureau, "Repair: full lists make room even for who comes first in the order") {
+    const NoOrdre jean = Homme("Jean", "1820");
+    const NoOrdre fils = Homme("Paul", "1800");
+    const NoOrdre anne = Femme("Anne");
+    const NoMariage autre = Marier(Homme("Louis"), Femme("Eve"));
+    const NoMariage union_ = Marier(jean, anne, "1850");
+    B().R_MARIAG.ModifierListe(jean, union_, 'S');
+    for (int i = 0; i < 200; ++i) {
+        B().R_ENFANT.ModifierListe(jean, anne, 'A');
+        B().R_MARIAG.ModifierListe(jean, autre, 'A');
+    }
+    REQUIRE(B().R_ENFANT.NbElements(jean) == 200);
+    REQUIRE(B().R_MARIAG.NbElements(jean) == 200);
+    B().R_PERE.EcrireCellule(fils, jean);
+    Depanner();
+    CHECK(B().R_ENFANT.Elements(jean) == std::vector{fils});
+    CHECK(B().R_MARIAG.Elements(jean) == std::vector{union_});
+    CHECK(B().marques.AffichagePerime);
     Sain();
 }
 
