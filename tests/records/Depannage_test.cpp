@@ -347,7 +347,9 @@ TEST_CASE_FIXTURE(Bureau, "Repair: children of a list who are others' or nobody'
     B().R_ENFANT.ModifierListe(jean, paul, 'A');
     B().R_ENFANT.ModifierListe(jean, NoOrdre{60000}, 'A');
     B().R_ENFANT.ModifierListe(indetermine, paul, 'A');
+    B().marques.AffichagePerime = false;
     CHECK(Depanner().size() == 3);
+    CHECK(B().marques.AffichagePerime);
     CHECK(B().R_ENFANT.NbElements(jean) == 0);
     Sain();
 }
@@ -485,6 +487,27 @@ TEST_CASE_FIXTURE(
     CHECK(B().R_LSTEVT.NbElements(jean) == 2);
     B().R_IMAGE.EffacerDoc(inutile);
     Sain();
+}
+
+TEST_CASE_FIXTURE(Bureau, "Repair: a record in no rank that is nobody's, or garbage, stays away") {
+    const NoOrdre jean = Homme("Jean");
+    const NoOrdre anne = Femme("Anne");
+    // An event of Anne alone, and a document whose record has no end.
+    const NoEvenement e = B().NouvelEvenement();
+    B().R_EVT.EcrireEvt(e, {.cleDate = 5,
+                            .liens = {{{anne, "WITN"}}},
+                            .description = storage::DescriptionEvt{"Brest", "", "CENS"}});
+    B().R_LSTEVT.ModifierListe(jean, e, 'A', "WITN");
+    const NoDocument d = B().NouveauDocument();
+    B().R_IMAGE.EcrireCellule(d, B().volume.Ajouter(std::string(40000, 'x')));
+    B().R_LSTIMG.ModifierListe(jean, d, 'A');
+    Depanner();
+    CHECK(B().R_TRI.evenements.Numeros().empty());
+    CHECK(B().R_TRI.documents.Numeros().empty());
+    CHECK(B().R_LSTEVT.NbElements(jean) == 0);
+    CHECK(B().R_LSTIMG.NbElements(jean) == 0);
+    Depanner();
+    CHECK(bilan.reparations == 0);
 }
 
 TEST_CASE_FIXTURE(Bureau, "Repair: word lists that do not tell the texts are made anew") {
