@@ -120,23 +120,28 @@ TEST_CASE_FIXTURE(Foyer,
                   "An exchange text: the settings of the base, the persons only when written") {
     session.PersonneEnCours = jean;
     session.deCujus[0].individu = luc;
+    session.deCujus[1].individu = anne;
     session.parametres.base.auteur = "Moi";
     session.parametres.base.typeDocument = "Photo/Acte/";
     OptionsLgr options;
     options.choisis = {false, true, true, false};
     const std::string ini = Section(Exporter(options), "[INI]", "[FIN INI]");
     CHECK(ini.starts_with("Couleur Fond=16711808\nD\xE9grad\xE9=1\n"));
-    CHECK(ini.find("Personne en cours=1\nAffichage Nom=FNAM/BIRN/\n") != std::string::npos);
-    CHECK(ini.find("De Cujus") == std::string::npos);
+    CHECK(ini.find("Personne en cours=1\nDe Cujus 2=2\nAffichage Nom=FNAM/BIRN/\n") !=
+          std::string::npos);
+    CHECK(ini.find("De Cujus=") == std::string::npos);
     CHECK(ini.ends_with("Auteur=Moi\nType Document 1=Photo\nType Document 2=Acte\n"));
 }
 
 TEST_CASE_FIXTURE(Foyer,
                   "A selection: others are neither parents, partners, links nor participants") {
+    Participer(bapteme, anne, "MOTH");
     OptionsLgr options;
     options.choisis = {false, true, false, true};
     const std::string octets = Exporter(options);
     CHECK(comptes.individus == 2);
+    CHECK(Section(octets, "[EVENEMENTS]", "[FIN EVENEMENTS]").find("\nLe sien\n 3 ;\n 1 ;\n") !=
+          std::string::npos);
     const std::string individus = Section(octets, "[INDIVIDUS]", "[FIN INDIVIDUS]");
     CHECK(individus.find("voisin") == std::string::npos);
     CHECK(individus.find("\nH\n\n\n 1 \n 0 \n#\n") != std::string::npos);

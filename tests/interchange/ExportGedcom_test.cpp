@@ -77,6 +77,16 @@ TEST_CASE("EcrivainGedcom: the blank at which a line is cut is dropped") {
     CHECK(Lignes(ecrivain) == "1 NOTE " + mot + "\n2 CONC " + mot + "\n2 CONC " + mot + '\n');
 }
 
+TEST_CASE("EcrivainGedcom: a rest of exactly 60 characters is cut again at its blank") {
+    const std::string mot(30, 'b');
+    const std::string rest = std::string(29, 'c') + ' ' + mot;
+    REQUIRE(rest.size() == 60);
+    EcrivainGedcom ecrivain{JeuExport::Ansi};
+    CHECK(ecrivain.Texte("1 NOTE ", 2, std::string(50, 'a') + ' ' + rest));
+    CHECK(Lignes(ecrivain) == "1 NOTE " + std::string(50, 'a') + "\n2 CONC " +
+                                  std::string(29, 'c') + "\n2 CONC " + mot + '\n');
+}
+
 TEST_CASE("EcrivainGedcom: paragraphs, empty ones and an empty text") {
     EcrivainGedcom ecrivain{JeuExport::Ansi};
     CHECK(ecrivain.Texte("1 NOTE ", 2, "un\r\n\r\ndeux"));

@@ -159,6 +159,25 @@ TEST_CASE_FIXTURE(Lecture, "Below 97.0 labels are those of the language, from th
     CHECK(neuve->entete.LibellesNeutres);
 }
 
+TEST_CASE_FIXTURE(Lecture, "Below 97.0 roles and links are in words as well") {
+    const std::string lignes =
+        "[INDIVIDUS]\n"
+        " 1 \nA;;;;\nH\n\n\n 0 \n 0 \n#\n#\n 2 \nT\xE9moin\n{Ev\xE9nements}\n 1 ;Enfant\n#\n"
+        " 2 \nB;;;;\nF\n\n\n 0 \n 0 \n#\n#\n#\n[FIN INDIVIDUS]\n"
+        "[EVENEMENTS]\n 1 \n0\n\nCHR\n\n 1 ;\n\n#\n[FIN EVENEMENTS]\n";
+    const auto textes = [this](const std::string& lien, const std::string& role) {
+        REQUIRE(importation.faite);
+        CHECK(neuve->R_LIEN.TexteElement(NoOrdre{1}, 1) == lien);
+        CHECK(neuve->R_LIEN.TexteElement(NoOrdre{2}, 1) == lien);
+        CHECK(neuve->R_LSTEVT.TexteElement(NoOrdre{1}, 1) == role);
+        CHECK(neuve->R_EVT.Liens(NoEvenement{1}).at(0).role == role);
+    };
+    Lire(lignes, "5.0");
+    textes("WITN", "CHIL");
+    Lire(lignes, "97.0");
+    textes("T\xE9moin", "Enfant");
+}
+
 TEST_CASE_FIXTURE(
     Lecture, "Sections come in any order, unknown ones and lines after the end are passed over") {
     const std::size_t unions = Famille.find("[MARIAGES]");
