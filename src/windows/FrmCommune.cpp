@@ -61,6 +61,7 @@ FrmCommune::FrmCommune(shell::Session& session, QWidget* parent)
         Avertir(*avis);
     ui_->Volets->restoreState(QByteArray::fromBase64(
         QByteArray::fromStdString(session.parametres.Valeur(SectionVolets, CleVolets))));
+    PoserMasques();
     PoserMenuListe();
     Connecter();
     Traduire();

@@ -65,6 +65,8 @@ private:
     /// Selects a commune, if need be by another search.
     void AllerA(storage::NoCommune n);
     void Montrer(storage::NoCommune n);
+    /// Digits only are typed into the codes; what a list has brought stays.
+    void PoserMasques();
     void SuivreFiche();
     void CompleterRattachement();
     void SuivreDestination();

@@ -2,6 +2,8 @@
 #include "ui_FrmCommune.h"
 #include <QAbstractItemView>
 #include <QCompleter>
+#include <QRegularExpression>
+#include <QRegularExpressionValidator>
 #include <QStringListModel>
 
 #include "shell/Session.h"
@@ -68,6 +70,15 @@ void FrmCommune::Montrer(NoCommune n) {
     std::size_t remplaces = 0;
     montree_ = Lire(remplaces);
     SuivreFiche();
+}
+
+void FrmCommune::PoserMasques() {
+    const auto poser = [this](QLineEdit& champ, std::size_t chiffres) {
+        const QRegularExpression masque{QStringLiteral("[0-9]{0,%1}").arg(chiffres)};
+        champ.setValidator(new QRegularExpressionValidator{masque, this});
+    };
+    poser(*ui_->TxtCode, ChiffresCode);
+    poser(*ui_->TxtAutreCode, ChiffresAutreCode);
 }
 
 void FrmCommune::SuivreFiche() {

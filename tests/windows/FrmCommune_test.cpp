@@ -248,20 +248,33 @@ TEST_CASE_FIXTURE(Bureau, "FrmCommune: a commune needs a name, and what was type
     CHECK(Fichier().size() == 6);
 }
 
-TEST_CASE_FIXTURE(Bureau,
-                  "FrmCommune: codes of other letters or lengths are told beside the field, "
-                  "and taken") {
+TEST_CASE_FIXTURE(
+    Bureau, "FrmCommune: codes are typed in digits, 5 and 4 of them; what a list brought stays") {
     Partir();
     Ouvrir();
     Saisir("TxtCherche", "blois");
     Saisir("TxtCode", "41000");
+    Remplir(*fenetre, "TxtCode", "4100099");
+    CHECK(Champ("TxtCode").text() == "41000");
+    Remplir(*fenetre, "TxtCode", "2A004");
+    CHECK(Champ("TxtCode").text() == "2004");
+    Remplir(*fenetre, "TxtAutreCode", "41185");
+    CHECK(Champ("TxtAutreCode").text() == "4118");
     CHECK(C<QLabel>("LblAvisCode").text().isEmpty());
-    Saisir("TxtCode", "410000");
+    Clic("MnuMaj");
+    CHECK(Fichier().at(1).code == "2004");
+}
+
+TEST_CASE_FIXTURE(Bureau, "FrmCommune: a code with letters that a list brought is told and kept") {
+    Commune corse = Lieu("Ajaccio");
+    corse.code = "2A004";
+    Ecrire(fichier, {Lieu("Mer"), corse});
+    Partir();
+    Ouvrir();
+    Saisir("TxtCherche", "ajaccio");
+    CHECK(Champ("TxtCode").text() == "2A004");
     CHECK_FALSE(C<QLabel>("LblAvisCode").text().isEmpty());
-    Saisir("TxtCode", "2A004");
-    CHECK_FALSE(C<QLabel>("LblAvisCode").text().isEmpty());
-    Saisir("TxtAutreCode", "41000");
-    CHECK_FALSE(C<QLabel>("LblAvisAutreCode").text().isEmpty());
+    Saisir("TxtPrecision", "Loir");
     Clic("MnuMaj");
     CHECK(Fichier().at(1).code == "2A004");
 }
