@@ -53,19 +53,20 @@ int Controler(Atelier& atelier, const OptionsSoin& o) {
     return bilan.constats == 0 ? Fait : Refus;
 }
 
-int Depanner(Atelier& atelier, const OptionsSoin& /*o*/) {
-    const records::BilanDepannage bilan = records::DepannerBase(atelier.session, false);
-    if (!bilan.fait) return Refus;
+/// The copy is made of the closed file, before anything else.
+int Depanner(const OptionsSoin& o) {
+    if (!o.sansSauvegarde)
+        if (const int statut = Sauvegarder(o.base); statut != Fait) return statut;
+    records::BilanDepannage bilan;
+    const int statut = AvecBase(o, [&bilan](Atelier& atelier) {
+        bilan = records::DepannerBase(atelier.session, false);
+        return bilan.fait ? Fait : Refus;
+    });
+    // Nothing is mended before it is committed.
+    if (statut != Fait) return statut;
     std::cout << bilan.reparations << '\n';
     if (!bilan.journal.empty()) std::cout << bilan.journal.string() << '\n';
     return Fait;
-}
-
-/// The copy is made of the closed file, before anything else.
-int SauvegarderPuisDepanner(const OptionsSoin& o) {
-    if (!o.sansSauvegarde)
-        if (const int statut = Sauvegarder(o.base); statut != Fait) return statut;
-    return AvecBase(o, [&o](Atelier& atelier) { return Depanner(atelier, o); });
 }
 
 void DeclarerSeul(CLI::App& app, std::function<int()>& faire, const char* nom, const char* aide,
@@ -91,7 +92,7 @@ void DeclarerVerbesSoin(CLI::App& app, std::function<int()>& faire) {
     DeclarerSeul(app, faire, "depanner",
                  "Répare les liens de la base ; la copie d'abord en .SAV ; dit combien de "
                  "réparations, et où est leur compte rendu",
-                 SauvegarderPuisDepanner);
+                 Depanner);
 }
 
 }  // namespace dorvane::outil
