@@ -103,7 +103,7 @@ std::string EnPetites(std::string texte) {
 
 /// The folder of the last export, else that of the base.
 fs::path DossierPropose(const shell::Session& session) {
-    const fs::path dernier =
+    fs::path dernier =
         shell::Utf8VersChemin(TexteVersUtf8(session.parametres.Valeur(Section, CleDossier)));
     std::error_code erreur;
     if (!dernier.empty() && fs::is_directory(dernier, erreur)) return dernier;
