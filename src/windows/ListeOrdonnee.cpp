@@ -7,6 +7,8 @@
 
 #include "windows/Icones.h"
 
+#include <algorithm>
+
 namespace dorvane::windows {
 
 namespace {
@@ -54,7 +56,8 @@ void ListeOrdonnee::Poser(const QList<Entree>& entrees) {
     liste_->clear();
     for (const Entree& entree : entrees)
         Ajouter(entree);
-    liste_->setCurrentRow(qBound(0, rang, liste_->count() - 1));
+    // No row at all in an empty list.
+    liste_->setCurrentRow(std::min(std::max(rang, 0), liste_->count() - 1));
 }
 
 QList<ListeOrdonnee::Entree> ListeOrdonnee::Entrees() const {
