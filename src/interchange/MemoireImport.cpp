@@ -1,5 +1,6 @@
 #include "interchange/MemoireImport.h"
 
+#include "interchange/OrdreImport.h"
 #include "storage/Textes.h"
 
 namespace dorvane::interchange {
@@ -33,16 +34,10 @@ void MemoireImport::TextesDe(NoOrdre n, std::vector<std::string_view>& textes) {
 }
 
 bool MemoireImport::EstTriee(char typeTri, const ReglesNoms& regles) {
-    std::string avant;
-    std::string cle;
-    for (std::uint32_t n = 1; n <= personnes_.size(); ++n) {
-        const storage::ElementTri e = ElementDe(NoOrdre{n});
-        cle.clear();
-        CleTriDans(cle, e.nom, e.prenom, e.annee, static_cast<TypeTri>(typeTri), regles);
-        if (cle < avant) return false;
-        avant.swap(cle);
-    }
-    return true;
+    std::vector<NoOrdre> ordre;
+    for (std::uint32_t n = 1; n <= personnes_.size(); ++n)
+        ordre.emplace_back(n);
+    return SontTries(*this, ordre, static_cast<TypeTri>(typeTri), regles);
 }
 
 }  // namespace dorvane::interchange

@@ -1,6 +1,7 @@
 #include "interchange/PoserLgr.h"
 
 #include "interchange/DatesLgr.h"
+#include "interchange/OrdreImport.h"
 #include "shell/Parametres.h"
 #include "storage/Slots.h"
 #include "values/Comparaison.h"
@@ -395,23 +396,10 @@ void PoserLgr::TextesDe(NoOrdre n, std::vector<std::string_view>& textes) {
 bool PoserLgr::EstTriee(char typeTri) {
     ReglesNoms regles = base_.regles;
     regles.deplacer = base_.entete.OptParticules;
-    std::string avant;
-    std::string cle;
-    std::uint32_t numero = 0;
-    for (const std::uint32_t place : individus_.Ordre()) {
-        const std::uint32_t n = contenu_.individus[place].numero;
-        if (typeTri == '0') {
-            if (n < numero) return false;
-            numero = n;
-            continue;
-        }
-        const storage::ElementTri e = ElementDe(NoOrdre{n});
-        cle.clear();
-        CleTriDans(cle, e.nom, e.prenom, e.annee, static_cast<TypeTri>(typeTri), regles);
-        if (cle < avant) return false;
-        avant.swap(cle);
-    }
-    return true;
+    std::vector<NoOrdre> ordre;
+    for (const std::uint32_t place : individus_.Ordre())
+        ordre.emplace_back(contenu_.individus[place].numero);
+    return SontTries(*this, ordre, static_cast<TypeTri>(typeTri), regles);
 }
 
 }  // namespace dorvane::interchange
