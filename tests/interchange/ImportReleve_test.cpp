@@ -188,6 +188,15 @@ TEST_CASE_FIXTURE(EssaiReleve, "a dead parent is told in the column of the surna
           "Feue Martin\r\n\tConjoint feue Rose Blanc"_1252);
 }
 
+TEST_CASE_FIXTURE(EssaiReleve, "a burial that tells the birth believes it rather than the age") {
+    Importer(Sorte::Sepulture, "1780;3;12;Mer;Dupont;Luc;M;45 ans;12 mars 1736;Talcy\n");
+    CHECK(Nom(1) == "Dupont;Luc;;12/3;12/3");
+    CHECK(Annee(1) == "1736");
+    CHECK(base->R_EVT.NoteEvt(NoEvenement{1}) ==
+          "Inhumation\r\nDéfunt Luc Dupont Sexe : H Age : 45 ans Naissance : 12 mars 1736 de "
+          "Talcy"_1252);
+}
+
 TEST_CASE_FIXTURE(EssaiReleve, "ascendants are joined by their Sosa numbers, in any order") {
     Importer(Sorte::Ascendance,
              "Sosa;Nom\n3;Martin;Anne;;;;;;1844;Mer\n1;Dupont;Luc;;1845;Blois\n2;Dupont;Jean;"

@@ -291,6 +291,15 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: 32001 persons put the overflow zone a
     CHECK(vivants.Lecteur().Tri("TRI", 1) == std::vector{32001U});
 }
 
+TEST_CASE_FIXTURE(Bureau, "Reorganisation: 32000 persons need no overflow zone") {
+    base->FixerDernierIndividu(32000);
+    base->R_NOM.EcrireNom(NoOrdre{32000}, "DURAND;Jean");
+    base->R_TRI.AjouterIndividu(NoOrdre{32000});
+    const OctetsVivants vivants{Reorganiser()};
+    CHECK(vivants.Lecteur().Num4(161) == 0);
+    CHECK(vivants.Lecteur().TexteDe("NOM", 32000) == "DURAND;Jean");
+}
+
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: the zones follow the highest numbers, not the counts") {
     base->FixerDernierIndividu(40000);
     base->R_NOM.EcrireNom(NoOrdre{39999}, "DURAND;Jean");
