@@ -12,7 +12,6 @@ using namespace dorvane::records;
 namespace {
 
 using Bureau = EssaiDepannage;
-using Numeros = std::vector<std::uint32_t>;
 
 }  // namespace
 

@@ -14,6 +14,7 @@ using namespace dorvane::records;
 namespace {
 
 using Bureau = EssaiDepannage;
+using Numeros = std::vector<std::uint32_t>;
 
 }  // namespace
 
