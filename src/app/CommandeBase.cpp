@@ -1,6 +1,6 @@
 #include "app/CommandeBase.h"
 
-#include "records/ModeleFamille.h"
+#include "records/Famille.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
 #include "values/Texte1252.h"

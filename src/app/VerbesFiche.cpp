@@ -1,6 +1,7 @@
 #include "app/CommandeBase.h"
 #include "app/DecrirePersonne.h"
 #include "app/Verbes.h"
+#include "records/Famille.h"
 #include "records/Fiche.h"
 #include "records/Filiation.h"
 #include "records/Individus.h"

@@ -4,6 +4,7 @@
 
 #include "windows/ImageGraphe.h"
 #include "windows/Programme.h"
+#include "windows/Unicode.h"
 
 #include <cstring>
 #include <iostream>

@@ -1,8 +1,8 @@
 #include "interchange/MotsClesLgr.h"
 
-#include "interchange/SlotsImport.h"
 #include "values/Comparaison.h"
 #include "values/JetonsRtf.h"
+#include "values/Marqueurs.h"
 #include "values/Texte1252.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #include "interchange/SlotsImport.h"
 
 #include "values/Comparaison.h"
+#include "values/Marqueurs.h"
 #include "values/Texte1252.h"
 
 #include <algorithm>
@@ -16,10 +17,6 @@ bool EstJourEntier(const DateLue& date) {
 }
 
 }  // namespace
-
-std::string_view ListeMarqueurs() {
-    return "|¶$@~\\°^%¤²µ£§¬±¹»×÷‡ˆ‹•›"_1252;
-}
 
 MarqueursImport::MarqueursImport(storage::Base& base) : base_{base} {
     for (std::uint32_t k = 1; k <= base_.motsCles.Nombre(); ++k) {

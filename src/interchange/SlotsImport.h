@@ -11,10 +11,6 @@
 
 namespace dorvane::interchange {
 
-/// Every marker of a keyword, in the order in which free ones are given; the first five belong to
-/// names and places.
-[[nodiscard]] std::string_view ListeMarqueurs();
-
 /// The keywords of an import: which marker stands in front of the values of a tag. A tag that is a
 /// keyword of every base keeps its marker; others take the free markers in order of appearance.
 class MarqueursImport {

@@ -1,9 +1,9 @@
 #include "records/AccordEvenements.h"
 
+#include "records/Famille.h"
 #include "records/Fiche.h"
 #include "records/FicheEvenement.h"
 #include "records/Individus.h"
-#include "records/ModeleFamille.h"
 #include "records/NomsAffiches.h"
 #include "records/TexteFiche.h"
 #include "shell/Session.h"

@@ -1,5 +1,6 @@
 #include "records/Apercu.h"
 
+#include "records/Famille.h"
 #include "records/ModeleFamille.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"

@@ -1,6 +1,6 @@
 #include "records/Filiation.h"
 
-#include "records/ModeleFamille.h"
+#include "records/Famille.h"
 #include "records/NomsAffiches.h"
 #include "records/Questions.h"
 #include "records/Unions.h"

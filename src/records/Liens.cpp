@@ -1,6 +1,6 @@
 #include "records/Liens.h"
 
-#include "records/ModeleFamille.h"
+#include "records/Famille.h"
 #include "records/Questions.h"
 #include "shell/Libelles.h"
 #include "shell/Session.h"

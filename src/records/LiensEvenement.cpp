@@ -1,6 +1,6 @@
 #include "records/EcrireEvenement.h"
+#include "records/Famille.h"
 #include "records/FicheEvenement.h"
-#include "records/ModeleFamille.h"
 #include "records/NomsAffiches.h"
 #include "records/Questions.h"
 #include "shell/Session.h"

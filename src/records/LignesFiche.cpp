@@ -1,9 +1,9 @@
 #include "records/LignesFiche.h"
 
+#include "records/Famille.h"
 #include "records/FicheDocument.h"
 #include "records/FicheEvenement.h"
 #include "records/Liens.h"
-#include "records/ModeleFamille.h"
 #include "records/NomsAffiches.h"
 #include "shell/Libelles.h"
 #include "shell/Session.h"

@@ -74,19 +74,6 @@ inline constexpr double EcartFamilles = 0.3;
 [[nodiscard]] ModeleFamille ConstruireFamille(storage::Base& base, NoOrdre individu,
                                               Generations generations);
 
-/// The union of two persons: the first one in the list of `a` whose partner is `b`; 0 for none.
-[[nodiscard]] NoMariage UnionDe(storage::Base& base, NoOrdre a, NoOrdre b);
-
-/// The partner of `individu` in a union; 0 when there is none.
-[[nodiscard]] NoOrdre PartenaireDe(storage::Base& base, NoOrdre individu, NoMariage mariage);
-
-/// A person of the base: its number has been given and it stands in the sort table.
-[[nodiscard]] bool Existe(storage::Base& base, NoOrdre individu);
-
-/// `MnuPrécédent` (-1) and `MnuSuivant` (1): the neighbour of a person in the sort order; 0 at the
-/// ends and for who is not in it.
-[[nodiscard]] NoOrdre VoisinDansLOrdre(const storage::Base& base, NoOrdre individu, int pas);
-
 /// What the arrow keys walk to.
 enum class Parente { Pere, Mere, Enfant, ConjointSuivant };
 

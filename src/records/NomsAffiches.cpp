@@ -1,5 +1,6 @@
 #include "records/NomsAffiches.h"
 
+#include "records/Famille.h"
 #include "shell/Numerotation.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"

@@ -1,6 +1,6 @@
 #include "records/RechercheNoms.h"
 
-#include "records/ModeleFamille.h"
+#include "records/Famille.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
 #include "storage/Base.h"

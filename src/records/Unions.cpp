@@ -1,7 +1,7 @@
 #include "records/Unions.h"
 
+#include "records/Famille.h"
 #include "records/Individus.h"
-#include "records/ModeleFamille.h"
 #include "records/Questions.h"
 #include "shell/Session.h"
 #include "storage/Base.h"

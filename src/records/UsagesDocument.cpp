@@ -1,5 +1,5 @@
+#include "records/Famille.h"
 #include "records/FicheDocument.h"
-#include "records/ModeleFamille.h"
 #include "records/Questions.h"
 #include "shell/Session.h"
 #include "storage/Base.h"

@@ -5,9 +5,9 @@
 #include <QVBoxLayout>
 
 #include "shell/Session.h"
-#include "windows/DialogueQt.h"
 #include "windows/Icones.h"
 #include "windows/Legendes.h"
+#include "windows/Unicode.h"
 
 namespace dorvane::windows {
 

@@ -85,14 +85,6 @@ void Placer(QFileDialog& dialogue, const std::filesystem::path& depart) {
 
 }  // namespace
 
-QString CheminVersQt(const std::filesystem::path& chemin) {
-    return QFile::decodeName(chemin.c_str());
-}
-
-std::filesystem::path QtVersChemin(const QString& chemin) {
-    return std::filesystem::path{QFile::encodeName(chemin).toStdString()};
-}
-
 QStringList FiltresFichiers(const std::string& filtre) {
     QStringList filtres;
     const QStringList parts = TexteVersQt(filtre).split(u'|');

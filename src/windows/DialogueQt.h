@@ -44,8 +44,4 @@ private:
 /// and in capital letters: names of files tell them apart.
 [[nodiscard]] QStringList FiltresFichiers(const std::string& filtre);
 
-/// The conversions of paths: names that are no UTF-8 come back as they were.
-[[nodiscard]] QString CheminVersQt(const std::filesystem::path& chemin);
-[[nodiscard]] std::filesystem::path QtVersChemin(const QString& chemin);
-
 }  // namespace dorvane::windows

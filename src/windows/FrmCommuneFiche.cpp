@@ -10,9 +10,9 @@
 #include "values/Comparaison.h"
 #include "windows/ChampSuivi.h"
 #include "windows/FrmCommune.h"
-#include "windows/FrmCreation.h"
 #include "windows/Legendes.h"
 #include "windows/ModeleCommunes.h"
+#include "windows/Remplaces.h"
 #include "windows/Unicode.h"
 
 #include <algorithm>

@@ -7,8 +7,8 @@
 #include <QHeaderView>
 #include <QMenu>
 
+#include "records/Famille.h"
 #include "records/LignesFiche.h"
-#include "records/ModeleFamille.h"
 #include "records/NomsAffiches.h"
 #include "shell/CycleDeVie.h"
 #include "shell/FichierSur.h"

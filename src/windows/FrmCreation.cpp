@@ -5,6 +5,7 @@
 #include "records/Individus.h"
 #include "shell/Session.h"
 #include "windows/Legendes.h"
+#include "windows/Remplaces.h"
 
 namespace dorvane::windows {
 
@@ -13,11 +14,6 @@ namespace {
 constexpr int LargeurInitiale = 940;
 
 }  // namespace
-
-bool AccepterRemplaces(shell::Session& session, std::size_t remplaces) {
-    return remplaces == 0 ||
-           session.dialogue.Confirmer(shell::Msg(2610, std::to_string(remplaces)));
-}
 
 SaisieDepart DepartDeParent(const std::string& nomEnfant, char cote) {
     SaisieDepart depart;

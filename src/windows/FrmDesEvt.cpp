@@ -14,7 +14,6 @@
 #include "values/Comparaison.h"
 #include "windows/ChampSuivi.h"
 #include "windows/Completeur.h"
-#include "windows/FrmCreation.h"
 #include "windows/FrmDesImage.h"
 #include "windows/FrmLstImage.h"
 #include "windows/FrmTexte.h"
@@ -22,6 +21,8 @@
 #include "windows/Legendes.h"
 #include "windows/ModeleDocuments.h"
 #include "windows/ModeleLiens.h"
+#include "windows/OuvrirDocument.h"
+#include "windows/Remplaces.h"
 #include "windows/Unicode.h"
 
 #include <algorithm>

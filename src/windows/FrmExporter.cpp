@@ -8,12 +8,11 @@
 #include <QSignalBlocker>
 #include <QUrl>
 
-#include "records/ModeleFamille.h"
+#include "records/Famille.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "windows/BoutonPersonne.h"
-#include "windows/DialogueQt.h"
 #include "windows/GlisserPersonne.h"
 #include "windows/Legendes.h"
 #include "windows/Unicode.h"

@@ -12,13 +12,14 @@
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
-#include "windows/DialogueQt.h"
 #include "windows/FrmDesImage.h"
 #include "windows/FrmUtilImage.h"
 #include "windows/GlisserPersonne.h"
 #include "windows/Legendes.h"
 #include "windows/ListeFiltree.h"
 #include "windows/ModeleDocuments.h"
+#include "windows/OuvrirDocument.h"
+#include "windows/Unicode.h"
 
 namespace dorvane::windows {
 

@@ -60,9 +60,4 @@ private:
     bool choix_ = false;  ///< runs as a chooser
 };
 
-/// Opens what a document names in the program that the desktop has for it; tells when there is
-/// nothing to open.
-void OuvrirDocument(shell::Session& session, NoDocument document);
-void OuvrirDocument(shell::Session& session, const storage::Document& document);
-
 }  // namespace dorvane::windows

@@ -5,13 +5,12 @@
 #include <QShortcut>
 #include <QTabBar>
 
+#include "records/Famille.h"
 #include "records/Fiche.h"
 #include "records/Individus.h"
-#include "records/ModeleFamille.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
-#include "windows/FrmCreation.h"
 #include "windows/Icones.h"
 #include "windows/Legendes.h"
 #include "windows/PageDocuments.h"
@@ -21,6 +20,7 @@
 #include "windows/PageLiens.h"
 #include "windows/PageUnions.h"
 #include "windows/RangeesFiche.h"
+#include "windows/Remplaces.h"
 #include "windows/Unicode.h"
 
 namespace dorvane::windows {

@@ -11,8 +11,8 @@
 #include "storage/Base.h"
 #include "windows/ChampSuivi.h"
 #include "windows/Completeur.h"
-#include "windows/FrmCreation.h"
 #include "windows/Legendes.h"
+#include "windows/Remplaces.h"
 #include "windows/Unicode.h"
 
 #include <optional>

@@ -6,9 +6,9 @@
 
 #include "shell/Session.h"
 #include "windows/ChampSuivi.h"
-#include "windows/FrmCreation.h"
 #include "windows/Icones.h"
 #include "windows/Legendes.h"
+#include "windows/Remplaces.h"
 #include "windows/Unicode.h"
 
 #include <algorithm>

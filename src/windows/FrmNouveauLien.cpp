@@ -10,8 +10,8 @@
 #include "shell/Libelles.h"
 #include "shell/Session.h"
 #include "windows/ChampSuivi.h"
-#include "windows/FrmCreation.h"
 #include "windows/Legendes.h"
+#include "windows/Remplaces.h"
 #include "windows/Unicode.h"
 
 namespace dorvane::windows {

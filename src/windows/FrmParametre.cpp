@@ -7,9 +7,9 @@
 #include <QStackedWidget>
 
 #include "shell/Reglages.h"
-#include "windows/FrmCreation.h"
 #include "windows/Legendes.h"
 #include "windows/PagesParametre.h"
+#include "windows/Remplaces.h"
 
 #include <array>
 

@@ -7,8 +7,8 @@
 #include "records/MotsUsuels.h"
 #include "shell/Session.h"
 #include "windows/ChampSuivi.h"
-#include "windows/FrmCreation.h"
 #include "windows/Legendes.h"
+#include "windows/Remplaces.h"
 #include "windows/Unicode.h"
 
 #include <algorithm>

@@ -6,11 +6,10 @@
 #include <QUrl>
 #include <QWidget>
 
-#include "records/ModeleFamille.h"
+#include "records/Famille.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
-#include "windows/DialogueQt.h"
 #include "windows/Icones.h"
 #include "windows/Unicode.h"
 

@@ -24,7 +24,6 @@
 #include "storage/Base.h"
 #include "windows/Accueil.h"
 #include "windows/CadreAvancement.h"
-#include "windows/DialogueQt.h"
 #include "windows/FenetreFille.h"
 #include "windows/FrmCalendrier.h"
 #include "windows/FrmDebut.h"

@@ -4,6 +4,7 @@
 #include <QToolBar>
 
 #include "interchange/Importer.h"
+#include "records/Famille.h"
 #include "records/NomsAffiches.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Numerotation.h"

@@ -8,10 +8,10 @@
 #include "shell/Demarrage.h"
 #include "shell/Session.h"
 #include "windows/BoutonsIcones.h"
-#include "windows/DialogueQt.h"
 #include "windows/FrmDebut.h"
 #include "windows/Icones.h"
 #include "windows/MDIForm1.h"
+#include "windows/Unicode.h"
 
 #include <string>
 

@@ -3,7 +3,7 @@
 #include <QLocale>
 #include <QMimeData>
 
-#include "records/ModeleFamille.h"
+#include "records/Famille.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"

@@ -1,11 +1,11 @@
+#include "windows/OuvrirDocument.h"
+
 #include <QDesktopServices>
 #include <QUrl>
 
 #include "records/FicheDocument.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
-#include "windows/DialogueQt.h"
-#include "windows/FrmLstImage.h"
 #include "windows/Unicode.h"
 #include "windows/Vignettes.h"
 

@@ -10,7 +10,6 @@
 
 #include "shell/FichierSur.h"
 #include "shell/Session.h"
-#include "windows/DialogueQt.h"
 #include "windows/FrmRapport.h"
 #include "windows/Unicode.h"
 

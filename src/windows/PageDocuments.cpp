@@ -11,6 +11,7 @@
 #include "windows/FrmLstImage.h"
 #include "windows/Icones.h"
 #include "windows/Legendes.h"
+#include "windows/OuvrirDocument.h"
 #include "windows/TableFiche.h"
 #include "windows/Unicode.h"
 #include "windows/Vignettes.h"

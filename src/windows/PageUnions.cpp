@@ -2,8 +2,8 @@
 
 #include "ui_PageUnions.h"
 
+#include "records/Famille.h"
 #include "records/Fiche.h"
-#include "records/ModeleFamille.h"
 #include "records/NomsAffiches.h"
 #include "records/TexteFiche.h"
 #include "shell/Session.h"

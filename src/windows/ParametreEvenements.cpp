@@ -13,11 +13,11 @@
 #include "shell/Session.h"
 #include "values/Comparaison.h"
 #include "windows/ChampSuivi.h"
-#include "windows/FrmCreation.h"
 #include "windows/Icones.h"
 #include "windows/Legendes.h"
 #include "windows/ListeOrdonnee.h"
 #include "windows/PagesParametre.h"
+#include "windows/Remplaces.h"
 #include "windows/Unicode.h"
 
 #include <algorithm>

@@ -17,11 +17,11 @@
 #include "values/Comparaison.h"
 #include "values/FormesNom.h"
 #include "windows/ChampSuivi.h"
-#include "windows/FrmCreation.h"
 #include "windows/Icones.h"
 #include "windows/Legendes.h"
 #include "windows/ListeOrdonnee.h"
 #include "windows/PagesParametre.h"
+#include "windows/Remplaces.h"
 #include "windows/Unicode.h"
 
 namespace dorvane::windows {

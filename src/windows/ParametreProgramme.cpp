@@ -11,7 +11,6 @@
 
 #include "shell/Session.h"
 #include "windows/BoutonsIcones.h"
-#include "windows/DialogueQt.h"
 #include "windows/Icones.h"
 #include "windows/Legendes.h"
 #include "windows/ListeOrdonnee.h"

@@ -6,7 +6,7 @@
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "values/Texte1252.h"
-#include "windows/DialogueQt.h"
+#include "windows/Unicode.h"
 
 #include <algorithm>
 #include <system_error>

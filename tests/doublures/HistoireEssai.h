@@ -2,6 +2,7 @@
 
 #include "doublures/SessionEssai.h"
 #include "records/AccordEvenements.h"
+#include "records/Famille.h"
 #include "records/Fiche.h"
 #include "records/FicheDocument.h"
 #include "records/FicheEvenement.h"

@@ -1,7 +1,7 @@
 #include "records/Filiation.h"
 
 #include "records/EssaiFamille.h"
-#include "records/ModeleFamille.h"
+#include "records/Famille.h"
 #include "records/Unions.h"
 
 using namespace dorvane;

@@ -2,6 +2,7 @@
 
 #include "doublures/DisqueMemoire.h"
 #include "doublures/FamilleEssai.h"
+#include "records/Famille.h"
 
 #include <algorithm>
 #include <map>

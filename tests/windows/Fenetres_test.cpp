@@ -11,6 +11,7 @@
 #include <QTabWidget>
 #include <QTableView>
 
+#include "windows/DialogueQt.h"
 #include "windows/Essai.h"
 #include "windows/FrmCalendrier.h"
 #include "windows/FrmCommune.h"
@@ -41,6 +42,7 @@
 #include "windows/ImageGraphe.h"
 #include "windows/Legendes.h"
 #include "windows/ModeleNoms.h"
+#include "windows/Unicode.h"
 #include "windows/Vignettes.h"
 
 #include <map>
@@ -121,8 +123,11 @@ struct Toutes : FenetreEssai {
         fenetres.emplace_back(new FrmUsuels{S(), &Fenetre()});
         fenetres.emplace_back(new FrmExporter{S(), &Fenetre()});
         fenetres.emplace_back(new FrmParametre{S(), &Fenetre()});
-        fenetres.emplace_back(new FrmReleve{S(), interchange::SorteReleve::Bapteme,
-                                            "1780;1;1;Mer;Dupont;Jean;?\n", {}, &Fenetre()});
+        fenetres.emplace_back(new FrmReleve{S(),
+                                            interchange::SorteReleve::Bapteme,
+                                            "1780;1;1;Mer;Dupont;Jean;?\n",
+                                            {},
+                                            &Fenetre()});
         for (FenetreFille* fille : fenetres) {
             parNom[fille->objectName()] = fille;
             // Parts that translate themselves have captions of their own.

@@ -3,8 +3,8 @@
 #include <QMimeData>
 #include <QUrl>
 
+#include "records/Famille.h"
 #include "records/Liens.h"
-#include "records/ModeleFamille.h"
 #include "windows/BoutonPersonne.h"
 #include "windows/Enchainement.h"
 #include "windows/FeuilleEssai.h"

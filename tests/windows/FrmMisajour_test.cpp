@@ -5,9 +5,9 @@
 #include <QTabWidget>
 #include <QToolButton>
 
+#include "records/Famille.h"
 #include "records/Fiche.h"
 #include "records/Individus.h"
-#include "records/ModeleFamille.h"
 #include "windows/BoutonPersonne.h"
 #include "windows/EditeurNote.h"
 #include "windows/FeuilleEssai.h"
