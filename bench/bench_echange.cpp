@@ -1,9 +1,9 @@
 // Times of exports, beside what the machine itself needs: reading the file of the base and writing
 // as many bytes as the export has. DORVANE_BENCH_LGD names the base.
 #include "Banc.h"
-#include "interchange/EcrireLgr.h"
-#include "interchange/ExportGedcom.h"
-#include "interchange/SelectionExport.h"
+#include "interchange/commun/SelectionExport.h"
+#include "interchange/gedcom/ExportGedcom.h"
+#include "interchange/lgr/EcrireLgr.h"
 #include "shell/FichierSur.h"
 
 #include <benchmark/benchmark.h>

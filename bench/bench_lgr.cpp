@@ -1,9 +1,9 @@
 // Exchange texts of a large base: written, made a base of, merged in. DORVANE_BENCH_LGD names the
 // base.
 #include "Banc.h"
-#include "interchange/EcrireLgr.h"
-#include "interchange/ImportLgr.h"
-#include "interchange/LireLgr.h"
+#include "interchange/lgr/EcrireLgr.h"
+#include "interchange/lgr/ImportLgr.h"
+#include "interchange/lgr/LireLgr.h"
 #include "shell/FichierSur.h"
 #include "storage/Base.h"
 

@@ -7,8 +7,8 @@
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
 #include "storage/Base.h"
-#include "windows/FrmDebut.h"
-#include "windows/FrmMisajour.h"
+#include "windows/fiche/FrmMisajour.h"
+#include "windows/graphe/FrmDebut.h"
 
 #include <benchmark/benchmark.h>
 

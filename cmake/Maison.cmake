@@ -1,56 +1,82 @@
-# One library for each folder of src/. Each folder exports a view of itself alone
-# (vues/<folder>/<folder> points to src/<folder>), so that a header of a folder which is not linked
-# is not found: an upward include does not build.
-function(maison_dossier nom)
-    cmake_parse_arguments(D "QT" "" "DEPEND;PRIVE" ${ARGN})
-    file(GLOB sources CONFIGURE_DEPENDS
-        ${PROJECT_SOURCE_DIR}/src/${nom}/*.cpp ${PROJECT_SOURCE_DIR}/src/${nom}/*.h
-        ${PROJECT_SOURCE_DIR}/src/${nom}/*.ui)
-    set(vue ${PROJECT_BINARY_DIR}/vues/${nom})
-    file(MAKE_DIRECTORY ${vue})
-    file(CREATE_LINK ${PROJECT_SOURCE_DIR}/src/${nom} ${vue}/${nom} SYMBOLIC)
-    set(compiles ${sources})
-    list(FILTER compiles INCLUDE REGEX "\\.cpp$")
-    if(NOT compiles)
-        add_library(${nom} INTERFACE)
-        target_include_directories(${nom} INTERFACE ${vue})
-        target_link_libraries(${nom} INTERFACE ${D_DEPEND})
-        return()
-    endif()
-    add_library(${nom} STATIC ${sources})
-    target_include_directories(${nom} PUBLIC ${vue})
-    target_link_libraries(${nom} PUBLIC ${D_DEPEND} PRIVATE reglages ${D_PRIVE})
+# The folders of src/, one library each, named after the folder: src/windows/graphe is the target
+# windows_graphe. Each folder exports a view of itself alone (vues/<target>/<folder> points to
+# src/<folder>), so that a header of a folder which is not linked is not found: an include of what
+# stands above, or of a neighbour that is not named, does not build.
+
+# The target of a folder or the library of another house: "windows/graphe", "Qt6::Svg".
+function(maison_cibles resultat)
+    set(cibles)
+    foreach(nom IN LISTS ARGN)
+        if(nom MATCHES "::|^/")
+            list(APPEND cibles ${nom})
+        else()
+            string(REPLACE "/" "_" cible ${nom})
+            list(APPEND cibles ${cible})
+        endif()
+    endforeach()
+    set(${resultat} ${cibles} PARENT_SCOPE)
+endfunction()
+
+# A source that lies in a folder and is not in its list would be forgotten in silence.
+function(maison_verifier_liste)
+    file(GLOB presents RELATIVE ${CMAKE_CURRENT_SOURCE_DIR}
+        ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.ui)
+    foreach(present IN LISTS presents)
+        if(NOT present IN_LIST ARGN)
+            message(FATAL_ERROR "${CMAKE_CURRENT_SOURCE_DIR}/CMakeLists.txt does not list ${present}")
+        endif()
+    endforeach()
+endfunction()
+
+# The library of the folder that calls. DEPEND: folders below and libraries that its headers show.
+# PRIVE: libraries that its sources alone use. AILLEURS: sources of the folder that other targets build.
+function(maison_dossier)
+    cmake_parse_arguments(D "QT" "" "SOURCES;DEPEND;PRIVE;AILLEURS" ${ARGN})
+    file(RELATIVE_PATH nom ${PROJECT_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
+    maison_cibles(cible ${nom})
+    maison_cibles(depend ${D_DEPEND})
+    maison_cibles(prive ${D_PRIVE})
+    maison_verifier_liste(${D_SOURCES} ${D_AILLEURS})
+    set_property(GLOBAL APPEND PROPERTY MAISON_DOSSIERS ${nom})
+
+    get_filename_component(parent ${nom} DIRECTORY)
+    set(vue ${PROJECT_BINARY_DIR}/vues/${cible})
+    file(MAKE_DIRECTORY ${vue}/${parent})
+    file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${vue}/${nom} SYMBOLIC)
+
+    add_library(${cible} STATIC ${D_SOURCES})
+    target_include_directories(${cible} PUBLIC ${vue})
+    target_link_libraries(${cible} PUBLIC ${depend} PRIVATE reglages ${prive})
     if(D_QT)
-        set_target_properties(${nom} PROPERTIES AUTOMOC ON AUTOUIC ON)
+        set_target_properties(${cible} PROPERTIES AUTOMOC ON AUTOUIC ON)
         # "slots" and "signals" are words of ours below the windows.
-        target_compile_definitions(${nom} PUBLIC QT_NO_KEYWORDS)
+        target_compile_definitions(${cible} PUBLIC QT_NO_KEYWORDS)
     endif()
 endfunction()
 
-# The tests of one folder: tests/<folder>/*_test.cpp in one program, one ctest entry.
-function(maison_tests nom)
-    cmake_parse_arguments(T "QT" "DELAI" "DEPEND" ${ARGN})
-    file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${nom}/*_test.cpp
-        ${PROJECT_SOURCE_DIR}/tests/${nom}/*.h)
-    set(compiles ${sources})
-    list(FILTER compiles INCLUDE REGEX "\\.cpp$")
-    if(NOT compiles)
-        return()
-    endif()
+# The tests of the folder that calls, tests/<folder>, in one program and one ctest entry of its name.
+function(maison_tests)
+    cmake_parse_arguments(T "QT" "DELAI" "SOURCES;DEPEND" ${ARGN})
+    file(RELATIVE_PATH nom ${PROJECT_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR})
+    maison_cibles(cible ${nom})
+    set(cible tests_${cible})
+    maison_cibles(depend ${T_DEPEND})
+    maison_verifier_liste(${T_SOURCES})
     set(principal ${PROJECT_SOURCE_DIR}/tests/principal.cpp)
     if(T_QT)
         set(principal ${PROJECT_SOURCE_DIR}/tests/windows/principal.cpp)
     endif()
-    add_executable(tests_${nom} ${principal} ${sources})
-    target_include_directories(tests_${nom} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-    target_compile_definitions(tests_${nom} PRIVATE
+    add_executable(${cible} ${principal} ${T_SOURCES})
+    target_include_directories(${cible} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_compile_definitions(${cible} PRIVATE
         DONNEES_TESTS="${PROJECT_SOURCE_DIR}/tests/donnees"
         RACINE_SOURCES="${PROJECT_SOURCE_DIR}")
-    target_link_libraries(tests_${nom} PRIVATE ${T_DEPEND} doctest::doctest reglages)
+    target_link_libraries(${cible} PRIVATE ${depend} doctest::doctest reglages)
     if(T_QT)
-        set_target_properties(tests_${nom} PROPERTIES AUTOMOC ON)
+        set_target_properties(${cible} PROPERTIES AUTOMOC ON)
+        target_link_libraries(${cible} PRIVATE Qt6::Test)
     endif()
-    add_test(NAME ${nom} COMMAND tests_${nom})
+    add_test(NAME ${nom} COMMAND ${cible})
     if(NOT T_DELAI)
         set(T_DELAI 300)
     endif()

@@ -1,7 +1,7 @@
 #include "app/Atelier.h"
 #include "app/Commandes.h"
 #include "app/DecrirePersonne.h"
-#include "interchange/Importer.h"
+#include "interchange/commandes/Importer.h"
 #include "values/Texte1252.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 #include "app/Atelier.h"
 #include "app/Verbes.h"
-#include "interchange/LireListeCommunes.h"
+#include "interchange/communes/LireListeCommunes.h"
 #include "shell/RelaisAvancement.h"
 #include "storage/BaseCommunes.h"
 #include "values/Phonetique.h"

@@ -1,6 +1,6 @@
 #include "app/CommandeBase.h"
 #include "app/Verbes.h"
-#include "interchange/IntegrerLgr.h"
+#include "interchange/commandes/IntegrerLgr.h"
 #include "values/Texte1252.h"
 
 #include <iostream>

@@ -1,6 +1,6 @@
 #include "app/Atelier.h"
 #include "app/Verbes.h"
-#include "interchange/Importer.h"
+#include "interchange/commandes/Importer.h"
 #include "shell/FichierSur.h"
 #include "values/Texte1252.h"
 

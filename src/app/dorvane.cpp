@@ -2,9 +2,9 @@
 #include <QCommandLineParser>
 #include <QMetaObject>
 
-#include "windows/ImageGraphe.h"
-#include "windows/Programme.h"
-#include "windows/Unicode.h"
+#include "windows/cadre/ImageGraphe.h"
+#include "windows/cadre/Programme.h"
+#include "windows/controles/Unicode.h"
 
 #include <cstring>
 #include <iostream>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "interchange/DatesGedcom.h"
-#include "interchange/JeuxDeCaracteres.h"
-#include "interchange/LignesGedcom.h"
-#include "interchange/NomGedcom.h"
-#include "interchange/RapportImport.h"
+#include "interchange/commun/RapportImport.h"
+#include "interchange/gedcom/DatesGedcom.h"
+#include "interchange/gedcom/LignesGedcom.h"
+#include "interchange/gedcom/NomGedcom.h"
+#include "interchange/jeux/JeuxDeCaracteres.h"
 #include "values/Comparaison.h"
 #include "values/Texte1252.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "interchange/TablesDeCaracteres.h"
+#include "interchange/jeux/TablesDeCaracteres.h"
 
 #include <algorithm>
 #include <array>

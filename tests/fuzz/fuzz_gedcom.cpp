@@ -1,8 +1,8 @@
-// links: interchange
+// links: interchange_commandes interchange_communes
 // Any bytes as a GEDCOM file: imported on a disk in memory, opened again and read through. The
 // first byte chooses whether the persons are sorted.
 #include "doublures/SessionMemoire.h"
-#include "interchange/ImportGedcom.h"
+#include "interchange/gedcom/ImportGedcom.h"
 #include "storage/Base.h"
 #include "storage/Slots.h"
 

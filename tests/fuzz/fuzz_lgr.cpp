@@ -1,9 +1,9 @@
-// links: interchange
+// links: interchange_commandes interchange_communes
 // Any bytes as an exchange text: made a new base of on a disk in memory, opened again, read
 // through, written and read once more. The first byte chooses the version where the text has none.
 #include "doublures/SessionMemoire.h"
-#include "interchange/EcrireLgr.h"
-#include "interchange/ImportLgr.h"
+#include "interchange/lgr/EcrireLgr.h"
+#include "interchange/lgr/ImportLgr.h"
 #include "storage/Base.h"
 #include "storage/Slots.h"
 

@@ -1,10 +1,10 @@
-// links: interchange
+// links: interchange_commandes interchange_communes
 // Any bytes as a survey: cut, examined, written into a base on a disk in memory, and read again.
 // The first byte chooses the kind.
 #include "doublures/Coherence.h"
 #include "doublures/SessionMemoire.h"
-#include "interchange/CsvCommunes.h"
-#include "interchange/ImportReleve.h"
+#include "interchange/communes/CsvCommunes.h"
+#include "interchange/releves/ImportReleve.h"
 #include "storage/Base.h"
 
 #include <cstdint>

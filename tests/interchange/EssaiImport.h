@@ -1,7 +1,7 @@
 #pragma once
 
 #include "doublures/SessionEssai.h"
-#include "interchange/Importer.h"
+#include "interchange/commandes/Importer.h"
 #include "shell/Demarrage.h"
 #include "shell/RelaisAvancement.h"
 #include "storage/Base.h"

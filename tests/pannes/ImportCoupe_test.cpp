@@ -8,7 +8,7 @@
 #include "doublures/Inventaire.h"
 #include "doublures/ProgressionScript.h"
 #include "doublures/SeanceEssai.h"
-#include "interchange/ImportGedcom.h"
+#include "interchange/gedcom/ImportGedcom.h"
 #include "storage/Base.h"
 
 #include <memory>

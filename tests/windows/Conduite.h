@@ -9,9 +9,9 @@
 
 #include "windows/Enchainement.h"
 #include "windows/Essai.h"
-#include "windows/FrmMisajour.h"
-#include "windows/TableFiche.h"
-#include "windows/Unicode.h"
+#include "windows/controles/TableFiche.h"
+#include "windows/controles/Unicode.h"
+#include "windows/fiche/FrmMisajour.h"
 
 namespace dorvane::windows {
 

@@ -17,8 +17,8 @@
 #include "shell/Demarrage.h"
 #include "storage/Base.h"
 #include "values/Texte1252.h"
-#include "windows/FrmDebut.h"
-#include "windows/Programme.h"
+#include "windows/cadre/Programme.h"
+#include "windows/graphe/FrmDebut.h"
 
 #include <functional>
 #include <memory>

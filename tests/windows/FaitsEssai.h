@@ -10,8 +10,8 @@
 #include "records/FicheDocument.h"
 #include "records/FicheEvenement.h"
 #include "windows/Essai.h"
-#include "windows/FrmNom.h"
-#include "windows/Unicode.h"
+#include "windows/controles/Unicode.h"
+#include "windows/personnes/FrmNom.h"
 
 #include <utility>
 

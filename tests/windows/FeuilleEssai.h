@@ -7,8 +7,8 @@
 #include <QPushButton>
 
 #include "windows/Essai.h"
-#include "windows/FrmMisajour.h"
-#include "windows/TableFiche.h"
+#include "windows/controles/TableFiche.h"
+#include "windows/fiche/FrmMisajour.h"
 
 #include <memory>
 

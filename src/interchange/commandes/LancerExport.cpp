@@ -1,0 +1,304 @@
+#include "interchange/commandes/LancerExport.h"
+
+#include "interchange/gedcom/ExportGedcom.h"
+#include "interchange/lgr/EcrireLgr.h"
+#include "interchange/lgr/RedactionLgr.h"
+#include "shell/CycleDeVie.h"
+#include "shell/FichierSur.h"
+#include "shell/Session.h"
+#include "storage/Base.h"
+#include "values/Texte1252.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+namespace dorvane::interchange {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view Section = "Export";
+constexpr std::string_view CleChoix = "Choix";
+constexpr std::string_view CleDossier = "Dossier";
+constexpr std::uint32_t MaxGenerations = 999;
+
+// What is kept: numbers joined by "/", in this order.
+enum Rang : std::size_t {
+    RangFormat,
+    RangPartie,
+    RangSens,
+    RangGenerations,
+    RangCollateraux,
+    RangComplet,
+    RangEcarter,
+    RangJeu,
+    RangReglage,  ///< the set of the settings when that one was taken
+    NbRangs
+};
+
+std::vector<std::int32_t> Nombres(std::string_view texte) {
+    std::vector<std::int32_t> nombres;
+    while (!texte.empty()) {
+        const std::size_t fin = std::min(texte.find('/'), texte.size());
+        nombres.push_back(shell::NombreIndulgent(texte.substr(0, fin)));
+        texte.remove_prefix(std::min(fin + 1, texte.size()));
+    }
+    return nombres;
+}
+
+std::int32_t Numero(JeuExport jeu) {
+    return static_cast<std::int32_t>(jeu);
+}
+
+JeuExport JeuDesReglages(const shell::Session& session) {
+    return JeuDuReglage(session.parametres.generaux.jeuExport);
+}
+
+SelectionExport Selectionner(storage::Base& base, const DemandeExport& demande) {
+    SelectionExport selection{base};
+    if (demande.entiere) {
+        selection.MarquerTous();
+        return selection;
+    }
+    selection.MarquerListe(demande.liste);
+    for (const ParcoursExport& p : demande.parcours)
+        selection.MarquerParente(p.depart, p.sens, p.generations);
+    return selection;
+}
+
+/// A whole base goes with all its events and documents.
+bool Complet(const DemandeExport& demande) {
+    ReglagesSelection reglages = demande.reglages;
+    reglages.complet = reglages.complet || demande.entiere;
+    return ExportComplet(reglages);
+}
+
+/// Near kin is a matter of selections; of a whole base nobody is left to be kin.
+OptionsLgr Options(const SelectionExport& selection, const DemandeExport& demande) {
+    return {selection.Choisis(demande.reglages), Complet(demande)};
+}
+
+template <class Numero>
+std::uint32_t Compter(const RedactionLgr& redaction, std::uint32_t dernier) {
+    std::uint32_t nombre = 0;
+    for (Numero n{1}; n.valeur <= dernier; ++n.valeur)
+        nombre += redaction.EstEcrit(n) ? 1U : 0U;
+    return nombre;
+}
+
+std::string Extension(FormatExport format) {
+    return format == FormatExport::Gedcom ? ".ged" : ".lgr";
+}
+
+std::string EnPetites(std::string texte) {
+    for (char& c : texte)
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    return texte;
+}
+
+/// The folder of the last export, else that of the base.
+fs::path DossierPropose(const shell::Session& session) {
+    fs::path dernier =
+        shell::Utf8VersChemin(TexteVersUtf8(session.parametres.Valeur(Section, CleDossier)));
+    std::error_code erreur;
+    if (!dernier.empty() && fs::is_directory(dernier, erreur)) return dernier;
+    return session.CheminBase.parent_path();
+}
+
+bool EstDeLaBase(const shell::Session& session, const fs::path& fichier) {
+    std::error_code erreur;
+    return std::ranges::any_of(
+        std::initializer_list<fs::path>{session.CheminBase, session.CheminJournal},
+        [&](const fs::path& autre) {
+            return fichier == autre || fs::equivalent(fichier, autre, erreur);
+        });
+}
+
+/// Where to; nothing when the user gives up.
+std::optional<fs::path> ChoisirFichier(shell::Session& session, FormatExport format) {
+    const std::string extension = Extension(format);
+    shell::DemandeFichier demande;
+    demande.sorte = shell::DemandeFichier::Sorte::Enregistrer;
+    demande.titre = shell::Msg(4234);
+    demande.filtre = session.Message(format == FormatExport::Gedcom ? 4239 : 3813);
+    demande.extension = extension;
+    demande.depart = DossierPropose(session) / session.CheminBase.stem();
+    demande.depart += extension;
+    std::optional<fs::path> choisi = session.dialogue.ChoisirFichier(demande);
+    if (!choisi) return std::nullopt;
+    fs::path fichier = shell::CheminEntier(*choisi);
+    bool autreNom = false;
+    if (EnPetites(fichier.extension().string()) != extension) {
+        fichier += extension;
+        autreNom = true;
+    }
+    if (EstDeLaBase(session, fichier)) {
+        session.dialogue.Informer(shell::Msg(4236, shell::CheminAffiche(fichier.filename())));
+        return std::nullopt;
+    }
+    // The dialog has asked about the name that it knew.
+    std::error_code erreur;
+    if (autreNom && fs::exists(fichier, erreur)) {
+        shell::Question question;
+        question.texte = shell::Msg(4235, shell::CheminAffiche(fichier.filename()));
+        question.defaut = shell::Reponse::Non;
+        question.grave = true;
+        if (!session.dialogue.Confirmer(question)) return std::nullopt;
+    }
+    return fichier;
+}
+
+IssueLancement Traduire(IssueExport issue) {
+    switch (issue) {
+        case IssueExport::Fait:
+            return IssueLancement::Fait;
+        case IssueExport::Abandon:
+            return IssueLancement::Interrompu;
+        case IssueExport::Refus:
+            break;
+    }
+    return IssueLancement::Echec;
+}
+
+Lancement Ecrire(shell::Session& session, const fs::path& fichier, const DemandeExport& demande,
+                 OptionsLgr options) {
+    Lancement lancement;
+    if (demande.format == FormatExport::Dorvane) {
+        const ResultatLgr r = ExporterLgr(session, fichier, options);
+        lancement.issue = Traduire(r.issue);
+        lancement.individus = r.comptes.individus;
+        lancement.unions = r.comptes.unions;
+        lancement.evenements = r.comptes.evenements;
+        lancement.documents = r.comptes.documents;
+        lancement.omis = r.comptes.omis;
+        return lancement;
+    }
+    OptionsExport gedcom;
+    gedcom.jeu = demande.jeu;
+    gedcom.choisis = std::move(options.choisis);
+    gedcom.complet = options.complet;
+    const ResultatExport r = ExporterGedcom(session, fichier, gedcom);
+    lancement.issue = Traduire(r.issue);
+    lancement.individus = r.comptes.individus;
+    lancement.unions = r.comptes.familles;
+    lancement.evenements = r.comptes.evenements;
+    lancement.documents = r.comptes.documents;
+    lancement.perdus = r.comptes.perdus;
+    return lancement;
+}
+
+/// What a stopped export leaves is of use to nobody who has not asked for it.
+void ProposerSuppression(shell::Session& session, const fs::path& partiel) {
+    shell::Question question;
+    question.texte = shell::Msg(4237, shell::CheminAffiche(partiel));
+    question.defaut = shell::Reponse::Non;
+    question.grave = true;
+    if (!session.dialogue.Confirmer(question)) return;
+    std::error_code erreur;
+    if (!fs::remove(partiel, erreur))
+        session.dialogue.Informer(shell::Msg(4238, shell::CheminAffiche(partiel)));
+}
+
+void Dire(shell::Session& session, const Lancement& lancement, const fs::path& fichier) {
+    switch (lancement.issue) {
+        case IssueLancement::Fait:
+            session.dialogue.Informer(shell::Msg(652));
+            if (lancement.perdus > 0)
+                session.dialogue.Informer(shell::Msg(3702, std::to_string(lancement.perdus)));
+            if (lancement.omis > 0)
+                session.dialogue.Informer(shell::Msg(4201, std::to_string(lancement.omis)));
+            return;
+        case IssueLancement::Interrompu:
+            return ProposerSuppression(session, shell::CheminPartiel(fichier));
+        case IssueLancement::Echec:
+            session.dialogue.Informer(shell::Msg(3701, shell::CheminAffiche(fichier)));
+            return;
+        case IssueLancement::Refuse:
+        case IssueLancement::Vide:
+        case IssueLancement::Renonce:
+            return;
+    }
+}
+
+}  // namespace
+
+DemandeExport DernierExport(const shell::Session& session) {
+    DemandeExport demande;
+    demande.jeu = JeuDesReglages(session);
+    demande.parcours.resize(1);
+    const std::vector<std::int32_t> n = Nombres(session.parametres.Valeur(Section, CleChoix));
+    if (n.size() != NbRangs) return demande;
+    demande.format = n[RangFormat] == 1 ? FormatExport::Dorvane : FormatExport::Gedcom;
+    demande.entiere = n[RangPartie] == 0;
+    ParcoursExport& parcours = demande.parcours.front();
+    parcours.sens = n[RangSens] == 1 ? SensExport::Descendants : SensExport::Ascendants;
+    parcours.generations = static_cast<std::uint32_t>(
+        std::clamp(n[RangGenerations], 1, static_cast<std::int32_t>(MaxGenerations)));
+    demande.reglages = {n[RangCollateraux] == 1, n[RangComplet] == 1, n[RangEcarter] == 1};
+    if (n[RangReglage] == Numero(demande.jeu))
+        demande.jeu = JeuDuReglage(std::to_string(n[RangJeu]));
+    return demande;
+}
+
+void RetenirExport(shell::Session& session, const DemandeExport& demande) {
+    const ParcoursExport parcours =
+        demande.parcours.empty() ? ParcoursExport{} : demande.parcours.back();
+    const std::int32_t nombres[NbRangs] = {
+        demande.format == FormatExport::Dorvane ? 1 : 0,
+        demande.entiere ? 0 : 1,
+        parcours.sens == SensExport::Descendants ? 1 : 0,
+        static_cast<std::int32_t>(std::min(parcours.generations, MaxGenerations)),
+        demande.reglages.collateraux ? 1 : 0,
+        demande.reglages.complet ? 1 : 0,
+        demande.reglages.ecarter1900 ? 1 : 0,
+        Numero(demande.jeu),
+        Numero(JeuDesReglages(session))};
+    std::string texte;
+    for (const std::int32_t nombre : nombres)
+        texte += std::to_string(nombre) + '/';
+    // A refusal is told when the settings are saved at the end.
+    if (session.parametres.Valeur(Section, CleChoix) != texte)
+        static_cast<void>(session.parametres.SauverValeur(Section, CleChoix, texte));
+}
+
+ComptesSelection CompterExport(shell::Session& session, const DemandeExport& demande) {
+    storage::Base& base = *session.base;
+    const SelectionExport selection = Selectionner(base, demande);
+    ComptesSelection comptes;
+    comptes.retenus = selection.NbRetenus();
+    comptes.marques = selection.NbMarques();
+    const OptionsLgr options = Options(selection, demande);
+    // Both formats take the same records.
+    const RedactionLgr redaction{session, options};
+    comptes.individus = Compter<NoOrdre>(redaction, base.entete.DernierIndividu);
+    comptes.evenements = Compter<NoEvenement>(redaction, base.entete.DernierEvenement);
+    comptes.documents = Compter<NoDocument>(redaction, base.entete.DernierDocument);
+    return comptes;
+}
+
+Lancement LancerExport(shell::Session& session, const DemandeExport& demande) {
+    if (!shell::CommandePermise(session) || !session.base) return {};
+    const SelectionExport selection = Selectionner(*session.base, demande);
+    OptionsLgr options = Options(selection, demande);
+    if (std::ranges::find(options.choisis, true) == options.choisis.end()) {
+        session.dialogue.Informer(shell::Msg(959));
+        return {.issue = IssueLancement::Vide};
+    }
+    const std::optional<fs::path> fichier = ChoisirFichier(session, demande.format);
+    if (!fichier) return {.issue = IssueLancement::Renonce};
+    Lancement lancement = Ecrire(session, *fichier, demande, std::move(options));
+    if (lancement.issue == IssueLancement::Fait) {
+        lancement.fichier = *fichier;
+        static_cast<void>(session.parametres.SauverValeur(
+            Section, CleDossier, shell::CheminAffiche(fichier->parent_path())));
+    }
+    Dire(session, lancement, *fichier);
+    return lancement;
+}
+
+}  // namespace dorvane::interchange

@@ -1,0 +1,57 @@
+#include "interchange/commun/FaireBase.h"
+
+#include "shell/CycleDeVie.h"
+#include "shell/Parametres.h"
+#include "storage/Base.h"
+#include "storage/Disque.h"
+
+namespace dorvane::interchange {
+namespace {
+
+/// Where the base is written until it is whole.
+std::filesystem::path CheminProvisoire(const std::filesystem::path& base) {
+    std::filesystem::path chemin = base;
+    chemin += "~imp";
+    return chemin;
+}
+
+/// Gives the new base its name. The journal of a base that stood there before goes first: it
+/// belongs to no one.
+bool Installer(storage::Disque& disque, const std::filesystem::path& provisoire,
+               const std::filesystem::path& base) {
+    if (!storage::SupprimerJournal(disque, base) || !disque.Renommer(provisoire, base))
+        return false;
+    // The new name is in place, whatever the system says of the folder.
+    disque.ViderDossier(base);
+    return true;
+}
+
+}  // namespace
+
+IssueImport FaireBase(shell::Session& session, const std::filesystem::path& base,
+                      const CadreImport& cadre,
+                      const std::function<bool(storage::Base&)>& remplir) {
+    shell::ReprendreAvantRemplacement(session, base);
+    // Held until the end: nobody opens or replaces the base meanwhile.
+    const storage::ResultatVerrou verrou = session.disque.Verrouiller(base);
+    if (verrou.etat == storage::EtatVerrou::Occupe) return IssueImport::Occupee;
+
+    const shell::CadreProgression montre{session.progression, cadre.titre, cadre.texte};
+    const std::filesystem::path provisoire = CheminProvisoire(base);
+    storage::ResultatOuverture ouverture = storage::NouvelleBase(
+        session.disque, provisoire,
+        {'1', session.parametres.generaux.motClePrenom, session.parametres.generaux.motCleNom});
+    if (ouverture.etat != storage::Ouverture::Faite) return IssueImport::Refuse;
+    ouverture.base->regles.particules = session.parametres.generaux.particules;
+    const bool fini = remplir(*ouverture.base);
+    const bool ecrite = fini && ouverture.base->Fermer();
+    if (!ecrite) ouverture.base.reset();
+    if (!ecrite || !Installer(session.disque, provisoire, base)) {
+        (void)session.disque.Supprimer(provisoire);
+        (void)storage::SupprimerJournal(session.disque, provisoire);
+        return fini ? IssueImport::Refuse : IssueImport::Abandonne;
+    }
+    return IssueImport::Fait;
+}
+
+}  // namespace dorvane::interchange

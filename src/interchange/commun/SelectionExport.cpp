@@ -1,0 +1,125 @@
+#include "interchange/commun/SelectionExport.h"
+
+#include "storage/Base.h"
+
+#include <algorithm>
+
+namespace dorvane::interchange {
+
+namespace {
+
+constexpr char Blanc = ' ';
+constexpr char Parcouru = '1';
+constexpr char Proche = '2';
+constexpr char Retenu = '3';
+constexpr char Collateral = '4';
+
+constexpr std::string_view DerniereNaissance = "1900";
+
+NoOrdre Conjoint(storage::Base& base, NoMariage m, NoOrdre n) {
+    const NoOrdre epoux = base.R_EPOUX.LireCellule(m);
+    return epoux == n ? base.R_EPOUSE.LireCellule(m) : epoux;
+}
+
+struct Etape {
+    NoOrdre individu;
+    std::uint32_t generations;
+};
+
+}  // namespace
+
+SelectionExport::SelectionExport(storage::Base& base)
+    : base_{base}, marques_(base.entete.DernierIndividu + 1ULL, Blanc) {}
+
+void SelectionExport::Vider() {
+    std::ranges::fill(marques_, Blanc);
+    nbRetenus_ = nbMarques_ = 0;
+}
+
+void SelectionExport::MarquerTous() {
+    for (std::uint32_t rang = 1; rang <= base_.entete.NbTriIndividus; ++rang)
+        if (const NoOrdre n = base_.R_TRI.IndividuAuRang(rang); Existe(n))
+            marques_[n.valeur] = Retenu;
+    FixerMarques();
+}
+
+void SelectionExport::MarquerListe(std::span<const NoOrdre> individus) {
+    for (const NoOrdre n : individus)
+        if (Existe(n)) marques_[n.valeur] = Retenu;
+    FixerMarques();
+}
+
+void SelectionExport::MarquerParente(NoOrdre depart, SensExport sens, std::uint32_t generations) {
+    if (!Existe(depart) || generations == 0) return;
+    const std::string avant = marques_;
+    Parcourir(depart, sens, generations);
+    // Where this walk stops it makes near kin of persons whom an earlier one has selected.
+    for (std::size_t n = 1; n < avant.size(); ++n)
+        if (avant[n] == Retenu) marques_[n] = Retenu;
+    FixerMarques();
+}
+
+/// Depth first, the father's side before the mother's, the first child before the next: in a family
+/// where somebody is reached twice, the first way that leads to him counts.
+void SelectionExport::Parcourir(NoOrdre depart, SensExport sens, std::uint32_t generations) {
+    std::vector<Etape> pile{{depart, generations}};
+    std::vector<NoOrdre> suivants;
+    while (!pile.empty()) {
+        const Etape etape = pile.back();
+        pile.pop_back();
+        const NoOrdre n = etape.individu;
+        if (marques_[n.valeur] == Parcouru) continue;
+        marques_[n.valeur] = Parcouru;
+        for (const NoMariage m : base_.R_MARIAG.Elements(n))
+            if (const NoOrdre autre = Conjoint(base_, m, n);
+                Existe(autre) && marques_[autre.valeur] != Parcouru)
+                marques_[autre.valeur] = Retenu;
+        const std::vector<NoOrdre> parents{base_.R_PERE.LireCellule(n),
+                                           base_.R_MERE.LireCellule(n)};
+        const std::vector<NoOrdre> enfants = base_.R_ENFANT.Elements(n);
+        const bool montant = sens == SensExport::Ascendants;
+        for (const NoOrdre proche : montant ? enfants : parents)
+            if (Existe(proche) && marques_[proche.valeur] != Parcouru &&
+                marques_[proche.valeur] != Retenu)
+                marques_[proche.valeur] = Proche;
+        suivants = montant ? parents : enfants;
+        std::erase_if(suivants, [this](NoOrdre autre) {
+            return !Existe(autre) || marques_[autre.valeur] == Parcouru;
+        });
+        if (etape.generations == 1) {
+            for (const NoOrdre autre : suivants)
+                marques_[autre.valeur] = Proche;
+            continue;
+        }
+        // The first of them is taken off the pile first.
+        std::ranges::reverse(suivants);
+        for (const NoOrdre autre : suivants)
+            pile.push_back({autre, etape.generations - 1});
+    }
+}
+
+void SelectionExport::FixerMarques() {
+    nbRetenus_ = nbMarques_ = 0;
+    for (char& marque : marques_) {
+        if (marque == Blanc) continue;
+        marque = marque == Parcouru || marque == Retenu ? Retenu : Collateral;
+        ++nbMarques_;
+        if (marque == Retenu) ++nbRetenus_;
+    }
+}
+
+char SelectionExport::Marque(NoOrdre n) const {
+    return Existe(n) ? marques_[n.valeur] : Blanc;
+}
+
+std::vector<bool> SelectionExport::Choisis(const ReglagesSelection& reglages) const {
+    std::vector<bool> choisis(marques_.size());
+    for (std::uint32_t n = 1; n < marques_.size(); ++n) {
+        const bool marque = marques_[n] == Retenu || (reglages.collateraux && marques_[n] != Blanc);
+        choisis[n] = marque && !(reglages.ecarter1900 &&
+                                 base_.R_NAISS.AnneeTri(NoOrdre{n}) > DerniereNaissance);
+    }
+    return choisis;
+}
+
+}  // namespace dorvane::interchange

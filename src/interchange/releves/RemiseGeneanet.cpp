@@ -1,0 +1,68 @@
+#include "interchange/releves/RemiseGeneanet.h"
+
+#include "interchange/gedcom/ExportGedcom.h"
+#include "shell/CycleDeVie.h"
+#include "storage/Base.h"
+#include "values/Texte1252.h"
+
+#include <system_error>
+
+namespace dorvane::interchange {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Writes the file of the tool; false once a message has told why not.
+bool Exporter(shell::Session& session, const fs::path& sortie) {
+    std::error_code erreur;
+    fs::create_directories(sortie.parent_path(), erreur);
+    OptionsExport options;
+    options.jeu = JeuDuReglage(session.parametres.generaux.jeuExport);
+    options.reduit = true;
+    switch (ExporterGedcom(session, sortie, options).issue) {
+        case IssueExport::Fait:
+            return true;
+        case IssueExport::Abandon:
+            return false;
+        case IssueExport::Refus:
+            break;
+    }
+    session.dialogue.Informer(shell::Msg(3701, Utf8VersTexte(sortie.string()).octets));
+    return false;
+}
+
+/// The report bears the name of the file; one of an earlier run must not pass for this one's.
+fs::path PreparerCompteRendu(const fs::path& sortie) {
+    fs::path compteRendu = sortie;
+    compteRendu.replace_extension(".err");
+    std::error_code erreur;
+    fs::remove(compteRendu, erreur);
+    return compteRendu;
+}
+
+}  // namespace
+
+void MnuGeneanet(shell::Session& session, const LancerOutil& lancer,
+                 const MontrerFichier& montrer) {
+    if (!session.base || !shell::CommandePermise(session)) return;
+    // The tool runs in its folder, where a relative name would lead elsewhere.
+    const fs::path outil = shell::CheminEntier(session.parametres.generaux.geneanet);
+    fs::path sortie = outil / "geneanet" / session.base->Chemin().stem();
+    sortie += ".ged";
+    if (!Exporter(session, sortie)) return;
+    const fs::path compteRendu = PreparerCompteRendu(sortie);
+    bool lance = false;
+    for (const char* programme : {"perl.exe", "perl"}) {
+        lance = lancer({programme, {"ged2gen.pl", sortie.string()}, outil});
+        if (lance) break;
+    }
+    std::error_code erreur;
+    if (!lance) {
+        session.dialogue.Informer(shell::Litteral("Erreur appel Généanet"_1252));
+        return;
+    }
+    if (fs::exists(compteRendu, erreur)) montrer(compteRendu);
+}
+
+}  // namespace dorvane::interchange

@@ -1,0 +1,205 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include "interchange/releves/Releve.h"
+#include "records/ModeleFamille.h"
+#include "windows/graphe/PaletteGraphe.h"
+
+#include <array>
+#include <vector>
+
+class QActionGroup;
+class QLabel;
+class QMenu;
+class QStackedWidget;
+class QToolBar;
+class QTranslator;
+
+namespace dorvane::shell {
+class Session;
+}
+
+namespace dorvane::windows {
+
+class Accueil;
+class CadreAvancement;
+class FenetreFille;
+class FrmDebut;
+class FrmExporter;
+
+/// The main window: menus, bars, the family chart.
+class MDIForm1 final : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// `session` outlives the window. It is started once the window is attached to its ports.
+    explicit MDIForm1(shell::Session& session);
+    ~MDIForm1() override;
+
+    /// Reads everything again that the window shows.
+    void Actualiser();
+
+    /// Closes the windows beside this one.
+    void FermerFenetres();
+
+    /// Asks every window that holds unsaved entries what becomes of them; false to stay.
+    [[nodiscard]] bool ConfirmerFermeture();
+
+    /// Takes a window beside this one in: what it asks for is done, and it appears in the window
+    /// bar. It is shown by the caller.
+    void Accueillir(FenetreFille& fille);
+
+    /// A text in the status bar; empty clears it.
+    void Annoncer(const QString& texte);
+
+    /// `texte` in code page 1252.
+    void MontrerRapport(const std::string& titre, const std::string& texte);
+
+    /// The first start asks for the colours of the chart, once.
+    void DemanderPalette();
+
+    /// Moves to a person of the base, after the question for an unsaved sheet. Nothing for the
+    /// current person and for who has no record.
+    void AllerA(NoOrdre individu);
+
+    /// Opens the export window with the persons of a list as what is selected.
+    void ExporterListe(const std::vector<NoOrdre>& liste);
+
+    [[nodiscard]] CadreAvancement& Cadre() { return *cadre_; }
+    [[nodiscard]] FrmDebut& Graphe() { return *graphe_; }
+
+protected:
+    void closeEvent(QCloseEvent* evenement) override;
+    void dragEnterEvent(QDragEnterEvent* evenement) override;
+    void dropEvent(QDropEvent* evenement) override;
+
+private:
+    using Action = void (MDIForm1::*)();
+
+    // The menus.
+    void FaireMenus();
+    void FaireBarres();
+    QMenu* FaireMenu(QWidget* parent, const char* nom);
+    QAction* FaireAction(QMenu* menu, const char* nom, const char* touches, Action action);
+    void FaireFichier();
+    void FaireEchange(QMenu* menu);
+    void FaireReleves(QMenu* menu);
+    void FairePersonne();
+    void FaireAffichage();
+    void FaireOutils();
+    void FaireSoin(QMenu* menu);
+    void PoserLangues();
+    void PoserHistorique();
+    void PoserIcones();
+    void PoserEtats();
+    [[nodiscard]] QAction* ActionNommee(const QString& nom) const;
+
+    // What the entries do.
+    void Nouveau();
+    void Ouvrir();
+    void Fermer();
+    void Enregistrer();
+    void Sauvegarde();
+    void Restauration();
+    void Importer();
+    void Exporter();
+    void ExporterSelectif();
+    void Integrer();
+    FrmExporter* FenetreExport();
+    void ImporterActes(interchange::SorteReleve sorte);
+    void Geneanet();
+    void Quitter();
+    void Precedent();
+    void Suivant();
+    void Noms();
+    void Liste();
+    void Modifier();
+    void NouvelIndividu();
+    void SupprimerIndividu();
+    void Evenements();
+    void Documents();
+    void MotsCles();
+    void Usuels();
+    void Reglages();
+    void OuvrirFiche(NoOrdre individu);
+    void MenuParent(NoOrdre enfant, char cote, const QPoint& point);
+    void CreerParent(NoOrdre enfant, char cote);
+    void ChercherParent(NoOrdre enfant, char cote);
+    void DeposerParent(NoOrdre enfant, char cote, NoOrdre parent);
+    void AllerDeCujus1();
+    void AllerDeCujus2();
+    void ChoisirDeCujus1();
+    void ChoisirDeCujus2();
+    void Agrandir();
+    void Diminuer();
+    void Ajuster();
+    void Gauche();
+    void Droite();
+    void BarreIcones();
+    void BarreFenetres();
+    void Calendrier();
+    void Communes();
+    void Controle();
+    void Depannage();
+    void Reorganiser();
+
+    void Histo(int rang);
+    void Presentation(int presentation);
+    void PoserPalette(Palette palette);
+    void ChangerLangue(const QString& nom);
+    void Traduire();
+    void TraduireQt();
+    void PasVers(records::Parente parente);
+    void MenuIndividu(NoOrdre individu, const QPoint& point);
+    void DireGenerations();
+    void SuivreFenetres();
+    void Minuterie();
+    void ActualiserEtat();
+    [[nodiscard]] QList<FenetreFille*> Filles() const;
+    void RelireTout(const FenetreFille* sauf);
+
+    /// Shows the one window of a class, made at the first call.
+    template <class Fenetre>
+    Fenetre& Montrer();
+
+    shell::Session& session_;
+    QStackedWidget* pages_;
+    Accueil* accueil_;
+    FrmDebut* graphe_;
+    QToolBar* icones_;
+    QToolBar* fenetres_;
+    QLabel* etatPersonne_;
+    QLabel* etatDeCujus_;
+    CadreAvancement* cadre_;
+    QMenu* menuFichier_ = nullptr;
+    QMenu* menuLangues_ = nullptr;
+    QAction* traitHistorique_ = nullptr;
+    QActionGroup* presentations_ = nullptr;
+    QActionGroup* palettes_ = nullptr;
+    std::array<QAction*, 5> historique_{};
+    QString numerosIcones_;
+    QTimer Minuterie1_;
+    QTimer Minuterie2_;
+    QTranslator* traducteur_ = nullptr;
+    NoOrdre conjointPrecedent_{};  ///< from whom the last step to a spouse came
+    bool arrete_ = false;          ///< the session has been closed
+    const void* baseMontree_ = nullptr;
+};
+
+template <class Fenetre>
+Fenetre& MDIForm1::Montrer() {
+    auto* fenetre = findChild<Fenetre*>(QString{}, Qt::FindDirectChildrenOnly);
+    if (fenetre == nullptr) {
+        fenetre = new Fenetre{session_, this};
+        Accueillir(*fenetre);
+    }
+    fenetre->show();
+    fenetre->raise();
+    fenetre->activateWindow();
+    SuivreFenetres();
+    return *fenetre;
+}
+
+}  // namespace dorvane::windows

@@ -1,0 +1,32 @@
+// The entries of the main window that look after a base: repair and reorganisation.
+#include <QMenu>
+
+#include "records/Depannage.h"
+#include "shell/Reorganisation.h"
+#include "shell/Session.h"
+#include "windows/cadre/MDIForm1.h"
+#include "windows/controles/Legendes.h"
+#include "windows/controles/OuvrirTexte.h"
+
+namespace dorvane::windows {
+
+void MDIForm1::FaireSoin(QMenu* menu) {
+    QMenu* soin = FaireMenu(menu, "MnuSoin");
+    FaireAction(soin, "MnuControle", nullptr, &MDIForm1::Controle);
+    FaireAction(soin, "MnuDépannage", nullptr, &MDIForm1::Depannage);
+    FaireAction(soin, "MnuRéorganiser", nullptr, &MDIForm1::Reorganiser);
+}
+
+void MDIForm1::Depannage() {
+    const records::BilanDepannage bilan = records::MnuDepannage(session_);
+    if (!bilan.fait) return;
+    RelireTout(nullptr);
+    if (!bilan.journal.empty())
+        OuvrirTexte(session_, bilan.journal, TexteEcran(session_, 4284), *this);
+}
+
+void MDIForm1::Reorganiser() {
+    shell::MnuReorganiser(session_);
+}
+
+}  // namespace dorvane::windows

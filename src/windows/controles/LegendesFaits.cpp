@@ -1,0 +1,121 @@
+#include "windows/controles/TablesLegendes.h"
+
+namespace dorvane::windows {
+
+namespace {
+
+using enum Propriete;
+
+constexpr Legende Table[] = {
+    {"FrmLstEvt", "", Texte, 3167},
+    {"FrmLstEvt", "LblFiltre", Texte, 3065},
+    {"FrmLstEvt", "TxtFiltre", Invite, 3061},
+    {"FrmLstEvt", "GrdEvts", Acces, 3167},
+    {"FrmLstEvt", "GrdEvts", Colonne, 3040, 0},
+    {"FrmLstEvt", "GrdEvts", Colonne, 3041, 1},
+    {"FrmLstEvt", "GrdEvts", Colonne, 3042, 2},
+    {"FrmLstEvt", "GrdEvts", Colonne, 3043, 3},
+    {"FrmLstEvt", "GrdEvts", Colonne, 3044, 4},
+    {"FrmLstEvt", "CmdAjout", Texte, 3066},
+    {"FrmLstEvt", "CmdMaj", Texte, 3067},
+    {"FrmLstEvt", "CmdSupp", Texte, 3068},
+    {"FrmLstEvt", "CmdChoisir", Texte, 3169},
+    {"FrmLstEvt", "CmdFermer", Texte, 3069},
+
+    {"FrmLstImage", "", Texte, 3168},
+    {"FrmLstImage", "LblFiltre", Texte, 3065},
+    {"FrmLstImage", "TxtFiltre", Invite, 3061},
+    {"FrmLstImage", "LstImage", Acces, 3168},
+    {"FrmLstImage", "LstImage", Colonne, 3045, 0},
+    {"FrmLstImage", "LstImage", Colonne, 3041, 1},
+    {"FrmLstImage", "LstImage", Colonne, 3046, 2},
+    {"FrmLstImage", "LstImage", Colonne, 3047, 3},
+    {"FrmLstImage", "CmdAjout", Texte, 3066},
+    {"FrmLstImage", "CmdMaj", Texte, 3067},
+    {"FrmLstImage", "CmdOuvrir", Texte, 3170},
+    {"FrmLstImage", "CmdSupp", Texte, 3068},
+    {"FrmLstImage", "CmdUtil", Texte, 3171},
+    {"FrmLstImage", "DocBase", Texte, 3172},
+    {"FrmLstImage", "DocBase", Bulle, 3173},
+    {"FrmLstImage", "CmdChoisir", Texte, 3169},
+    {"FrmLstImage", "CmdFermer", Texte, 3069},
+
+    {"FrmUtilImage", "", Texte, 3074},
+    {"FrmUtilImage", "LstUtil", Acces, 3074},
+    {"FrmUtilImage", "LstUtil", Colonne, 3041, 0},
+    {"FrmUtilImage", "LstUtil", Colonne, 3077, 1},
+    {"FrmUtilImage", "CmdAller", Texte, 3075},
+    {"FrmUtilImage", "CmdFiche", Texte, 3076},
+    {"FrmUtilImage", "CmdFermer", Texte, 3078},
+
+    {"FrmDesEvt", "LblDate", Texte, 3130},
+    {"FrmDesEvt", "LblTypeEvt", Texte, 3131},
+    {"FrmDesEvt", "LblLieu", Texte, 3132},
+    {"FrmDesEvt", "LblLib", Texte, 3133},
+    {"FrmDesEvt", "LblComment", Texte, 3152},
+    {"FrmDesEvt", "CmdTxtComment", Texte, 3135},
+    {"FrmDesEvt", "LblPersonnes", Texte, 3149},
+    {"FrmDesEvt", "LblRole", Texte, 3136},
+    {"FrmDesEvt", "CmdRechLien", Texte, 3137},
+    {"FrmDesEvt", "CmdRechLien", Bulle, 3151},
+    {"FrmDesEvt", "CmdCréLien", Texte, 3138},
+    {"FrmDesEvt", "CmdMot", Bulle, 3143},
+    {"FrmDesEvt", "CmdMot", Acces, 3143},
+    {"FrmDesEvt", "CmdLienUp", Bulle, 3144},
+    {"FrmDesEvt", "CmdLienUp", Acces, 3144},
+    {"FrmDesEvt", "CmdLienDown", Bulle, 3145},
+    {"FrmDesEvt", "CmdLienDown", Acces, 3145},
+    {"FrmDesEvt", "CmdSupLien", Bulle, 3146},
+    {"FrmDesEvt", "CmdSupLien", Acces, 3146},
+    {"FrmDesEvt", "GrdLiens", Acces, 3149},
+    {"FrmDesEvt", "GrdLiens", Colonne, 3048, 0},
+    {"FrmDesEvt", "GrdLiens", Colonne, 3070, 1},
+    {"FrmDesEvt", "GrdLiens", Colonne, 2063, 2},
+    {"FrmDesEvt", "LblDocuments", Texte, 3150},
+    {"FrmDesEvt", "CmdRechDoc", Texte, 3139},
+    {"FrmDesEvt", "CmdCréationDoc", Texte, 3140},
+    {"FrmDesEvt", "CmdVoirDoc", Bulle, 3147},
+    {"FrmDesEvt", "CmdVoirDoc", Acces, 3147},
+    {"FrmDesEvt", "CmdDocUp", Bulle, 3144},
+    {"FrmDesEvt", "CmdDocUp", Acces, 3144},
+    {"FrmDesEvt", "CmdDocDown", Bulle, 3145},
+    {"FrmDesEvt", "CmdDocDown", Acces, 3145},
+    {"FrmDesEvt", "CmdSuppDoc", Bulle, 3148},
+    {"FrmDesEvt", "CmdSuppDoc", Acces, 3148},
+    {"FrmDesEvt", "LstDoc", Acces, 3150},
+    {"FrmDesEvt", "LstDoc", Colonne, 3045, 0},
+    {"FrmDesEvt", "LstDoc", Colonne, 3041, 1},
+    {"FrmDesEvt", "LstDoc", Colonne, 3046, 2},
+    {"FrmDesEvt", "LstDoc", Colonne, 3047, 3},
+    {"FrmDesEvt", "TxtComment", Acces, 3152},
+    {"FrmDesEvt", "CmdMaj", Texte, 3141},
+    {"FrmDesEvt", "CmdAnnuler", Texte, 3142},
+
+    {"FrmDesImage", "LblIntitulé", Texte, 3160},
+    {"FrmDesImage", "LblNomfic", Texte, 3161},
+    {"FrmDesImage", "CmdFichier", Texte, 3162},
+    {"FrmDesImage", "ChkOle", Texte, 3163},
+    {"FrmDesImage", "LblTypeDoc", Texte, 3164},
+    {"FrmDesImage", "LblComment", Texte, 3134},
+    {"FrmDesImage", "TxtComment", Acces, 3134},
+    {"FrmDesImage", "CmdTxtComment", Texte, 3135},
+    {"FrmDesImage", "LblApercu", Acces, 3166},
+    {"FrmDesImage", "CmdOuvrir", Texte, 3165},
+    {"FrmDesImage", "CmdValider", Texte, 3175},
+    {"FrmDesImage", "CmdAnnuler", Texte, 3142},
+
+    {"FrmMot", "", Texte, 3120},
+    {"FrmMot", "LblVide", Texte, 3127},
+    {"FrmMot", "CmdReprendre", Texte, 3125},
+    {"FrmMot", "CmdReprendre", Bulle, 3126},
+    {"FrmMot", "CmdValider", Texte, 3141},
+    {"FrmMot", "CmdAnnuler", Texte, 3142},
+};
+
+}  // namespace
+
+std::span<const Legende> LegendesFaits() {
+    return Table;
+}
+
+}  // namespace dorvane::windows

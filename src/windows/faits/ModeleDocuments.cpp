@@ -1,0 +1,95 @@
+#include "windows/faits/ModeleDocuments.h"
+
+#include <QIcon>
+#include <QPixmap>
+
+#include "records/FicheDocument.h"
+#include "shell/Session.h"
+#include "storage/Base.h"
+#include "windows/controles/Icones.h"
+#include "windows/controles/Legendes.h"
+#include "windows/controles/Unicode.h"
+#include "windows/controles/Vignettes.h"
+
+namespace dorvane::windows {
+
+using records::NatureDocument;
+
+namespace {
+
+/// The drawing for a document without a picture, by its state.
+const char* NomIcone(std::uint32_t etat) {
+    switch (etat) {
+        case 3050:
+            return "FichierAbsent";
+        case 3052:
+            return "Adresse";
+        case 3053:
+            return "Courriel";
+        default:
+            return "Fichier";
+    }
+}
+
+}  // namespace
+
+ModeleDocuments::ModeleDocuments(shell::Session& session, const char* fenetre, const char* controle,
+                                 QObject* parent)
+    : ModeleListe{session, NbColonnes, fenetre, controle, parent} {}
+
+std::vector<std::uint32_t> ModeleDocuments::Numeros(const shell::Session& session) {
+    if (!session.base) return {};
+    const std::vector<std::uint16_t>& tri = session.base->R_TRI.documents.Numeros();
+    return {tri.begin(), tri.end()};
+}
+
+std::uint32_t ModeleDocuments::MessageEtat(NoDocument document) const {
+    switch (records::NatureDe(S().base->R_IMAGE.LireDoc(document))) {
+        case NatureDocument::Rien:
+            return 3051;
+        case NatureDocument::Adresse:
+            return 3052;
+        case NatureDocument::Courriel:
+            return 3053;
+        case NatureDocument::Lien:
+        case NatureDocument::Fichier:
+            break;
+    }
+    return FichierDeDocument(S(), document).empty() ? 3050 : 0;
+}
+
+std::string ModeleDocuments::Texte(std::uint32_t numero, int colonne) const {
+    const NoDocument document{numero};
+    switch (colonne) {
+        case Titre:
+            return records::TitreAffiche(S(), document);
+        case Type:
+            return S().base->R_IMAGE.TypeDoc(document);
+        case Fichier:
+            return S().base->R_IMAGE.FichierDoc(document);
+        default: {
+            const std::uint32_t message = MessageEtat(document);
+            std::string etat = message == 0 ? std::string{} : S().Message(message);
+            if (S().base->entete.DocBase == document)
+                etat += (etat.empty() ? "" : ", ") + S().Message(3054);
+            return etat;
+        }
+    }
+}
+
+QVariant ModeleDocuments::Autre(std::uint32_t numero, int colonne, int role) const {
+    const NoDocument document{numero};
+    if (role == Qt::DecorationRole && colonne == Titre) {
+        const QPixmap vignette = VignetteDeFichier(FichierDeDocument(S(), document), CoteVignette);
+        if (!vignette.isNull()) return vignette;
+        return Icone(NomIcone(MessageEtat(document)));
+    }
+    // The whole title, with what stands behind its slash.
+    if (role == Qt::ToolTipRole && colonne == Titre)
+        return TexteVersQt(S().base->R_IMAGE.TitreDoc(document));
+    if (role == Qt::SizeHintRole && colonne == Titre)
+        return QSize{CoteVignette * 4, CoteVignette + 4};
+    return ModeleListe::Autre(numero, colonne, role);
+}
+
+}  // namespace dorvane::windows

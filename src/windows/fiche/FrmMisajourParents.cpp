@@ -1,0 +1,91 @@
+// Father and mother of the sheet: what the buttons show, and the operations behind them.
+#include "ui_FrmMisajour.h"
+
+#include "records/Filiation.h"
+#include "shell/Session.h"
+#include "storage/Base.h"
+#include "windows/controles/Legendes.h"
+#include "windows/fiche/FrmMisajour.h"
+#include "windows/personnes/FrmCreation.h"
+#include "windows/personnes/FrmPere.h"
+
+namespace dorvane::windows {
+
+void FrmMisajour::RelierParents() {
+    ui_->N_Père->Attacher(S());
+    ui_->N_Mère->Attacher(S());
+    for (BoutonPersonne* bouton : {ui_->N_Père, ui_->N_Mère}) {
+        const char cote = bouton == ui_->N_Père ? 'H' : 'F';
+        connect(bouton, &QToolButton::clicked, this, [this, bouton, cote] {
+            if (bouton->Individu())
+                Ouvrir(bouton->Individu());
+            else
+                ChercherParent(cote);
+        });
+        connect(bouton, &BoutonPersonne::deposee, this,
+                [this, cote](quint32 n) { DeposerParent(cote, NoOrdre{n}); });
+    }
+    const auto relier = [this](QToolButton& bouton, void (FrmMisajour::*action)(char), char cote) {
+        connect(&bouton, &QToolButton::clicked, this,
+                [this, action, cote] { (this->*action)(cote); });
+    };
+    relier(*ui_->C_Rechpère, &FrmMisajour::ChercherParent, 'H');
+    relier(*ui_->C_Rechmère, &FrmMisajour::ChercherParent, 'F');
+    relier(*ui_->CmdCréPère, &FrmMisajour::CreerParent, 'H');
+    relier(*ui_->CmdCréMère, &FrmMisajour::CreerParent, 'F');
+    relier(*ui_->C_Spère, &FrmMisajour::RetirerParent, 'H');
+    relier(*ui_->C_Smère, &FrmMisajour::RetirerParent, 'F');
+}
+
+void FrmMisajour::MontrerParents() {
+    const auto lire = [this](char cote) {
+        return S().base && individu_ ? records::LireParent(*S().base, individu_, cote) : NoOrdre{};
+    };
+    const NoOrdre pere = lire('H');
+    const NoOrdre mere = lire('F');
+    ui_->N_Père->Poser(pere, TexteEcran(S(), 2677));
+    ui_->N_Mère->Poser(mere, TexteEcran(S(), 2678));
+    ui_->C_Spère->setEnabled(static_cast<bool>(pere));
+    ui_->C_Rechpère->setEnabled(!pere);
+    ui_->CmdCréPère->setEnabled(!pere);
+    ui_->C_Smère->setEnabled(static_cast<bool>(mere));
+    ui_->C_Rechmère->setEnabled(!mere);
+    ui_->CmdCréMère->setEnabled(!mere);
+}
+
+void FrmMisajour::ChercherParent(char cote) {
+    if (!Preparer()) return;
+    FrmPere fenetre{S(), individu_, cote, this};
+    if (fenetre.exec() != QDialog::Accepted) return;
+    Ecrit(true);
+    AllerAuParent(cote);
+}
+
+void FrmMisajour::CreerParent(char cote) {
+    if (!Preparer()) return;
+    const NoOrdre parent =
+        FrmCreation::Creer(S(), DepartDeParent(S().base->R_NOM.NomDe(individu_), cote), this);
+    if (!parent) return;
+    const bool lie = records::ParentCree(S(), individu_, cote, parent);
+    Ecrit(lie);
+    AllerAuParent(cote);
+}
+
+/// The buttons that were pressed are off now: the focus must not fall on the one that takes the
+/// parent away.
+void FrmMisajour::AllerAuParent(char cote) {
+    (cote == 'H' ? ui_->N_Père : ui_->N_Mère)->setFocus();
+}
+
+void FrmMisajour::RetirerParent(char cote) {
+    if (Preparer() && records::RetirerParent(S(), individu_, cote)) Ecrit(true);
+}
+
+void FrmMisajour::DeposerParent(char cote, NoOrdre parent) {
+    if (Preparer() && records::PeutEtreParent(S(), individu_, cote, parent) &&
+        records::ConfirmerRemplacement(S(), individu_, cote, parent) &&
+        records::DonnerParent(S(), individu_, cote, parent))
+        Ecrit(true);
+}
+
+}  // namespace dorvane::windows

@@ -1,0 +1,105 @@
+// What a file says comes back after an import and an export, in the record that it belonged to.
+#include "doublures/AllerRetour.h"
+
+#include "doublures/FichierEssai.h"
+#include "doublures/VerificateurGedcom.h"
+#include "interchange/CorpusEssai.h"
+#include "interchange/EssaiImport.h"
+#include "interchange/gedcom/ExportGedcom.h"
+
+#include <cstdlib>
+
+#include <doctest/doctest.h>
+
+using namespace dorvane;
+using namespace dorvane::interchange;
+using doublures::AllerRetour;
+using doublures::EssaiImport;
+using doublures::FichierEssai;
+
+namespace {
+
+struct Bureau : EssaiImport {
+    /// The file that an export of the imported base is; checked against the grammar.
+    std::string Exporter(JeuExport jeu = JeuExport::Ansi) {
+        session.base = std::move(base);
+        OptionsExport options;
+        options.jeu = jeu;
+        std::string octets;
+        ComptesExport comptes;
+        REQUIRE(ComposerGedcom(session, "x.ged", options, octets, comptes));
+        CHECK(doublures::VerificateurGedcom{octets}.Texte() == "");
+        base = std::move(session.base);
+        return octets;
+    }
+};
+
+void Montrer(const AllerRetour& compte) {
+    const AllerRetour::Compte total = compte.Total();
+    MESSAGE("values ", total.valeurs, ", back ", total.revenues, ", with the partners ",
+            total.partagees);
+    for (const auto& [regle, nombre] : compte.Changees())
+        MESSAGE(nombre, " ", regle);
+}
+
+}  // namespace
+
+TEST_CASE_FIXTURE(Bureau, "Round trip: 10000 persons come back with their values") {
+    const FichierEssai village{10000, 7};
+    ImporterOctets(village.Octets());
+    REQUIRE(importation.faite);
+    const std::string apres = Exporter();
+    const AllerRetour compte{village.Octets(), apres, importation.rapport};
+    CHECK(compte.Texte() == "");
+    Montrer(compte);
+    const AllerRetour::Compte total = compte.Total();
+    CHECK(total.valeurs > 100000);
+    CHECK((total.revenues + total.partagees) * 1000 >= total.valeurs * 999);
+    for (const auto classe : {AllerRetour::Classe::Nom, AllerRetour::Classe::Date,
+                              AllerRetour::Classe::Lieu, AllerRetour::Classe::Texte}) {
+        const AllerRetour::Compte& c = compte.De(classe);
+        CHECK(c.valeurs > 1000);
+        CHECK(c.revenues * 1000 >= c.valeurs * 999);
+    }
+}
+
+TEST_CASE_FIXTURE(Bureau, "Round trip: the files of other programs, none lost without a word") {
+    const std::filesystem::path corpus = doublures::DossierCorpus();
+    if (corpus.empty()) {
+        MESSAGE("skipped: the files of other programs are not beside the sources");
+        return;
+    }
+    AllerRetour::Compte somme;
+    std::map<std::string, std::size_t> regles;
+    for (const doublures::Rang& rang : doublures::LireIndex(corpus / "index.tsv")) {
+        const std::string& nom = rang.at("file");
+        CAPTURE(nom);
+        const std::string avant = doublures::LireFichierOuGz(corpus / nom, dossier / "brouillon");
+        ImporterOctets(avant);
+        if (!importation.faite) continue;
+        const std::string apres = Exporter();
+        const AllerRetour compte{avant, apres, importation.rapport};
+        CHECK(compte.Texte() == "");
+        const AllerRetour::Compte total = compte.Total();
+        somme.valeurs += total.valeurs;
+        somme.revenues += total.revenues;
+        somme.partagees += total.partagees;
+        for (const auto& [regle, nombre] : compte.Changees())
+            regles[regle.substr(0, regle.find(':'))] += nombre;
+    }
+    MESSAGE("values ", somme.valeurs, ", back ", somme.revenues, ", with the partners ",
+            somme.partagees);
+    for (const auto& [regle, nombre] : regles)
+        MESSAGE(nombre, " ", regle);
+}
+
+TEST_CASE_FIXTURE(Bureau, "Round trip: the file that DORVANE_ALLER_RETOUR names") {
+    const char* nom = std::getenv("DORVANE_ALLER_RETOUR");
+    if (nom == nullptr) return;
+    const std::string avant = doublures::LireFichierOuGz(nom, dossier / "brouillon");
+    ImporterOctets(avant);
+    REQUIRE(importation.faite);
+    const AllerRetour compte{avant, Exporter(), importation.rapport};
+    CHECK(compte.Texte() == "");
+    Montrer(compte);
+}
