@@ -27,7 +27,9 @@ endif()
 
 find_program(CCACHE ccache)
 if(CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+    # Precompiled headers are known by what they hold, not by their dates.
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+        CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CCACHE})
 endif()
 find_program(MOLD mold)
 if(MOLD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
