@@ -1,7 +1,8 @@
 # Makes the names of the messages from the texts of the catalogue: for donnees/catalogue/fiche.tsv
-# the header messages/Fiche.h, and messages/Noms.cpp, from which a number is told by its name.
+# the header messages/Fiche.h, and messages/Noms.h, which tells the name of a number.
 # Called while building: cmake -DSORTIE=folder -DSOURCES=file.tsv,file.tsv -P Messages.cmake
 # A header that would be the same is left alone, so that one new text compiles few sources.
+cmake_minimum_required(VERSION 3.25)
 string(REPLACE "," ";" SOURCES "${SOURCES}")
 
 set(vus)

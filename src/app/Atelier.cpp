@@ -1,5 +1,6 @@
 #include "app/Atelier.h"
 
+#include "messages/Dorvane.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
 #include "shell/RelaisAvancement.h"
@@ -44,7 +45,8 @@ int Atelier::Fermer() {
     const bool fermee = session.base->Fermer();
     session.PoserBase(nullptr);
     if (fermee) return Fait;
-    dialogue.Informer(shell::Msg(2406, Utf8VersTexte(session.CheminBase.string()).octets));
+    dialogue.Informer(shell::Msg(message::EnregistrementBaseEchoue,
+                                 Utf8VersTexte(session.CheminBase.string()).octets));
     return RefusSysteme;
 }
 

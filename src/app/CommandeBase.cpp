@@ -1,5 +1,7 @@
 #include "app/CommandeBase.h"
 
+#include "messages/Dorvane.h"
+#include "messages/Outil.h"
 #include "records/Famille.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
@@ -28,7 +30,8 @@ int AvecBase(const OptionsBase& options, const std::function<int(Atelier&)>& tra
 std::optional<std::string> LireArgument(Atelier& atelier, const std::string& utf8) {
     TexteRecu recu = Utf8VersTexte(utf8);
     if (recu.remplaces == 0) return std::move(recu.octets);
-    atelier.dialogue.Informer(shell::Msg(3600, recu.octets, std::to_string(recu.remplaces)));
+    atelier.dialogue.Informer(shell::Msg(message::ArgumentHorsJeuDeCaracteres, recu.octets,
+                                         std::to_string(recu.remplaces)));
     return std::nullopt;
 }
 
@@ -42,7 +45,8 @@ bool Prendre(Atelier& atelier, const std::optional<std::string>& option, std::st
 
 bool PersonneExiste(Atelier& atelier, std::uint32_t numero) {
     if (records::Existe(*atelier.session.base, NoOrdre{numero})) return true;
-    atelier.dialogue.Informer(shell::Msg(2248, std::to_string(numero)));
+    atelier.dialogue.Informer(
+        shell::Msg(message::NumeroDePersonneInexistant, std::to_string(numero)));
     return false;
 }
 

@@ -2,6 +2,7 @@
 #include "app/Commandes.h"
 #include "app/DecrirePersonne.h"
 #include "interchange/commandes/Importer.h"
+#include "messages/Dorvane.h"
 #include "values/Texte1252.h"
 
 #include <array>
@@ -56,7 +57,9 @@ Json DecrireImport(const interchange::Importation& importation, const fs::path& 
 
 /// The exit status of an import that was not done: only what the system refused is its fault.
 int StatutDuRefus(NoMessage dernier) {
-    return dernier == NoMessage{2240} || dernier == NoMessage{2242} ? RefusSysteme : Refus;
+    return dernier == message::FichierIllisible || dernier == message::BaseImporteeNonEcrite
+               ? RefusSysteme
+               : Refus;
 }
 
 }  // namespace
@@ -71,7 +74,8 @@ int Importer(const OptionsImport& options) {
         return MauvaisUsage;
     }
     if (fs::exists(base, erreur) && !options.remplacer) {
-        atelier.dialogue.Informer(shell::Msg(2247, Utf8VersTexte(base.string()).octets));
+        atelier.dialogue.Informer(
+            shell::Msg(message::FichierExisteSansRemplacer, Utf8VersTexte(base.string()).octets));
         return Refus;
     }
     atelier.dialogue.reponse = options.trier ? shell::Reponse::Oui : shell::Reponse::Non;

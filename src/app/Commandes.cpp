@@ -3,6 +3,8 @@
 #include "app/Atelier.h"
 #include "app/Calculer.h"
 #include "app/DecrirePersonne.h"
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
 #include "shell/CompilerCatalogue.h"
 #include "shell/CycleDeVie.h"
 #include "shell/FichierSur.h"
@@ -71,7 +73,8 @@ int Creer(const fs::path& base) {
     Atelier atelier{{}};
     std::error_code erreur;
     if (fs::exists(base, erreur)) {
-        atelier.dialogue.Informer(shell::Msg(2247, NomAffichable(base)));
+        atelier.dialogue.Informer(
+            shell::Msg(message::FichierExisteSansRemplacer, NomAffichable(base)));
         return Refus;
     }
     const shell::ReglagesGeneraux& generaux = atelier.session.parametres.generaux;
@@ -83,11 +86,11 @@ int Creer(const fs::path& base) {
     }
     nouvelle.base.reset();
     if (nouvelle.etat == storage::Ouverture::Occupee) {
-        atelier.dialogue.Informer(shell::Msg(2403, NomAffichable(base)));
+        atelier.dialogue.Informer(shell::Msg(message::BaseOccupee, NomAffichable(base)));
         return Refus;
     }
     (void)atelier.session.disque.Supprimer(base);
-    atelier.dialogue.Informer(shell::Msg(2409, NomAffichable(base)));
+    atelier.dialogue.Informer(shell::Msg(message::CreationBaseRefusee, NomAffichable(base)));
     return RefusSysteme;
 }
 
@@ -124,7 +127,8 @@ int MontrerPersonne(const fs::path& base, std::uint32_t numero, bool json) {
     storage::Base& ouverte = *atelier.session.base;
     const NoOrdre n{numero};
     if (!n || numero > ouverte.entete.DernierIndividu || ouverte.R_TRI.RangIndividu(n) == 0) {
-        atelier.dialogue.Informer(shell::Msg(2248, std::to_string(numero)));
+        atelier.dialogue.Informer(
+            shell::Msg(message::NumeroDePersonneInexistant, std::to_string(numero)));
         return Refus;
     }
     Ecrire(DecrirePersonne(ouverte, n), json);
@@ -138,7 +142,7 @@ int Sauvegarder(const fs::path& base) {
     if (const int statut = atelier.Fermer(); statut != Fait) return statut;
     const fs::path copie = shell::CheminSauvegarde(base);
     if (!shell::CopierTout(base, copie)) {
-        atelier.dialogue.Informer(shell::Msg(2249, NomAffichable(copie)));
+        atelier.dialogue.Informer(shell::Msg(message::SauvegardeNonEcrite, NomAffichable(copie)));
         return RefusSysteme;
     }
     std::cout << copie.string() << '\n';
@@ -149,14 +153,14 @@ int Restaurer(const fs::path& sauvegarde, bool remplacer) {
     Atelier atelier{{}};
     std::error_code erreur;
     if (!fs::exists(sauvegarde, erreur)) {
-        atelier.dialogue.Informer(shell::Msg(700));
+        atelier.dialogue.Informer(shell::Msg(message::FichierDisparu));
         return RefusSysteme;
     }
     atelier.dialogue.fichier = sauvegarde;
     if (remplacer) atelier.dialogue.reponse = shell::Reponse::Oui;
     shell::MnuRestauration(atelier.session);
     if (!atelier.session.BaseOuverte())
-        return atelier.dialogue.dernier == NoMessage{2408} ? RefusSysteme : Refus;
+        return atelier.dialogue.dernier == message::SauvegardeNonRecopiee ? RefusSysteme : Refus;
     std::cout << atelier.session.CheminBase.string() << '\n';
     return atelier.Fermer();
 }

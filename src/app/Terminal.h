@@ -23,7 +23,7 @@ public:
     std::optional<shell::Reponse> reponse;
     /// What a command that asks for a file is given.
     std::filesystem::path fichier;
-    /// Number of the message shown last; 0 for a literal.
+    /// The message shown last; none for a literal.
     NoMessage dernier{};
 
     void Informer(const shell::Phrase& texte, const shell::Phrase& titre) override;

@@ -1,6 +1,8 @@
 #include "app/Atelier.h"
 #include "app/Verbes.h"
 #include "interchange/communes/LireListeCommunes.h"
+#include "messages/Communes.h"
+#include "messages/Messages.h"
 #include "shell/RelaisAvancement.h"
 #include "storage/BaseCommunes.h"
 #include "values/Phonetique.h"
@@ -37,11 +39,13 @@ std::optional<std::vector<storage::Commune>> LireListe(Atelier& atelier, const s
         interchange::LireListeCommunes(atelier.dialogue, nom);
     if (!liste) return {};
     for (const std::size_t ligne : liste->sansNom)
-        atelier.dialogue.Informer(shell::Msg(4007, std::to_string(ligne)));
+        atelier.dialogue.Informer(shell::Msg(message::LigneDeListeSansNom, std::to_string(ligne)));
     for (const std::size_t ligne : liste->tropLongues)
-        atelier.dialogue.Informer(shell::Msg(4026, std::to_string(ligne)));
+        atelier.dialogue.Informer(
+            shell::Msg(message::LigneDeListeTropLongue, std::to_string(ligne)));
     if (liste->remplaces != 0)
-        atelier.dialogue.Informer(shell::Msg(4008, std::to_string(liste->remplaces)));
+        atelier.dialogue.Informer(shell::Msg(message::ListeCommunesHorsJeuDeCaracteres,
+                                             std::to_string(liste->remplaces)));
     return std::move(liste->communes);
 }
 
@@ -50,14 +54,16 @@ int CreerCommunes(const OptionsCommunes& o) {
     std::error_code erreur;
     if (!o.remplacer && std::filesystem::exists(o.fichier, erreur)) {
         shell::Question question;
-        question.texte = shell::Msg(4009, EnTexte(o.fichier));
+        question.texte = shell::Msg(message::ConfirmerRemplacerFichier, EnTexte(o.fichier));
         question.defaut = shell::Reponse::Non;
         if (atelier.dialogue.Demander(question) != shell::Reponse::Oui) return Refus;
     }
     std::vector<storage::Commune> communes;
     if (!o.liste.empty()) {
         std::optional<std::vector<storage::Commune>> lues = LireListe(atelier, o.liste);
-        if (!lues) return atelier.dialogue.dernier == NoMessage{4003} ? RefusSysteme : Refus;
+        if (!lues)
+            return atelier.dialogue.dernier == message::ListeCommunesIllisible ? RefusSysteme
+                                                                               : Refus;
         communes = std::move(*lues);
     }
     storage::DisqueReel disque;
@@ -65,7 +71,7 @@ int CreerCommunes(const OptionsCommunes& o) {
     std::string octets;
     if (!storage::ComposerLgx(communes, muet, octets) ||
         !storage::EcrireLgx(disque, o.fichier, o.fichier + ".nouveau", octets)) {
-        atelier.dialogue.Informer(shell::Msg(4001, EnTexte(o.fichier)));
+        atelier.dialogue.Informer(shell::Msg(message::FichierCommunesNonEcrit, EnTexte(o.fichier)));
         return RefusSysteme;
     }
     std::cout << communes.size() << '\n';
@@ -80,7 +86,9 @@ int AvecCommunes(const OptionsCommunes& o,
     const storage::ResultatCommunes r = storage::BaseCommunes::OuvrirCommunes(disque, o.fichier);
     if (r.etat == storage::OuvertureCommunes::Faite) return travail(atelier, *r.base);
     const bool absente = r.etat == storage::OuvertureCommunes::Absente;
-    atelier.dialogue.Informer(absente ? shell::Msg(742) : shell::Msg(4000, EnTexte(o.fichier)));
+    atelier.dialogue.Informer(
+        absente ? shell::Msg(message::FichierCommunesIntrouvable)
+                : shell::Msg(message::FichierPasUneBaseDeCommunes, EnTexte(o.fichier)));
     return absente ? RefusSysteme : Refus;
 }
 
@@ -116,7 +124,7 @@ int ChercherCommunes(Atelier& /*atelier*/, storage::BaseCommunes& base, const Op
 int ReorganiserCommunes(Atelier& atelier, storage::BaseCommunes& base, const OptionsCommunes& o) {
     shell::RelaisAvancement relais{atelier.progression, atelier.session.catalogue};
     if (base.ReorganiserCommunes(relais)) return Fait;
-    atelier.dialogue.Informer(shell::Msg(4001, EnTexte(o.fichier)));
+    atelier.dialogue.Informer(shell::Msg(message::FichierCommunesNonEcrit, EnTexte(o.fichier)));
     return RefusSysteme;
 }
 

@@ -3,6 +3,7 @@
 #include "interchange/commun/SelectionExport.h"
 #include "interchange/gedcom/ExportGedcom.h"
 #include "interchange/lgr/EcrireLgr.h"
+#include "messages/Export.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
 #include "values/Texte1252.h"
@@ -53,7 +54,8 @@ bool Selectionner(Atelier& atelier, const OptionsExporter& o, std::vector<bool>&
 int Rapporter(Atelier& atelier, const OptionsExporter& o, bool fait, std::uint32_t individus,
               std::uint32_t familles, std::uint32_t evenements, std::uint32_t documents) {
     if (!fait) {
-        atelier.dialogue.Informer(shell::Msg(3701, Utf8VersTexte(o.sortie).octets));
+        atelier.dialogue.Informer(
+            shell::Msg(message::FichierNonEcrit, Utf8VersTexte(o.sortie).octets));
         return RefusSysteme;
     }
     std::cout << individus << ' ' << familles << ' ' << evenements << ' ' << documents << '\n';
@@ -80,7 +82,9 @@ int Exporter(Atelier& atelier, const OptionsExporter& o) {
     const interchange::ResultatExport r =
         interchange::ExporterGedcom(atelier.session, o.sortie, options);
     const interchange::ComptesExport& c = r.comptes;
-    if (c.perdus > 0) atelier.dialogue.Informer(shell::Msg(3702, std::to_string(c.perdus)));
+    if (c.perdus > 0)
+        atelier.dialogue.Informer(
+            shell::Msg(message::CaracteresPerdusALExport, std::to_string(c.perdus)));
     return Rapporter(atelier, o, r.issue == interchange::IssueExport::Fait, c.individus, c.familles,
                      c.evenements, c.documents);
 }

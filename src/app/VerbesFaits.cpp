@@ -1,6 +1,7 @@
 #include "app/CommandeBase.h"
 #include "app/DecrirePersonne.h"
 #include "app/Verbes.h"
+#include "messages/Outil.h"
 #include "records/FicheDocument.h"
 #include "records/FicheEvenement.h"
 #include "records/NomsAffiches.h"
@@ -37,14 +38,14 @@ struct OptionsDocument : OptionsBase {
 bool EvenementExiste(Atelier& atelier, std::uint32_t numero) {
     storage::Base& base = *atelier.session.base;
     if (base.R_TRI.RangEvt(NoEvenement{numero}) != 0) return true;
-    atelier.dialogue.Informer(shell::Msg(3604, std::to_string(numero)));
+    atelier.dialogue.Informer(shell::Msg(message::EvenementInexistant, std::to_string(numero)));
     return false;
 }
 
 bool DocumentExiste(Atelier& atelier, std::uint32_t numero) {
     storage::Base& base = *atelier.session.base;
     if (base.R_TRI.RangDocument(NoDocument{numero}) != 0) return true;
-    atelier.dialogue.Informer(shell::Msg(3605, std::to_string(numero)));
+    atelier.dialogue.Informer(shell::Msg(message::DocumentInexistant, std::to_string(numero)));
     return false;
 }
 
@@ -96,7 +97,8 @@ bool LireLien(Atelier& atelier, const std::string& texte, storage::LienEvenement
     const char* fin = texte.data() + texte.size();
     const auto lu = std::from_chars(texte.data(), fin, numero);
     if (lu.ec != std::errc{} || lu.ptr == fin || *lu.ptr != ':') {
-        atelier.dialogue.Informer(shell::Msg(3607, Utf8VersTexte(texte).octets));
+        atelier.dialogue.Informer(
+            shell::Msg(message::ArgumentDeLienMalEcrit, Utf8VersTexte(texte).octets));
         return false;
     }
     const Texte role = LireArgument(atelier, std::string{lu.ptr + 1, fin});
@@ -242,7 +244,8 @@ int Detacher(Atelier& atelier, const OptionsDocument& o) {
     const auto documents = atelier.session.base->R_LSTIMG.Elements(NoOrdre{o.personne});
     const auto ici = std::ranges::find(documents, NoDocument{o.document});
     if (ici == documents.end()) {
-        atelier.dialogue.Informer(shell::Msg(3603, std::to_string(o.personne)));
+        atelier.dialogue.Informer(
+            shell::Msg(message::PersonneSansCeLien, std::to_string(o.personne)));
         return Refus;
     }
     const auto rang = static_cast<std::size_t>(ici - documents.begin()) + 1;

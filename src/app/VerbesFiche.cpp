@@ -1,6 +1,7 @@
 #include "app/CommandeBase.h"
 #include "app/DecrirePersonne.h"
 #include "app/Verbes.h"
+#include "messages/Outil.h"
 #include "records/Famille.h"
 #include "records/Fiche.h"
 #include "records/Filiation.h"
@@ -65,7 +66,7 @@ storage::ValeurSlot* ChercherLigne(Atelier& atelier, records::RangeesSlots& rang
     const std::size_t nombre = storage::NbSlots(definition.slots);
     for (std::size_t i = 0; i < nombre; ++i)
         if (definition.libelles[i] == tag || definition.libelles[i] == libelle) return &rangees[i];
-    atelier.dialogue.Informer(shell::Msg(3601, libelle));
+    atelier.dialogue.Informer(shell::Msg(message::FicheSansCetteLigne, libelle));
     return nullptr;
 }
 
@@ -88,7 +89,8 @@ bool PoserUnion(Atelier& atelier, const OptionsFiche& o, records::SaisieFiche& s
     const std::vector<NoMariage> unions =
         atelier.session.base->R_MARIAG.Elements(NoOrdre{o.numero});
     if (std::ranges::find(unions, NoMariage{o.mariage}) == unions.end()) {
-        atelier.dialogue.Informer(shell::Msg(3602, std::to_string(o.mariage)));
+        atelier.dialogue.Informer(
+            shell::Msg(message::UnionDUneAutrePersonne, std::to_string(o.mariage)));
         return false;
     }
     records::SaisieUnion mariage = records::ChargerUnion(atelier.session, NoMariage{o.mariage});
@@ -204,7 +206,9 @@ int Delier(Atelier& atelier, const OptionsLien& o) {
         trouve = rang != 0;
         fait = trouve && records::RetirerLien(session, ici, rang);
     }
-    if (!trouve) atelier.dialogue.Informer(shell::Msg(3603, std::to_string(o.numero)));
+    if (!trouve)
+        atelier.dialogue.Informer(
+            shell::Msg(message::PersonneSansCeLien, std::to_string(o.numero)));
     return fait ? Fait : Refus;
 }
 

@@ -1,6 +1,9 @@
 #include "app/CommandeBase.h"
 #include "app/DecrirePersonne.h"
 #include "app/Verbes.h"
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
+#include "messages/Outil.h"
 #include "records/FicheMotsCles.h"
 #include "records/NomsAffiches.h"
 #include "records/RechercheNoms.h"
@@ -30,7 +33,7 @@ struct OptionsMotCle : OptionsBase {
 std::optional<records::LigneMotCle> ChercherMotCle(Atelier& atelier, std::uint32_t numero) {
     for (const records::LigneMotCle& ligne : records::ListerMotsCles(atelier.session))
         if (ligne.mot.valeur == numero) return ligne;
-    atelier.dialogue.Informer(shell::Msg(3606, std::to_string(numero)));
+    atelier.dialogue.Informer(shell::Msg(message::MotCleInexistant, std::to_string(numero)));
     return std::nullopt;
 }
 
@@ -54,7 +57,9 @@ int ListerMotsCles(Atelier& atelier, const OptionsMotCle& o) {
         else
             std::cout << ligne.mot.valeur << '\t' << objet["code"].get<std::string>() << '\t'
                       << objet["libelle"].get<std::string>() << '\t'
-                      << TexteVersUtf8(session.Message(ligne.indexe ? 725 : 724)) << '\n';
+                      << TexteVersUtf8(session.Message(ligne.indexe ? message::MotCleIndexe
+                                                                    : message::MotCleNonIndexe))
+                      << '\n';
     }
     if (o.json) std::cout << EnTexte(liste) << '\n';
     return Fait;
@@ -186,8 +191,9 @@ int LireParametre(const OptionsParametre& o) {
     }
     const std::optional<std::string> valeur = magasin.Chercher(o.section, o.cle);
     if (!valeur) {
-        atelier.dialogue.Informer(
-            shell::Msg(3608, Utf8VersTexte(o.cle).octets, Utf8VersTexte(o.section).octets));
+        atelier.dialogue.Informer(shell::Msg(message::ReglageInexistant,
+                                             Utf8VersTexte(o.cle).octets,
+                                             Utf8VersTexte(o.section).octets));
         return Refus;
     }
     std::cout << *valeur << '\n';
@@ -198,7 +204,7 @@ int EcrireParametre(const OptionsParametre& o) {
     Atelier atelier{{}};
     atelier.session.parametres.magasin.Ecrire(o.section, o.cle, o.valeur);
     if (atelier.session.parametres.magasin.Enregistrer()) return Fait;
-    atelier.dialogue.Informer(shell::Msg(2402));
+    atelier.dialogue.Informer(shell::Msg(message::ReglagesNonEnregistres));
     return RefusSysteme;
 }
 

@@ -1,6 +1,8 @@
 #include "app/Atelier.h"
 #include "app/Verbes.h"
 #include "interchange/commandes/Importer.h"
+#include "messages/Dorvane.h"
+#include "messages/Releve.h"
 #include "shell/FichierSur.h"
 #include "values/Texte1252.h"
 
@@ -32,7 +34,7 @@ nlohmann::ordered_json EnJson(const interchange::RapportReleve& rapport,
     nlohmann::ordered_json constats = nlohmann::ordered_json::array();
     for (const interchange::RapportReleve::Constat& c : rapport.constats)
         constats.push_back(
-            {{"ligne", c.ligne}, {"constat", TexteVersUtf8(session.Message(c.message.valeur))}});
+            {{"ligne", c.ligne}, {"constat", TexteVersUtf8(session.Message(c.message))}});
     return {{"lignes", rapport.lignes},
             {"individus", rapport.individus},
             {"evenements", rapport.evenements},
@@ -47,23 +49,24 @@ int ImporterActes(const OptionsReleve& o) {
         o.base.empty() ? fs::path{o.fichier}.replace_extension(".LGD") : fs::path{o.base};
     const std::optional<std::string> octets = shell::LireTout(o.fichier);
     if (!octets) {
-        atelier.dialogue.Informer(shell::Msg(2240, nom));
+        atelier.dialogue.Informer(shell::Msg(message::FichierIllisible, nom));
         return RefusSysteme;
     }
     std::error_code erreur;
     if (fs::exists(base, erreur) && !o.remplacer) {
-        atelier.dialogue.Informer(shell::Msg(2247, Utf8VersTexte(base.string()).octets));
+        atelier.dialogue.Informer(
+            shell::Msg(message::FichierExisteSansRemplacer, Utf8VersTexte(base.string()).octets));
         return Refus;
     }
     const interchange::Releve releve = interchange::LireReleve(*octets, o.sorte);
     if (releve.lignes.empty()) {
-        atelier.dialogue.Informer(shell::Msg(4179, nom));
+        atelier.dialogue.Informer(shell::Msg(message::FichierSansLigneDeReleve, nom));
         return Refus;
     }
     const interchange::Importation importation =
         interchange::ImporterActesVers(atelier.session, releve, o.fichier, base);
     if (!importation.faite)
-        return atelier.dialogue.dernier == NoMessage{2242} ? RefusSysteme : Refus;
+        return atelier.dialogue.dernier == message::BaseImporteeNonEcrite ? RefusSysteme : Refus;
     if (o.json)
         std::cout << EnJson(importation.releve, atelier.session).dump(2) << '\n';
     else

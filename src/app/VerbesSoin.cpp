@@ -2,6 +2,9 @@
 #include "app/Commandes.h"
 #include "app/DecrirePersonne.h"
 #include "app/Verbes.h"
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
+#include "messages/Soin.h"
 #include "records/ControleBase.h"
 #include "records/Depannage.h"
 #include "shell/CycleDeVie.h"
@@ -20,7 +23,8 @@ struct OptionsSoin : OptionsBase {
 
 /// Messages that tell of the file system, not of the base.
 bool DitDuSysteme(NoMessage message) {
-    return message == NoMessage{3902} || message == NoMessage{700} || message == NoMessage{2405};
+    return message == message::NouveauFichierNonEcrit || message == message::FichierDisparu ||
+           message == message::AccesBaseRefuse;
 }
 
 int Reorganiser(const OptionsSoin& o) {
@@ -40,7 +44,7 @@ int Controler(Atelier& atelier, const OptionsSoin& o) {
             if (o.json)
                 liste.push_back({{"personne", constat.individu.valeur},
                                  {"rang", constat.rang},
-                                 {"message", constat.message},
+                                 {"message", records::MessageDe(constat.sorte).valeur},
                                  {"texte", TexteVersUtf8(constat.texte)},
                                  {"identite", TexteVersUtf8(constat.identite)}});
             else

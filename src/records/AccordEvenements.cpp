@@ -1,5 +1,6 @@
 #include "records/AccordEvenements.h"
 
+#include "messages/Messages.h"
 #include "records/Famille.h"
 #include "records/Fiche.h"
 #include "records/FicheEvenement.h"
@@ -23,22 +24,22 @@ using storage::LienEvenement;
 
 constexpr std::size_t TailleAnnee = 4;
 
-std::uint32_t MessageDe(MiroirFiche miroir) {
+NoMessage MessageDe(MiroirFiche miroir) {
     switch (miroir) {
         case MiroirFiche::Naissance:
-            return 474;
+            return message::ProposerMajEvenementNaissance;
         case MiroirFiche::Bapteme:
-            return 470;
+            return message::ProposerMajEvenementBapteme;
         case MiroirFiche::Deces:
-            return 472;
+            return message::ProposerMajEvenementDeces;
         case MiroirFiche::Inhumation:
-            return 469;
+            return message::ProposerMajEvenementInhumation;
         case MiroirFiche::Mariage:
-            return 471;
+            return message::ProposerMajEvenementMariage;
         case MiroirFiche::Aucun:
             break;
     }
-    return 0;
+    return {};
 }
 
 /// A date as its two fields show it, in one text.
@@ -213,7 +214,9 @@ void AccorderEvenements(shell::Session& session, NoOrdre individu) {
             MiroirDe(session.base->R_EVT.TypeEvt(ligne.evenement), ligne.role);
         const std::optional<DateEtLieu> fiche = LireMiroir(session, individu, miroir);
         if (!fiche || Pareils(*fiche, LireEvenement(session, ligne.evenement))) continue;
-        if (!session.dialogue.Confirmer(shell::Msg(MessageDe(miroir)), shell::Msg(473))) continue;
+        if (!session.dialogue.Confirmer(shell::Msg(MessageDe(miroir)),
+                                        shell::Msg(message::TitreMajEvenements)))
+            continue;
         SaisieEvenement saisie = ChargerEvenement(session, ligne.evenement);
         saisie.date = fiche->date;
         saisie.lieu = fiche->lieu;
@@ -246,7 +249,9 @@ void AccorderFiches(shell::Session& session, NoEvenement evenement) {
         if (!fiche || Pareils(*fiche, fait)) continue;
         // The title tells whose sheet.
         const std::string nom{SansBlancs(NomEtDates(session, lien.individu))};
-        if (!session.dialogue.Confirmer(shell::Msg(939), shell::Litteral(nom))) continue;
+        if (!session.dialogue.Confirmer(shell::Msg(message::ProposerReporterEvenementSurFiche),
+                                        shell::Litteral(nom)))
+            continue;
         if (mariage)
             ReporterUnion(session, mariage, fait);
         else

@@ -1,5 +1,6 @@
 #include "records/Apercu.h"
 
+#include "messages/Famille.h"
 #include "records/Famille.h"
 #include "records/ModeleFamille.h"
 #include "records/NomsAffiches.h"
@@ -12,18 +13,20 @@ namespace dorvane::records {
 
 std::string ApercuDe(shell::Session& session, NoOrdre individu) {
     if (!session.BaseOuverte() || !Existe(*session.base, individu)) return {};
-    std::string texte =
-        session.catalogue.Composer(shell::Msg(2910, std::to_string(individu.valeur)));
-    const auto ajouter = [&](std::uint32_t message, NoOrdre n) {
+    std::string texte = session.catalogue.Composer(
+        shell::Msg(message::NumeroDePersonne, std::to_string(individu.valeur)));
+    const auto ajouter = [&](NoMessage message, NoOrdre n) {
         const std::string nom = NomEtDates(session, n);
         texte += " – "_1252;
         texte += session.catalogue.Composer(shell::Msg(message, SansBlancs(nom)));
     };
     for (const EntreeFamille& entree : EntreesFamille(*session.base, individu)) {
         if (entree.groupe == EntreeFamille::Groupe::Conjoints)
-            ajouter(2913, entree.individu);
+            ajouter(message::ApercuConjoint, entree.individu);
         else if (entree.groupe == EntreeFamille::Groupe::Parents)
-            ajouter(session.base->R_PERE.LireCellule(individu) == entree.individu ? 2911 : 2912,
+            ajouter(session.base->R_PERE.LireCellule(individu) == entree.individu
+                        ? message::ApercuPere
+                        : message::ApercuMere,
                     entree.individu);
     }
     return texte;

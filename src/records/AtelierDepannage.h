@@ -38,11 +38,11 @@ public:
     /// One repair: what was done, and to what.
     void Noter(std::string_view fait, std::string_view detail);
     /// A line about what could not be mended.
-    void Regretter(std::uint32_t message, std::string_view valeur);
+    void Regretter(NoMessage message, std::string_view valeur);
 
     /// Begins a phase under its own text.
     void Phase(std::string_view litteral);
-    void Phase(std::uint32_t message);
+    void Phase(NoMessage message);
     /// Between two records. False: the job ends.
     [[nodiscard]] bool Continuer(std::uint32_t fait, std::uint32_t total);
 };

@@ -1,5 +1,6 @@
 #include "records/ControleBase.h"
 
+#include "messages/Messages.h"
 #include "records/ControleEvenements.h"
 #include "records/FamilleEnMemoire.h"
 #include "records/NomsAffiches.h"
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <bitset>
+#include <optional>
 #include <string_view>
 
 namespace dorvane::records {
@@ -16,8 +18,6 @@ namespace {
 
 using shell::Msg;
 
-constexpr std::uint32_t MessageMin = 475;
-constexpr std::size_t NbMessages = 64;
 constexpr std::int32_t LongueVie = 100;
 constexpr std::int32_t AgeMinimal = 10;
 constexpr std::int32_t AgeMaximalPere = 75;
@@ -25,20 +25,38 @@ constexpr std::int32_t AgeMaximalMere = 50;
 constexpr std::int32_t MargeDeces = 10;
 
 /// The findings on one side of the parents.
-struct MessagesParent {
+struct ConstatsParent {
     char sexe;
-    std::uint32_t mauvaisSexe;
-    std::uint32_t pasEnfant;
-    std::uint32_t pasAvant;
-    std::uint32_t tropJeune;
-    std::uint32_t tropVieux;
+    SorteConstat mauvaisSexe;
+    SorteConstat pasEnfant;
+    SorteConstat pasAvant;
+    SorteConstat tropJeune;
+    SorteConstat tropVieux;
     std::int32_t ageMaximal;
-    std::uint32_t bienApresDeces;
-    std::uint32_t apresDeces;  ///< 0: none
-    std::uint32_t decennie;
+    SorteConstat bienApresDeces;
+    std::optional<SorteConstat> apresDeces;
+    SorteConstat decennie;
 };
-constexpr MessagesParent Pere{'H', 511, 512, 513, 478, 476, AgeMaximalPere, 498, 499, 514};
-constexpr MessagesParent Mere{'F', 515, 516, 517, 477, 475, AgeMaximalMere, 497, 0, 518};
+constexpr ConstatsParent Pere{'H',
+                              SorteConstat::PereNonMasculin,
+                              SorteConstat::AbsentDesEnfantsDuPere,
+                              SorteConstat::PerePasNeAvantEnfant,
+                              SorteConstat::PereMoinsDe10Ans,
+                              SorteConstat::PerePlusDe75Ans,
+                              AgeMaximalPere,
+                              SorteConstat::NaissancePlusDe10AnsApresDecesPere,
+                              SorteConstat::NaissancePlusDUnAnApresDecesPere,
+                              SorteConstat::NaissanceAvantCelleDuPere};
+constexpr ConstatsParent Mere{'F',
+                              SorteConstat::MereNonFeminine,
+                              SorteConstat::AbsentDesEnfantsDeLaMere,
+                              SorteConstat::MerePasNeeAvantEnfant,
+                              SorteConstat::MereMoinsDe10Ans,
+                              SorteConstat::MerePlusDe50Ans,
+                              AgeMaximalMere,
+                              SorteConstat::NaissancePlusDe10AnsApresDecesMere,
+                              {},
+                              SorteConstat::NaissanceAvantCelleDeLaMere};
 
 /// A year whose last digit is not known can only be compared by its first three.
 bool SansUnite(const AnneeLue& annee) {
@@ -67,17 +85,18 @@ public:
         ControlerEnfants();
         for (const std::uint16_t m : famille_.unions.De(n))
             ControlerMariage(NoMariage{m});
-        ControlerEvenements(session_, n, [this](std::uint32_t message) { Dire(message); });
+        ControlerEvenements(session_, n, [this](SorteConstat sorte) { Dire(sorte); });
         precedente_ = n;
     }
     [[nodiscard]] std::uint32_t Nombre() const { return nombre_; }
 
 private:
-    void Dire(std::uint32_t message) {
-        if (dits_.test(message - MessageMin)) return;
-        dits_.set(message - MessageMin);
+    void Dire(SorteConstat sorte) {
+        const auto place = static_cast<std::size_t>(sorte);
+        if (dits_.test(place)) return;
+        dits_.set(place);
         ++nombre_;
-        recevoir_({n_, rang_, message, session_.Message(message),
+        recevoir_({n_, rang_, sorte, session_.Message(MessageDe(sorte)),
                    std::string{SansBlancs(NomEtDates(session_, n_))}});
     }
 
@@ -93,21 +112,21 @@ private:
             bas = precedente_ && cle < cle_;
             cle_ = std::move(cle);
         }
-        if (bas) Dire(506);
+        if (bas) Dire(SorteConstat::HorsOrdreDeTri);
     }
 
     void ControlerPersonne() {
         const char sexe = famille_.Sexe(n_);
-        if (sexe != 'H' && sexe != 'F') Dire(507);
-        if (!famille_.Naissance(n_).pleine) Dire(508);
+        if (sexe != 'H' && sexe != 'F') Dire(SorteConstat::SexeIndetermine);
+        if (!famille_.Naissance(n_).pleine) Dire(SorteConstat::AnneeNaissanceAbsente);
         const storage::LigneNom nom = base_.R_NOM.LireNom(n_);
         const bool sansPrenom = SansBlancs(nom.prenom).empty();
-        if (SansBlancs(nom.nom).empty()) Dire(484);
-        if (sansPrenom) Dire(483);
+        if (SansBlancs(nom.nom).empty()) Dire(SorteConstat::NomAbsent);
+        if (sansPrenom) Dire(SorteConstat::PrenomAbsent);
         if (!famille_.Pere(n_) && !famille_.Mere(n_) && famille_.unions.De(n_).empty() &&
             famille_.enfants.De(n_).empty() && base_.R_LIEN.NbElements(n_) == 0 &&
             base_.R_LSTEVT.NbElements(n_) == 0 && base_.R_LSTIMG.NbElements(n_) == 0)
-            Dire(509);
+            Dire(SorteConstat::PersonneIsolee);
     }
 
     void ControlerVie() {
@@ -115,14 +134,15 @@ private:
         const AnneeLue& deces = famille_.Deces(n_);
         if (!naissance.comparable || !deces.comparable) return;
         if (naissance.exacte && deces.exacte) {
-            if (*deces.exacte < *naissance.exacte) Dire(510);
-            if (*deces.exacte > *naissance.exacte + LongueVie) Dire(496);
+            if (*deces.exacte < *naissance.exacte) Dire(SorteConstat::DecesAvantNaissance);
+            if (*deces.exacte > *naissance.exacte + LongueVie)
+                Dire(SorteConstat::DecesPlusDe100AnsApresNaissance);
         } else if (TexteDe(deces.tri) < TexteDe(naissance.tri)) {
-            Dire(510);
+            Dire(SorteConstat::DecesAvantNaissance);
         }
     }
 
-    void ControlerParent(NoOrdre parent, const MessagesParent& m) {
+    void ControlerParent(NoOrdre parent, const ConstatsParent& m) {
         if (!parent) return;
         if (famille_.Sexe(parent) != m.sexe) Dire(m.mauvaisSexe);
         if (!famille_.enfants.Contient(parent, n_.valeur)) Dire(m.pasEnfant);
@@ -132,7 +152,7 @@ private:
         ControlerApresDeces(naissance, famille_.Deces(parent), m);
     }
     void ControlerAge(const AnneeLue& naissance, const AnneeLue& celleDuParent,
-                      const MessagesParent& m) {
+                      const ConstatsParent& m) {
         if (naissance.exacte && celleDuParent.exacte) {
             const std::int32_t age = *naissance.exacte - *celleDuParent.exacte;
             if (age <= 0)
@@ -147,10 +167,10 @@ private:
         }
     }
     void ControlerApresDeces(const AnneeLue& naissance, const AnneeLue& deces,
-                             const MessagesParent& m) {
+                             const ConstatsParent& m) {
         if (naissance.exacte && deces.exacte) {
             if (*naissance.exacte > *deces.exacte + MargeDeces) Dire(m.bienApresDeces);
-            if (m.apresDeces != 0 && *naissance.exacte > *deces.exacte + 1) Dire(m.apresDeces);
+            if (m.apresDeces && *naissance.exacte > *deces.exacte + 1) Dire(*m.apresDeces);
         } else if ((SansUnite(naissance) || SansUnite(deces)) && naissance.decade && deces.decade &&
                    *naissance.decade > *deces.decade + 1) {
             // Two decades apart: more than ten years whatever the last digits.
@@ -163,7 +183,7 @@ private:
         const NoOrdre pere = famille_.Pere(n_);
         const NoOrdre mere = famille_.Mere(n_);
         if (!pere || !mere) return;
-        if (famille_.unions.De(pere).empty()) return Dire(487);
+        if (famille_.unions.De(pere).empty()) return Dire(SorteConstat::ParentsConnusPereSansUnion);
         const AnneeLue& naissance = famille_.Naissance(n_);
         bool vue = false;
         bool toutesApres = true;
@@ -175,33 +195,33 @@ private:
             toutesApres = toutesApres && Avant(naissance, famille_.Debut(m));
             toutesFinies = toutesFinies && Avant(famille_.Fin(m), naissance);
         }
-        if (vue && toutesApres) Dire(486);
-        if (vue && toutesFinies) Dire(485);
+        if (vue && toutesApres) Dire(SorteConstat::UnionParentsDebuteApresNaissance);
+        if (vue && toutesFinies) Dire(SorteConstat::UnionParentsFinieAvantNaissance);
     }
 
     void ControlerEnfants() {
         const char sexe = famille_.Sexe(n_);
         for (const std::uint16_t numero : famille_.enfants.De(n_)) {
             const NoOrdre enfant{numero};
-            if (sexe == 'H' && famille_.Pere(enfant) != n_) Dire(519);
-            if (sexe == 'F' && famille_.Mere(enfant) != n_) Dire(520);
-            if (sexe != 'H' && sexe != 'F') Dire(495);
+            if (sexe == 'H' && famille_.Pere(enfant) != n_) Dire(SorteConstat::EnfantAvecAutrePere);
+            if (sexe == 'F' && famille_.Mere(enfant) != n_) Dire(SorteConstat::EnfantAvecAutreMere);
+            if (sexe != 'H' && sexe != 'F') Dire(SorteConstat::ParentDeSexeIndetermine);
         }
     }
 
     void ControlerMariage(NoMariage m) {
         const char sexe = famille_.Sexe(n_);
-        if (sexe == 'H' && famille_.Epoux(m) != n_) Dire(523);
-        if (sexe == 'F' && famille_.Epouse(m) != n_) Dire(522);
+        if (sexe == 'H' && famille_.Epoux(m) != n_) Dire(SorteConstat::UnionAvecAutreEpoux);
+        if (sexe == 'F' && famille_.Epouse(m) != n_) Dire(SorteConstat::UnionAvecAutreEpouse);
         const AnneeLue& debut = famille_.Debut(m);
         const AnneeLue& fin = famille_.Fin(m);
         const AnneeLue& naissance = famille_.Naissance(n_);
         const AnneeLue& deces = famille_.Deces(n_);
-        if (Avant(fin, debut)) Dire(524);
-        if (Avant(debut, naissance)) Dire(525);
-        if (Avant(deces, debut)) Dire(526);
-        if (Avant(fin, naissance)) Dire(527);
-        if (Avant(deces, fin)) Dire(528);
+        if (Avant(fin, debut)) Dire(SorteConstat::FinUnionAvantDebut);
+        if (Avant(debut, naissance)) Dire(SorteConstat::UnionAvantNaissance);
+        if (Avant(deces, debut)) Dire(SorteConstat::UnionApresDeces);
+        if (Avant(fin, naissance)) Dire(SorteConstat::FinUnionAvantNaissance);
+        if (Avant(deces, fin)) Dire(SorteConstat::FinUnionApresDeces);
     }
 
     shell::Session& session_;
@@ -212,7 +232,7 @@ private:
     NoOrdre precedente_{};
     std::uint32_t rang_ = 0;
     std::string cle_;
-    std::bitset<NbMessages> dits_;
+    std::bitset<NbSortesConstat> dits_;
     std::uint32_t nombre_ = 0;
 };
 
@@ -223,7 +243,8 @@ BilanControle ControlerBase(shell::Session& session,
                             const std::function<bool()>& continuer) {
     BilanControle bilan;
     if (!session.base) return bilan;
-    const shell::CadreProgression cadre{session.progression, Msg(504), Msg(505)};
+    const shell::CadreProgression cadre{session.progression, Msg(message::TitreControleBase),
+                                        Msg(message::AnomaliesRelevees)};
     const storage::Base* const base = session.base.get();
     Controle controle{session, recevoir};
     std::vector<bool> vue(storage::MaxIndividus + 1);
@@ -240,8 +261,9 @@ BilanControle ControlerBase(shell::Session& session,
         bilan.complet = session.base.get() == base && (suite || rang == nombre);
     }
     bilan.constats = controle.Nombre();
-    if (bilan.complet) session.dialogue.Annoncer(Msg(530));
-    if (bilan.complet && bilan.constats == 0) session.dialogue.Informer(Msg(532));
+    if (bilan.complet) session.dialogue.Annoncer(Msg(message::EtatControleTermine));
+    if (bilan.complet && bilan.constats == 0)
+        session.dialogue.Informer(Msg(message::InfoAucuneAnomalie));
     return bilan;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "records/SorteConstat.h"
 #include "shell/Session.h"
 
 #include <cstdint>
@@ -12,10 +13,10 @@ namespace dorvane::records {
 /// One thing that looks wrong about a person. Texts in code page 1252.
 struct Constat {
     NoOrdre individu{};
-    std::uint32_t rang = 0;     ///< place in the sort order, from 1
-    std::uint32_t message = 0;  ///< number of the message
-    std::string texte{};        ///< that message
-    std::string identite{};     ///< name and life dates of the person
+    std::uint32_t rang = 0;  ///< place in the sort order, from 1
+    SorteConstat sorte{};
+    std::string texte{};     ///< the sentence that tells it
+    std::string identite{};  ///< name and life dates of the person
     friend bool operator==(const Constat&, const Constat&) = default;
 };
 
@@ -25,10 +26,10 @@ struct BilanControle {
 };
 
 /// Looks at all persons in sort order (`MnuControle`), changes nothing, and gives each finding to
-/// `recevoir`, a message once per person. Shows the progress frame (504, 505), yields after each
-/// person, and ends when the frame is cancelled or `continuer` answers no; an empty `continuer`
-/// never does. Message 530 closes the scan in the status area, 532 tells that nothing was found. A
-/// base is open; `CommandePermise` is the caller's.
+/// `recevoir`, a kind once per person. Shows the progress frame, yields after each person, and ends
+/// when the frame is cancelled or `continuer` answers no; an empty `continuer` never does. A word
+/// in the status area closes a whole scan; that nothing was found is told. A base is open;
+/// `CommandePermise` is the caller's.
 BilanControle ControlerBase(shell::Session& session,
                             const std::function<void(const Constat&)>& recevoir,
                             const std::function<bool()>& continuer = {});

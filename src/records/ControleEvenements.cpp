@@ -10,35 +10,33 @@
 namespace dorvane::records {
 namespace {
 
-struct MessagesEvt {
-    std::uint32_t date;
-    std::uint32_t lieu;
+struct ConstatsEvt {
+    SorteConstat date;
+    SorteConstat lieu;
 };
 
-MessagesEvt MessagesDe(MiroirFiche miroir) {
+/// What is told when an event differs from `miroir`, which is not `Aucun`.
+ConstatsEvt ConstatsDe(MiroirFiche miroir) {
     switch (miroir) {
         case MiroirFiche::Naissance:
-            return {494, 493};
+            return {SorteConstat::DateNaissanceDiffere, SorteConstat::LieuNaissanceDiffere};
         case MiroirFiche::Deces:
-            return {492, 491};
+            return {SorteConstat::DateDecesDiffere, SorteConstat::LieuDecesDiffere};
         case MiroirFiche::Bapteme:
-            return {480, 479};
+            return {SorteConstat::DateBaptemeDiffere, SorteConstat::LieuBaptemeDiffere};
         case MiroirFiche::Inhumation:
-            return {482, 481};
+            return {SorteConstat::DateInhumationDiffere, SorteConstat::LieuInhumationDiffere};
         case MiroirFiche::Mariage:
-            return {490, 489};
         case MiroirFiche::Aucun:
             break;
     }
-    return {};
+    return {SorteConstat::DateMariageDiffere, SorteConstat::LieuMariageDiffere};
 }
-
-constexpr std::uint32_t UnionInconnue = 488;
 
 }  // namespace
 
 void ControlerEvenements(shell::Session& session, NoOrdre individu,
-                         const std::function<void(std::uint32_t)>& dire) {
+                         const std::function<void(SorteConstat)>& dire) {
     storage::Base& base = *session.base;
     const std::size_t nombre = base.R_LSTEVT.NbElements(individu);
     for (std::size_t k = 1; k <= nombre; ++k) {
@@ -53,7 +51,7 @@ void ControlerEvenements(shell::Session& session, NoOrdre individu,
             const NoMariage m =
                 UnionRacontee(base, base.R_EVT.Liens(e), individu, CouperDate(fait.date).annee);
             if (!m) {
-                dire(UnionInconnue);
+                dire(SorteConstat::EvenementMariageSansUnion);
                 continue;
             }
             fiche = LireUnion(session, m);
@@ -61,9 +59,9 @@ void ControlerEvenements(shell::Session& session, NoOrdre individu,
             fiche = LireFiche(session, individu, miroir);
         }
         if (!fiche) continue;
-        const MessagesEvt messages = MessagesDe(miroir);
-        if (fiche->date != fait.date) dire(messages.date);
-        if (!MemeLieu(fiche->lieu, fait.lieu)) dire(messages.lieu);
+        const ConstatsEvt constats = ConstatsDe(miroir);
+        if (fiche->date != fait.date) dire(constats.date);
+        if (!MemeLieu(fiche->lieu, fait.lieu)) dire(constats.lieu);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "records/ControleFiche.h"
 
+#include "messages/Fiche.h"
+#include "messages/Messages.h"
 #include "records/TexteFiche.h"
 #include "values/Comparaison.h"
 
@@ -10,7 +12,6 @@ namespace dorvane::records {
 
 namespace {
 
-constexpr std::uint32_t LigneTropLongue = 2600;
 constexpr std::size_t TailleAnnee = 4;
 
 /// The longest of the five fields that share the name line.
@@ -37,19 +38,20 @@ Champ ChampLePlusLong(const SaisieFiche& saisie) {
 Champ ControlerFiche(shell::Session& session, const SaisieFiche& saisie) {
     Champ champ = Champ::Aucun;
     if (SansBlancs(saisie.anneeNaissance).empty()) {
-        session.dialogue.Informer(shell::Msg(620));
+        session.dialogue.Informer(shell::Msg(message::InfoAnneeNaissanceVide));
         champ = Champ::AnneeNaissance;
     }
     if (SansBlancs(saisie.nom).empty() && SansBlancs(saisie.prenom).empty()) {
-        session.dialogue.Informer(shell::Msg(621));
+        session.dialogue.Informer(shell::Msg(message::PersonneSansNomNiPrenom));
         return Champ::Nom;
     }
     SaisieFiche repartie = saisie;
     RepartirNoms(repartie);
     if (ComposerLigneNom(session, repartie).size() > MaxLigneNom) {
         const Champ long_ = ChampLePlusLong(saisie);
-        session.dialogue.Informer(shell::Msg(LigneTropLongue, std::to_string(MaxLigneNom),
-                                             session.Message(LibelleDeChamp(long_).valeur)));
+        session.dialogue.Informer(shell::Msg(message::NomsEtDatesTropLongs,
+                                             std::to_string(MaxLigneNom),
+                                             session.Message(LibelleDeChamp(long_))));
         return long_;
     }
     return champ;
@@ -58,15 +60,15 @@ Champ ControlerFiche(shell::Session& session, const SaisieFiche& saisie) {
 NoMessage LibelleDeChamp(Champ champ) {
     switch (champ) {
         case Champ::Nom:
-            return NoMessage{2602};
+            return message::ChampNom;
         case Champ::Prenom:
-            return NoMessage{2603};
+            return message::ChampPrenoms;
         case Champ::AutrePrenom:
-            return NoMessage{2604};
+            return message::ChampAutresPrenoms;
         case Champ::JourMoisNaissance:
-            return NoMessage{2605};
+            return message::ChampJourMoisNaissance;
         case Champ::JourMoisDeces:
-            return NoMessage{2606};
+            return message::ChampJourMoisDeces;
         case Champ::Aucun:
         case Champ::Sexe:
         case Champ::AnneeNaissance:

@@ -1,5 +1,7 @@
 #include "records/Depannage.h"
 
+#include "messages/Messages.h"
+#include "messages/Soin.h"
 #include "records/AtelierDepannage.h"
 #include "records/NomsAffiches.h"
 #include "shell/CycleDeVie.h"
@@ -15,19 +17,16 @@ using shell::Msg;
 
 constexpr std::uint32_t PasCompteur = 100;
 constexpr std::uint32_t MaxLignes = 20000;  // a base of garbage has millions: they are only counted
-constexpr std::uint32_t MsgTitre = 3910;
-constexpr std::uint32_t MsgRien = 3914;
-constexpr std::uint32_t MsgFini = 3915;
-constexpr std::uint32_t MsgJournalRefuse = 3916;
 
 /// Writes the journal in the working folder; empty when that is refused, which is told.
 std::filesystem::path EcrireJournal(shell::Session& session, const AtelierDepannage& atelier) {
     std::filesystem::path chemin = session.Travail() / session.CheminBase.stem();
     chemin += ".TXT";
-    const std::string texte =
-        atelier.journal.empty() ? session.Message(MsgRien) + '\n' : atelier.journal;
+    const std::string texte = atelier.journal.empty()
+                                  ? session.Message(message::InfoRienAReparer) + '\n'
+                                  : atelier.journal;
     if (shell::EcrireTout(chemin, TexteVersUtf8(texte))) return chemin;
-    session.dialogue.Informer(Msg(MsgJournalRefuse, shell::CheminAffiche(chemin)));
+    session.dialogue.Informer(Msg(message::CompteRenduNonEcrit, shell::CheminAffiche(chemin)));
     return {};
 }
 
@@ -44,7 +43,7 @@ void AtelierDepannage::Noter(std::string_view fait, std::string_view detail) {
     journal.append(fait).append("\t").append(detail).append("\n");
 }
 
-void AtelierDepannage::Regretter(std::uint32_t message, std::string_view valeur) {
+void AtelierDepannage::Regretter(NoMessage message, std::string_view valeur) {
     std::string texte = session.Message(message);
     RemplacerTout(texte, "&1", valeur);
     journal.append(texte).append("\n");
@@ -54,7 +53,7 @@ void AtelierDepannage::Phase(std::string_view litteral) {
     session.progression.Phase(shell::Litteral(litteral));
 }
 
-void AtelierDepannage::Phase(std::uint32_t message) {
+void AtelierDepannage::Phase(NoMessage message) {
     session.progression.Phase(Msg(message));
 }
 
@@ -73,7 +72,8 @@ BilanDepannage DepannerBase(shell::Session& session, bool sauvegarder) {
     }
     AtelierDepannage atelier{session};
     {
-        const shell::CadreProgression cadre{session.progression, Msg(MsgTitre), Msg(MsgTitre)};
+        const shell::CadreProgression cadre{session.progression, Msg(message::TitreDepannageBase),
+                                            Msg(message::TitreDepannageBase)};
         bilan.complet = DepannerTris(atelier) && DepannerMariages(atelier) &&
                         DepannerPersonnes(atelier) && DepannerFaits(atelier) &&
                         DepannerIndex(atelier);
@@ -81,14 +81,17 @@ BilanDepannage DepannerBase(shell::Session& session, bool sauvegarder) {
     bilan.fait = true;
     bilan.reparations = atelier.reparations;
     bilan.journal = EcrireJournal(session, atelier);
-    session.dialogue.Annoncer(Msg(MsgFini, std::to_string(bilan.reparations)));
+    session.dialogue.Annoncer(
+        Msg(message::EtatDepannageTermine, std::to_string(bilan.reparations)));
     session.ecran.Actualiser();
     return bilan;
 }
 
 BilanDepannage MnuDepannage(shell::Session& session) {
     if (!shell::CommandePermise(session) || !session.base) return {};
-    switch (session.dialogue.Demander({Msg(843), Msg(842), shell::Boutons::OuiNonAnnuler})) {
+    switch (session.dialogue.Demander({Msg(message::ProposerCopieAvantDepannage),
+                                       Msg(message::ProposerCopieAvantOperation),
+                                       shell::Boutons::OuiNonAnnuler})) {
         case shell::Reponse::Oui:
             return DepannerBase(session, true);
         case shell::Reponse::Non:

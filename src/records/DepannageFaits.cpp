@@ -1,3 +1,4 @@
+#include "messages/Soin.h"
 #include "records/AtelierDepannage.h"
 #include "storage/ConstruireIndex.h"
 #include "values/Octets.h"
@@ -12,11 +13,6 @@ namespace dorvane::records {
 namespace {
 
 using storage::LienEvenement;
-
-constexpr std::uint32_t MsgPhaseFaits = 3912;
-constexpr std::uint32_t MsgPhaseIndex = 3913;
-constexpr std::uint32_t MsgListePleine = 3917;
-constexpr std::uint32_t MsgIndexPlein = 3918;
 
 /// Which documents and events the tables name, and what the user has made since.
 class Presents {
@@ -97,7 +93,7 @@ void DepannerLiens(AtelierDepannage& a, NoOrdre n) {
                         [n](const auto& retour) { return retour.first == n; }))
             continue;
         if (retours.size() >= storage::MaxElements) {
-            a.Regretter(MsgListePleine, a.Nommer(autre));
+            a.Regretter(message::EtatListePleine, a.Nommer(autre));
             continue;
         }
         liens.ModifierListe(autre, n, 'A', libelle);
@@ -161,7 +157,7 @@ void DepannerEvenement(AtelierDepannage& a, const Presents& presents, NoEvenemen
         if (std::find(entrees.begin(), entrees.end(), std::pair{e, lien.role}) != entrees.end())
             continue;
         if (entrees.size() >= storage::MaxElements) {
-            a.Regretter(MsgListePleine, a.Nommer(lien.individu));
+            a.Regretter(message::EtatListePleine, a.Nommer(lien.individu));
             continue;
         }
         b.R_LSTEVT.ModifierListe(lien.individu, e, 'A', lien.role);
@@ -226,7 +222,7 @@ bool ListeJuste(storage::Base& b, NoMotCle k, const Comptes& comptes) {
 }  // namespace
 
 bool DepannerFaits(AtelierDepannage& a) {
-    a.Phase(MsgPhaseFaits);
+    a.Phase(message::EtatAnalyseLiensEtFaits);
     const Presents presents{a.base};
     const std::uint32_t nombre = a.base.entete.NbTriIndividus;
     for (std::uint32_t rang = 1; rang <= nombre; ++rang) {
@@ -247,7 +243,7 @@ bool DepannerFaits(AtelierDepannage& a) {
 
 bool DepannerIndex(AtelierDepannage& a) {
     storage::Base& b = a.base;
-    a.Phase(MsgPhaseIndex);
+    a.Phase(message::EtatAnalyseIndex);
     std::string symboles;
     std::vector<NoMotCle> types;
     for (NoMotCle k{1}; k.valeur <= std::min(b.motsCles.Nombre(), storage::MaxMotsCles);
@@ -271,7 +267,7 @@ bool DepannerIndex(AtelierDepannage& a) {
     if (types.empty()) return true;
     // Entries that die leave no room before the reorganisation.
     if (comptes.size() > storage::MaxIndex - std::min(b.entete.NbIndex, storage::MaxIndex)) {
-        a.Regretter(MsgIndexPlein, {});
+        a.Regretter(message::EtatIndexPlein, {});
         return true;
     }
     storage::AvancementMuet muet;

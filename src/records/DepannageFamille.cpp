@@ -1,3 +1,4 @@
+#include "messages/Soin.h"
 #include "records/AtelierDepannage.h"
 #include "records/Filiation.h"
 #include "records/Individus.h"
@@ -10,8 +11,6 @@
 
 namespace dorvane::records {
 namespace {
-
-constexpr std::uint32_t MsgListePleine = 3917;
 
 template <class Element>
 bool Contient(storage::ListeNumeros<Element>& liste, NoOrdre n, Element element) {
@@ -88,7 +87,7 @@ void AjouterUnion(AtelierDepannage& a, NoMariage m, NoOrdre n, NoOrdre autre) {
     // What does not belong there makes room.
     if (unions.NbElements(n) >= storage::MaxElements) NettoyerUnions(a, n);
     if (unions.NbElements(n) >= storage::MaxElements)
-        return a.Regretter(MsgListePleine, a.Nommer(n));
+        return a.Regretter(message::EtatListePleine, a.Nommer(n));
     MajMariage(a.session, n, m, ActionListe::Ajouter);
     a.Noter("Ajout Mariage " + a.Nommer(n), "Lien mariage de " + a.Nommer(n) + " avec " +
                                                 a.Nommer(autre) + std::string{" créé"_1252});
@@ -143,7 +142,7 @@ void DepannerParent(AtelierDepannage& a, NoOrdre n, storage::ColonneParents& col
     if (Contient<NoOrdre>(b.R_ENFANT, parent, n)) return;
     if (b.R_ENFANT.NbElements(parent) >= storage::MaxElements) NettoyerEnfants(a, parent);
     if (b.R_ENFANT.NbElements(parent) >= storage::MaxElements)
-        return a.Regretter(MsgListePleine, a.Nommer(parent));
+        return a.Regretter(message::EtatListePleine, a.Nommer(parent));
     MajEnfant(a.session, parent, n, ActionListe::Ajouter);
     a.Noter("Ajout Enfant " + a.Nommer(n),
             "Ajout lien enfant de " + a.Nommer(parent) + " avec " + a.Nommer(n));

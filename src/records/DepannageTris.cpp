@@ -1,3 +1,4 @@
+#include "messages/Soin.h"
 #include "records/AtelierDepannage.h"
 #include "values/Comparaison.h"
 #include "values/Texte1252.h"
@@ -6,8 +7,6 @@
 
 namespace dorvane::records {
 namespace {
-
-constexpr std::uint32_t MsgPhaseTris = 3911;
 
 /// Who has a sex or a name has not been deleted.
 bool EstUnePersonne(storage::Base& base, NoOrdre n) {
@@ -145,7 +144,7 @@ void DepannerTable(AtelierDepannage& a, storage::TableTri& table, std::uint32_t&
 
 bool DepannerTris(AtelierDepannage& a) {
     storage::Base& b = a.base;
-    a.Phase(MsgPhaseTris);
+    a.Phase(message::EtatAnalyseOrdreDeTri);
     if (!a.Continuer(0, 3)) return false;
     DepannerIndividus(a);
     const auto estDocument = [&](std::uint16_t d) {

@@ -1,5 +1,7 @@
 #include "records/EcrireEvenement.h"
 
+#include "messages/Faits.h"
+#include "messages/Messages.h"
 #include "records/FicheEvenement.h"
 #include "records/Filiation.h"
 #include "records/NomsAffiches.h"
@@ -79,8 +81,9 @@ void LierFamille(shell::Session& session, NoOrdre enfant, char cote, NoOrdre par
     const NoOrdre present = LireParent(base, enfant, cote);
     if (present == parent || base.R_SEXE.LireCellule(parent) != cote) return;
     if (present) {
-        shell::Phrase question = shell::Msg(628, NomAffiche(session, enfant));
-        question.suite = NoMessage{629};
+        shell::Phrase question =
+            shell::Msg(message::ConfirmerRemplacerParent, NomAffiche(session, enfant));
+        question.suite = message::ConfirmerOperation;
         if (!session.dialogue.Confirmer(
                 {question, {}, shell::Boutons::ValiderAnnuler, shell::Reponse::Annuler, true}))
             return;
@@ -96,11 +99,11 @@ ChampEvenement RefuserLiens(shell::Session& session, NoEvenement evenement,
     storage::Base& base = *session.base;
     for (auto lien = liens.begin(); lien != liens.end(); ++lien) {
         if (std::find(liens.begin(), lien, *lien) != lien) {
-            session.dialogue.Informer(shell::Msg(588));
+            session.dialogue.Informer(shell::Msg(message::PersonneDejaDansLaListe));
             return ChampEvenement::Liens;
         }
         if (storage::SansDiese(lien->role).size() > storage::MaxTexteElement) {
-            session.dialogue.Informer(shell::Msg(3002));
+            session.dialogue.Informer(shell::Msg(message::RoleTropLong));
             return ChampEvenement::Role;
         }
     }
@@ -110,7 +113,8 @@ ChampEvenement RefuserLiens(shell::Session& session, NoEvenement evenement,
         const std::size_t roles = RolesDansListe(liens, individu).size();
         const std::size_t avant = base.R_LSTEVT.NbElements(individu) - reste;
         if (roles > avant && reste + roles > storage::MaxElements) {
-            session.dialogue.Informer(shell::Msg(3003, NomAffiche(session, individu)));
+            session.dialogue.Informer(shell::Msg(message::MaximumEvenementsPersonneAtteint,
+                                                 NomAffiche(session, individu)));
             return ChampEvenement::Liens;
         }
     }

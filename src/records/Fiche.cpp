@@ -1,5 +1,6 @@
 #include "records/Fiche.h"
 
+#include "messages/Messages.h"
 #include "records/AccordEvenements.h"
 #include "records/ControleFiche.h"
 #include "records/Individus.h"
@@ -128,7 +129,7 @@ private:
         // A cell left blank at the creation says the same as "I".
         const bool meme = ancien != 'H' && ancien != 'F' && nouveau == 'I';
         if (!meme && (base_.R_ENFANT.NbElements(n_) != 0 || base_.R_MARIAG.NbElements(n_) != 0)) {
-            session_.dialogue.Informer(shell::Msg(622));
+            session_.dialogue.Informer(shell::Msg(message::SexeNonModifiable));
             saisie_.sexe = ancien == 'H' || ancien == 'F' ? ancien : 'I';
             return false;
         }
@@ -211,7 +212,7 @@ private:
         if (!base_.R_LIEN.ElementListe(n_, rang)) return true;
         const std::string libelle = Stocke(*saisie_.lien);
         if (libelle.empty()) {
-            session_.dialogue.Informer(shell::Msg(631));
+            session_.dialogue.Informer(shell::Msg(message::LibelleLienVide));
             return false;
         }
         if (libelle == base_.R_LIEN.TexteElement(n_, rang)) return true;

@@ -1,5 +1,7 @@
 #include "records/FicheDocument.h"
 
+#include "messages/Faits.h"
+#include "messages/Messages.h"
 #include "records/Incidents.h"
 #include "records/Questions.h"
 #include "shell/Session.h"
@@ -102,15 +104,19 @@ IssueDocument ValiderDocument(shell::Session& session, SaisieDocument& saisie) {
     storage::Base& base = *session.base;
     const Document document = Rangee(saisie.valeurs);
     if (document.titre.empty() && document.fichier.empty())
-        return RefuserSaisie(session, shell::Msg(3010), ChampDocument::Titre);
+        return RefuserSaisie(session, shell::Msg(message::DocumentSansTitreNiFichier),
+                             ChampDocument::Titre);
     // A file under another name would not be found again.
     if (saisie.valeurs.fichier.find_first_of("#\xFF") != std::string::npos)
-        return RefuserSaisie(session, shell::Msg(3011), ChampDocument::Fichier);
+        return RefuserSaisie(session, shell::Msg(message::NomFichierCaractereInterdit),
+                             ChampDocument::Fichier);
     const std::size_t taille = TailleTete + document.titre.size() + 1 + document.fichier.size() +
                                (document.type.empty() ? 0 : document.type.size() + 1);
-    if (taille > MaxFiche) return RefuserSaisie(session, shell::Msg(3012), ChampDocument::Titre);
+    if (taille > MaxFiche)
+        return RefuserSaisie(session, shell::Msg(message::DocumentTropLong), ChampDocument::Titre);
     if (document.note.size() > MaxNote)
-        return RefuserSaisie(session, shell::Msg(3013), ChampDocument::Note);
+        return RefuserSaisie(session, shell::Msg(message::CommentaireTropLong),
+                             ChampDocument::Note);
 
     const Document ancien = Nette(Lire(session, saisie.document).valeurs);
     saisie.valeurs = document;
@@ -118,7 +124,8 @@ IssueDocument ValiderDocument(shell::Session& session, SaisieDocument& saisie) {
         if (document == ancien) return {Etat::Inchange, ChampDocument::Aucun};
     } else {
         if (base.entete.DernierDocument >= storage::MaxDocuments)
-            return RefuserSaisie(session, shell::Msg(707), ChampDocument::Aucun);
+            return RefuserSaisie(session, shell::Msg(message::MaximumDocumentsBaseAtteint),
+                                 ChampDocument::Aucun);
         saisie.document = base.NouveauDocument();
     }
     const bool nouveau = base.R_TRI.RangDocument(saisie.document) == 0;

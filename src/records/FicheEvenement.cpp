@@ -1,5 +1,7 @@
 #include "records/FicheEvenement.h"
 
+#include "messages/Faits.h"
+#include "messages/Messages.h"
 #include "records/AccordEvenements.h"
 #include "records/EcrireEvenement.h"
 #include "records/Incidents.h"
@@ -52,7 +54,7 @@ DescriptionEvt Rangee(const DescriptionEvt& description) {
     return rangee;
 }
 
-IssueEvenement RefuserSaisie(shell::Session& session, std::uint32_t message, ChampEvenement champ) {
+IssueEvenement RefuserSaisie(shell::Session& session, NoMessage message, ChampEvenement champ) {
     session.dialogue.Informer(shell::Msg(message));
     return {IssueEvenement::Etat::Refuse, champ};
 }
@@ -147,23 +149,25 @@ bool EvenementModifie(shell::Session& session, const SaisieEvenement& saisie) {
 IssueEvenement ValiderEvenement(shell::Session& session, SaisieEvenement& saisie) {
     using Etat = IssueEvenement::Etat;
     storage::Base& base = *session.base;
-    if (SansBlancs(saisie.date).empty()) return RefuserSaisie(session, 930, ChampEvenement::Date);
+    if (SansBlancs(saisie.date).empty())
+        return RefuserSaisie(session, message::DateEvenementVide, ChampEvenement::Date);
     const std::optional<Serie> date =
         SaisirDateEvenement(saisie.date, session.Ordre(), session.Mots());
-    if (!date) return RefuserSaisie(session, 931, ChampEvenement::Date);
-    if (SansBlancs(saisie.type).empty()) return RefuserSaisie(session, 932, ChampEvenement::Type);
+    if (!date) return RefuserSaisie(session, message::DateEvenementInvalide, ChampEvenement::Date);
+    if (SansBlancs(saisie.type).empty())
+        return RefuserSaisie(session, message::TypeEvenementVide, ChampEvenement::Type);
 
     const DescriptionEvt description = Rangee(DescriptionDe(saisie));
     if (description.lieu.size() + description.libelle.size() + description.type.size() + 2 >
         MaxDescription)
-        return RefuserSaisie(session, 3001, ChampEvenement::Lieu);
+        return RefuserSaisie(session, message::LieuLibelleEtTypeTropLongs, ChampEvenement::Lieu);
     saisie.type = description.type;
     ChoisirRoles(session, saisie);
     if (const ChampEvenement champ = RefuserLiens(session, saisie.evenement, saisie.liens);
         champ != ChampEvenement::Aucun)
         return {Etat::Refuse, champ};
     if (!saisie.evenement && base.entete.DernierEvenement >= storage::MaxEvenements)
-        return RefuserSaisie(session, 709, ChampEvenement::Aucun);
+        return RefuserSaisie(session, message::MaximumEvenementsBaseAtteint, ChampEvenement::Aucun);
 
     storage::PartiesEvt parties = Differences(base, saisie, *date);
     const bool inchange = Vide(parties);
@@ -176,7 +180,7 @@ IssueEvenement ValiderEvenement(shell::Session& session, SaisieEvenement& saisie
     saisie.crees.clear();
 
     if (!RolesEnOrdre(session, saisie)) {
-        session.dialogue.Informer(shell::Msg(936));
+        session.dialogue.Informer(shell::Msg(message::RoleNonAttribueOuInadapte));
         return {Etat::Incomplet, ChampEvenement::Liens};
     }
     AccorderFiches(session, saisie.evenement);

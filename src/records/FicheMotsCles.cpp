@@ -1,5 +1,7 @@
 #include "records/FicheMotsCles.h"
 
+#include "messages/Messages.h"
+#include "messages/Mots.h"
 #include "shell/Libelles.h"
 #include "shell/RelaisAvancement.h"
 #include "storage/Base.h"
@@ -63,21 +65,22 @@ bool Refuser(shell::Session& session, const shell::Phrase& texte) {
 
 bool AccepterLibelle(shell::Session& session, NoMotCle sauf, const SaisieMotCle& saisie) {
     const std::string_view libelle = SansBlancs(saisie.libelle);
-    if (libelle.empty()) return Refuser(session, shell::Msg(719));
+    if (libelle.empty()) return Refuser(session, shell::Msg(message::LibelleMotCleVide));
     const std::string neutre = Neutre(session, libelle);
     const bool illisible =
         std::ranges::any_of(neutre, [](char c) { return static_cast<unsigned char>(c) < ' '; });
     if (illisible || neutre.size() > LibelleAuPlus || neutre.find_first_of("#\xFF") != neutre.npos)
-        return Refuser(session, shell::Msg(3202));
+        return Refuser(session, shell::Msg(message::LibelleMotCleNonAutorise));
     storage::MotsCles& mots = session.base->motsCles;
     for (NoMotCle k{1}; k.valeur <= mots.Nombre(); ++k.valeur) {
         const std::string& autre = mots.LibelleType(k).libelle;
         if (k == sauf || autre.empty()) continue;
         if (autre == neutre)
-            return Refuser(session,
-                           EstReserve(neutre) ? shell::Msg(952) : shell::Msg(3200, libelle));
+            return Refuser(session, EstReserve(neutre)
+                                        ? shell::Msg(message::CodeMotCleDejaPris)
+                                        : shell::Msg(message::LibelleMotCleDejaPris, libelle));
         if (SeConfondent(autre, neutre) || SeConfondent(neutre, autre))
-            return Refuser(session, shell::Msg(3201, libelle));
+            return Refuser(session, shell::Msg(message::LibelleMotCleSeConfond, libelle));
     }
     return true;
 }
@@ -142,11 +145,13 @@ std::vector<LigneMotCle> ListerMotsCles(shell::Session& session) {
 NoMotCle AjouterMotCle(shell::Session& session, const SaisieMotCle& saisie) {
     storage::MotsCles& mots = session.base->motsCles;
     const char code = CodeDe(saisie.code);
-    if (code == ' ') return Refuser(session, shell::Msg(718)), NoMotCle{};
-    if (mots.TypeDuSymbole(code)) return Refuser(session, shell::Msg(952)), NoMotCle{};
+    if (code == ' ')
+        return Refuser(session, shell::Msg(message::CodeMotCleNonAutorise)), NoMotCle{};
+    if (mots.TypeDuSymbole(code))
+        return Refuser(session, shell::Msg(message::CodeMotCleDejaPris)), NoMotCle{};
     if (!AccepterLibelle(session, {}, saisie)) return {};
     const NoMotCle place = PlaceLibre(session);
-    if (!place) return Refuser(session, shell::Msg(3203)), NoMotCle{};
+    if (!place) return Refuser(session, shell::Msg(message::MaximumMotsClesAtteint)), NoMotCle{};
     storage::MotCle type{code, Neutre(session, saisie.libelle), saisie.indexe, {}};
     mots.CreerType(place, type);
     MarquerEnTete(session);
@@ -164,18 +169,19 @@ bool ModifierMotCle(shell::Session& session, NoMotCle mot, const SaisieMotCle& s
     if (avant.libelle.empty()) return false;
     const bool memeCode = saisie.code.size() == 1 && saisie.code[0] == avant.symbole;
     const char code = memeCode ? avant.symbole : CodeDe(saisie.code);
-    if (code == ' ') return Refuser(session, shell::Msg(718));
+    if (code == ' ') return Refuser(session, shell::Msg(message::CodeMotCleNonAutorise));
     if (!AccepterLibelle(session, mot, saisie)) return false;
     if (const NoMotCle autre = mots.TypeDuSymbole(code); autre && autre != mot)
-        return Refuser(session, shell::Msg(720));
+        return Refuser(session, shell::Msg(message::CodePrisParAutreMotCle));
     const std::string libelle = Neutre(session, saisie.libelle);
     const std::string montre = shell::LibelleDeTag(session.catalogue, avant.libelle);
     if (code != avant.symbole && EstFixe(avant.symbole))
-        return Refuser(session, shell::Msg(3204, montre));
+        return Refuser(session, shell::Msg(message::MotCleReserve, montre));
     const bool orphelines = code != avant.symbole || libelle != avant.libelle;
     if (orphelines && !EstFixe(avant.symbole) &&
-        !session.dialogue.Confirmer(
-            {.texte = shell::Msg(3206, montre), .defaut = shell::Reponse::Non, .grave = true}))
+        !session.dialogue.Confirmer({.texte = shell::Msg(message::ConfirmerChangerMotCle, montre),
+                                     .defaut = shell::Reponse::Non,
+                                     .grave = true}))
         return false;
     // A list of the words of another code would be wrong: it is built anew.
     const bool garde = avant.indexe && saisie.indexe && code == avant.symbole;
@@ -193,11 +199,12 @@ bool SupprimerMotCle(shell::Session& session, NoMotCle mot) {
     const storage::MotCle type = session.base->motsCles.LibelleType(mot);
     if (type.libelle.empty()) return false;
     const std::string libelle = shell::LibelleDeTag(session.catalogue, type.libelle);
-    if (EstFixe(type.symbole)) return Refuser(session, shell::Msg(3204, libelle));
-    if (!session.dialogue.Confirmer({.texte = shell::Msg(3205, libelle),
-                                     .titre = shell::Msg(618),
-                                     .defaut = shell::Reponse::Non,
-                                     .grave = true}))
+    if (EstFixe(type.symbole)) return Refuser(session, shell::Msg(message::MotCleReserve, libelle));
+    if (!session.dialogue.Confirmer(
+            {.texte = shell::Msg(message::ConfirmerSupprimerMotCle, libelle),
+             .titre = shell::Msg(message::TitreSuppression),
+             .defaut = shell::Reponse::Non,
+             .grave = true}))
         return false;
     session.base->motsCles.EffacerType(mot);
     for (const TableLignes table : {TableLignes::Individu, TableLignes::Mariage})

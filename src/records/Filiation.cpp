@@ -1,5 +1,7 @@
 #include "records/Filiation.h"
 
+#include "messages/Famille.h"
+#include "messages/Messages.h"
 #include "records/Famille.h"
 #include "records/NomsAffiches.h"
 #include "records/Questions.h"
@@ -18,15 +20,6 @@ namespace {
 
 using shell::Msg;
 
-constexpr std::uint32_t MsgPropreParent = 2800;
-constexpr std::uint32_t MsgDescendant = 2801;
-constexpr std::uint32_t MsgTropEnfants = 2802;
-constexpr std::uint32_t MsgSexeParent = 2803;
-constexpr std::uint32_t MsgPertePere = 2804;
-constexpr std::uint32_t MsgPerteMere = 2805;
-constexpr std::uint32_t MsgDejaEnfant = 2806;
-constexpr std::uint32_t MsgAbsente = 2807;
-
 char SexeDe(storage::Base& base, NoOrdre n) {
     return base.R_SEXE.LireCellule(n);
 }
@@ -40,24 +33,27 @@ bool ListeALEnfant(storage::Base& base, NoOrdre parent, NoOrdre enfant) {
     return std::find(enfants.begin(), enfants.end(), enfant) != enfants.end();
 }
 
-/// Why the person cannot become the parent; 0 when nothing stands in the way.
-std::uint32_t MotifContre(storage::Base& base, NoOrdre enfant, char cote, NoOrdre parent) {
-    if (!Existe(base, enfant) || !Existe(base, parent)) return MsgAbsente;
-    if (enfant == parent) return MsgPropreParent;
-    if (SexeDe(base, parent) == AutreCote(cote)) return MsgSexeParent;
-    if (EstAscendant(base, enfant, parent)) return MsgDescendant;
+/// Why the person cannot become the parent; none when nothing stands in the way.
+NoMessage MotifContre(storage::Base& base, NoOrdre enfant, char cote, NoOrdre parent) {
+    if (!Existe(base, enfant) || !Existe(base, parent)) return message::PersonneAbsenteDeLaBase;
+    if (enfant == parent) return message::PropreParent;
+    if (SexeDe(base, parent) == AutreCote(cote)) return message::SexeParentInadapte;
+    if (EstAscendant(base, enfant, parent)) return message::ParentDescendDeLEnfant;
     if (base.R_ENFANT.NbElements(parent) >= storage::MaxElements &&
         !ListeALEnfant(base, parent, enfant))
-        return MsgTropEnfants;
-    return 0;
+        return message::MaximumEnfantsPersonneAtteint;
+    return {};
 }
 
 /// Asks whether `parent` is the parent of the child on a side where nobody stands, and makes the
 /// link. A question that could only have no for an answer is not asked.
 bool ProposerParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
-    const std::uint32_t motif = MotifContre(*session.base, enfant, cote, parent);
-    if (motif != 0 && motif != MsgTropEnfants) return false;
-    if (!session.dialogue.Confirmer(Nommer(session, cote == 'H' ? 609U : 608U, enfant, parent)))
+    const NoMessage motif = MotifContre(*session.base, enfant, cote, parent);
+    if (motif && motif != message::MaximumEnfantsPersonneAtteint) return false;
+    if (!session.dialogue.Confirmer(Nommer(
+            session,
+            cote == 'H' ? message::DemanderSiEpouxEstLePere : message::DemanderSiEpouseEstLaMere,
+            enfant, parent)))
         return false;
     if (!PeutEtreParent(session, enfant, cote, parent)) return false;
     LierParent(session, enfant, cote, parent);
@@ -88,7 +84,7 @@ void ProposerPartenaires(shell::Session& session, NoOrdre enfant, char cote, NoO
 
 /// Offers a union of both parents, who have none.
 void ProposerUnion(shell::Session& session, char cote, NoOrdre parent, NoOrdre autre) {
-    if (!session.dialogue.Confirmer(Nommer(session, 639, autre))) return;
+    if (!session.dialogue.Confirmer(Nommer(session, message::ProposerCreerUnion, autre))) return;
     if (!PeutUnir(session, parent, autre)) return;
     if (cote == 'H')
         EcrireUnion(session, parent, autre);
@@ -98,7 +94,9 @@ void ProposerUnion(shell::Session& session, char cote, NoOrdre parent, NoOrdre a
 
 bool ConfirmerRetraitParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
     return ConfirmerRetrait(
-        session, Nommer(session, cote == 'H' ? MsgPertePere : MsgPerteMere, parent, enfant));
+        session,
+        Nommer(session, cote == 'H' ? message::ConfirmerRetirerPere : message::ConfirmerRetirerMere,
+               parent, enfant));
 }
 
 }  // namespace
@@ -132,8 +130,8 @@ bool EstAscendant(storage::Base& base, NoOrdre ancetre, NoOrdre individu) {
 }
 
 bool PeutEtreParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
-    const std::uint32_t motif = MotifContre(*session.base, enfant, cote, parent);
-    return motif == 0 || Refuser(session, Nommer(session, motif, parent, enfant));
+    const NoMessage motif = MotifContre(*session.base, enfant, cote, parent);
+    return !motif || Refuser(session, Nommer(session, motif, parent, enfant));
 }
 
 void LierParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
@@ -151,7 +149,7 @@ bool DonnerParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre pa
     storage::Base& base = *session.base;
     if (!PeutEtreParent(session, enfant, cote, parent)) return false;
     if (SexeDe(base, parent) != cote)
-        return Refuser(session, Nommer(session, MsgSexeParent, parent));
+        return Refuser(session, Nommer(session, message::SexeParentInadapte, parent));
     LierParent(session, enfant, cote, parent);
     const NoOrdre autre = LireParent(base, enfant, AutreCote(cote));
     if (!autre)
@@ -182,19 +180,20 @@ bool RetirerParent(shell::Session& session, NoOrdre enfant, char cote) {
 
 bool PeutAvoirEnfant(shell::Session& session, NoOrdre parent, NoMariage mariage) {
     storage::Base& base = *session.base;
-    if (AutreCote(SexeDe(base, parent)) == ' ') return Refuser(session, Msg(640));
+    if (AutreCote(SexeDe(base, parent)) == ' ')
+        return Refuser(session, Msg(message::SexeRequisPourRattacherEnfant));
     const NoOrdre partenaire = mariage ? PartenaireDe(base, parent, mariage) : NoOrdre{};
     for (const NoOrdre n : {parent, partenaire})
         if (n && base.R_ENFANT.NbElements(n) >= storage::MaxElements)
-            return Refuser(session, Nommer(session, MsgTropEnfants, n));
+            return Refuser(session, Nommer(session, message::MaximumEnfantsPersonneAtteint, n));
     return true;
 }
 
 bool ConfirmerRemplacement(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
     const NoOrdre ancien = LireParent(*session.base, enfant, cote);
     if (!ancien || ancien == parent) return true;
-    shell::Phrase texte = Nommer(session, 628, enfant);
-    texte.suite = NoMessage{629};
+    shell::Phrase texte = Nommer(session, message::ConfirmerRemplacerParent, enfant);
+    texte.suite = message::ConfirmerOperation;
     return session.dialogue.Confirmer(
         {texte, shell::Phrase{}, shell::Boutons::ValiderAnnuler, shell::Reponse::Annuler, true});
 }
@@ -202,10 +201,11 @@ bool ConfirmerRemplacement(shell::Session& session, NoOrdre enfant, char cote, N
 bool AttacherEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant) {
     storage::Base& base = *session.base;
     const char cote = SexeDe(base, parent);
-    if (AutreCote(cote) == ' ') return Refuser(session, Msg(640));
+    if (AutreCote(cote) == ' ')
+        return Refuser(session, Msg(message::SexeRequisPourRattacherEnfant));
     const NoOrdre ancien = LireParent(base, enfant, cote);
     if (ancien == parent && ListeALEnfant(base, parent, enfant))
-        return Refuser(session, Nommer(session, MsgDejaEnfant, enfant, parent));
+        return Refuser(session, Nommer(session, message::InfoDejaEnfant, enfant, parent));
     if (!PeutEtreParent(session, enfant, cote, parent)) return false;
     if (!ConfirmerRemplacement(session, enfant, cote, parent)) return false;
     LierParent(session, enfant, cote, parent);
@@ -246,7 +246,7 @@ void AvertirDeces(shell::Session& session, NoOrdre parent, NoOrdre enfant) {
     storage::Base& base = *session.base;
     if (base.R_DECES.LireCellule(parent).empty()) return;
     if (base.R_DECES.AnneeTri(parent) < base.R_NAISS.AnneeTri(enfant))
-        session.dialogue.Informer(Msg(636));
+        session.dialogue.Informer(Msg(message::DecesParentAvantNaissanceEnfant));
 }
 
 void ProposerEnfants(shell::Session& session, NoOrdre autre, char cote, NoOrdre parent,

@@ -1,5 +1,6 @@
 #include "records/Incidents.h"
 
+#include "messages/Faits.h"
 #include "shell/Session.h"
 
 #include <algorithm>
@@ -13,7 +14,9 @@ void DireIncident(shell::Session& session, storage::Incident incident, std::uint
     if (std::find(session.incidents.begin(), session.incidents.end(), cherche) ==
         session.incidents.end())
         return;
-    const std::uint32_t message = incident == storage::Incident::EvenementAbime ? 3020 : 3021;
+    const NoMessage message = incident == storage::Incident::EvenementAbime
+                                  ? message::IncidentEvenement
+                                  : message::IncidentDocument;
     session.dialogue.Informer(shell::Msg(message, std::to_string(numero)));
 }
 

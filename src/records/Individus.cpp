@@ -1,5 +1,6 @@
 #include "records/Individus.h"
 
+#include "messages/Messages.h"
 #include "records/ControleFiche.h"
 #include "records/NomsAffiches.h"
 #include "records/Rangement.h"
@@ -16,16 +17,16 @@ namespace dorvane::records {
 
 namespace {
 
-/// Why a person cannot go; 0 when nothing holds it.
-std::uint32_t RefusDeSuppression(storage::Base& base, NoOrdre n) {
-    if (base.R_ENFANT.NbElements(n) != 0) return 610;
-    if (base.R_MARIAG.NbElements(n) != 0) return 611;
-    if (base.R_LIEN.NbElements(n) != 0) return 612;
-    if (base.R_LSTIMG.NbElements(n) != 0) return 613;
-    if (base.R_LSTEVT.NbElements(n) != 0) return 614;
-    if (base.R_PERE.LireCellule(n)) return 615;
-    if (base.R_MERE.LireCellule(n)) return 616;
-    return 0;
+/// Why a person cannot go; none when nothing holds it.
+NoMessage RefusDeSuppression(storage::Base& base, NoOrdre n) {
+    if (base.R_ENFANT.NbElements(n) != 0) return message::SuppressionImpossibleEnfants;
+    if (base.R_MARIAG.NbElements(n) != 0) return message::SuppressionImpossibleUnion;
+    if (base.R_LIEN.NbElements(n) != 0) return message::SuppressionImpossibleLiens;
+    if (base.R_LSTIMG.NbElements(n) != 0) return message::SuppressionImpossibleDocuments;
+    if (base.R_LSTEVT.NbElements(n) != 0) return message::SuppressionImpossibleEvenements;
+    if (base.R_PERE.LireCellule(n)) return message::SuppressionImpossiblePere;
+    if (base.R_MERE.LireCellule(n)) return message::SuppressionImpossibleMere;
+    return {};
 }
 
 /// Empties all that a person has and takes it out of the table, where it stands at `rang`.
@@ -87,7 +88,7 @@ IssueFiche CreerIndividu(shell::Session& session, SaisieFiche& saisie) {
     storage::Base& base = *session.base;
     IssueFiche issue;
     if (base.entete.DernierIndividu >= storage::MaxIndividus) {
-        session.dialogue.Informer(shell::Msg(625));
+        session.dialogue.Informer(shell::Msg(message::MaximumPersonnesBaseAtteint));
         return issue;
     }
     issue.champ = ControlerFiche(session, saisie);
@@ -149,15 +150,16 @@ void EcrireTexteMariage(shell::Session& session, NoMariage m, std::string_view t
 
 bool SupprimerIndividu(shell::Session& session, NoOrdre n) {
     storage::Base& base = *session.base;
-    const shell::Phrase titre = shell::Msg(618);
-    if (const std::uint32_t refus = RefusDeSuppression(base, n); refus != 0) {
+    const shell::Phrase titre = shell::Msg(message::TitreSuppression);
+    if (const NoMessage refus = RefusDeSuppression(base, n)) {
         session.dialogue.Informer(shell::Msg(refus), titre);
         return false;
     }
     const shell::Phrase question{
-        {}, std::string{SansBlancs(NomEtDates(session, n))}, {}, NoMessage{617}};
-    if (!session.dialogue.Confirmer({question.valeur.empty() ? shell::Msg(617) : question, titre,
-                                     shell::Boutons::OuiNon, shell::Reponse::Non, true}))
+        {}, std::string{SansBlancs(NomEtDates(session, n))}, {}, message::ConfirmerSuppression};
+    if (!session.dialogue.Confirmer(
+            {question.valeur.empty() ? shell::Msg(message::ConfirmerSuppression) : question, titre,
+             shell::Boutons::OuiNon, shell::Reponse::Non, true}))
         return false;
     const std::uint32_t rang = base.R_TRI.RangIndividu(n);
     Vider(base, n, rang);
@@ -165,7 +167,7 @@ bool SupprimerIndividu(shell::Session& session, NoOrdre n) {
     NoOrdre suivante = base.R_TRI.IndividuAuRang(rang == 0 ? 1 : rang);
     if (!suivante && rang > 1) suivante = base.R_TRI.IndividuAuRang(rang - 1);
     session.PersonneEnCours = suivante;
-    if (!suivante) session.dialogue.Informer(shell::Msg(619));
+    if (!suivante) session.dialogue.Informer(shell::Msg(message::InfoPlusAucunePersonne));
     return true;
 }
 

@@ -1,5 +1,7 @@
 #include "records/Liens.h"
 
+#include "messages/Famille.h"
+#include "messages/Messages.h"
 #include "records/Famille.h"
 #include "records/Questions.h"
 #include "shell/Libelles.h"
@@ -14,13 +16,6 @@ namespace dorvane::records {
 namespace {
 
 using shell::Msg;
-
-constexpr std::uint32_t MsgAbsente = 2807;
-constexpr std::uint32_t MsgPropreLien = 2820;
-constexpr std::uint32_t MsgDejaLies = 2821;
-constexpr std::uint32_t MsgTropLiens = 2822;
-constexpr std::uint32_t MsgLibelleLong = 2823;
-constexpr std::uint32_t MsgPerteLien = 2824;
 
 /// The label as it is stored.
 std::string Stocke(const shell::Session& session, std::string_view libelle) {
@@ -56,14 +51,17 @@ std::vector<LienAffiche> ListerLiens(shell::Session& session, NoOrdre individu) 
 
 bool LibelleValable(shell::Session& session, std::string_view libelle) {
     const std::string stocke = Stocke(session, libelle);
-    if (stocke.empty()) return Refuser(session, Msg(631));
-    return stocke.size() <= storage::MaxTexteElement || Refuser(session, Msg(MsgLibelleLong));
+    if (stocke.empty()) return Refuser(session, Msg(message::LibelleLienVide));
+    return stocke.size() <= storage::MaxTexteElement ||
+           Refuser(session, Msg(message::LibelleLienTropLong));
 }
 
 bool PeutLier(shell::Session& session, NoOrdre individu, NoOrdre autre) {
     for (const NoOrdre n : {individu, autre})
-        if (!Existe(*session.base, n)) return Refuser(session, Nommer(session, MsgAbsente, n));
-    return individu != autre || Refuser(session, Nommer(session, MsgPropreLien, individu));
+        if (!Existe(*session.base, n))
+            return Refuser(session, Nommer(session, message::PersonneAbsenteDeLaBase, n));
+    return individu != autre ||
+           Refuser(session, Nommer(session, message::LienAvecSoiMeme, individu));
 }
 
 bool AjouterLien(shell::Session& session, NoOrdre individu, NoOrdre autre,
@@ -75,10 +73,11 @@ bool AjouterLien(shell::Session& session, NoOrdre individu, NoOrdre autre,
     // An old base may hold one side only: the missing one is then added.
     const bool ici = RangLien(base, individu, autre, stocke) != 0;
     const bool labas = RangLien(base, autre, individu, stocke) != 0;
-    if (ici && labas) return Refuser(session, Nommer(session, MsgDejaLies, individu, autre));
+    if (ici && labas)
+        return Refuser(session, Nommer(session, message::InfoDejaLies, individu, autre));
     for (const auto& [n, present] : {std::pair{individu, ici}, std::pair{autre, labas}})
         if (!present && base.R_LIEN.NbElements(n) >= storage::MaxElements)
-            return Refuser(session, Nommer(session, MsgTropLiens, n));
+            return Refuser(session, Nommer(session, message::MaximumLiensPersonneAtteint, n));
     if (!ici) base.R_LIEN.ModifierListe(individu, autre, 'A', stocke);
     if (!labas) base.R_LIEN.ModifierListe(autre, individu, 'A', stocke);
     return true;
@@ -92,7 +91,7 @@ bool ChangerLien(shell::Session& session, NoOrdre individu, std::size_t rang,
     const std::string stocke = Stocke(session, libelle);
     if (stocke == base.R_LIEN.TexteElement(individu, rang)) return false;
     if (RangLien(base, individu, autre, stocke) != 0)
-        return Refuser(session, Nommer(session, MsgDejaLies, individu, autre));
+        return Refuser(session, Nommer(session, message::InfoDejaLies, individu, autre));
     base.R_LIEN.ModifierListe(individu, NoOrdre{static_cast<std::uint32_t>(rang)}, 'M', stocke);
     return true;
 }
@@ -102,7 +101,7 @@ bool RetirerLien(shell::Session& session, NoOrdre individu, std::size_t rang) {
     const NoOrdre autre = base.R_LIEN.ElementListe(individu, rang);
     if (!autre) return false;
     const std::string stocke = base.R_LIEN.TexteElement(individu, rang);
-    shell::Phrase perte = Nommer(session, MsgPerteLien, {}, autre);
+    shell::Phrase perte = Nommer(session, message::ConfirmerSupprimerLien, {}, autre);
     perte.valeur = shell::LibelleDeTag(session.catalogue, stocke);
     if (!ConfirmerRetrait(session, perte)) return false;
     base.R_LIEN.ModifierListe(individu, autre, 'S', stocke);

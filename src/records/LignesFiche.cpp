@@ -1,5 +1,9 @@
 #include "records/LignesFiche.h"
 
+#include "messages/Controle.h"
+#include "messages/Faits.h"
+#include "messages/Famille.h"
+#include "messages/Messages.h"
 #include "records/Famille.h"
 #include "records/FicheDocument.h"
 #include "records/FicheEvenement.h"
@@ -18,15 +22,6 @@
 namespace dorvane::records {
 
 namespace {
-
-constexpr std::uint32_t MsgPersonne = 3070;
-constexpr std::uint32_t MsgNumero = 2910;
-constexpr std::uint32_t MsgUnion = 4270;
-constexpr std::uint32_t MsgEnfant = 4271;
-constexpr std::uint32_t MsgFinUnion = 4272;
-constexpr std::uint32_t MsgNote = 4273;
-constexpr std::uint32_t MsgEvenement = 644;
-constexpr std::uint32_t MsgDocument = 646;
 
 /// The filled parts, separated by commas.
 std::string Enumerer(std::initializer_list<std::string_view> morceaux) {
@@ -50,7 +45,7 @@ public:
         LireParents();
         LireUnions();
         for (const NoOrdre enfant : base_.R_ENFANT.Elements(n_))
-            Ajouter(session_.Message(MsgEnfant), NomEtDates(session_, enfant), enfant);
+            Ajouter(session_.Message(message::LigneEnfant), NomEtDates(session_, enfant), enfant);
         for (const LienAffiche& lien : ListerLiens(session_, n_))
             Ajouter(lien.libelle, NomEtDates(session_, lien.autre), lien.autre);
         LireFaits();
@@ -68,11 +63,13 @@ private:
 
     void LirePersonne() {
         const char sexe = base_.R_SEXE.LireCellule(n_);
-        const std::uint32_t messageSexe = sexe == 'H' ? 661 : sexe == 'F' ? 663 : 664;
-        Ajouter(
-            session_.Message(MsgPersonne),
-            Enumerer({session_.catalogue.Composer(shell::Msg(MsgNumero, std::to_string(n_.valeur))),
-                      session_.Message(messageSexe)}));
+        const NoMessage messageSexe = sexe == 'H'   ? message::SexeMasculin
+                                      : sexe == 'F' ? message::SexeFeminin
+                                                    : message::SexeIndetermine;
+        Ajouter(session_.Message(message::Personne),
+                Enumerer({session_.catalogue.Composer(
+                              shell::Msg(message::NumeroDePersonne, std::to_string(n_.valeur))),
+                          session_.Message(messageSexe)}));
         Ajouter(Libelle("BIRT"),
                 Enumerer({DateNaissance(session_, n_), storage::LieuNaissance(base_, n_)}));
         Ajouter(Libelle("DEAT"),
@@ -100,8 +97,9 @@ private:
             const NoOrdre autre = PartenaireDe(base_, n_, m);
             std::string fin = base_.R_FINMAR.LireCellule(m);
             if (!SansBlancs(fin).empty())
-                fin = session_.catalogue.Composer(shell::Msg(MsgFinUnion, SansBlancs(fin)));
-            Ajouter(session_.Message(MsgUnion),
+                fin = session_.catalogue.Composer(
+                    shell::Msg(message::LigneFinUnion, SansBlancs(fin)));
+            Ajouter(session_.Message(message::LigneUnion),
                     Enumerer({NomEtDates(session_, autre), DateMariage(session_, m),
                               storage::LieuMariage(base_, m), fin}),
                     autre);
@@ -111,17 +109,17 @@ private:
 
     void LireFaits() {
         for (std::size_t k = 1; k <= base_.R_LSTEVT.NbElements(n_); ++k)
-            Ajouter(session_.Message(MsgEvenement),
+            Ajouter(session_.Message(message::TagEVEN),
                     ResumeEvenement(session_, base_.R_LSTEVT.ElementListe(n_, k)));
         for (const NoDocument d : base_.R_LSTIMG.Elements(n_))
-            Ajouter(session_.Message(MsgDocument), TitreAffiche(session_, d));
+            Ajouter(session_.Message(message::Document), TitreAffiche(session_, d));
         std::string tampon;
         const std::string note = storage::NoteDe(base_, n_);
         std::string texte{TexteSansRtf(note, tampon)};
         // The list has one line for each thing.
         for (char& octet : texte)
             if (octet == '\r' || octet == '\n' || octet == '\t') octet = ' ';
-        Ajouter(session_.Message(MsgNote), texte);
+        Ajouter(session_.Message(message::LigneNote), texte);
     }
 
     shell::Session& session_;

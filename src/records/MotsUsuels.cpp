@@ -1,5 +1,7 @@
 #include "records/MotsUsuels.h"
 
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
 #include "shell/Libelles.h"
 #include "values/Comparaison.h"
 #include "values/Texte1252.h"
@@ -35,15 +37,15 @@ bool EstAcceptable(std::string_view mot) {
 }
 
 bool ConfirmerSuppression(shell::Session& session) {
-    return session.dialogue.Confirmer({.texte = shell::Msg(617),
-                                       .titre = shell::Msg(618),
+    return session.dialogue.Confirmer({.texte = shell::Msg(message::ConfirmerSuppression),
+                                       .titre = shell::Msg(message::TitreSuppression),
                                        .defaut = shell::Reponse::Non,
                                        .grave = true});
 }
 
 /// The settings could not be written: they are as they were in memory, and the user knows.
 bool Dire(shell::Session& session, bool ecrit) {
-    if (!ecrit) session.dialogue.Informer(shell::Msg(2402));
+    if (!ecrit) session.dialogue.Informer(shell::Msg(message::ReglagesNonEnregistres));
     return ecrit;
 }
 

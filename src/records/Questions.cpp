@@ -1,5 +1,6 @@
 #include "records/Questions.h"
 
+#include "messages/Messages.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
 
@@ -7,8 +8,7 @@
 
 namespace dorvane::records {
 
-shell::Phrase Nommer(shell::Session& session, std::uint32_t message, NoOrdre premier,
-                     NoOrdre second) {
+shell::Phrase Nommer(shell::Session& session, NoMessage message, NoOrdre premier, NoOrdre second) {
     return shell::Msg(message, NomAffiche(session, premier), NomAffiche(session, second));
 }
 
@@ -18,9 +18,9 @@ bool Refuser(shell::Session& session, const shell::Phrase& motif) {
 }
 
 bool ConfirmerRetrait(shell::Session& session, shell::Phrase perte) {
-    perte.suite = NoMessage{617};
-    return session.dialogue.Confirmer(
-        {std::move(perte), shell::Msg(618), shell::Boutons::OuiNon, shell::Reponse::Non, true});
+    perte.suite = message::ConfirmerSuppression;
+    return session.dialogue.Confirmer({std::move(perte), shell::Msg(message::TitreSuppression),
+                                       shell::Boutons::OuiNon, shell::Reponse::Non, true});
 }
 
 }  // namespace dorvane::records

@@ -12,7 +12,7 @@ class Session;
 namespace dorvane::records {
 
 /// A message with the display names of one or two persons in it.
-[[nodiscard]] shell::Phrase Nommer(shell::Session& session, std::uint32_t message, NoOrdre premier,
+[[nodiscard]] shell::Phrase Nommer(shell::Session& session, NoMessage message, NoOrdre premier,
                                    NoOrdre second = {});
 
 /// Tells why something is not done. Always false.

@@ -1,5 +1,7 @@
 #include "records/RechercheNoms.h"
 
+#include "messages/Famille.h"
+#include "messages/Messages.h"
 #include "records/Famille.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
@@ -13,7 +15,6 @@ namespace dorvane::records {
 namespace {
 
 constexpr std::uint32_t PasRecherche = 500;  // about a millisecond
-constexpr std::uint32_t MsgPhase = 2830;
 
 }  // namespace
 
@@ -70,13 +71,14 @@ bool Rechercher(RechercheNoms& recherche, shell::Session& session, std::string_v
                 bool cumul, const std::function<void()>& montrer) {
     if (texte.empty()) return false;
     if (session.progression.EnCours() || !recherche.Commencer(texte, cumul)) {
-        session.dialogue.Informer(shell::Msg(503));
+        session.dialogue.Informer(shell::Msg(message::OperationImpossible));
         return false;
     }
     bool abandon = false;
     {
-        const shell::CadreProgression cadre{session.progression, shell::Msg(MsgPhase),
-                                            shell::Msg(MsgPhase)};
+        const shell::CadreProgression cadre{session.progression,
+                                            shell::Msg(message::TitreRechercheDUnNom),
+                                            shell::Msg(message::TitreRechercheDUnNom)};
         std::uint32_t montres = 0;
         for (bool encore = true; encore && !abandon;) {
             encore = recherche.Continuer(PasRecherche);
@@ -86,13 +88,16 @@ bool Rechercher(RechercheNoms& recherche, shell::Session& session, std::string_v
         }
     }
     if (abandon) return false;
-    if (recherche.Trouves() == 0) session.dialogue.Informer(shell::Msg(551));
+    if (recherche.Trouves() == 0)
+        session.dialogue.Informer(shell::Msg(message::InfoAucunePersonneDeCeNom));
     return true;
 }
 
 bool PeutChercherParente(shell::Session& session, const std::vector<NoOrdre>& selection) {
     if (session.BaseOuverte() && selection.size() >= 2) return true;
-    session.dialogue.Informer(shell::Msg(session.BaseOuverte() ? 555 : 503));
+    session.dialogue.Informer(shell::Msg(session.BaseOuverte()
+                                             ? message::SelectionDeMoinsDeDeuxPersonnes
+                                             : message::OperationImpossible));
     return false;
 }
 

@@ -1,5 +1,7 @@
 #include "records/Unions.h"
 
+#include "messages/Famille.h"
+#include "messages/Messages.h"
 #include "records/Famille.h"
 #include "records/Individus.h"
 #include "records/Questions.h"
@@ -15,21 +17,13 @@ namespace {
 
 using shell::Msg;
 
-constexpr std::uint32_t MsgAbsente = 2807;
-constexpr std::uint32_t MsgPropreConjoint = 2810;
-constexpr std::uint32_t MsgMemeSexe = 2811;
-constexpr std::uint32_t MsgTropUnions = 2812;
-constexpr std::uint32_t MsgBasePleine = 2813;
-constexpr std::uint32_t MsgPerteUnion = 2814;
-constexpr std::uint32_t MsgPerteUnionSeule = 2815;
-
 bool SexeConnu(storage::Base& base, NoOrdre individu) {
     return AutreCote(base.R_SEXE.LireCellule(individu)) != ' ';
 }
 
 bool APlace(shell::Session& session, NoOrdre individu) {
     return session.base->R_MARIAG.NbElements(individu) < storage::MaxElements ||
-           Refuser(session, Nommer(session, MsgTropUnions, individu));
+           Refuser(session, Nommer(session, message::MaximumUnionsPersonneAtteint, individu));
 }
 
 }  // namespace
@@ -41,19 +35,23 @@ void MajMariage(shell::Session& session, NoOrdre individu, NoMariage mariage, Ac
 
 bool PeutAvoirConjoint(shell::Session& session, NoOrdre individu, Provenance provenance) {
     if (!SexeConnu(*session.base, individu))
-        return Refuser(session, Msg(provenance == Provenance::Cherche ? 627 : 634));
+        return Refuser(
+            session, Msg(provenance == Provenance::Cherche ? message::SexeRequisPourChercherConjoint
+                                                           : message::SexeRequisPourCreerConjoint));
     return APlace(session, individu);
 }
 
 bool PeutUnir(shell::Session& session, NoOrdre individu, NoOrdre partenaire) {
     storage::Base& base = *session.base;
     for (const NoOrdre n : {individu, partenaire})
-        if (!Existe(base, n)) return Refuser(session, Nommer(session, MsgAbsente, n));
+        if (!Existe(base, n))
+            return Refuser(session, Nommer(session, message::PersonneAbsenteDeLaBase, n));
     if (individu == partenaire)
-        return Refuser(session, Nommer(session, MsgPropreConjoint, individu));
+        return Refuser(session, Nommer(session, message::PropreConjoint, individu));
     if (SexeConnu(base, individu) &&
         base.R_SEXE.LireCellule(individu) == base.R_SEXE.LireCellule(partenaire))
-        return Refuser(session, Nommer(session, MsgMemeSexe, individu, partenaire));
+        return Refuser(session,
+                       Nommer(session, message::ConjointsDeMemeSexe, individu, partenaire));
     return APlace(session, individu) && APlace(session, partenaire);
 }
 
@@ -61,7 +59,7 @@ NoMariage EcrireUnion(shell::Session& session, NoOrdre epoux, NoOrdre epouse) {
     storage::Base& base = *session.base;
     const NoMariage mariage = base.NouveauMariage();
     if (!mariage) {
-        session.dialogue.Informer(Msg(MsgBasePleine));
+        session.dialogue.Informer(Msg(message::MaximumUnionsBaseAtteint));
         return {};
     }
     base.R_EPOUX.EcrireCellule(mariage, epoux);
@@ -93,9 +91,10 @@ bool RetirerUnion(shell::Session& session, NoMariage mariage) {
     if (!mariage || mariage.valeur > base.entete.DernierMariage) return false;
     const NoOrdre epoux = base.R_EPOUX.LireCellule(mariage);
     const NoOrdre epouse = base.R_EPOUSE.LireCellule(mariage);
-    const shell::Phrase perte = epoux && epouse
-                                    ? Nommer(session, MsgPerteUnion, epoux, epouse)
-                                    : Nommer(session, MsgPerteUnionSeule, epoux ? epoux : epouse);
+    const shell::Phrase perte =
+        epoux && epouse
+            ? Nommer(session, message::ConfirmerSupprimerUnion, epoux, epouse)
+            : Nommer(session, message::ConfirmerSupprimerUnionSansConjoint, epoux ? epoux : epouse);
     if (!ConfirmerRetrait(session, perte)) return false;
     // While both partners are still known: the words of the text leave the index of each.
     EcrireTexteMariage(session, mariage, {});

@@ -1,3 +1,4 @@
+#include "messages/Faits.h"
 #include "records/Famille.h"
 #include "records/FicheDocument.h"
 #include "records/Questions.h"
@@ -45,7 +46,8 @@ void Ecrire(storage::Base& base, NoEvenement evenement, Liste liste) {
 }
 
 bool ConfirmerDetache(shell::Session& session, NoDocument document) {
-    return ConfirmerRetrait(session, shell::Msg(3014, TitreAffiche(session, document)));
+    return ConfirmerRetrait(
+        session, shell::Msg(message::ConfirmerDetacherDocument, TitreAffiche(session, document)));
 }
 
 }  // namespace
@@ -53,14 +55,15 @@ bool ConfirmerDetache(shell::Session& session, NoDocument document) {
 bool PeutAvoirDocument(shell::Session& session, NoOrdre individu) {
     if (!session.base || !Existe(*session.base, individu)) return false;
     return session.base->R_LSTIMG.NbElements(individu) < storage::MaxElements ||
-           Refuser(session, Nommer(session, 3016, individu));
+           Refuser(session, Nommer(session, message::MaximumDocumentsPersonneAtteint, individu));
 }
 
 bool AttacherDocument(shell::Session& session, NoOrdre individu, NoDocument document) {
     if (!session.base || !EstDocument(*session.base, document) || !Existe(*session.base, individu))
         return false;
     Liste liste = session.base->R_LSTIMG.Elements(individu);
-    if (Contient(liste, document)) return Refuser(session, shell::Msg(3015));
+    if (Contient(liste, document))
+        return Refuser(session, shell::Msg(message::DocumentDejaDansLaListe));
     if (!PeutAvoirDocument(session, individu)) return false;
     liste.push_back(document);
     Ecrire(*session.base, individu, liste);
@@ -89,7 +92,8 @@ bool AttacherDocument(shell::Session& session, NoEvenement evenement, NoDocument
         !session.base->R_EVT.LireCellule(evenement))
         return false;
     Liste liste = session.base->R_EVT.Documents(evenement);
-    if (Contient(liste, document)) return Refuser(session, shell::Msg(3015));
+    if (Contient(liste, document))
+        return Refuser(session, shell::Msg(message::DocumentDejaDansLaListe));
     liste.push_back(document);
     Ecrire(*session.base, evenement, std::move(liste));
     return true;

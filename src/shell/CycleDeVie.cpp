@@ -1,5 +1,7 @@
 #include "shell/CycleDeVie.h"
 
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
 #include "shell/CycleInterne.h"
 #include "shell/Numerotation.h"
 #include "shell/RelaisAvancement.h"
@@ -77,13 +79,13 @@ bool Enregistrer(Session& session) {
     SauverReglagesBase(session);
     const bool fait = session.base->Enregistrer();
     if (!session.parametres.MemoriserHistorique(session.CheminBase)) DireReglagesRefuses(session);
-    if (!fait) Dire(session, 2406, session.CheminBase);
+    if (!fait) Dire(session, message::EnregistrementBaseEchoue, session.CheminBase);
     return fait;
 }
 
 }  // namespace
 
-void Dire(Session& session, std::uint32_t message, const fs::path& chemin) {
+void Dire(Session& session, NoMessage message, const fs::path& chemin) {
     session.dialogue.Informer(Msg(message, CheminAffiche(chemin)));
 }
 
@@ -91,7 +93,7 @@ void Dire(Session& session, std::uint32_t message, const fs::path& chemin) {
 void DireReglagesRefuses(Session& session) {
     if (session.sansReglages) return;
     session.sansReglages = true;
-    session.dialogue.Informer(Msg(2402));
+    session.dialogue.Informer(Msg(message::ReglagesNonEnregistres));
 }
 
 void PoserChemins(Session& session, const fs::path& chemin) {
@@ -115,7 +117,7 @@ void Oublier(Session& session) {
 
 bool CommandePermise(Session& session) {
     if (session.progression.EnCours()) {
-        session.dialogue.Informer(Msg(503));
+        session.dialogue.Informer(Msg(message::OperationImpossible));
         return false;
     }
     return session.ecran.FermerFiche();
@@ -126,17 +128,17 @@ void DireOuverture(Session& session, storage::Ouverture etat, const fs::path& ch
         case storage::Ouverture::Faite:
             return;
         case storage::Ouverture::Introuvable:
-            session.dialogue.Informer(Msg(700));
+            session.dialogue.Informer(Msg(message::FichierDisparu));
             return;
         case storage::Ouverture::Occupee:
-            Dire(session, 2403, chemin);
+            Dire(session, message::BaseOccupee, chemin);
             return;
         case storage::Ouverture::PasUneBase:
-            Dire(session, 2404, chemin);
+            Dire(session, message::FichierPasUneBase, chemin);
             return;
         case storage::Ouverture::Refusee:
         case storage::Ouverture::Abimee:
-            Dire(session, 2405, chemin);
+            Dire(session, message::AccesBaseRefuse, chemin);
             return;
     }
 }
@@ -165,7 +167,7 @@ bool FermerEtMemoriser(Session& session) {
         session.PoserBase(nullptr);
     }
     if (!session.parametres.MemoriserHistorique(session.CheminBase)) DireReglagesRefuses(session);
-    if (!fait) Dire(session, 2406, session.CheminBase);
+    if (!fait) Dire(session, message::EnregistrementBaseEchoue, session.CheminBase);
     return fait;
 }
 
@@ -223,7 +225,10 @@ void MnuNouveau(Session& session) {
     storage::ResultatOuverture resultat = storage::NouvelleBase(
         session.disque, chemin, {session.TypeTri, generaux.motClePrenom, generaux.motCleNom});
     if (!resultat.base) {
-        Dire(session, resultat.etat == storage::Ouverture::Occupee ? 2403 : 2409, chemin);
+        Dire(session,
+             resultat.etat == storage::Ouverture::Occupee ? message::BaseOccupee
+                                                          : message::CreationBaseRefusee,
+             chemin);
         return;
     }
     PoserChemins(session, chemin);
@@ -256,7 +261,7 @@ void MnuHisto(Session& session, int rang) {
     if (rang < 0 || static_cast<std::size_t>(rang) >= historique.size()) return;
     const fs::path chemin = historique[static_cast<std::size_t>(rang)];
     if (!session.disque.Existe(chemin)) {
-        session.dialogue.Informer(Msg(700));
+        session.dialogue.Informer(Msg(message::FichierDisparu));
         return;
     }
     std::error_code erreur;

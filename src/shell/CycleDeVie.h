@@ -35,8 +35,8 @@ struct CheminsBase {
 [[nodiscard]] std::filesystem::path FichierTemporaire(const Session& session,
                                                       std::string_view debut);
 
-/// A heavy command may start: no long job runs (message 503 otherwise), and the person sheet is
-/// closed or had nothing unsaved.
+/// A heavy command may start: no long job runs (the user is told otherwise), and the person sheet
+/// is closed or had nothing unsaved.
 [[nodiscard]] bool CommandePermise(Session& session);
 
 /// Opens the file at `CheminBase`. False when it cannot be opened: the user has been told and no

@@ -10,7 +10,7 @@
 namespace dorvane::shell {
 
 /// Tells a message with a path in it.
-void Dire(Session& session, std::uint32_t message, const std::filesystem::path& chemin);
+void Dire(Session& session, NoMessage message, const std::filesystem::path& chemin);
 
 /// Takes the four paths of a base over, or none for an empty path.
 void PoserChemins(Session& session, const std::filesystem::path& chemin);

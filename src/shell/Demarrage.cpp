@@ -1,5 +1,7 @@
 #include "shell/Demarrage.h"
 
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
 #include "shell/CycleDeVie.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
@@ -34,9 +36,10 @@ void OuvrirCatalogue(Session& session) {
 
 void DireEtat(Session& session, Magasin::Etat etat) {
     if (etat == Magasin::Etat::Abime)
-        session.dialogue.Informer(Msg(2400, CheminAffiche(session.parametres.magasin.MisDeCote())));
+        session.dialogue.Informer(
+            Msg(message::ReglagesAbimes, CheminAffiche(session.parametres.magasin.MisDeCote())));
     if (etat == Magasin::Etat::Illisible) {
-        session.dialogue.Informer(Msg(2401));
+        session.dialogue.Informer(Msg(message::ReglagesIllisibles));
         session.sansReglages = true;
     }
 }
@@ -57,7 +60,7 @@ void EssayerTravail(Session& session) {
     if (PeutEcrireDans(travail)) return;
     const fs::path temp = session.parametres.DossierTemp();
     if (temp.empty()) {
-        session.dialogue.Informer(Msg(2413));
+        session.dialogue.Informer(Msg(message::AucunDossierDeTravail));
         return;
     }
     travail = temp;
@@ -89,7 +92,7 @@ void Arret(Session& session) {
     Clore(session);
     if (!session.parametres.SauverParametres() && !session.sansReglages) {
         session.sansReglages = true;
-        session.dialogue.Informer(Msg(2402));
+        session.dialogue.Informer(Msg(message::ReglagesNonEnregistres));
     }
     std::error_code erreur;
     if (aSupprimer)
@@ -98,7 +101,8 @@ void Arret(Session& session) {
 }
 
 bool ConfirmerSortie(Session& session) {
-    return CommandePermise(session) && session.dialogue.Confirmer(Msg(21));
+    return CommandePermise(session) &&
+           session.dialogue.Confirmer(Msg(message::ConfirmerQuitterDorvane));
 }
 
 void OuvrirFichierDepose(Session& session, const fs::path& chemin) {

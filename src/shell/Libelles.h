@@ -15,13 +15,13 @@ namespace dorvane::shell {
 /// A tag of 3 or 4 letters and the message that names it in the user's language.
 struct RangTag {
     std::string_view tag;
-    std::uint16_t message;
+    NoMessage message;
 };
 
 /// All tags, in the order in which labels are compared.
 [[nodiscard]] std::span<const RangTag> TableTags();
 
-/// The message that names a tag; 0 when the tag is not known.
+/// The message that names a tag; none when the tag is not known.
 [[nodiscard]] NoMessage MessageDeTag(std::string_view tag);
 
 /// The label of a tag in the catalogue in use; a text that is no tag comes back as it stands.

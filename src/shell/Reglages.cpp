@@ -1,5 +1,8 @@
 #include "shell/Reglages.h"
 
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
+#include "messages/Reglages.h"
 #include "shell/RelaisAvancement.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
@@ -48,15 +51,17 @@ bool EvenementsBons(const std::vector<TypeEvenement>& evenements) {
 
 ChampReglage Verifier(Session& session, const Reglages& r) {
     if (!DossierUtilisable(r.generaux.travail)) {
-        session.dialogue.Informer(Msg(3400, CheminAffiche(r.generaux.travail)));
+        session.dialogue.Informer(
+            Msg(message::DossierDeTravailImpossible, CheminAffiche(r.generaux.travail)));
         return ChampReglage::Travail;
     }
     if (r.generaux.frequenceSauvegarde < 1 || r.generaux.frequenceSauvegarde > FrequenceAuPlus) {
-        session.dialogue.Informer(Msg(3401, std::to_string(FrequenceAuPlus)));
+        session.dialogue.Informer(
+            Msg(message::FrequenceSauvegardeHorsBornes, std::to_string(FrequenceAuPlus)));
         return ChampReglage::Frequence;
     }
     if (!EvenementsBons(r.evenements)) {
-        session.dialogue.Informer(Msg(3402));
+        session.dialogue.Informer(Msg(message::TypeOuRoleSansNomOuEnDouble));
         return ChampReglage::Evenements;
     }
     return ChampReglage::Aucun;
@@ -183,8 +188,9 @@ bool ChangerTri(Session& session, char typeTri) {
     storage::Base& base = *session.base;
     const char avant = base.entete.TypeTri;
     if (typeTri == avant) return true;
-    Phrase question = Msg(typeTri == '0' ? 716 : 717);
-    question.suite = NoMessage{629};
+    Phrase question =
+        Msg(typeTri == '0' ? message::ConfirmerOrdreDeCreation : message::ConfirmerNouveauTri);
+    question.suite = message::ConfirmerOperation;
     if (!session.dialogue.Confirmer(question)) return false;
     base.entete.TypeTri = typeTri;
     if (!Trier(session)) {
@@ -217,7 +223,8 @@ ChampReglage ValiderReglages(Session& session, Reglages& r) {
     EcrireEvenements(parametres.magasin, r.evenements);
     session.AppliquerReglages();
     const bool base = !session.base || parametres.SauverParametresBase(session.CheminBase);
-    if (!parametres.SauverParametres() || !base) session.dialogue.Informer(Msg(2402));
+    if (!parametres.SauverParametres() || !base)
+        session.dialogue.Informer(Msg(message::ReglagesNonEnregistres));
     return ChampReglage::Aucun;
 }
 

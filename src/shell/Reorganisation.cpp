@@ -1,5 +1,7 @@
 #include "shell/Reorganisation.h"
 
+#include "messages/Messages.h"
+#include "messages/Soin.h"
 #include "shell/CycleDeVie.h"
 #include "shell/CycleInterne.h"
 #include "shell/FichierSur.h"
@@ -75,7 +77,7 @@ void MettreAJourPaires(Session& session, const fs::path& base,
         const std::string gardees = PairesVivantes(*texte, table);
         if (gardees == *texte || EcrireTout(paires, gardees, ".TMP")) return;
     }
-    Dire(session, 3907, paires);
+    Dire(session, message::PairesDePersonnesNonMisesAJour, paires);
 }
 
 storage::ConversionsTextes ConversionsDe(const Session& session) {
@@ -99,12 +101,14 @@ std::string EnGroupes(std::uint64_t taille) {
 }
 
 void DireBilan(Session& session, const storage::BilanReorganisation& bilan) {
-    session.dialogue.Annoncer(
-        Msg(3904, EnGroupes(bilan.tailleApres), EnGroupes(bilan.tailleAvant)));
+    session.dialogue.Annoncer(Msg(message::EtatReorganisationTerminee, EnGroupes(bilan.tailleApres),
+                                  EnGroupes(bilan.tailleAvant)));
     if (bilan.unionsSansEpoux != 0)
-        session.dialogue.Informer(Msg(3905, std::to_string(bilan.unionsSansEpoux)));
+        session.dialogue.Informer(
+            Msg(message::UnionsSansEpouxAbandonnees, std::to_string(bilan.unionsSansEpoux)));
     if (bilan.documentsAbimes != 0 || bilan.evenementsAbimes != 0)
-        session.dialogue.Informer(Msg(3906, std::to_string(bilan.documentsAbimes),
+        session.dialogue.Informer(Msg(message::FichesAbimeesRecopieesVides,
+                                      std::to_string(bilan.documentsAbimes),
                                       std::to_string(bilan.evenementsAbimes)));
 }
 
@@ -124,7 +128,10 @@ IssueSoin Reecrire(Session& session, const fs::path& chemin, storage::BilanReorg
     const fs::path nouveau = CheminReorganise(chemin);
     const storage::ResultatVerrou verrou = session.disque.Verrouiller(nouveau);
     if (verrou.etat != storage::EtatVerrou::Pris) {
-        Dire(session, verrou.etat == storage::EtatVerrou::Occupe ? 3901 : 3902, nouveau);
+        Dire(session,
+             verrou.etat == storage::EtatVerrou::Occupe ? message::ReorganisationDejaEnCours
+                                                        : message::NouveauFichierNonEcrit,
+             nouveau);
         return IssueSoin::Refusee;
     }
     RelaisAvancement avancement{session.progression, session.catalogue};
@@ -140,11 +147,11 @@ IssueSoin Reecrire(Session& session, const fs::path& chemin, storage::BilanReorg
     bilan = storage::ReorganiserVers(session.disque, source, nouveau, avancement);
     if (bilan.issue == IssueReorganisation::Abandonnee) return IssueSoin::Abandonnee;
     if (bilan.issue == IssueReorganisation::TropAbimee) {
-        Dire(session, 3903, chemin);
+        Dire(session, message::BaseTropAbimeePourReorganiser, chemin);
         return IssueSoin::Refusee;
     }
     if (bilan.issue != IssueReorganisation::Faite || !Remplacer(session.disque, nouveau, chemin)) {
-        Dire(session, 3902, nouveau);
+        Dire(session, message::NouveauFichierNonEcrit, nouveau);
         return IssueSoin::Refusee;
     }
     MettreAJourPaires(session, chemin, source.R_TRI.individus.Numeros());
@@ -184,7 +191,8 @@ IssueSoin ReorganiserBase(Session& session, bool sauvegarder) {
     IssueSoin issue = IssueSoin::Refusee;
     {
         // The windows know that the base comes back.
-        const CadreProgression cadre{session.progression, Msg(545), Msg(545)};
+        const CadreProgression cadre{session.progression, Msg(message::TitreReorganisationBase),
+                                     Msg(message::TitreReorganisationBase)};
         session.ecran.Actualiser();
         issue = Reecrire(session, chemin, bilan);
     }
@@ -195,7 +203,9 @@ IssueSoin ReorganiserBase(Session& session, bool sauvegarder) {
 
 IssueSoin MnuReorganiser(Session& session) {
     if (!CommandePermise(session) || !session.base) return IssueSoin::Abandonnee;
-    switch (session.dialogue.Demander({Msg(842), Msg(545), Boutons::OuiNonAnnuler})) {
+    switch (session.dialogue.Demander({Msg(message::ProposerCopieAvantOperation),
+                                       Msg(message::TitreReorganisationBase),
+                                       Boutons::OuiNonAnnuler})) {
         case Reponse::Oui:
             return ReorganiserBase(session, true);
         case Reponse::Non:

@@ -1,3 +1,5 @@
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
 #include "shell/CycleDeVie.h"
 #include "shell/CycleInterne.h"
 #include "storage/Base.h"
@@ -41,7 +43,9 @@ bool EstUneBase(storage::Disque& disque, const fs::path& chemin) {
 /// The target of a restoration is free of other programs and may be replaced.
 bool CiblePermise(Session& session, const fs::path& cible) {
     if (!session.disque.Existe(cible)) return true;
-    const Question question{Msg(537), Msg(538), Boutons::OuiNon, Reponse::Non, true};
+    const Question question{Msg(message::ConfirmerRemplacerBaseParSauvegarde),
+                            Msg(message::TitreRemplacementBase), Boutons::OuiNon, Reponse::Non,
+                            true};
     return session.dialogue.Confirmer(question);
 }
 
@@ -49,7 +53,7 @@ bool CiblePermise(Session& session, const fs::path& cible) {
 
 bool Sauvegarder(Session& session) {
     if (!session.base) return false;
-    session.dialogue.Annoncer(Msg(41));
+    session.dialogue.Annoncer(Msg(message::EtatSauvegardeEnCours));
     const fs::path cible = CheminSauvegarde(session.CheminBase);
     // After a refused commit the file waits for its journal: a copy of it alone would be no base.
     const bool fermee = FermerEtMemoriser(session);
@@ -59,7 +63,7 @@ bool Sauvegarder(Session& session) {
         copiee = CopierSurement(session.disque, session.CheminBase, cible, {});
     }
     session.dialogue.Annoncer({});
-    if (fermee && !copiee) Dire(session, 2407, cible);
+    if (fermee && !copiee) Dire(session, message::SauvegardeNonEcriteBaseFermee, cible);
     if (!copiee || !OuvrirBase(session)) {
         session.ecran.FermerFenetres();
         Oublier(session);
@@ -72,19 +76,19 @@ void MnuSauvegarde(Session& session) {
     const fs::path cible = CheminSauvegarde(session.CheminBase);
     const bool copiee = Sauvegarder(session);
     session.ecran.Actualiser();
-    if (copiee) session.dialogue.Annoncer(Msg(2412, CheminAffiche(cible)));
+    if (copiee) session.dialogue.Annoncer(Msg(message::EtatSauvegardeEcrite, CheminAffiche(cible)));
 }
 
 void MnuRestauration(Session& session) {
     if (!CommandePermise(session)) return;
     const std::optional<fs::path> choisi = session.dialogue.ChoisirFichier(
-        {DemandeFichier::Sorte::Ouvrir, Msg(836), session.Message(2411), ".SAV",
-         session.CheminBase.parent_path()});
+        {DemandeFichier::Sorte::Ouvrir, Msg(message::TitreRestaurationSauvegarde),
+         session.Message(message::FiltreSauvegardes), ".SAV", session.CheminBase.parent_path()});
     if (!choisi) return;
     const fs::path source = CheminEntier(*choisi);
     const fs::path cible = CheminRestauration(source);
     if (!EstUneBase(session.disque, source) || source == cible) {
-        Dire(session, 2404, source);
+        Dire(session, message::FichierPasUneBase, source);
         return;
     }
     if (!CiblePermise(session, cible)) return;
@@ -96,7 +100,7 @@ void MnuRestauration(Session& session) {
         const Attente attente{session.progression};
         const storage::ResultatVerrou verrou = session.disque.Verrouiller(cible);
         if (verrou.etat == storage::EtatVerrou::Occupe) {
-            Dire(session, 2403, cible);
+            Dire(session, message::BaseOccupee, cible);
             session.ecran.Actualiser();
             return;
         }
@@ -105,7 +109,7 @@ void MnuRestauration(Session& session) {
     if (copiee) {
         OuvrirChemin(session, cible);
     } else {
-        Dire(session, 2408, source);
+        Dire(session, message::SauvegardeNonRecopiee, source);
         session.ecran.Actualiser();
     }
 }

@@ -121,9 +121,7 @@ public:
     }
 
     /// A text of the catalogue in use, in code page 1252; empty when there is none.
-    [[nodiscard]] std::string Message(std::uint32_t no) const {
-        return catalogue.Message(NoMessage{no});
-    }
+    [[nodiscard]] std::string Message(NoMessage no) const { return catalogue.Message(no); }
 
 private:
     class Veilleur;

@@ -8,7 +8,7 @@
 namespace dorvane::storage {
 
 /// A text of the progress frame: an entry of the catalogue, or the text itself (code page 1252)
-/// when `message` is 0. The view lives for the call.
+/// when there is no `message`. The view lives for the call.
 struct TexteAvancement {
     NoMessage message{};
     std::string_view litteral{};

@@ -1,5 +1,6 @@
 #include "storage/ConstruireIndex.h"
 
+#include "messages/Messages.h"
 #include "storage/Base.h"
 #include "values/Annees.h"
 #include "values/Octets.h"
@@ -16,7 +17,6 @@
 namespace dorvane::storage {
 namespace {
 
-constexpr NoMessage TexteConstruction{968};
 constexpr std::uint32_t PasCompteur = 100;
 constexpr std::size_t MaxPersonnes = 65535;
 
@@ -260,7 +260,7 @@ bool ConstruireIndex(Base& base, std::span<const NoMotCle> types, FournisseurTex
                      Avancement& avancement) {
     if (types.empty()) return true;
     avancement.Commencer({{}, base.motsCles.LibelleType(types[0]).libelle},
-                         {TexteConstruction, {}});
+                         {message::EtatIndexation, {}});
     Moisson moisson{base, types};
     const bool fait = moisson.Lire(textes, avancement);
     avancement.Terminer();

@@ -1,5 +1,7 @@
 #include "storage/ConversionAncienne.h"
 
+#include "messages/Messages.h"
+#include "messages/Soin.h"
 #include "values/Comparaison.h"
 
 #include <algorithm>
@@ -12,8 +14,6 @@ namespace dorvane::storage {
 namespace {
 
 constexpr std::uint32_t PasCompteur = 100;
-constexpr NoMessage TitreReorganisation{545};
-constexpr NoMessage TexteConversion{3908};
 
 /// Labels of slots as stored, with their tags; those that are neutral already are left out.
 using Remplacements = std::vector<std::pair<std::string, std::string>>;
@@ -162,7 +162,8 @@ bool ConvertirAncienne(Base& base, const ConversionsTextes& conversions, Avancem
     if (base.entete.LibellesNeutres) return true;
     constexpr std::size_t Tout = std::numeric_limits<std::size_t>::max();
     base.volume.FixerTampons(Tout, Tout);
-    avancement.Commencer({TitreReorganisation, {}}, {TexteConversion, {}});
+    avancement.Commencer({message::TitreReorganisationBase, {}},
+                         {message::EtatMajLibellesEtDates, {}});
     Conversion conversion{base, conversions};
     conversion.ConvertirMotsCles();
     const bool fait =

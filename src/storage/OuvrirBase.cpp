@@ -1,3 +1,4 @@
+#include "messages/Messages.h"
 #include "storage/Base.h"
 #include "values/Texte1252.h"
 
@@ -9,8 +10,6 @@ namespace {
 
 constexpr std::uint32_t FinNouvelle = 3573;
 constexpr std::size_t TailleMarque = 30;
-constexpr NoMessage TitreReprise{543};
-constexpr NoMessage TexteReprise{835};
 
 struct TypeInitial {
     std::string_view libelle;
@@ -34,7 +33,8 @@ std::string LireMarque(Fichier& fichier) {
 bool Reprendre(Disque& disque, const std::filesystem::path& journal, Fichier& fichier,
                Avancement& avancement, bool& reprise) {
     if (!disque.Existe(journal)) return true;
-    avancement.Commencer({TitreReprise, {}}, {TexteReprise, {}});
+    avancement.Commencer({message::TitreRecuperationBase, {}},
+                         {message::EtatRetourEtatPrecedent, {}});
     RejouerJournal(disque, journal, fichier);
     fichier.Vider();
     reprise = !fichier.EnDefaut() && disque.Supprimer(journal);

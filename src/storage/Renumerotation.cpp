@@ -1,5 +1,6 @@
 #include "storage/Renumerotation.h"
 
+#include "messages/Soin.h"
 #include "values/Texte1252.h"
 
 #include <algorithm>
@@ -10,8 +11,6 @@
 namespace dorvane::storage {
 
 namespace {
-
-constexpr NoMessage UnionsAbandonnees{3900};
 
 class Compteur final : public Observateur {
 public:
@@ -116,7 +115,7 @@ bool Renumerotation::NumeroterMariages(BilanReorganisation& bilan) {
         }
     }
     if (bilan.unionsSansEpoux != 0)
-        avancement_.Phase({UnionsAbandonnees, std::to_string(bilan.unionsSansEpoux)});
+        avancement_.Phase({message::EtatUnionsSansEpoux, std::to_string(bilan.unionsSansEpoux)});
     return true;
 }
 

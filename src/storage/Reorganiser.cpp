@@ -3,6 +3,7 @@
 // version mark and is no base.
 #include "storage/Reorganiser.h"
 
+#include "messages/Messages.h"
 #include "storage/CopieIndex.h"
 #include "storage/ParcoursReorganisation.h"
 #include "storage/Renumerotation.h"
@@ -24,7 +25,6 @@ constexpr std::uint32_t FinAvantSuites = 3572;
 constexpr std::uint32_t TailleSuiteIndividus = 1664;
 constexpr std::uint32_t TailleSuiteIndex = 384;
 constexpr std::uint32_t TailleSuiteMariages = 640;
-constexpr NoMessage TitreReorganisation{545};
 
 constexpr std::size_t TailleTeteEvt = 20;
 constexpr std::uint32_t TailleTeteDoc = 4;
@@ -303,7 +303,7 @@ BilanReorganisation ReorganiserVers(Disque& disque, Base& source, const std::fil
     bilan.tailleAvant = source.volume.TailleDisque();
     std::unique_ptr<Fichier> fichier = disque.Ouvrir(vers, ModeOuverture::Creer);
     if (!fichier) return bilan;
-    avancement.Commencer({TitreReorganisation, {}}, {{}, "Contrôle Documents"_1252});
+    avancement.Commencer({message::TitreReorganisationBase, {}}, {{}, "Contrôle Documents"_1252});
     {
         // Nothing of the new file is overwritten: there is no journal.
         auto volume = std::make_unique<Volume>(disque, std::move(fichier), std::filesystem::path{},

@@ -1,5 +1,6 @@
 #include "values/Calendriers.h"
 
+#include "messages/Messages.h"
 #include "values/Texte1252.h"
 
 #include <array>
@@ -9,11 +10,6 @@
 namespace dorvane {
 
 namespace {
-
-constexpr std::uint32_t MsgJour1A31 = 726;
-constexpr std::uint32_t MsgJour1A30 = 727;
-constexpr std::uint32_t MsgMois = 728;
-constexpr std::uint32_t MsgAnnee = 729;
 
 constexpr std::array<std::string_view, 13> NomsRepublicains{
     "Vendémiaire"_1252, "Brumaire"_1252,  "Frimaire"_1252,      "Nivôse"_1252,   "Pluviôse"_1252,
@@ -75,12 +71,12 @@ int Decalage(const std::array<Decalages, N>& table, const DateDeListe& date) {
     return table[static_cast<std::size_t>(date.mois) - 1][static_cast<std::size_t>(date.annee) - 1];
 }
 
-/// The message that refuses a date of the screen, or 0.
-std::uint32_t Refuser(const DateDeListe& date, int dernierJour, std::uint32_t msgJour, int nbMois) {
-    if (date.jour < 1 || date.jour > dernierJour) return msgJour;
-    if (date.mois < 1 || date.mois > nbMois) return MsgMois;
-    if (date.annee < 1 || date.annee > NbAnneesRepublicaines) return MsgAnnee;
-    return 0;
+/// The message that refuses a date of the screen, or none.
+NoMessage Refuser(const DateDeListe& date, int dernierJour, NoMessage refusDuJour, int nbMois) {
+    if (date.jour < 1 || date.jour > dernierJour) return refusDuJour;
+    if (date.mois < 1 || date.mois > nbMois) return message::MoisNonChoisi;
+    if (date.annee < 1 || date.annee > NbAnneesRepublicaines) return message::AnneeNonChoisie;
+    return {};
 }
 
 int LongueurMois(int mois, int annee) {
@@ -106,8 +102,8 @@ std::string_view AnneeGregorienne(int position) {
 }
 
 DateConvertie RepublicainVersGregorien(const DateDeListe& date) {
-    const std::uint32_t refus = Refuser(date, 30, MsgJour1A30, NbMoisRepublicains);
-    if (refus != 0) return {NoMessage{refus}, {}};
+    const NoMessage refus = Refuser(date, 30, message::JourHorsDe1A30, NbMoisRepublicains);
+    if (refus) return {refus, {}};
 
     DateDeListe g{date.jour + Decalage(VersGregorien, date), date.mois + 8, date.annee};
     if (g.mois > 12) {
@@ -127,8 +123,8 @@ DateConvertie RepublicainVersGregorien(const DateDeListe& date) {
 }
 
 DateConvertie GregorienVersRepublicain(const DateDeListe& date) {
-    const std::uint32_t refus = Refuser(date, 31, MsgJour1A31, 12);
-    if (refus != 0) return {NoMessage{refus}, {}};
+    const NoMessage refus = Refuser(date, 31, message::JourHorsDe1A31, 12);
+    if (refus) return {refus, {}};
 
     // k counts months from January, with a place between September and October for the
     // complementary days.

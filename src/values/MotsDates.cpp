@@ -1,18 +1,26 @@
 #include "values/MotsDates.h"
 
+#include "messages/Messages.h"
 #include "values/Comparaison.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <tuple>
 #include <utility>
 
 namespace dorvane {
 
 namespace {
 
-constexpr std::uint32_t MsgLundi = 598;
-constexpr std::uint32_t MsgDimanche = 604;
-constexpr std::uint32_t MsgJanvier = 730;
+// As they stand in `MotsDates`: the week begins with Sunday.
+constexpr std::array<NoMessage, 7> JoursDeLaSemaine{
+    message::JourDimanche, message::JourLundi,    message::JourMardi, message::JourMercredi,
+    message::JourJeudi,    message::JourVendredi, message::JourSamedi};
+
+constexpr std::array<NoMessage, 12> Mois{message::TagJAN, message::TagFEB, message::TagMAR,
+                                         message::TagAPR, message::TagMAY, message::TagJUN,
+                                         message::TagJUL, message::TagAUG, message::TagSEP,
+                                         message::TagOCT, message::TagNOV, message::TagDEC};
 
 constexpr std::string_view SansAnnee = "2000";  // leap: the 29th of February has to pass
 
@@ -210,27 +218,26 @@ std::optional<DateCivile> LireDateAffichee(std::string_view date, OrdreDate ordr
 
 }  // namespace
 
-MotsDates LireMotsDates(const std::function<std::string(NoMessage)>& message) {
-    const auto lire = [&message](std::uint32_t numero) {
+MotsDates LireMotsDates(const std::function<std::string(NoMessage)>& texteDe) {
+    const auto lire = [&texteDe](NoMessage message) {
         MotDate mot;
-        mot.mot = message(NoMessage{numero});
+        mot.mot = texteDe(message);
         mot.replie = Replie(mot.mot);
         return mot;
     };
     MotsDates mots;
-    for (std::uint32_t m = 0; m < mots.mois.size(); ++m)
-        mots.mois[m] = lire(MsgJanvier + m);
-    mots.semaine[0] = message(NoMessage{MsgDimanche});
-    for (std::uint32_t j = 1; j < mots.semaine.size(); ++j)
-        mots.semaine[j] = message(NoMessage{MsgLundi + j - 1});
-    mots.vers = lire(828);
-    mots.apres = lire(830);
-    mots.avant = lire(831);
-    mots.estimee = lire(832);
-    mots.entre = lire(833);
-    mots.et = lire(834);
-    mots.premier = lire(848);
-    mots.calculee = lire(871);
+    static_assert(std::tuple_size_v<decltype(mots.mois)> == Mois.size());
+    static_assert(std::tuple_size_v<decltype(mots.semaine)> == JoursDeLaSemaine.size());
+    std::ranges::transform(Mois, mots.mois.begin(), lire);
+    std::ranges::transform(JoursDeLaSemaine, mots.semaine.begin(), texteDe);
+    mots.vers = lire(message::TagABT);
+    mots.apres = lire(message::TagAFT);
+    mots.avant = lire(message::TagBEF);
+    mots.estimee = lire(message::TagEST);
+    mots.entre = lire(message::TagBET);
+    mots.et = lire(message::TagAND);
+    mots.premier = lire(message::PremierDuMois);
+    mots.calculee = lire(message::TagCAL);
     return mots;
 }
 

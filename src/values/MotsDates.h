@@ -26,7 +26,7 @@ struct MotsDates {
 };
 
 /// Takes the words from a catalogue, which answers the text of a message.
-[[nodiscard]] MotsDates LireMotsDates(const std::function<std::string(NoMessage)>& message);
+[[nodiscard]] MotsDates LireMotsDates(const std::function<std::string(NoMessage)>& texteDe);
 
 /// Replaces the word for the first day, where it has a blank on each side or stands at the head
 /// and has one behind it, by "1". The case must be that of the catalogue.

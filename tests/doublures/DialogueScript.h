@@ -1,5 +1,6 @@
 #pragma once
 
+#include "doublures/MessagesLisibles.h"
 #include "shell/Dialogue.h"
 
 #include <deque>
@@ -11,10 +12,10 @@ namespace dorvane::shell {
 
 /// Lets a failed check print what was said.
 inline std::ostream& operator<<(std::ostream& flux, const Phrase& phrase) {
-    flux << '[' << phrase.no.valeur;
+    flux << '[' << phrase.no;
     if (!phrase.valeur.empty()) flux << ' ' << phrase.valeur;
     if (!phrase.valeur2.empty()) flux << " | " << phrase.valeur2;
-    if (phrase.suite) flux << " + " << phrase.suite.valeur;
+    if (phrase.suite) flux << " + " << phrase.suite;
     return flux << ']';
 }
 

@@ -1,18 +1,18 @@
 #pragma once
 
+#include "messages/Messages.h"
 #include "values/MotsDates.h"
 #include "values/Texte1252.h"
 
-#include <cstdint>
 #include <map>
 #include <string>
 #include <string_view>
 
 namespace dorvane::essais {
 
-inline MotsDates MotsDeListe(const std::map<std::uint32_t, std::string_view>& textes) {
-    return LireMotsDates([&textes](NoMessage numero) {
-        const auto texte = textes.find(numero.valeur);
+inline MotsDates MotsDeListe(const std::map<NoMessage, std::string_view>& textes) {
+    return LireMotsDates([&textes](NoMessage message) {
+        const auto texte = textes.find(message);
         return texte == textes.end() ? std::string() : std::string(texte->second);
     });
 }
@@ -20,13 +20,33 @@ inline MotsDates MotsDeListe(const std::map<std::uint32_t, std::string_view>& te
 /// The words of dates of the French catalogue.
 inline const MotsDates& MotsFrancais() {
     static const MotsDates Mots = MotsDeListe({
-        {598, "lundi"},        {599, "mardi"},    {600, "mercredi"},      {601, "jeudi"},
-        {602, "vendredi"},     {603, "samedi"},   {604, "dimanche"},      {730, "janvier"},
-        {731, "février"_1252}, {732, "mars"},     {733, "avril"},         {734, "mai"},
-        {735, "juin"},         {736, "juillet"},  {737, "août"_1252},     {738, "septembre"},
-        {739, "octobre"},      {740, "novembre"}, {741, "décembre"_1252}, {828, "vers"},
-        {830, "après"_1252},   {831, "avant"},    {832, "estimée"_1252},  {833, "entre"},
-        {834, "et"},           {848, "1er"},      {871, "calculée"_1252},
+        {message::JourLundi, "lundi"},
+        {message::JourMardi, "mardi"},
+        {message::JourMercredi, "mercredi"},
+        {message::JourJeudi, "jeudi"},
+        {message::JourVendredi, "vendredi"},
+        {message::JourSamedi, "samedi"},
+        {message::JourDimanche, "dimanche"},
+        {message::TagJAN, "janvier"},
+        {message::TagFEB, "février"_1252},
+        {message::TagMAR, "mars"},
+        {message::TagAPR, "avril"},
+        {message::TagMAY, "mai"},
+        {message::TagJUN, "juin"},
+        {message::TagJUL, "juillet"},
+        {message::TagAUG, "août"_1252},
+        {message::TagSEP, "septembre"},
+        {message::TagOCT, "octobre"},
+        {message::TagNOV, "novembre"},
+        {message::TagDEC, "décembre"_1252},
+        {message::TagABT, "vers"},
+        {message::TagAFT, "après"_1252},
+        {message::TagBEF, "avant"},
+        {message::TagEST, "estimée"_1252},
+        {message::TagBET, "entre"},
+        {message::TagAND, "et"},
+        {message::PremierDuMois, "1er"},
+        {message::TagCAL, "calculée"_1252},
     });
     return Mots;
 }
@@ -34,13 +54,33 @@ inline const MotsDates& MotsFrancais() {
 /// The words of dates of the English catalogue.
 inline const MotsDates& MotsAnglais() {
     static const MotsDates Mots = MotsDeListe({
-        {598, "Monday"},   {599, "Tuesday"},  {600, "Wednesday"},  {601, "Thursday"},
-        {602, "Friday"},   {603, "Saturday"}, {604, "Sunday"},     {730, "January"},
-        {731, "February"}, {732, "March"},    {733, "April"},      {734, "May"},
-        {735, "June"},     {736, "July"},     {737, "August"},     {738, "September"},
-        {739, "October"},  {740, "November"}, {741, "December"},   {828, "about"},
-        {830, "after"},    {831, "before"},   {832, "estimated"},  {833, "between"},
-        {834, "and"},      {848, "1st"},      {871, "calculated"},
+        {message::JourLundi, "Monday"},
+        {message::JourMardi, "Tuesday"},
+        {message::JourMercredi, "Wednesday"},
+        {message::JourJeudi, "Thursday"},
+        {message::JourVendredi, "Friday"},
+        {message::JourSamedi, "Saturday"},
+        {message::JourDimanche, "Sunday"},
+        {message::TagJAN, "January"},
+        {message::TagFEB, "February"},
+        {message::TagMAR, "March"},
+        {message::TagAPR, "April"},
+        {message::TagMAY, "May"},
+        {message::TagJUN, "June"},
+        {message::TagJUL, "July"},
+        {message::TagAUG, "August"},
+        {message::TagSEP, "September"},
+        {message::TagOCT, "October"},
+        {message::TagNOV, "November"},
+        {message::TagDEC, "December"},
+        {message::TagABT, "about"},
+        {message::TagAFT, "after"},
+        {message::TagBEF, "before"},
+        {message::TagEST, "estimated"},
+        {message::TagBET, "between"},
+        {message::TagAND, "and"},
+        {message::PremierDuMois, "1st"},
+        {message::TagCAL, "calculated"},
     });
     return Mots;
 }

@@ -17,8 +17,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* donnees, std::size_t t
         std::memcpy(sortie.data(), donnees + decalage, n);
         return n;
     });
-    for (const std::uint32_t no : {0U, 1U, 2U, 21U, 1000U, 1001U, 2400U, 31999U, 32000U, 32001U}) {
-        if (catalogue.Message(dorvane::NoMessage{no}).size() > 199) std::abort();
+    for (const std::uint32_t numero :
+         {0U, 1U, 2U, 21U, 1000U, 1001U, 2400U, 31999U, 32000U, 32001U}) {
+        const dorvane::NoMessage no{numero};
+        if (catalogue.Message(no).size() > 199) std::abort();
         static_cast<void>(catalogue.Composer(dorvane::shell::Msg(no, "&2", "&1")));
     }
     return 0;

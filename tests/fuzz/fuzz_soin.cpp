@@ -79,7 +79,7 @@ std::vector<std::uint16_t> Personnes(storage::Base& base) {
 void Soigner(Poste& poste) {
     shell::Session& session = poste.session;
     records::ControlerBase(session, [](const records::Constat& constat) {
-        if (constat.message == 0) std::abort();
+        if (!records::MessageDe(constat.sorte)) std::abort();
     });
     const std::vector<std::uint16_t> avant = Personnes(*session.base);
     if (!records::DepannerBase(session, false).fait) std::abort();

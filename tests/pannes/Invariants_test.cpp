@@ -5,6 +5,7 @@
 #include "doublures/HistoireEssai.h"
 #include "doublures/Inventaire.h"
 #include "doublures/SessionEssai.h"
+#include "messages/Noms.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
 #include "storage/Base.h"
@@ -71,7 +72,7 @@ private:
         if (ecarts.empty()) return;
         faute_ = std::string{quand} + " (" + geste_ + ")\n" + ecarts;
         for (const shell::Phrase& phrase : dialogue.entendu)
-            faute_ += "said: " + std::to_string(phrase.no.valeur) + ' ' + phrase.valeur + '\n';
+            faute_.append("said: ").append(message::Nom(phrase.no)) += ' ' + phrase.valeur + '\n';
     }
     void Enregistrer() {
         geste_ += "save";

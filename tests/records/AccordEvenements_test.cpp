@@ -1,5 +1,6 @@
 #include "records/AccordEvenements.h"
 
+#include "messages/Messages.h"
 #include "records/EssaiFamille.h"
 #include "records/Fiche.h"
 #include "records/FicheEvenement.h"
@@ -95,12 +96,12 @@ TEST_CASE_FIXTURE(Scene,
                   "never without") {
     const NoEvenement e = Evenement("BIRT", "13/3/1820", "Lorient", {{paul, "CHIL"}});
     AccorderEvenements(session, paul);
-    CHECK(dialogue.titres.back().no == NoMessage{473});
-    CHECK(Dit() == Mots{"474"});
+    CHECK(dialogue.titres.back().no == message::TitreMajEvenements);
+    CHECK(Dit() == Mots{"ProposerMajEvenementNaissance"});
     CHECK(Date(e) == "13 mars 1820");
     Repondre({Oui});
     AccorderEvenements(session, paul);
-    CHECK(Dit() == Mots{"474"});
+    CHECK(Dit() == Mots{"ProposerMajEvenementNaissance"});
     CHECK(Date(e) == "12 mars 1820");
     CHECK(Lieu(e) == "Brest");
     AccorderEvenements(session, paul);
@@ -113,7 +114,7 @@ TEST_CASE_FIXTURE(Scene, "AccorderEvenements: the sheet asks when it is saved") 
     fiche.lieuNaissance = "Quimper";
     Repondre({Oui});
     static_cast<void>(ValiderFiche(session, fiche));
-    CHECK(Dit() == Mots{"474"});
+    CHECK(Dit() == Mots{"ProposerMajEvenementNaissance"});
     CHECK(Lieu(e) == "Quimper");
 }
 
@@ -133,9 +134,11 @@ TEST_CASE_FIXTURE(Scene,
     Evenement("DEAT", "1/1/1804", "d", {{louis, "DEAD"}});
     Evenement("BURI", "1/1/1805", "e", {{louis, "DEAD"}});
     AccorderEvenements(session, louis);
-    CHECK(Dit() == Mots{"474", "470", "471", "472", "469"});
+    CHECK(Dit() == Mots{"ProposerMajEvenementNaissance", "ProposerMajEvenementBapteme",
+                        "ProposerMajEvenementMariage", "ProposerMajEvenementDeces",
+                        "ProposerMajEvenementInhumation"});
     AccorderEvenements(session, rose);
-    CHECK(Dit() == Mots{"471"});
+    CHECK(Dit() == Mots{"ProposerMajEvenementMariage"});
 }
 
 TEST_CASE_FIXTURE(Scene,
@@ -164,7 +167,8 @@ TEST_CASE_FIXTURE(Scene,
     const NoEvenement mort = Evenement("DEAT", "3/4/1860", "Brest", {{louis, "DEAD"}});
     Repondre({Oui, Oui});
     AccorderEvenements(session, louis);
-    CHECK(Dit() == Mots{"474", "931", "472", "930"});
+    CHECK(Dit() == Mots{"ProposerMajEvenementNaissance", "DateEvenementInvalide",
+                        "ProposerMajEvenementDeces", "DateEvenementVide"});
     CHECK(Date(e) == "3 avril 1790");
     CHECK(Date(mort) == "3 avril 1860");
 }
@@ -182,13 +186,13 @@ TEST_CASE_FIXTURE(SceneParAnnee,
         Repondre({Non});
         CHECK(ValiderEvenement(session, saisie).etat == IssueEvenement::Etat::Ecrit);
         CHECK(dialogue.titres.back().valeur == "Paul Martin (o1820)");
-        CHECK(Dit() == Mots{"939"});
+        CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche"});
         CHECK(Naissance(paul) == "12 mars 1820, Brest");
     }
     SUBCASE("yes") {
         Repondre({Oui});
         CHECK(ValiderEvenement(session, saisie).etat == IssueEvenement::Etat::Ecrit);
-        CHECK(Dit() == Mots{"939"});
+        CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche"});
         CHECK(base.R_NAISS.LireCellule(paul) == "1825");
         CHECK(base.R_NOM.JourMoisNaissance(paul) == "1/5");
         CHECK(base.R_NOM.NomDe(paul) == "Martin");
@@ -219,7 +223,8 @@ TEST_CASE_FIXTURE(Scene, "AccorderFiches: a death, a christening and a burial") 
     Repondre({Oui, Oui, Oui});
     for (const NoEvenement e : {mort, bapteme, tombe})
         AccorderFiches(session, e);
-    CHECK(Dit() == Mots{"939", "939", "939"});
+    CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche", "ProposerReporterEvenementSurFiche",
+                        "ProposerReporterEvenementSurFiche"});
     CHECK(Deces(paul) == "4 mai 1880, Nantes");
     CHECK(Naissance(paul) == "12 mars 1820, Brest");
     CHECK(Rangee(paul, 1) == "14 mars 1820, Brest");
@@ -235,11 +240,11 @@ TEST_CASE_FIXTURE(Scene, "AccorderFiches: husband and wife share one union and o
     const NoEvenement e =
         Evenement("MARR", "4/5/1816", "Vannes", {{louis, "HUSB"}, {rose, "WIFE"}});
     AccorderFiches(session, e);
-    CHECK(Dit() == Mots{"939"});
+    CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche"});
     CHECK(base.R_DEBMAR.LireCellule(m) == "1815");
     Repondre({Oui});
     AccorderFiches(session, e);
-    CHECK(Dit() == Mots{"939"});
+    CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche"});
     CHECK(base.R_DEBMAR.LireCellule(m) == "1816");
     CHECK(storage::DateMariageBrute(base, m) == "4/5");
     CHECK(storage::LieuMariage(base, m) == "Vannes");
@@ -257,7 +262,7 @@ TEST_CASE_FIXTURE(Scene, "AccorderFiches: a couple that married twice is told ap
     AccorderFiches(session, e);
     CHECK(storage::LieuMariage(base, premiere).empty());
     CHECK(storage::LieuMariage(base, seconde) == "Vannes");
-    CHECK(Dit() == Mots{"939"});
+    CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche"});
 }
 
 TEST_CASE_FIXTURE(Scene, "AccorderFiches: persons without a union have nothing to compare") {
@@ -270,7 +275,7 @@ TEST_CASE_FIXTURE(Scene, "AccorderFiches: dots that a sheet cannot hold are no d
     const NoEvenement e = Evenement("BIRT", "12/3/1820", "St. Malo", {{paul, "CHIL"}});
     Repondre({Oui});
     AccorderFiches(session, e);
-    CHECK(Dit() == Mots{"939"});
+    CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche"});
     AccorderFiches(session, e);
     AccorderEvenements(session, paul);
     CHECK(Dit().empty());
@@ -283,7 +288,7 @@ TEST_CASE_FIXTURE(Scene, "AccorderFiches: twins are asked for one by one") {
     Repondre({Non, Oui});
     AccorderFiches(session, e);
     CHECK(dialogue.titres.back().valeur == "Luc Martin (o1820)");
-    CHECK(Dit() == Mots{"939", "939"});
+    CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche", "ProposerReporterEvenementSurFiche"});
     CHECK(Naissance(paul) == "12 mars 1820, Brest");
     CHECK(Naissance(luc) == "13 mars 1820, Brest");
 }
@@ -293,7 +298,7 @@ TEST_CASE_FIXTURE(Scene, "AccorderFiches: the same holds in an English session")
     const NoEvenement e = Evenement("BIRT", "13 March 1820", "Brest", {{paul, "CHIL"}});
     Repondre({Oui});
     AccorderFiches(session, e);
-    CHECK(Dit() == Mots{"939"});
+    CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche"});
     CHECK(base.R_NOM.JourMoisNaissance(paul) == "13/3");
     CHECK(Naissance(paul) == "13 March 1820, Brest");
     AccorderEvenements(session, paul);

@@ -21,13 +21,13 @@ public:
 
     [[nodiscard]] storage::Base& B() const { return *session.base; }
 
-    /// Numbers of the messages told since the last call.
-    [[nodiscard]] std::vector<std::uint32_t> Dit() {
-        std::vector<std::uint32_t> numeros;
+    /// The messages told since the last call.
+    [[nodiscard]] std::vector<NoMessage> Dit() {
+        std::vector<NoMessage> messages;
         for (const shell::Phrase& phrase : dialogue.entendu)
-            numeros.push_back(phrase.no.valeur);
+            messages.push_back(phrase.no);
         dialogue.entendu.clear();
-        return numeros;
+        return messages;
     }
 
 private:

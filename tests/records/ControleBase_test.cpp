@@ -1,38 +1,56 @@
 #include "records/ControleBase.h"
 
+#include "messages/Messages.h"
 #include "records/BureauSoin.h"
 #include "records/Fiche.h"
 #include "records/FicheEvenement.h"
 #include "records/Individus.h"
 
 #include <algorithm>
-#include <map>
+#include <ostream>
+#include <set>
 
 using namespace dorvane;
 using namespace dorvane::records;
 
+namespace dorvane::records {
+
+/// Lets a failed check print kinds of findings by the names of their sentences.
+std::ostream& operator<<(std::ostream& flux, SorteConstat sorte) {
+    return flux << MessageDe(sorte);
+}
+
+std::ostream& operator<<(std::ostream& flux, const std::vector<SorteConstat>& sortes) {
+    for (const SorteConstat sorte : sortes)
+        flux << '[' << sorte << ']';
+    return flux;
+}
+
+}  // namespace dorvane::records
+
 namespace {
 
-using Numeros = std::vector<std::uint32_t>;
+using Sortes = std::vector<SorteConstat>;
+using enum SorteConstat;
 
 struct Bureau : BureauSoin {
     using BureauSoin::BureauSoin;
     std::vector<Constat> constats;
     BilanControle bilan;
 
-    /// The findings about a person, by number of message.
-    Numeros Controler(NoOrdre n) {
+    /// The kinds of the findings about a person, in their order.
+    Sortes Controler(NoOrdre n) {
         constats.clear();
         bilan = ControlerBase(session, [this](const Constat& c) { constats.push_back(c); });
-        Numeros messages;
+        Sortes sortes;
         for (const Constat& constat : constats)
-            if (constat.individu == n) messages.push_back(constat.message);
-        std::sort(messages.begin(), messages.end());
-        return messages;
+            if (constat.individu == n) sortes.push_back(constat.sorte);
+        std::sort(sortes.begin(), sortes.end());
+        return sortes;
     }
-    [[nodiscard]] bool A(NoOrdre n, std::uint32_t message) {
-        const Numeros messages = Controler(n);
-        return std::count(messages.begin(), messages.end(), message) == 1;
+    [[nodiscard]] bool A(NoOrdre n, SorteConstat sorte) {
+        const Sortes sortes = Controler(n);
+        return std::count(sortes.begin(), sortes.end(), sorte) == 1;
     }
 
     /// A child of a father and a mother who are married, without any finding.
@@ -56,12 +74,20 @@ struct Bureau : BureauSoin {
 
 TEST_CASE_FIXTURE(Bureau,
                   "Check: an empty base ends at once, with the word that nothing was found") {
-    CHECK(Controler({}) == Numeros{});
+    CHECK(Controler({}) == Sortes{});
     CHECK(bilan.complet);
-    CHECK(Dit() == Numeros{532});
-    CHECK(dialogue.annonces == std::vector{shell::Msg(530)});
+    CHECK(Dit() == std::vector{message::InfoAucuneAnomalie});
+    CHECK(dialogue.annonces == std::vector{shell::Msg(message::EtatControleTermine)});
     CHECK(progression.pas == 0);
     CHECK(progression.cadres == 0);
+}
+
+TEST_CASE_FIXTURE(Bureau, "Check: each kind of finding has a sentence of its own") {
+    std::set<std::string> phrases;
+    for (std::size_t i = 0; i < NbSortesConstat; ++i)
+        phrases.insert(session.Message(MessageDe(static_cast<SorteConstat>(i))));
+    CHECK(phrases.size() == NbSortesConstat);
+    CHECK_FALSE(phrases.contains(""));
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: a family in order gives no finding, and changes nothing") {
@@ -69,94 +95,102 @@ TEST_CASE_FIXTURE(Bureau, "Check: a family in order gives no finding, and change
     REQUIRE(shell::MnuEnregistrer(session));
     CHECK(Controler({}).empty());
     CHECK(bilan.constats == 0);
-    CHECK(progression.titres.back() == shell::Msg(504));
-    CHECK(progression.textes.back() == shell::Msg(505));
+    CHECK(progression.titres.back() == shell::Msg(message::TitreControleBase));
+    CHECK(progression.textes.back() == shell::Msg(message::AnomaliesRelevees));
     CHECK_FALSE(B().marques.Modifie());
-    CHECK(Dit() == Numeros{532});
+    CHECK(Dit() == std::vector{message::InfoAucuneAnomalie});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: a finding tells person, rank, message, text and identity") {
     Creer('H', "ABEL", "Abel", "1700");
     const NoOrdre n = Creer('H', "DURAND", "", "1850", "1840");
-    CHECK(Controler(n) == Numeros{483, 509, 510});
-    const auto constat = std::find_if(constats.begin(), constats.end(),
-                                      [](const Constat& c) { return c.message == 510; });
-    CHECK(*constat == Constat{n, 2, 510, session.Message(510), "DURAND (1850-1840)"});
+    CHECK(Controler(n) == Sortes{PrenomAbsent, PersonneIsolee, DecesAvantNaissance});
+    const auto constat = std::find_if(constats.begin(), constats.end(), [](const Constat& c) {
+        return c.sorte == DecesAvantNaissance;
+    });
+    CHECK(*constat == Constat{n, 2, DecesAvantNaissance,
+                              session.Message(message::ConstatDecesAvantNaissance),
+                              "DURAND (1850-1840)"});
     CHECK(bilan.constats == 4);
     CHECK(Dit().empty());
     CHECK(TexteDesConstats({*constat}) ==
-          "2\t" + TexteVersUtf8(session.Message(510)) + "\tDURAND (1850-1840)\n");
+          "2\t" + TexteVersUtf8(session.Message(message::ConstatDecesAvantNaissance)) +
+              "\tDURAND (1850-1840)\n");
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: sex, year, names and ties that are missing") {
     const NoOrdre n = Creer('I', "", " ");
-    CHECK(Controler(n) == Numeros{483, 484, 507, 508, 509});
+    CHECK(Controler(n) ==
+          Sortes{SexeIndetermine, AnneeNaissanceAbsente, NomAbsent, PrenomAbsent, PersonneIsolee});
     const NoOrdre autre = Creer('F', "MARTIN", "Anne", "1850");
-    CHECK(Controler(autre) == Numeros{509});
+    CHECK(Controler(autre) == Sortes{PersonneIsolee});
     Lier(autre, n, "voisin");
-    CHECK(Controler(autre) == Numeros{});
+    CHECK(Controler(autre) == Sortes{});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: a person out of place in the order of birth years") {
     const NoOrdre a = Creer('H', "A", "A", "1800");
     const NoOrdre b = Creer('H', "B", "B", "1850");
     B().R_NAISS.EcrireCellule(a, "1900");
-    CHECK(A(b, 506));
-    CHECK_FALSE(A(a, 506));
+    CHECK(A(b, HorsOrdreDeTri));
+    CHECK_FALSE(A(a, HorsOrdreDeTri));
 }
 
 TEST_CASE("Check: a person out of place in the order of names; order of creation has none") {
     Bureau bureau{'2'};
     const NoOrdre a = bureau.Creer('H', "ABEL", "A", "1900");
     const NoOrdre b = bureau.Creer('H', "BLANC", "B", "1850");
-    CHECK_FALSE(bureau.A(b, 506));
+    CHECK_FALSE(bureau.A(b, HorsOrdreDeTri));
     bureau.B().R_NOM.EcrireNom(a, "ZOLA;A");
-    CHECK(bureau.A(b, 506));
+    CHECK(bureau.A(b, HorsOrdreDeTri));
     bureau.B().entete.TypeTri = '0';
-    CHECK_FALSE(bureau.A(b, 506));
+    CHECK_FALSE(bureau.A(b, HorsOrdreDeTri));
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: a living person with a birth year gives no finding on death") {
     const Famille f = Fonder();
     for (const NoOrdre n : {f.pere, f.mere, f.enfant})
-        CHECK(Controler(n) == Numeros{});
+        CHECK(Controler(n) == Sortes{});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: a life that ends too early or lasts too long") {
     const Famille f = Fonder();
     B().R_DECES.EcrireCellule(f.enfant, "1849");
-    CHECK(Controler(f.enfant) == Numeros{510});
+    CHECK(Controler(f.enfant) == Sortes{DecesAvantNaissance});
     B().R_DECES.EcrireCellule(f.enfant, "1950");
-    CHECK(Controler(f.enfant) == Numeros{});
+    CHECK(Controler(f.enfant) == Sortes{});
     B().R_DECES.EcrireCellule(f.enfant, "1951");
-    CHECK(Controler(f.enfant) == Numeros{496});
+    CHECK(Controler(f.enfant) == Sortes{DecesPlusDe100AnsApresNaissance});
     // Not both numbers: compared as text.
     B().R_DECES.EcrireCellule(f.enfant, "184?");
-    CHECK(Controler(f.enfant) == Numeros{510});
+    CHECK(Controler(f.enfant) == Sortes{DecesAvantNaissance});
     B().R_DECES.EcrireCellule(f.enfant, "?");
-    CHECK(Controler(f.enfant) == Numeros{});
+    CHECK(Controler(f.enfant) == Sortes{});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: sex and list of the parents") {
     const Famille f = Fonder();
     B().R_ENFANT.ModifierListe(f.pere, f.enfant, 'S');
     B().R_ENFANT.ModifierListe(f.mere, f.enfant, 'S');
-    CHECK(Controler(f.enfant) == Numeros{512, 516});
+    CHECK(Controler(f.enfant) == Sortes{AbsentDesEnfantsDuPere, AbsentDesEnfantsDeLaMere});
     B().R_SEXE.EcrireCellule(f.pere, 'I');
     B().R_SEXE.EcrireCellule(f.mere, 'H');
-    CHECK(Controler(f.enfant) == Numeros{511, 512, 515, 516});
+    CHECK(Controler(f.enfant) == Sortes{PereNonMasculin, AbsentDesEnfantsDuPere, MereNonFeminine,
+                                        AbsentDesEnfantsDeLaMere});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: ages of the parents at their limits") {
     struct Cas {
         const char* pere;
         const char* mere;
-        Numeros voulus;
+        Sortes voulus;
     };
     for (const Cas& cas :
-         {Cas{"1850", "1850", {513, 517}}, Cas{"1860", "1851", {513, 517}},
-          Cas{"1849", "1841", {477, 478}}, Cas{"1841", "1849", {477, 478}}, Cas{"1840", "1840", {}},
-          Cas{"1775", "1800", {}}, Cas{"1774", "1799", {475, 476}}}) {
+         {Cas{"1850", "1850", {PerePasNeAvantEnfant, MerePasNeeAvantEnfant}},
+          Cas{"1860", "1851", {PerePasNeAvantEnfant, MerePasNeeAvantEnfant}},
+          Cas{"1849", "1841", {PereMoinsDe10Ans, MereMoinsDe10Ans}},
+          Cas{"1841", "1849", {PereMoinsDe10Ans, MereMoinsDe10Ans}}, Cas{"1840", "1840", {}},
+          Cas{"1775", "1800", {}}, Cas{"1774", "1799", {PerePlusDe75Ans, MerePlusDe50Ans}}}) {
         CAPTURE(cas.pere);
         Bureau bureau{'0'};
         const Famille f = bureau.Fonder(cas.pere, cas.mere);
@@ -168,11 +202,18 @@ TEST_CASE_FIXTURE(Bureau, "Check: a birth after the death of a parent") {
     struct Cas {
         const char* pere;
         const char* mere;
-        Numeros voulus;
+        Sortes voulus;
     };
     for (const Cas& cas :
-         {Cas{"1849", "1840", {}}, Cas{"1848", "1848", {499}}, Cas{"1840", "1839", {497, 499}},
-          Cas{"1835", "", {498, 499}}, Cas{"183?", "183?", {497, 498}}, Cas{"184?", "184?", {}}}) {
+         {Cas{"1849", "1840", {}}, Cas{"1848", "1848", {NaissancePlusDUnAnApresDecesPere}},
+          Cas{"1840",
+              "1839",
+              {NaissancePlusDUnAnApresDecesPere, NaissancePlusDe10AnsApresDecesMere}},
+          Cas{"1835", "", {NaissancePlusDe10AnsApresDecesPere, NaissancePlusDUnAnApresDecesPere}},
+          Cas{"183?",
+              "183?",
+              {NaissancePlusDe10AnsApresDecesPere, NaissancePlusDe10AnsApresDecesMere}},
+          Cas{"184?", "184?", {}}}) {
         CAPTURE(cas.pere);
         Bureau bureau{'0'};
         const Famille f = bureau.Fonder("1800", "1805", "1850");
@@ -187,11 +228,13 @@ TEST_CASE_FIXTURE(Bureau, "Check: a year with an unknown digit is compared on it
         const char* pere;
         const char* mere;
         const char* enfant;
-        Numeros voulus;
+        Sortes voulus;
     };
     for (const Cas& cas :
-         {Cas{"186?", "187?", "1850", {514, 518}}, Cas{"185?", "185?", "1850", {}},
-          Cas{"1860", "1860", "185?", {514, 518}}, Cas{"18?", "18?", "1750", {}}}) {
+         {Cas{"186?", "187?", "1850", {NaissanceAvantCelleDuPere, NaissanceAvantCelleDeLaMere}},
+          Cas{"185?", "185?", "1850", {}},
+          Cas{"1860", "1860", "185?", {NaissanceAvantCelleDuPere, NaissanceAvantCelleDeLaMere}},
+          Cas{"18?", "18?", "1750", {}}}) {
         CAPTURE(cas.pere);
         Bureau bureau{'0'};
         const Famille f = bureau.Fonder(cas.pere, cas.mere, cas.enfant, "");
@@ -204,7 +247,7 @@ TEST_CASE_FIXTURE(Bureau, "Check: a person who is his own father was not born be
     B().R_ENFANT.ModifierListe(f.pere, f.enfant, 'S');
     B().R_PERE.EcrireCellule(f.enfant, f.enfant);
     B().R_ENFANT.ModifierListe(f.enfant, f.enfant, 'A');
-    CHECK(Controler(f.enfant) == Numeros{487, 513});
+    CHECK(Controler(f.enfant) == Sortes{PerePasNeAvantEnfant, ParentsConnusPereSansUnion});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: the union of the parents") {
@@ -213,26 +256,26 @@ TEST_CASE_FIXTURE(Bureau, "Check: the union of the parents") {
         const NoOrdre mere = Creer('F', "MARTIN", "Anne", "1825");
         const NoOrdre enfant = Creer('H', "DURAND", "Paul", "1850");
         Parents(enfant, pere, mere);
-        CHECK(Controler(enfant) == Numeros{487});
+        CHECK(Controler(enfant) == Sortes{ParentsConnusPereSansUnion});
         Marier(pere, Creer('F', "AUTRE", "Eve", "1825"));
-        CHECK(Controler(enfant) == Numeros{});
+        CHECK(Controler(enfant) == Sortes{});
     }
     SUBCASE("it began after the birth, or ended before it") {
         const Famille f = Fonder();
         B().R_DEBMAR.EcrireCellule(f.mariage, "1850");
-        CHECK(Controler(f.enfant) == Numeros{});
+        CHECK(Controler(f.enfant) == Sortes{});
         B().R_DEBMAR.EcrireCellule(f.mariage, "1851");
-        CHECK(Controler(f.enfant) == Numeros{486});
+        CHECK(Controler(f.enfant) == Sortes{UnionParentsDebuteApresNaissance});
         B().R_DEBMAR.EcrireCellule(f.mariage, "1840");
         B().R_FINMAR.EcrireCellule(f.mariage, "1849");
-        CHECK(Controler(f.enfant) == Numeros{485});
+        CHECK(Controler(f.enfant) == Sortes{UnionParentsFinieAvantNaissance});
     }
     SUBCASE("two unions of one couple are no finding, and one that fits is enough") {
         const Famille f = Fonder();
         B().R_FINMAR.EcrireCellule(f.mariage, "1846");
         Marier(f.pere, f.mere, "1848");
         for (const NoOrdre n : {f.pere, f.mere, f.enfant})
-            CHECK(Controler(n) == Numeros{});
+            CHECK(Controler(n) == Sortes{});
     }
 }
 
@@ -241,18 +284,18 @@ TEST_CASE_FIXTURE(Bureau,
     const Famille f = Fonder();
     B().R_PERE.EcrireCellule(f.enfant, {});
     B().R_MERE.EcrireCellule(f.enfant, {});
-    CHECK(Controler(f.pere) == Numeros{519});
-    CHECK(Controler(f.mere) == Numeros{520});
+    CHECK(Controler(f.pere) == Sortes{EnfantAvecAutrePere});
+    CHECK(Controler(f.mere) == Sortes{EnfantAvecAutreMere});
     B().R_SEXE.EcrireCellule(f.pere, 'I');
-    CHECK(Controler(f.pere) == Numeros{495, 507});
+    CHECK(Controler(f.pere) == Sortes{SexeIndetermine, ParentDeSexeIndetermine});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: a list that names a union of others") {
     const Famille f = Fonder();
     B().R_EPOUX.EcrireCellule(f.mariage, {});
     B().R_EPOUSE.EcrireCellule(f.mariage, {});
-    CHECK(Controler(f.pere) == Numeros{523});
-    CHECK(Controler(f.mere) == Numeros{522});
+    CHECK(Controler(f.pere) == Sortes{UnionAvecAutreEpoux});
+    CHECK(Controler(f.mere) == Sortes{UnionAvecAutreEpouse});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: years of a union against each other and against the life") {
@@ -263,20 +306,20 @@ TEST_CASE_FIXTURE(Bureau, "Check: years of a union against each other and agains
         B().R_DECES.EcrireCellule(f.pere, deces);
         return Controler(f.pere);
     };
-    CHECK(essayer("1845", "1844", "") == Numeros{524});
-    CHECK(essayer("1819", "", "") == Numeros{525});
-    CHECK(essayer("1820", "1820", "1820") == Numeros{});
-    CHECK(essayer("1845", "", "1844") == Numeros{526});
-    CHECK(essayer("1815", "1816", "") == Numeros{525, 527});
-    CHECK(essayer("1845", "1860", "1859") == Numeros{528});
-    CHECK(essayer("184?", "183?", "?") == Numeros{});
+    CHECK(essayer("1845", "1844", "") == Sortes{FinUnionAvantDebut});
+    CHECK(essayer("1819", "", "") == Sortes{UnionAvantNaissance});
+    CHECK(essayer("1820", "1820", "1820") == Sortes{});
+    CHECK(essayer("1845", "", "1844") == Sortes{UnionApresDeces});
+    CHECK(essayer("1815", "1816", "") == Sortes{UnionAvantNaissance, FinUnionAvantNaissance});
+    CHECK(essayer("1845", "1860", "1859") == Sortes{FinUnionApresDeces});
+    CHECK(essayer("184?", "183?", "?") == Sortes{});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: one message once per person, however often it holds") {
     const Famille f = Fonder();
     for (int i = 0; i < 3; ++i)
         Marier(f.pere, f.mere, "1810");
-    CHECK(Controler(f.pere) == Numeros{525});
+    CHECK(Controler(f.pere) == Sortes{UnionAvantNaissance});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: events against the sheet") {
@@ -310,35 +353,37 @@ TEST_CASE_FIXTURE(Bureau, "Check: events against the sheet") {
         ajouter("CHR", "CHIL", "13 mars 1850", "Lyon");
         ajouter("BURI", "DEAD", "3 mai 1900", "Lyon");
         ajouter("BIRT", "WITN", "1/1/1800", "Caen");
-        CHECK(Controler(n) == Numeros{});
+        CHECK(Controler(n) == Sortes{});
     }
     SUBCASE("dates that differ") {
         ajouter("BIRT", "CHIL", "13/3/1850", "Saint Malo");
         ajouter("DEAT", "DEAD", "2/5/1900", "Brest");
         ajouter("CHR", "CHIL", "14 mars 1850", "Lyon");
         ajouter("BURI", "DEAD", "4 mai 1900", "Lyon");
-        CHECK(Controler(n) == Numeros{480, 482, 492, 494});
+        CHECK(Controler(n) == Sortes{DateNaissanceDiffere, DateDecesDiffere, DateBaptemeDiffere,
+                                     DateInhumationDiffere});
     }
     SUBCASE("places that differ") {
         ajouter("BIRT", "CHIL", "12/3/1850", "Caen");
         ajouter("DEAT", "DEAD", "1/5/1900", "Caen");
         ajouter("CHR", "CHIL", "13 mars 1850", "Caen");
         ajouter("BURI", "DEAD", "3 mai 1900", "Caen");
-        CHECK(Controler(n) == Numeros{479, 481, 491, 493});
+        CHECK(Controler(n) == Sortes{LieuNaissanceDiffere, LieuDecesDiffere, LieuBaptemeDiffere,
+                                     LieuInhumationDiffere});
     }
     SUBCASE("a sheet without a row for burials has nothing to compare") {
         B().entete.SlotsIndividu[2] = {};
         ajouter("BURI", "DEAD", "4 mai 1900", "Caen");
-        CHECK(Controler(n) == Numeros{});
+        CHECK(Controler(n) == Sortes{});
     }
     SUBCASE("unions") {
         ajouter("MARR", "HUSB", "1/6/1875", "Brest");
-        CHECK(Controler(n) == Numeros{488});
+        CHECK(Controler(n) == Sortes{EvenementMariageSansUnion});
         const NoMariage m = Marier(n, Creer('F', "MARTIN", "Anne", "1851"), "1875");
         EcrireTexteMariage(session, m, "1/6@Brest");
-        CHECK(Controler(n) == Numeros{});
+        CHECK(Controler(n) == Sortes{});
         EcrireTexteMariage(session, m, "2/6@Lyon");
-        CHECK(Controler(n) == Numeros{489, 490});
+        CHECK(Controler(n) == Sortes{DateMariageDiffere, LieuMariageDiffere});
     }
 }
 
@@ -391,13 +436,15 @@ TEST_CASE_FIXTURE(Bureau, "Check: cells that point out of the base are findings,
     B().R_MERE.EcrireCellule(n, NoOrdre{64001});
     B().R_ENFANT.ModifierListe(n, NoOrdre{60000}, 'A');
     B().R_MARIAG.ModifierListe(n, NoMariage{60000}, 'A');
-    CHECK(Controler(n) == Numeros{487, 511, 512, 515, 516, 519, 523});
+    CHECK(Controler(n) == Sortes{PereNonMasculin, AbsentDesEnfantsDuPere, MereNonFeminine,
+                                 AbsentDesEnfantsDeLaMere, ParentsConnusPereSansUnion,
+                                 EnfantAvecAutrePere, UnionAvecAutreEpoux});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: any one tie is enough for a person not to be isolated") {
     const NoOrdre n = Creer('H', "DURAND", "Paul", "1850");
     const NoOrdre autre = Creer('H', "AUTRE", "Jean", "1820");
-    REQUIRE(A(n, 509));
+    REQUIRE(A(n, PersonneIsolee));
     SUBCASE("a father") {
         B().R_PERE.EcrireCellule(n, autre);
     }
@@ -419,11 +466,11 @@ TEST_CASE_FIXTURE(Bureau, "Check: any one tie is enough for a person not to be i
     SUBCASE("a document") {
         B().R_LSTIMG.ModifierListe(n, NoDocument{1}, 'A');
     }
-    CHECK_FALSE(A(n, 509));
+    CHECK_FALSE(A(n, PersonneIsolee));
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: a name of blanks is no name") {
-    CHECK(A(Creer('F', "  ", "Anne", "1850"), 484));
+    CHECK(A(Creer('F', "  ", "Anne", "1850"), NomAbsent));
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: years before our era and years that are missing keep the order") {
@@ -431,26 +478,29 @@ TEST_CASE_FIXTURE(Bureau, "Check: years before our era and years that are missin
     const NoOrdre inconnu = Creer('H', "INCONNU", "Jean");
     const NoOrdre jean = Creer('H', "DURAND", "Jean", "950");
     for (const NoOrdre n : {marc, inconnu, jean})
-        CHECK_FALSE(A(n, 506));
+        CHECK_FALSE(A(n, HorsOrdreDeTri));
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: years before our era are counted as numbers") {
     const Famille f = Fonder("-100", "-95", "-70", "-75");
     for (const NoOrdre n : {f.pere, f.mere, f.enfant})
-        CHECK(Controler(n) == Numeros{});
+        CHECK(Controler(n) == Sortes{});
     B().R_DECES.EcrireCellule(f.enfant, "-71");
-    CHECK(Controler(f.enfant) == Numeros{510});
+    CHECK(Controler(f.enfant) == Sortes{DecesAvantNaissance});
     B().R_DECES.EcrireCellule(f.enfant, "30");
-    CHECK(Controler(f.enfant) == Numeros{});
+    CHECK(Controler(f.enfant) == Sortes{});
     B().R_DECES.EcrireCellule(f.enfant, "31");
-    CHECK(Controler(f.enfant) == Numeros{496});
+    CHECK(Controler(f.enfant) == Sortes{DecesPlusDe100AnsApresNaissance});
     B().R_DECES.EcrireCellule(f.enfant, "");
     B().R_DECES.EcrireCellule(f.pere, "-80");
-    CHECK(Controler(f.enfant) == Numeros{499});
+    CHECK(Controler(f.enfant) == Sortes{NaissancePlusDUnAnApresDecesPere});
     B().R_DECES.EcrireCellule(f.pere, "-81");
-    CHECK(Controler(f.enfant) == Numeros{498, 499});
+    CHECK(Controler(f.enfant) ==
+          Sortes{NaissancePlusDe10AnsApresDecesPere, NaissancePlusDUnAnApresDecesPere});
     B().R_DEBMAR.EcrireCellule(f.mariage, "-69");
-    CHECK(Controler(f.enfant) == Numeros{486, 498, 499});
+    CHECK(Controler(f.enfant) == Sortes{NaissancePlusDe10AnsApresDecesPere,
+                                        NaissancePlusDUnAnApresDecesPere,
+                                        UnionParentsDebuteApresNaissance});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: a year that tells no decade is compared with nothing") {
@@ -458,13 +508,13 @@ TEST_CASE_FIXTURE(Bureau, "Check: a year that tells no decade is compared with n
         CAPTURE(annee);
         Bureau bureau{'0'};
         const Famille f = bureau.Fonder("1820", "1825", annee, "");
-        CHECK(bureau.Controler(f.enfant) == Numeros{});
+        CHECK(bureau.Controler(f.enfant) == Sortes{});
         const Famille g = bureau.Fonder(annee, annee, "1850", "");
         bureau.B().R_DECES.EcrireCellule(g.pere, annee);
         bureau.B().R_DECES.EcrireCellule(g.mere, annee);
         bureau.B().R_DECES.EcrireCellule(g.enfant, annee);
         for (const NoOrdre n : {g.pere, g.mere, g.enfant})
-            CHECK(bureau.Controler(n) == Numeros{});
+            CHECK(bureau.Controler(n) == Sortes{});
     }
 }
 
@@ -472,10 +522,11 @@ TEST_CASE_FIXTURE(Bureau, "Check: a child of no known year after the death of a 
     const Famille f = Fonder("1820", "1825", "186?");
     B().R_DECES.EcrireCellule(f.pere, "1850");
     B().R_DECES.EcrireCellule(f.mere, "1850");
-    CHECK(Controler(f.enfant) == Numeros{});
+    CHECK(Controler(f.enfant) == Sortes{});
     B().R_DECES.EcrireCellule(f.pere, "1849");
     B().R_DECES.EcrireCellule(f.mere, "1849");
-    CHECK(Controler(f.enfant) == Numeros{497, 498});
+    CHECK(Controler(f.enfant) ==
+          Sortes{NaissancePlusDe10AnsApresDecesPere, NaissancePlusDe10AnsApresDecesMere});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: only a union of both parents is compared with the birth") {
@@ -483,9 +534,9 @@ TEST_CASE_FIXTURE(Bureau, "Check: only a union of both parents is compared with 
     const NoOrdre mere = Creer('F', "MARTIN", "Anne", "1825");
     const NoOrdre enfant = Creer('H', "DURAND", "Paul", "1850");
     Parents(enfant, pere, {});
-    CHECK(Controler(enfant) == Numeros{});  // nor does one parent alone ask for any
+    CHECK(Controler(enfant) == Sortes{});  // nor does one parent alone ask for any
     B().R_MERE.EcrireCellule(enfant, mere);
     B().R_ENFANT.ModifierListe(mere, enfant, 'A');
     Marier(pere, Creer('F', "AUTRE", "Eve", "1825"), "1860");
-    CHECK(Controler(enfant) == Numeros{});
+    CHECK(Controler(enfant) == Sortes{});
 }

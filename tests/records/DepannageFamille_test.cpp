@@ -1,5 +1,6 @@
 // What a repair does to unions, parents and children.
 #include "doublures/Inventaire.h"
+#include "messages/Soin.h"
 #include "records/ControleBase.h"
 #include "records/EssaiDepannage.h"
 #include "records/Individus.h"
@@ -221,7 +222,7 @@ TEST_CASE_FIXTURE(Bureau,
     const NoOrdre paul = Homme("Paul", "1850");
     B().R_PERE.EcrireCellule(paul, paul);
     B().R_ENFANT.ModifierListe(paul, paul, 'A');
-    CHECK(Depanner() == std::vector{session.Message(3914)});
+    CHECK(Depanner() == std::vector{session.Message(message::InfoRienAReparer)});
     CHECK(B().R_PERE.LireCellule(paul) == paul);
 }
 

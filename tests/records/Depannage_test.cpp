@@ -1,6 +1,8 @@
 #include "doublures/Coherence.h"
 #include "doublures/HistoireEssai.h"
 #include "doublures/Inventaire.h"
+#include "messages/Messages.h"
+#include "messages/Soin.h"
 #include "records/ControleBase.h"
 #include "records/EssaiDepannage.h"
 #include "records/Individus.h"
@@ -14,7 +16,6 @@ using namespace dorvane::records;
 namespace {
 
 using Bureau = EssaiDepannage;
-using Numeros = std::vector<std::uint32_t>;
 
 }  // namespace
 
@@ -38,15 +39,15 @@ TEST_CASE_FIXTURE(Bureau, "Repair: asks for a copy first; no goes on, cancel sto
         CHECK(MnuDepannage(session).reparations == 1);
         CHECK(shell::LireTout(dossier / "Famille.SAV") == avant);
     }
-    CHECK(dialogue.entendu == std::vector{shell::Msg(843)});
-    CHECK(dialogue.titres.back() == shell::Msg(842));
+    CHECK(dialogue.entendu == std::vector{shell::Msg(message::ProposerCopieAvantDepannage)});
+    CHECK(dialogue.titres.back() == shell::Msg(message::ProposerCopieAvantOperation));
     CHECK(dialogue.questions.back().boutons == shell::Boutons::OuiNonAnnuler);
 }
 
 TEST_CASE_FIXTURE(Bureau, "Repair: a running job is told, and nothing is asked") {
     progression.Commencer({}, {});
     CHECK_FALSE(MnuDepannage(session).fait);
-    CHECK(Dit() == Numeros{503});
+    CHECK(Dit() == std::vector{message::OperationImpossible});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Repair: a sound base is not touched, and the journal says so") {
@@ -56,11 +57,11 @@ TEST_CASE_FIXTURE(Bureau, "Repair: a sound base is not touched, and the journal 
     Marier(jean, anne, "1848");
     Parents(Homme("Paul", "1850"), jean, anne);
     REQUIRE(shell::MnuEnregistrer(session));
-    CHECK(Depanner() == std::vector{session.Message(3914)});
+    CHECK(Depanner() == std::vector{session.Message(message::InfoRienAReparer)});
     CHECK_FALSE(B().marques.Modifie());
     CHECK(bilan.complet);
     CHECK(bilan.journal == session.Travail() / "Famille.TXT");
-    CHECK(progression.textes[1] == shell::Msg(3911));
+    CHECK(progression.textes[1] == shell::Msg(message::EtatAnalyseOrdreDeTri));
     CHECK(progression.textes[2] == shell::Litteral("Analyse Mariages"));
     CHECK(progression.textes[3] == shell::Litteral("Analyse Personnes"));
     CHECK(progression.cadres == 0);
@@ -145,7 +146,7 @@ TEST_CASE_FIXTURE(Bureau, "Repair: a journal that cannot be written is told, the
     bilan = DepannerBase(session, false);
     CHECK(bilan.fait);
     CHECK(bilan.journal.empty());
-    CHECK(Dit() == Numeros{3916});
+    CHECK(Dit() == std::vector{message::CompteRenduNonEcrit});
 }
 
 TEST_CASE("Repair: whatever was damaged, once is enough, nobody is lost, and the places agree") {
@@ -239,9 +240,9 @@ TEST_CASE("Repair: whatever was damaged, once is enough, nobody is lost, and the
         CHECK_FALSE(b.marques.Modifie());
         bureau.dialogue.entendu.clear();
         ControlerBase(bureau.session, [&](const Constat& constat) {
-            CHECK(constat.message != 506);
-            CHECK(constat.message != 512);
-            CHECK(constat.message != 516);
+            CHECK(constat.sorte != SorteConstat::HorsOrdreDeTri);
+            CHECK(constat.sorte != SorteConstat::AbsentDesEnfantsDuPere);
+            CHECK(constat.sorte != SorteConstat::AbsentDesEnfantsDeLaMere);
         });
     }
 }
@@ -258,7 +259,8 @@ TEST_CASE_FIXTURE(Bureau, "Repair: who and what is made while it runs is not tak
             if (pere) return;
             pere = Homme("Louis");
             Parents(paul, pere, {});
-        } else if (progression.textes.back() == shell::Msg(3912) && !acte) {
+        } else if (progression.textes.back() == shell::Msg(message::EtatAnalyseLiensEtFaits) &&
+                   !acte) {
             acte = B().NouvelEvenement();
             storage::PartiesEvt parties;
             parties.description = storage::DescriptionEvt{"Brest", {}, "CENS"};

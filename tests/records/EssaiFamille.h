@@ -3,6 +3,7 @@
 #include "doublures/Coherence.h"
 #include "doublures/FamilleEssai.h"
 #include "doublures/SessionEssai.h"
+#include "messages/Noms.h"
 #include "records/NomsAffiches.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
@@ -31,15 +32,16 @@ public:
     EssaiFamille(const EssaiFamille&) = delete;
     EssaiFamille& operator=(const EssaiFamille&) = delete;
 
-    /// What was said and asked since the last call: "608(Paul Noir, Anne Blanc)" in order.
+    /// What was said and asked since the last call: "DemanderSiEpouseEstLaMere(Paul Noir, Anne
+    /// Blanc)" in order.
     [[nodiscard]] std::vector<std::string> Dit() {
         std::vector<std::string> dits;
         for (const shell::Phrase& phrase : dialogue.entendu) {
-            std::string dit = std::to_string(phrase.no.valeur);
+            std::string dit{message::Nom(phrase.no)};
             if (!phrase.valeur.empty())
                 dit += "(" + phrase.valeur + (phrase.valeur2.empty() ? "" : ", " + phrase.valeur2) +
                        ")";
-            if (phrase.suite) dit += "+" + std::to_string(phrase.suite.valeur);
+            if (phrase.suite) dit.append("+").append(message::Nom(phrase.suite));
             dits.push_back(dit);
         }
         CHECK(dialogue.reponses.empty());

@@ -1,5 +1,6 @@
 #include "records/FicheDocument.h"
 
+#include "messages/Messages.h"
 #include "records/EssaiFamille.h"
 #include "records/FicheEvenement.h"
 #include "shell/FichierSur.h"
@@ -121,7 +122,9 @@ TEST_CASE_FIXTURE(Scene,
     saisie.valeurs.note.clear();
     CHECK(ValiderDocument(session, saisie).etat == Etat::Refuse);
     base.entete.DernierDocument = 0;
-    CHECK(Dit() == Mots{"3010", "3011", "3011", "3012", "3013", "707"});
+    CHECK(Dit() == Mots{"DocumentSansTitreNiFichier", "NomFichierCaractereInterdit",
+                        "NomFichierCaractereInterdit", "DocumentTropLong", "CommentaireTropLong",
+                        "MaximumDocumentsBaseAtteint"});
     CHECK(Intacte());
     CHECK_FALSE(saisie.document);
     // To the byte.
@@ -195,7 +198,7 @@ TEST_CASE_FIXTURE(Scene,
     CHECK_FALSE(AttacherDocument(session, louis, a));
     CHECK(AttacherDocument(session, e, a));
     CHECK_FALSE(AttacherDocument(session, e, a));
-    CHECK(Dit() == Mots{"3015", "3015"});
+    CHECK(Dit() == Mots{"DocumentDejaDansLaListe", "DocumentDejaDansLaListe"});
     CHECK_FALSE(AttacherDocument(session, louis, NoDocument{9}));
     CHECK_FALSE(AttacherDocument(session, NoOrdre{99}, a));
     CHECK_FALSE(AttacherDocument(session, NoEvenement{9}, a));
@@ -214,7 +217,8 @@ TEST_CASE_FIXTURE(Scene, "AttacherDocument: the 201st document of a person is re
     CHECK_FALSE(AttacherDocument(session, louis, tous[200]));
     CHECK_FALSE(PeutAvoirDocument(session, louis));
     CHECK_FALSE(PeutAvoirDocument(session, NoOrdre{99}));
-    CHECK(Dit() == Mots{"3016(Louis Martin)", "3016(Louis Martin)"});
+    CHECK(Dit() == Mots{"MaximumDocumentsPersonneAtteint(Louis Martin)",
+                        "MaximumDocumentsPersonneAtteint(Louis Martin)"});
     CHECK(Intacte());
 }
 
@@ -245,7 +249,9 @@ TEST_CASE_FIXTURE(Scene, "DetacherDocument: asks, and leaves the document itself
     CHECK(DetacherDocument(session, louis, 1));
     CHECK(DetacherDocument(session, e, 1));
     CHECK_FALSE(DetacherDocument(session, e, 1));
-    CHECK(Dit() == Mots{"3014(Acte)+617", "3014(Acte)+617", "3014(Acte)+617"});
+    CHECK(Dit() == Mots{"ConfirmerDetacherDocument(Acte)+ConfirmerSuppression",
+                        "ConfirmerDetacherDocument(Acte)+ConfirmerSuppression",
+                        "ConfirmerDetacherDocument(Acte)+ConfirmerSuppression"});
     CHECK(base.R_LSTIMG.NbElements(louis) == 0);
     CHECK(ChercherUsages(session, a).Aucun());
     CHECK(base.R_IMAGE.LireCellule(a));
@@ -266,11 +272,11 @@ TEST_CASE_FIXTURE(Scene,
     Oublier();
     Repondre({Non});
     CHECK_FALSE(SupprimerDocument(session, a));
-    CHECK(dialogue.titres.back().no == NoMessage{618});
+    CHECK(dialogue.titres.back().no == message::TitreSuppression);
     CHECK(Intacte());
     Repondre({Oui});
     CHECK(SupprimerDocument(session, a));
-    CHECK(Dit() == Mots{"0(Acte)+617", "0(Acte)+617"});
+    CHECK(Dit() == Mots{"(Acte)+ConfirmerSuppression", "(Acte)+ConfirmerSuppression"});
     CHECK_FALSE(base.R_IMAGE.LireCellule(a));
     CHECK(base.R_LSTIMG.Elements(louis) == Documents{b});
     CHECK(base.R_LSTIMG.Elements(rose) == Documents{b});
@@ -305,7 +311,7 @@ TEST_CASE_FIXTURE(Scene, "ChargerDocument: a record without an end is empty, and
     CHECK(ChargerDocument(session, d).valeurs == storage::Document{});
     REQUIRE(session.incidents.size() == 1);
     CHECK(session.incidents[0] == std::pair{storage::Incident::DocumentAbime, d.valeur});
-    CHECK(Dit() == Mots{"3021(1)"});
+    CHECK(Dit() == Mots{"IncidentDocument(1)"});
 }
 
 TEST_CASE_FIXTURE(Scene, "CheminPourDocument: relative below the folder of the base, else whole") {

@@ -1,5 +1,6 @@
 #include "records/FicheEvenement.h"
 
+#include "messages/Messages.h"
 #include "records/EssaiFamille.h"
 #include "values/Octets.h"
 
@@ -74,7 +75,9 @@ TEST_CASE_FIXTURE(Scene,
     saisie.date = "12 mars 1820";
     saisie.type = " ";
     CHECK(ValiderEvenement(session, saisie) == IssueEvenement{Etat::Refuse, ChampEvenement::Type});
-    CHECK(Dit() == Mots{"930", "930", "931", "931", "931", "931", "931", "932"});
+    CHECK(Dit() == Mots{"DateEvenementVide", "DateEvenementVide", "DateEvenementInvalide",
+                        "DateEvenementInvalide", "DateEvenementInvalide", "DateEvenementInvalide",
+                        "DateEvenementInvalide", "TypeEvenementVide"});
     CHECK(Intacte());
     CHECK_FALSE(saisie.evenement);
     CHECK(base.entete.DernierEvenement == 0);
@@ -87,7 +90,7 @@ TEST_CASE_FIXTURE(Scene, "ValiderEvenement: the 29th of February of a leap year 
     saisie.date = "29/2/1821";
     saisie.type = "CENS";
     CHECK(ValiderEvenement(session, saisie).etat == Etat::Refuse);
-    CHECK(Dit() == Mots{"931"});
+    CHECK(Dit() == Mots{"DateEvenementInvalide"});
 }
 
 TEST_CASE_FIXTURE(Scene,
@@ -208,7 +211,7 @@ TEST_CASE_FIXTURE(Scene,
     saisie.type = "MARR";
     CHECK(ValiderEvenement(session, saisie) ==
           IssueEvenement{Etat::Incomplet, ChampEvenement::Liens});
-    CHECK(Dit() == Mots{"936"});
+    CHECK(Dit() == Mots{"RoleNonAttribueOuInadapte"});
     CHECK(base.R_EVT.Liens(saisie.evenement).size() == 1);
     CHECK(Tri() == std::vector<std::uint32_t>{1});
     REQUIRE(RolesManquants(session, saisie).size() == 1);
@@ -226,7 +229,7 @@ TEST_CASE_FIXTURE(Scene, "ValiderEvenement: a role must fit the sex of its perso
     saisie.type = "MARR";
     saisie.liens = {{rose, "HUSB"}, {louis, "WIFE"}};
     CHECK(ValiderEvenement(session, saisie).etat == Etat::Incomplet);
-    CHECK(Dit() == Mots{"936"});
+    CHECK(Dit() == Mots{"RoleNonAttribueOuInadapte"});
     // Nobody of an unknown sex fits a role that asks for one.
     const NoOrdre inconnu = Creer('I', "Martin", "X");
     CHECK_FALSE(RoleConvient(session, "MARR", {inconnu, "HUSB"}));
@@ -269,7 +272,8 @@ TEST_CASE_FIXTURE(Scene, "ValiderEvenement: the 201st event of a person is refus
     saisie.liens.push_back({paul, "MAIN"});
     CHECK(ValiderEvenement(session, saisie) == IssueEvenement{Etat::Refuse, ChampEvenement::Liens});
     CHECK_FALSE(LierPersonne(session, NoEvenement{1}, paul, "WITN"));
-    CHECK(Dit() == Mots{"3003(Paul Martin)", "3003(Paul Martin)"});
+    CHECK(Dit() == Mots{"MaximumEvenementsPersonneAtteint(Paul Martin)",
+                        "MaximumEvenementsPersonneAtteint(Paul Martin)"});
     CHECK(Intacte());
     // One that is there already may be changed.
     SaisieEvenement dernier = ChargerEvenement(session, NoEvenement{200});
@@ -278,7 +282,7 @@ TEST_CASE_FIXTURE(Scene, "ValiderEvenement: the 201st event of a person is refus
     CHECK(ValiderEvenement(session, dernier).etat == Etat::Incomplet);
     CHECK(base.R_LSTEVT.NbElements(paul) == 200);
     CHECK(base.R_LSTEVT.ElementListe(paul, 1) == NoEvenement{200});
-    CHECK(Dit() == Mots{"936"});
+    CHECK(Dit() == Mots{"RoleNonAttribueOuInadapte"});
 }
 
 TEST_CASE_FIXTURE(Scene, "ValiderEvenement: event 32001 is refused") {
@@ -288,7 +292,7 @@ TEST_CASE_FIXTURE(Scene, "ValiderEvenement: event 32001 is refused") {
     saisie.date = "1/1/1830";
     saisie.type = "CENS";
     CHECK(ValiderEvenement(session, saisie).etat == Etat::Refuse);
-    CHECK(Dit() == Mots{"709"});
+    CHECK(Dit() == Mots{"MaximumEvenementsBaseAtteint"});
     CHECK(Intacte());
     CHECK(base.R_LSTEVT.NbElements(paul) == 0);
     base.entete.DernierEvenement = 0;
@@ -309,7 +313,7 @@ TEST_CASE_FIXTURE(Scene,
     CHECK(ValiderEvenement(session, saisie) == IssueEvenement{Etat::Refuse, ChampEvenement::Liens});
     saisie.liens[1].role = std::string(50, 'r');
     CHECK(ValiderEvenement(session, saisie) == IssueEvenement{Etat::Refuse, ChampEvenement::Role});
-    CHECK(Dit() == Mots{"3001", "588", "3002"});
+    CHECK(Dit() == Mots{"LieuLibelleEtTypeTropLongs", "PersonneDejaDansLaListe", "RoleTropLong"});
     CHECK(Intacte());
     // To the byte: what just fits comes back whole.
     saisie.liens[1].role = std::string(49, 'r');
@@ -349,7 +353,7 @@ TEST_CASE_FIXTURE(Scene, "ValiderEvenement: one person may have two roles in an 
     CHECK(DelierPersonne(session, e, paul, "WITN"));
     CHECK(EvtsDe(paul) == std::vector<std::uint32_t>{1});
     CHECK(base.R_LSTEVT.TexteElement(paul, 1) == "MAIN");
-    CHECK(Dit() == Mots{"0(Paul Martin)+617"});
+    CHECK(Dit() == Mots{"(Paul Martin)+ConfirmerSuppression"});
 }
 
 TEST_CASE_FIXTURE(Scene,
@@ -359,9 +363,9 @@ TEST_CASE_FIXTURE(Scene,
     const NoEvenement autre = Evenement("1/1/1830", "CENS", {{louis, "MAIN"}});
     Oublier();
     CHECK_FALSE(SupprimerEvenement(session, e));
-    CHECK(dialogue.titres.back().no == NoMessage{618});
+    CHECK(dialogue.titres.back().no == message::TitreSuppression);
     CHECK(dialogue.questions.back().defaut == Non);
-    CHECK(Dit() == Mots{"0(Mariage, 4 mai 1815 : Louis Martin, Rose Blanc)+617"});
+    CHECK(Dit() == Mots{"(Mariage, 4 mai 1815 : Louis Martin, Rose Blanc)+ConfirmerSuppression"});
     CHECK(Intacte());
     Repondre({Oui});
     CHECK(SupprimerEvenement(session, e));
@@ -384,7 +388,7 @@ TEST_CASE_FIXTURE(Scene, "LierPersonne: nobody, a deleted event and a link twice
     CHECK_FALSE(LierPersonne(session, NoEvenement{7}, paul, "WITN"));
     CHECK(Dit().empty());
     CHECK_FALSE(LierPersonne(session, e, paul, "MAIN"));
-    CHECK(Dit() == Mots{"588"});
+    CHECK(Dit() == Mots{"PersonneDejaDansLaListe"});
     CHECK(LierPersonne(session, e, louis, "WITN"));
     CHECK(EvtsDe(louis) == std::vector<std::uint32_t>{1});
 }
@@ -404,7 +408,8 @@ TEST_CASE_FIXTURE(Scene, "DeplacerLien: persons of an event change places, never
 TEST_CASE_FIXTURE(Scene,
                   "ValiderEvenement: a father or mother linked beside the child of an event "
                   "becomes the parent") {
-    // Year and day of the sheet differ from the event: 939 comes last.
+    // Year and day of the sheet differ from the event: the question whether to change it comes
+    // last.
     SaisieEvenement saisie = NouvelEvenement(paul, "CHIL");
     saisie.date = "12/3/1820";
     saisie.type = "BIRT";
@@ -413,14 +418,15 @@ TEST_CASE_FIXTURE(Scene,
     CHECK(ValiderEvenement(session, saisie).etat == Etat::Ecrit);
     CHECK(ParentsDe(paul) == "1 0");
     CHECK(EnfantsDe(louis) == std::vector<NoOrdre>{paul});
-    CHECK(Dit() == Mots{"939"});
+    CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche"});
 
     SUBCASE("the mother later: a union with the father is offered") {
         Repondre({Oui, Non});
         saisie.liens.push_back({rose, "MOTH"});
         CHECK(ValiderEvenement(session, saisie).etat == Etat::Ecrit);
         CHECK(ParentsDe(paul) == "1 2");
-        CHECK(Dit() == Mots{"639(Louis Martin)", "939"});
+        CHECK(Dit() ==
+              Mots{"ProposerCreerUnion(Louis Martin)", "ProposerReporterEvenementSurFiche"});
         CHECK(base.entete.DernierMariage == 1);
     }
     SUBCASE("another father is asked for, with no as the answer of Enter") {
@@ -429,7 +435,8 @@ TEST_CASE_FIXTURE(Scene,
         Repondre({Annuler, Non});
         CHECK(ValiderEvenement(session, saisie).etat == Etat::Ecrit);
         CHECK(ParentsDe(paul) == "1 0");
-        CHECK(Dit() == Mots{"628(Paul Martin)+629", "939"});
+        CHECK(Dit() == Mots{"ConfirmerRemplacerParent(Paul Martin)+ConfirmerOperation",
+                            "ProposerReporterEvenementSurFiche"});
     }
     SUBCASE("another father, and yes") {
         const NoOrdre jean = Creer('H', "Noir", "Jean", "1785");
@@ -438,7 +445,8 @@ TEST_CASE_FIXTURE(Scene,
         CHECK(ValiderEvenement(session, saisie).etat == Etat::Ecrit);
         CHECK(base.R_PERE.LireCellule(paul) == jean);
         CHECK(EnfantsDe(louis).empty());
-        CHECK(Dit() == Mots{"628(Paul Martin)+629", "939"});
+        CHECK(Dit() == Mots{"ConfirmerRemplacerParent(Paul Martin)+ConfirmerOperation",
+                            "ProposerReporterEvenementSurFiche"});
     }
     SUBCASE("a link that stood there asks nothing again") {
         base.R_PERE.EcrireCellule(paul, NoOrdre{});
@@ -447,7 +455,7 @@ TEST_CASE_FIXTURE(Scene,
         Repondre({Non});
         CHECK(ValiderEvenement(session, saisie).etat == Etat::Ecrit);
         CHECK(ParentsDe(paul) == "0 0");
-        CHECK(Dit() == Mots{"939"});
+        CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche"});
     }
 }
 
@@ -463,7 +471,8 @@ TEST_CASE_FIXTURE(Scene,
     Repondre({Oui, Non});
     CHECK(ValiderEvenement(session, saisie).etat == Etat::Ecrit);
     // The union with the mother, then the warning of a death before the birth.
-    CHECK(Dit() == Mots{"639(Rose Blanc)", "636", "939"});
+    CHECK(Dit() == Mots{"ProposerCreerUnion(Rose Blanc)", "DecesParentAvantNaissanceEnfant",
+                        "ProposerReporterEvenementSurFiche"});
     CHECK(saisie.crees.empty());
 }
 
@@ -484,7 +493,7 @@ TEST_CASE_FIXTURE(Scene,
     CHECK(saisie.liens.size() == 1);
     REQUIRE(session.incidents.size() == 1);
     CHECK(session.incidents[0] == std::pair{storage::Incident::EvenementAbime, e.valeur});
-    CHECK(Dit() == Mots{"3020(1)"});
+    CHECK(Dit() == Mots{"IncidentEvenement(1)"});
 }
 
 TEST_CASE_FIXTURE(Scene,

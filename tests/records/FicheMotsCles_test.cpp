@@ -2,6 +2,8 @@
 
 #include "doublures/FamilleEssai.h"
 #include "doublures/SessionEssai.h"
+#include "messages/Messages.h"
+#include "messages/Mots.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
 #include "storage/Base.h"
@@ -53,9 +55,9 @@ struct Bureau : doublures::SessionEssai {
             if (!B().R_INDEX.PersonnesIndex(e).empty()) mots.push_back(B().R_INDEX.MotIndex(e));
         return mots;
     }
-    /// The number of the only message heard since.
-    [[nodiscard]] std::uint32_t Entendu() {
-        const std::uint32_t no = dialogue.entendu.size() == 1 ? dialogue.entendu[0].no.valeur : 0;
+    /// The only message heard since.
+    [[nodiscard]] NoMessage Entendu() {
+        const NoMessage no = dialogue.entendu.size() == 1 ? dialogue.entendu[0].no : NoMessage{};
         dialogue.entendu.clear();
         return no;
     }
@@ -83,7 +85,7 @@ TEST_CASE_FIXTURE(Bureau, "Mots-clés: a code is one character that is no letter
          {"#", "A", "e", "\xE9", "5", "-", " ", "", "+*", ".", "'", "\t"}) {
         CAPTURE(code);
         CHECK_FALSE(AjouterMotCle(session, {std::string{code}, "Taille", false}));
-        CHECK(Entendu() == 718);
+        CHECK(Entendu() == message::CodeMotCleNonAutorise);
     }
     CHECK(Libelles().size() == 11);
     CHECK(AjouterMotCle(session, {"\xB5", "Taille", false}) == NoMotCle{12});
@@ -93,21 +95,21 @@ TEST_CASE_FIXTURE(Bureau, "Mots-clés: a code is one character that is no letter
 
 TEST_CASE_FIXTURE(Bureau, "Mots-clés: a known code, an empty or a known label are refused") {
     CHECK_FALSE(AjouterMotCle(session, {"|", "Taille", false}));
-    CHECK(Entendu() == 952);
+    CHECK(Entendu() == message::CodeMotCleDejaPris);
     CHECK_FALSE(AjouterMotCle(session, {"+", "  ", false}));
-    CHECK(Entendu() == 719);
+    CHECK(Entendu() == message::LibelleMotCleVide);
     // "Baptême" is the tag CHR, which is a keyword already.
     CHECK_FALSE(AjouterMotCle(session, {"+", std::string{"Baptême"_1252}, false}));
-    CHECK(Entendu() == 952);
+    CHECK(Entendu() == message::CodeMotCleDejaPris);
     REQUIRE(AjouterMotCle(session, {"+", "Acte", false}));
     CHECK_FALSE(AjouterMotCle(session, {"=", "Acte", false}));
-    CHECK(Entendu() == 3200);
+    CHECK(Entendu() == message::LibelleMotCleDejaPris);
     CHECK_FALSE(AjouterMotCle(session, {"=", "Acte de notaire", false}));
-    CHECK(Entendu() == 3201);
+    CHECK(Entendu() == message::LibelleMotCleSeConfond);
     CHECK_FALSE(AjouterMotCle(session, {"=", std::string(35, 'x'), false}));
-    CHECK(Entendu() == 3202);
+    CHECK(Entendu() == message::LibelleMotCleNonAutorise);
     CHECK_FALSE(AjouterMotCle(session, {"=", "un#deux", false}));
-    CHECK(Entendu() == 3202);
+    CHECK(Entendu() == message::LibelleMotCleNonAutorise);
 }
 
 TEST_CASE_FIXTURE(Bureau, "Mots-clés: a label of the language is stored neutral") {
@@ -145,15 +147,15 @@ TEST_CASE_FIXTURE(Bureau,
 TEST_CASE_FIXTURE(Bureau, "Mots-clés: an update refuses what an addition refuses") {
     const NoMotCle k = AjouterMotCle(session, {"+", "Charge", false});
     CHECK_FALSE(ModifierMotCle(session, k, {"#", "Charge", false}));
-    CHECK(Entendu() == 718);
+    CHECK(Entendu() == message::CodeMotCleNonAutorise);
     CHECK_FALSE(ModifierMotCle(session, k, {"+", " ", false}));
-    CHECK(Entendu() == 719);
+    CHECK(Entendu() == message::LibelleMotCleVide);
     CHECK_FALSE(ModifierMotCle(session, k, {"|", "Charge", false}));
-    CHECK(Entendu() == 720);
+    CHECK(Entendu() == message::CodePrisParAutreMotCle);
     CHECK_FALSE(ModifierMotCle(session, NoMotCle{1}, {"=", "Nom", false}));
-    CHECK(Entendu() == 3204);
+    CHECK(Entendu() == message::MotCleReserve);
     CHECK(ModifierMotCle(session, k, {"+", "Charge", false}));
-    CHECK(Entendu() == 0);
+    CHECK_FALSE(Entendu());
 }
 
 TEST_CASE_FIXTURE(Bureau, "Mots-clés: a new code follows into the lines of the sheet after a yes") {
@@ -170,7 +172,7 @@ TEST_CASE_FIXTURE(Bureau, "Mots-clés: a new code follows into the lines of the 
         CHECK(Lignes(Ind).back() == "Charge");
         CHECK(MotsDe(k).empty());
     }
-    CHECK(Entendu() == 3206);
+    CHECK(Entendu() == message::ConfirmerChangerMotCle);
 }
 
 TEST_CASE_FIXTURE(Bureau,
@@ -178,7 +180,7 @@ TEST_CASE_FIXTURE(Bureau,
     const NoMotCle profession{6};
     dialogue.reponses = {shell::Reponse::Oui};
     CHECK(SupprimerMotCle(session, profession));
-    CHECK(dialogue.entendu.back() == shell::Msg(3205, "Profession"));
+    CHECK(dialogue.entendu.back() == shell::Msg(message::ConfirmerSupprimerMotCle, "Profession"));
     CHECK(Libelles().size() == 10);
     CHECK(Lignes(Ind) == std::vector<std::string>{std::string{"Baptême"_1252}, "Inhumation"});
     CHECK(AjouterMotCle(session, {"+", "Charge", false}) == profession);
@@ -189,7 +191,7 @@ TEST_CASE_FIXTURE(Bureau, "Mots-clés: those of names and places cannot be remov
     for (const LigneMotCle& ligne : ListerMotsCles(session)) {
         if (!ligne.fixe) continue;
         CHECK_FALSE(SupprimerMotCle(session, ligne.mot));
-        CHECK(Entendu() == 3204);
+        CHECK(Entendu() == message::MotCleReserve);
     }
     CHECK(Libelles().size() == 11);
 }
@@ -216,7 +218,7 @@ TEST_CASE_FIXTURE(Bureau, "Mots-clés: fifty at most") {
     for (int c = 0x21; c < 0xFF && !refuse; ++c) {
         const std::string code(1, static_cast<char>(c));
         CHECK_FALSE(AjouterMotCle(session, {code, "Encore", false}));
-        refuse = Entendu() == 3203;
+        refuse = Entendu() == message::MaximumMotsClesAtteint;
     }
     CHECK(refuse);
 }

@@ -1,6 +1,8 @@
 #include "records/Fiche.h"
 
 #include "doublures/FicheEssai.h"
+#include "messages/Fiche.h"
+#include "messages/Messages.h"
 #include "records/Individus.h"
 #include "records/Liens.h"
 #include "records/TexteFiche.h"
@@ -146,7 +148,7 @@ TEST_CASE_FIXTURE(Foyer,
     const IssueFiche issue = Valider(fiche);
     CHECK(issue.etat == Etat::Ecrite);
     CHECK(issue.champ == Champ::AnneeNaissance);
-    CHECK(dialogue.entendu == Phrases{Msg(620)});
+    CHECK(dialogue.entendu == Phrases{Msg(message::InfoAnneeNaissanceVide)});
     CHECK(B().R_NAISS.LireCellule(jean).empty());
     CHECK(B().R_NOM.PrenomDe(jean) == "Luc");
 }
@@ -160,7 +162,7 @@ TEST_CASE_FIXTURE(Foyer, "ValiderFiche: a sheet with a birth year and no name is
     const IssueFiche issue = Valider(fiche);
     CHECK(issue.etat == Etat::Refusee);
     CHECK(issue.champ == Champ::Nom);
-    CHECK(dialogue.entendu == Phrases{Msg(621)});
+    CHECK(dialogue.entendu == Phrases{Msg(message::PersonneSansNomNiPrenom)});
     CHECK_FALSE(B().marques.Modifie());
 }
 
@@ -169,7 +171,8 @@ TEST_CASE_FIXTURE(Foyer, "ValiderFiche: names too long for their record are refu
     SaisieFiche fiche = Fiche(jean);
     fiche.autrePrenom = std::string(999, 'x');
     CHECK(Valider(fiche).champ == Champ::AutrePrenom);
-    CHECK(dialogue.entendu == Phrases{Msg(2600, "1000", "Autres prénoms"_1252)});
+    CHECK(dialogue.entendu ==
+          Phrases{Msg(message::NomsEtDatesTropLongs, "1000", "Autres prénoms"_1252)});
     CHECK_FALSE(B().marques.Modifie());
 }
 
@@ -198,7 +201,7 @@ TEST_CASE_FIXTURE(Foyer,
     const IssueFiche issue = ValiderFiche(session, fiche);
     CHECK(issue.etat == Etat::Refusee);
     CHECK(issue.champ == Champ::Sexe);
-    CHECK(dialogue.entendu == Phrases{Msg(622)});
+    CHECK(dialogue.entendu == Phrases{Msg(message::SexeNonModifiable)});
     // The old option is set again; what else was typed stays in its field, unwritten.
     CHECK(fiche.sexe == 'H');
     CHECK(fiche.prenom == "Jeanne");
@@ -408,7 +411,7 @@ TEST_CASE_FIXTURE(Foyer, "ValiderFiche: the label of the link in edit") {
         const IssueFiche issue = Valider(fiche);
         CHECK(issue.etat == Etat::Refusee);
         CHECK(issue.champ == Champ::Lien);
-        CHECK(dialogue.entendu == Phrases{Msg(631)});
+        CHECK(dialogue.entendu == Phrases{Msg(message::LibelleLienVide)});
         CHECK(B().R_NOM.PrenomDe(jean) == "Luc");
         CHECK(B().R_LIEN.TexteElement(jean, 1) == "MARR");
     }
@@ -444,7 +447,7 @@ TEST_CASE_FIXTURE(Foyer, "ValiderFiche: a new person is made, then it is that pe
     CHECK(issue.etat == Etat::Ecrite);
     CHECK(issue.individu == NoOrdre{3});
     CHECK(fiche.individu == NoOrdre{3});
-    CHECK(dialogue.entendu == Phrases{Msg(620)});
+    CHECK(dialogue.entendu == Phrases{Msg(message::InfoAnneeNaissanceVide)});
     fiche.prenom = "Luce";
     CHECK(ValiderFiche(session, fiche).individu == NoOrdre{3});
     CHECK(B().entete.DernierIndividu == 3);

@@ -1,5 +1,6 @@
 #include "records/Filiation.h"
 
+#include "messages/Messages.h"
 #include "records/EssaiFamille.h"
 #include "records/Famille.h"
 #include "records/Unions.h"
@@ -75,7 +76,7 @@ TEST_CASE_FIXTURE(Famille, "DonnerParent: two parents without a union are offere
         CHECK(base.R_EPOUX.LireCellule(NoMariage{1}) == paul);
         CHECK(base.R_EPOUSE.LireCellule(NoMariage{1}) == anne);
     }
-    CHECK(Dit() == Dits{"639(Anne Blanc)"});
+    CHECK(Dit() == Dits{"ProposerCreerUnion(Anne Blanc)"});
 }
 
 TEST_CASE_FIXTURE(Famille, "DonnerParent: the wife is on her side whoever is chosen") {
@@ -84,7 +85,7 @@ TEST_CASE_FIXTURE(Famille, "DonnerParent: the wife is on her side whoever is cho
     CHECK(DonnerParent(session, luc, 'F', anne));
     CHECK(base.R_EPOUX.LireCellule(NoMariage{1}) == paul);
     CHECK(base.R_EPOUSE.LireCellule(NoMariage{1}) == anne);
-    CHECK(Dit() == Dits{"639(Paul Noir)"});
+    CHECK(Dit() == Dits{"ProposerCreerUnion(Paul Noir)"});
 }
 
 TEST_CASE_FIXTURE(
@@ -102,8 +103,10 @@ TEST_CASE_FIXTURE(
     Parents(tom, {}, rose);
     Repondre({Non, Oui, Oui, Non});
     CHECK(DonnerParent(session, luc, 'H', paul));
-    CHECK(Dit() == Dits{"608(Luc Noir, Anne Blanc)", "608(Luc Noir, Rose Roux)",
-                        "609(Max Roux, Paul Noir)", "609(Tom Roux, Paul Noir)"});
+    CHECK(Dit() == Dits{"DemanderSiEpouseEstLaMere(Luc Noir, Anne Blanc)",
+                        "DemanderSiEpouseEstLaMere(Luc Noir, Rose Roux)",
+                        "DemanderSiEpouxEstLePere(Max Roux, Paul Noir)",
+                        "DemanderSiEpouxEstLePere(Tom Roux, Paul Noir)"});
     CHECK(ParentsDe(luc) == "1 5");
     CHECK(base.R_PERE.LireCellule(max) == paul);
     CHECK(!base.R_PERE.LireCellule(tom));
@@ -115,7 +118,8 @@ TEST_CASE_FIXTURE(Famille, "DonnerParent: for a mother the questions are those o
     Parents(zoe, paul, {});
     Repondre({Oui, Oui});
     CHECK(DonnerParent(session, luc, 'F', anne));
-    CHECK(Dit() == Dits{"609(Luc Noir, Paul Noir)", "608(Zo\xE9 Noir, Anne Blanc)"});
+    CHECK(Dit() == Dits{"DemanderSiEpouxEstLePere(Luc Noir, Paul Noir)",
+                        "DemanderSiEpouseEstLaMere(Zo\xE9 Noir, Anne Blanc)"});
     CHECK(ParentsDe(luc) == "1 2");
     CHECK(ParentsDe(zoe) == "1 2");
 }
@@ -133,8 +137,10 @@ TEST_CASE_FIXTURE(Famille,
     CHECK_FALSE(DonnerParent(session, zoe, 'H', camille));
     CHECK_FALSE(DonnerParent(session, zoe, 'H', NoOrdre{999}));
     CHECK_FALSE(DonnerParent(session, zoe, 'H', {}));
-    CHECK(Dit() == Dits{"2800(Luc Noir, Luc Noir)", "2801(Petit Noir, Paul Noir)",
-                        "2803(Anne Blanc, Zo\xE9 Noir)", "2803(Camille Noir)", "2807", "2807"});
+    CHECK(Dit() ==
+          Dits{"PropreParent(Luc Noir, Luc Noir)", "ParentDescendDeLEnfant(Petit Noir, Paul Noir)",
+               "SexeParentInadapte(Anne Blanc, Zo\xE9 Noir)", "SexeParentInadapte(Camille Noir)",
+               "PersonneAbsenteDeLaBase", "PersonneAbsenteDeLaBase"});
     CHECK_FALSE(base.marques.ModifBase);
 }
 
@@ -147,14 +153,17 @@ TEST_CASE_FIXTURE(Famille, "A 201st child changes no cell, whichever way it come
     CHECK_FALSE(PeutAvoirEnfant(session, paul));
     CHECK_FALSE(EnfantCree(session, paul, luc, {}));
     CHECK_FALSE(PeutAvoirEnfant(session, anne, NoMariage{1}));
-    CHECK(Dit() == Dits{"2802(Paul Noir, Luc Noir)", "2802(Paul Noir, Luc Noir)", "2802(Paul Noir)",
-                        "2802(Paul Noir)", "2802(Paul Noir)"});
+    CHECK(Dit() == Dits{"MaximumEnfantsPersonneAtteint(Paul Noir, Luc Noir)",
+                        "MaximumEnfantsPersonneAtteint(Paul Noir, Luc Noir)",
+                        "MaximumEnfantsPersonneAtteint(Paul Noir)",
+                        "MaximumEnfantsPersonneAtteint(Paul Noir)",
+                        "MaximumEnfantsPersonneAtteint(Paul Noir)"});
     CHECK_FALSE(base.marques.ModifBase);
     CHECK(EnfantsDe(paul).size() == 200);
     // One who is there already needs no room.
     Repondre({Non});
     CHECK(DonnerParent(session, dernier, 'H', paul));
-    CHECK(Dit() == Dits{"608(Petit Noir, Anne Blanc)"});
+    CHECK(Dit() == Dits{"DemanderSiEpouseEstLaMere(Petit Noir, Anne Blanc)"});
     CHECK(EnfantsDe(paul).size() == 200);
 }
 
@@ -164,7 +173,8 @@ TEST_CASE_FIXTURE(Famille, "A partner whose list is full is asked for, and refus
         Parents(Creer('H', "Blanc", "Petit", "1850"), {}, anne);
     Repondre({Oui});
     CHECK(DonnerParent(session, luc, 'H', paul));
-    CHECK(Dit() == Dits{"608(Luc Noir, Anne Blanc)", "2802(Anne Blanc, Luc Noir)"});
+    CHECK(Dit() == Dits{"DemanderSiEpouseEstLaMere(Luc Noir, Anne Blanc)",
+                        "MaximumEnfantsPersonneAtteint(Anne Blanc, Luc Noir)"});
     CHECK(ParentsDe(luc) == "1 0");
 }
 
@@ -175,7 +185,9 @@ TEST_CASE_FIXTURE(Famille, "ParentCree: union, warning of a death, children of t
     Repondre({Oui, Oui});
     CHECK(ParentCree(session, luc, 'H', mort));
     // Died in 1851: after Luc's birth in 1850, before Zoé's in 1852.
-    CHECK(Dit() == Dits{"639(Anne Blanc)", "609(Zo\xE9 Noir, Jean Noir)", "636"});
+    CHECK(Dit() == Dits{"ProposerCreerUnion(Anne Blanc)",
+                        "DemanderSiEpouxEstLePere(Zo\xE9 Noir, Jean Noir)",
+                        "DecesParentAvantNaissanceEnfant"});
     CHECK(UnionDe(base, mort, anne) == NoMariage{1});
     CHECK(ParentsDe(zoe) == "5 2");
 }
@@ -187,7 +199,8 @@ TEST_CASE_FIXTURE(
     Parents(zoe, paul, {});
     Repondre({Non, Non});
     CHECK(ParentCree(session, luc, 'F', mere));
-    CHECK(Dit() == Dits{"639(Paul Noir)", "636", "608(Zo\xE9 Noir, Eve Vert)"});
+    CHECK(Dit() == Dits{"ProposerCreerUnion(Paul Noir)", "DecesParentAvantNaissanceEnfant",
+                        "DemanderSiEpouseEstLaMere(Zo\xE9 Noir, Eve Vert)"});
     CHECK(ParentsDe(luc) == "1 5");
     CHECK(ParentsDe(zoe) == "1 0");
 }
@@ -201,7 +214,7 @@ TEST_CASE_FIXTURE(Famille, "AvertirDeces: empty years on either side give no war
     CHECK(Dit().empty());
     base.R_DECES.EcrireCellule(anne, "1849");
     AvertirDeces(session, anne, luc);
-    CHECK(Dit() == Dits{"636"});
+    CHECK(Dit() == Dits{"DecesParentAvantNaissanceEnfant"});
 }
 
 TEST_CASE_FIXTURE(Famille, "RetirerParent: asks, names the loss, and writes both sides") {
@@ -210,9 +223,9 @@ TEST_CASE_FIXTURE(Famille, "RetirerParent: asks, names the loss, and writes both
         Repondre({Non});
         CHECK_FALSE(RetirerParent(session, luc, 'H'));
         CHECK(dialogue.questions[0].defaut == Non);
-        CHECK(dialogue.titres[0] == shell::Msg(618));
+        CHECK(dialogue.titres[0] == shell::Msg(message::TitreSuppression));
         CHECK(ParentsDe(luc) == "1 2");
-        CHECK(Dit() == Dits{"2804(Paul Noir, Luc Noir)+617"});
+        CHECK(Dit() == Dits{"ConfirmerRetirerPere(Paul Noir, Luc Noir)+ConfirmerSuppression"});
     }
     SUBCASE("yes") {
         Repondre({Oui});
@@ -220,7 +233,7 @@ TEST_CASE_FIXTURE(Famille, "RetirerParent: asks, names the loss, and writes both
         CHECK(ParentsDe(luc) == "1 0");
         CHECK(EnfantsDe(anne).empty());
         CHECK(EnfantsDe(paul) == std::vector{luc});
-        CHECK(Dit() == Dits{"2805(Anne Blanc, Luc Noir)+617"});
+        CHECK(Dit() == Dits{"ConfirmerRetirerMere(Anne Blanc, Luc Noir)+ConfirmerSuppression"});
     }
     SUBCASE("nobody there") {
         CHECK_FALSE(RetirerParent(session, zoe, 'F'));
@@ -247,7 +260,7 @@ TEST_CASE_FIXTURE(Famille,
         CHECK(EnfantsDe(anne) == std::vector{luc});
         CHECK(EnfantsDe(jean) == std::vector{luc});
     }
-    CHECK(Dit() == Dits{"628(Luc Noir)+629"});
+    CHECK(Dit() == Dits{"ConfirmerRemplacerParent(Luc Noir)+ConfirmerOperation"});
 }
 
 TEST_CASE_FIXTURE(Famille, "AttacherEnfant: partners are offered as other parent until a yes") {
@@ -258,19 +271,20 @@ TEST_CASE_FIXTURE(Famille, "AttacherEnfant: partners are offered as other parent
     SUBCASE("the first") {
         Repondre({Oui});
         CHECK(AttacherEnfant(session, paul, luc));
-        CHECK(Dit() == Dits{"608(Luc Noir, Anne Blanc)"});
+        CHECK(Dit() == Dits{"DemanderSiEpouseEstLaMere(Luc Noir, Anne Blanc)"});
         CHECK(ParentsDe(luc) == "1 2");
     }
     SUBCASE("none of them, each asked for once") {
         Repondre({Non, Non});
         CHECK(AttacherEnfant(session, paul, luc));
-        CHECK(Dit() == Dits{"608(Luc Noir, Anne Blanc)", "608(Luc Noir, Rose Roux)"});
+        CHECK(Dit() == Dits{"DemanderSiEpouseEstLaMere(Luc Noir, Anne Blanc)",
+                            "DemanderSiEpouseEstLaMere(Luc Noir, Rose Roux)"});
         CHECK(ParentsDe(luc) == "1 0");
     }
     SUBCASE("to a mother, husbands are") {
         Repondre({Oui});
         CHECK(AttacherEnfant(session, rose, luc));
-        CHECK(Dit() == Dits{"609(Luc Noir, Paul Noir)"});
+        CHECK(Dit() == Dits{"DemanderSiEpouxEstLePere(Luc Noir, Paul Noir)"});
         CHECK(ParentsDe(luc) == "1 5");
     }
 }
@@ -281,8 +295,9 @@ TEST_CASE_FIXTURE(
     CHECK_FALSE(AttacherEnfant(session, luc, luc));
     CHECK_FALSE(AttacherEnfant(session, luc, paul));
     CHECK_FALSE(AttacherEnfant(session, paul, luc));
-    CHECK(Dit() == Dits{"2800(Luc Noir, Luc Noir)", "2801(Luc Noir, Paul Noir)",
-                        "2806(Luc Noir, Paul Noir)"});
+    CHECK(Dit() == Dits{"PropreParent(Luc Noir, Luc Noir)",
+                        "ParentDescendDeLEnfant(Luc Noir, Paul Noir)",
+                        "InfoDejaEnfant(Luc Noir, Paul Noir)"});
     CHECK(EnfantsDe(paul) == std::vector{luc});
 }
 
@@ -303,7 +318,9 @@ TEST_CASE_FIXTURE(Famille, "Who is of no known sex is given no child") {
         CHECK_FALSE(AttacherEnfant(session, n, luc));
         CHECK_FALSE(EnfantCree(session, n, luc, {}));
     }
-    CHECK(Dit() == Dits{"640", "640", "640", "640", "640", "640"});
+    CHECK(Dit() == Dits{"SexeRequisPourRattacherEnfant", "SexeRequisPourRattacherEnfant",
+                        "SexeRequisPourRattacherEnfant", "SexeRequisPourRattacherEnfant",
+                        "SexeRequisPourRattacherEnfant", "SexeRequisPourRattacherEnfant"});
     CHECK_FALSE(base.marques.ModifBase);
 }
 
@@ -327,11 +344,11 @@ TEST_CASE_FIXTURE(Famille,
     base.R_DECES.EcrireCellule(paul, "1840");
     CHECK(EnfantCree(session, paul, luc, {}));
     CHECK(ParentsDe(luc) == "1 0");
-    CHECK(Dit() == Dits{"636"});
+    CHECK(Dit() == Dits{"DecesParentAvantNaissanceEnfant"});
     base.R_DECES.EcrireCellule(anne, "1841");
     CHECK(EnfantCree(session, anne, zoe, Marier(paul, anne)));
     CHECK(ParentsDe(zoe) == "1 2");
-    CHECK(Dit() == Dits{"636", "636"});
+    CHECK(Dit() == Dits{"DecesParentAvantNaissanceEnfant", "DecesParentAvantNaissanceEnfant"});
 }
 
 TEST_CASE_FIXTURE(Famille, "RetirerEnfant: the cell of that parent alone, after a question") {
@@ -347,8 +364,9 @@ TEST_CASE_FIXTURE(Famille, "RetirerEnfant: the cell of that parent alone, after 
     CHECK(RetirerEnfant(session, anne, luc));
     CHECK(ParentsDe(luc) == "0 0");
     CHECK_FALSE(RetirerEnfant(session, anne, luc));
-    CHECK(Dit() == Dits{"2804(Paul Noir, Luc Noir)+617", "2804(Paul Noir, Luc Noir)+617",
-                        "2805(Anne Blanc, Luc Noir)+617"});
+    CHECK(Dit() == Dits{"ConfirmerRetirerPere(Paul Noir, Luc Noir)+ConfirmerSuppression",
+                        "ConfirmerRetirerPere(Paul Noir, Luc Noir)+ConfirmerSuppression",
+                        "ConfirmerRetirerMere(Anne Blanc, Luc Noir)+ConfirmerSuppression"});
 }
 
 TEST_CASE_FIXTURE(
@@ -359,7 +377,7 @@ TEST_CASE_FIXTURE(
     Repondre({Oui});
     CHECK(RetirerEnfant(session, paul, luc));
     CHECK(ParentsDe(luc) == "0 0");
-    CHECK(Dit() == Dits{"2804(Paul Noir, Luc Noir)+617"});
+    CHECK(Dit() == Dits{"ConfirmerRetirerPere(Paul Noir, Luc Noir)+ConfirmerSuppression"});
 }
 
 TEST_CASE_FIXTURE(Famille, "EstAscendant: ends on a base that goes in circles") {

@@ -1,6 +1,8 @@
 #include "records/Individus.h"
 
 #include "doublures/FicheEssai.h"
+#include "messages/Fiche.h"
+#include "messages/Messages.h"
 #include "records/Fiche.h"
 #include "records/NomsAffiches.h"
 #include "shell/Numerotation.h"
@@ -70,7 +72,7 @@ TEST_CASE_FIXTURE(Registre,
     const IssueFiche issue = CreerIndividu(session, fiche);
     CHECK(issue.etat == Etat::Ecrite);
     CHECK(issue.champ == Champ::AnneeNaissance);
-    CHECK(dialogue.entendu == Phrases{Msg(620)});
+    CHECK(dialogue.entendu == Phrases{Msg(message::InfoAnneeNaissanceVide)});
 }
 
 TEST_CASE_FIXTURE(Registre,
@@ -79,14 +81,15 @@ TEST_CASE_FIXTURE(Registre,
     IssueFiche issue = CreerIndividu(session, fiche);
     CHECK(issue.etat == Etat::Refusee);
     CHECK(issue.champ == Champ::Nom);
-    CHECK(dialogue.entendu == Phrases{Msg(621)});
+    CHECK(dialogue.entendu == Phrases{Msg(message::PersonneSansNomNiPrenom)});
     CHECK(B().entete.DernierIndividu == 0);
     CHECK_FALSE(fiche.individu);
     dialogue.entendu.clear();
 
     fiche.anneeNaissance.clear();
     issue = CreerIndividu(session, fiche);
-    CHECK(dialogue.entendu == Phrases{Msg(620), Msg(621)});
+    CHECK(dialogue.entendu ==
+          Phrases{Msg(message::InfoAnneeNaissanceVide), Msg(message::PersonneSansNomNiPrenom)});
     CHECK(issue.champ == Champ::Nom);
     // The third name alone is none.
     fiche.autrePrenom = "Jeannot";
@@ -98,7 +101,7 @@ TEST_CASE_FIXTURE(Registre, "CreerIndividu: the 64001st person is refused before
     B().FixerDernierIndividu(storage::MaxIndividus);
     SaisieFiche fiche = Personne("", "", "");
     CHECK(CreerIndividu(session, fiche).etat == Etat::Refusee);
-    CHECK(dialogue.entendu == Phrases{Msg(625)});
+    CHECK(dialogue.entendu == Phrases{Msg(message::MaximumPersonnesBaseAtteint)});
     CHECK(B().entete.DernierIndividu == storage::MaxIndividus);
 }
 
@@ -171,7 +174,7 @@ TEST_CASE_FIXTURE(Registre,
     const IssueFiche issue = CreerIndividu(session, fiche);
     CHECK(issue.etat == Etat::Refusee);
     CHECK(issue.champ == Champ::Prenom);
-    CHECK(dialogue.entendu == Phrases{Msg(2600, "1000", "Prénoms"_1252)});
+    CHECK(dialogue.entendu == Phrases{Msg(message::NomsEtDatesTropLongs, "1000", "Prénoms"_1252)});
     CHECK(B().entete.DernierIndividu == 0);
     // "Dupont;" and ";" are the eight other bytes.
     fiche.prenom.resize(992);
@@ -251,9 +254,9 @@ namespace {
 struct Suppression : Registre {
     NoOrdre jean = Creer(Personne("Dupont", "Jean", "1800"));
     NoOrdre anne = Creer(Personne("Martin", "Anne", "1802", 'F'));
-    shell::Phrase titre = Msg(618);
+    shell::Phrase titre = Msg(message::TitreSuppression);
 
-    void Refusee(std::uint32_t message) {
+    void Refusee(NoMessage message) {
         CHECK_FALSE(SupprimerIndividu(session, jean));
         CHECK(dialogue.entendu == Phrases{Msg(message)});
         CHECK(dialogue.titres == Phrases{titre});
@@ -268,25 +271,26 @@ struct Suppression : Registre {
 TEST_CASE_FIXTURE(Suppression, "SupprimerIndividu: what holds a person is told in its order") {
     // From the last test to the first: the one added last is the one that is told.
     B().R_MERE.EcrireCellule(jean, anne);
-    Refusee(616);
+    Refusee(message::SuppressionImpossibleMere);
     B().R_PERE.EcrireCellule(jean, anne);
-    Refusee(615);
+    Refusee(message::SuppressionImpossiblePere);
     B().R_LSTEVT.EcrireListe(jean, std::string("\0\1\0\0\0\0", 6));
-    Refusee(614);
+    Refusee(message::SuppressionImpossibleEvenements);
     B().R_LSTIMG.ModifierListe(jean, NoDocument{1}, 'A');
-    Refusee(613);
+    Refusee(message::SuppressionImpossibleDocuments);
     F().Lier(jean, anne, "GODP");
-    Refusee(612);
+    Refusee(message::SuppressionImpossibleLiens);
     F().Marier(jean, anne);
-    Refusee(611);
+    Refusee(message::SuppressionImpossibleUnion);
     B().R_ENFANT.ModifierListe(jean, anne, 'A');
-    Refusee(610);
+    Refusee(message::SuppressionImpossibleEnfants);
 }
 
 TEST_CASE_FIXTURE(Suppression,
                   "SupprimerIndividu: asks with the name, and a no leaves all as it is") {
     CHECK_FALSE(SupprimerIndividu(session, jean));
-    CHECK(dialogue.entendu == Phrases{{NoMessage{}, "Jean Dupont (o1800)", "", NoMessage{617}}});
+    CHECK(dialogue.entendu ==
+          Phrases{{NoMessage{}, "Jean Dupont (o1800)", "", message::ConfirmerSuppression}});
     CHECK(dialogue.titres == Phrases{titre});
     CHECK(dialogue.questions[0].defaut == shell::Reponse::Non);
     CHECK(Ordre() == std::vector{jean, anne});
@@ -324,7 +328,7 @@ TEST_CASE_FIXTURE(Suppression,
     dialogue.entendu.clear();
     CHECK(SupprimerIndividu(session, jean));
     REQUIRE(dialogue.entendu.size() == 2);
-    CHECK(dialogue.entendu[1] == Msg(619));
+    CHECK(dialogue.entendu[1] == Msg(message::InfoPlusAucunePersonne));
     CHECK_FALSE(session.PersonneEnCours);
     CHECK(Ordre().empty());
 }

@@ -1,5 +1,6 @@
 #include "records/Liens.h"
 
+#include "messages/Messages.h"
 #include "records/EssaiFamille.h"
 #include "records/Individus.h"
 #include "shell/Libelles.h"
@@ -29,7 +30,7 @@ TEST_CASE_FIXTURE(Famille, "AjouterLien: the same label stands on both sides") {
 
 TEST_CASE_FIXTURE(
     Famille, "AjouterLien: a known word is stored as its tag and shown in the language in use") {
-    const std::string parrain = session.Message(912);
+    const std::string parrain = session.Message(message::TagGODF);
     REQUIRE(!parrain.empty());
     const std::string tag = shell::TagDeLibelle(session.catalogue, parrain);
     REQUIRE(tag != parrain);
@@ -47,7 +48,8 @@ TEST_CASE_FIXTURE(
     CHECK_FALSE(AjouterLien(session, paul, luc, "  "));
     CHECK_FALSE(AjouterLien(session, paul, luc, std::string(50, 'x')));
     CHECK_FALSE(AjouterLien(session, anne, paul, "voisin"));
-    CHECK(Dit() == Dits{"2820(Paul Noir)", "2807", "631", "2823", "2821(Anne Blanc, Paul Noir)"});
+    CHECK(Dit() == Dits{"LienAvecSoiMeme(Paul Noir)", "PersonneAbsenteDeLaBase", "LibelleLienVide",
+                        "LibelleLienTropLong", "InfoDejaLies(Anne Blanc, Paul Noir)"});
     CHECK_FALSE(base.marques.ModifBase);
     CHECK(AjouterLien(session, paul, luc, std::string(49, 'x')));
     CHECK(AjouterLien(session, paul, anne, "ami"));
@@ -58,7 +60,7 @@ TEST_CASE_FIXTURE(Famille, "AjouterLien: a '#' does not cut the label") {
     CHECK(AjouterLien(session, paul, anne, "n#1"));
     CHECK(ListerLiens(session, anne) == Rangees{{1, paul, "n-1"}});
     CHECK_FALSE(AjouterLien(session, paul, anne, "n#1"));
-    CHECK(Dit() == Dits{"2821(Paul Noir, Anne Blanc)"});
+    CHECK(Dit() == Dits{"InfoDejaLies(Paul Noir, Anne Blanc)"});
 }
 
 TEST_CASE_FIXTURE(Famille, "AjouterLien: the side that an old base lacks is added") {
@@ -77,7 +79,8 @@ TEST_CASE_FIXTURE(Famille, "A 201st link, on either side, changes nothing") {
     base.marques.ModifBase = false;
     CHECK_FALSE(AjouterLien(session, paul, anne, "voisin"));
     CHECK_FALSE(AjouterLien(session, anne, paul, "voisin"));
-    CHECK(Dit() == Dits{"2822(Paul Noir)", "2822(Paul Noir)"});
+    CHECK(Dit() ==
+          Dits{"MaximumLiensPersonneAtteint(Paul Noir)", "MaximumLiensPersonneAtteint(Paul Noir)"});
     CHECK(ListerLiens(session, anne).empty());
     CHECK_FALSE(base.marques.ModifBase);
 }
@@ -105,7 +108,7 @@ TEST_CASE_FIXTURE(Famille, "PeutLier: two persons who are there, not one") {
     CHECK(PeutLier(session, paul, anne));
     CHECK_FALSE(PeutLier(session, paul, paul));
     CHECK_FALSE(PeutLier(session, NoOrdre{9}, anne));
-    CHECK(Dit() == Dits{"2820(Paul Noir)", "2807"});
+    CHECK(Dit() == Dits{"LienAvecSoiMeme(Paul Noir)", "PersonneAbsenteDeLaBase"});
 }
 
 TEST_CASE_FIXTURE(Famille,
@@ -119,7 +122,7 @@ TEST_CASE_FIXTURE(Famille,
     dialogue.pendant = nullptr;  // the sides differ from here on
     Repondre({Oui});
     CHECK(RetirerLien(session, paul, 1));
-    CHECK(Dit() == Dits{"2824(ami, Anne Blanc)+617"});
+    CHECK(Dit() == Dits{"ConfirmerSupprimerLien(ami, Anne Blanc)+ConfirmerSuppression"});
     CHECK(ListerLiens(session, paul).empty());
     CHECK(ListerLiens(session, anne) == Rangees{{1, paul, "voisin"}});
     base.R_LIEN.EcrireListe(anne, "");
@@ -133,7 +136,7 @@ TEST_CASE_FIXTURE(Famille,
     CHECK_FALSE(ChangerLien(session, paul, 1, "ami"));
     CHECK_FALSE(ChangerLien(session, paul, 3, "oncle"));
     CHECK_FALSE(ChangerLien(session, paul, 0, "oncle"));
-    CHECK(Dit() == Dits{"631", "2821(Paul Noir, Anne Blanc)"});
+    CHECK(Dit() == Dits{"LibelleLienVide", "InfoDejaLies(Paul Noir, Anne Blanc)"});
     CHECK(ListerLiens(session, paul) == Rangees{{1, anne, "voisin"}, {2, anne, "ami"}});
 }
 
@@ -148,5 +151,6 @@ TEST_CASE_FIXTURE(Famille, "RetirerLien: both entries go after a yes, none after
     CHECK(ListerLiens(session, paul) == Rangees{{1, anne, "ami"}});
     CHECK(ListerLiens(session, anne) == Rangees{{1, paul, "ami"}});
     CHECK_FALSE(RetirerLien(session, anne, 2));
-    CHECK(Dit() == Dits{"2824(voisin, Paul Noir)+617", "2824(voisin, Paul Noir)+617"});
+    CHECK(Dit() == Dits{"ConfirmerSupprimerLien(voisin, Paul Noir)+ConfirmerSuppression",
+                        "ConfirmerSupprimerLien(voisin, Paul Noir)+ConfirmerSuppression"});
 }

@@ -41,7 +41,7 @@ TEST_CASE_FIXTURE(Famille, "Separators count as blanks on both sides") {
     CHECK(recherche.Resultat() == Personnes{anne});
     CHECK(Chercher("annemarie"));
     CHECK(recherche.Resultat().empty());
-    CHECK(Dit() == Dits{"551"});
+    CHECK(Dit() == Dits{"InfoAucunePersonneDeCeNom"});
 }
 
 TEST_CASE_FIXTURE(Famille, "Results stand by person number though the table stands by name") {
@@ -61,7 +61,7 @@ TEST_CASE_FIXTURE(
     // Nobody new: what is told is the same as when nobody was found.
     CHECK(Chercher("zola", true));
     CHECK(recherche.Resultat() == Personnes{nicolas, luc});
-    CHECK(Dit() == Dits{"551"});
+    CHECK(Dit() == Dits{"InfoAucunePersonneDeCeNom"});
     CHECK(Chercher("evrard"));
     CHECK(recherche.Resultat() == Personnes{anne});
 }
@@ -81,7 +81,7 @@ TEST_CASE_FIXTURE(Famille, "A person whose name was deleted is never seen") {
     CHECK(Chercher("zola"));
     CHECK(recherche.Resultat().empty());
     CHECK_FALSE(recherche.Ajouter(nicolas));
-    CHECK(Dit() == Dits{"551"});
+    CHECK(Dit() == Dits{"InfoAucunePersonneDeCeNom"});
 }
 
 TEST_CASE_FIXTURE(Famille, "An empty template gives empty names and no hit") {
@@ -89,7 +89,7 @@ TEST_CASE_FIXTURE(Famille, "An empty template gives empty names and no hit") {
     session.AppliquerReglages();
     CHECK(Chercher("a"));
     CHECK(recherche.Resultat().empty());
-    CHECK(Dit() == Dits{"551"});
+    CHECK(Dit() == Dits{"InfoAucunePersonneDeCeNom"});
 }
 
 TEST_CASE_FIXTURE(Famille,
@@ -140,13 +140,13 @@ TEST_CASE_FIXTURE(Famille, "No search begins while another job runs, nor without
     CHECK_FALSE(Chercher("zola"));
     progression.cadres = 0;
     CHECK(recherche.Resultat().empty());
-    CHECK(Dit() == Dits{"503"});
+    CHECK(Dit() == Dits{"OperationImpossible"});
     RechercheNoms sans{session};
     std::unique_ptr<storage::Base> gardee = std::move(session.base);
     dialogue.pendant = nullptr;
     CHECK_FALSE(Chercher("zola"));
     CHECK_FALSE(Chercher(""));
-    CHECK(Dit() == Dits{"503"});
+    CHECK(Dit() == Dits{"OperationImpossible"});
     CHECK_FALSE(sans.Commencer("zola", false));
     CHECK(sans.Total() == 0);
     CHECK_FALSE(sans.Continuer(10));
@@ -179,10 +179,10 @@ TEST_CASE_FIXTURE(Famille, "A relationship takes two persons and a base") {
     CHECK(PeutChercherParente(session, {nicolas, anne}));
     CHECK_FALSE(PeutChercherParente(session, {nicolas}));
     CHECK_FALSE(PeutChercherParente(session, {}));
-    CHECK(Dit() == Dits{"555", "555"});
+    CHECK(Dit() == Dits{"SelectionDeMoinsDeDeuxPersonnes", "SelectionDeMoinsDeDeuxPersonnes"});
     std::unique_ptr<storage::Base> gardee = std::move(session.base);
     dialogue.pendant = nullptr;
     CHECK_FALSE(PeutChercherParente(session, {nicolas, anne}));
-    CHECK(Dit() == Dits{"503"});
+    CHECK(Dit() == Dits{"OperationImpossible"});
     session.base = std::move(gardee);
 }

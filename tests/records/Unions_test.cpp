@@ -47,7 +47,8 @@ TEST_CASE_FIXTURE(Famille, "CreerUnion: children of both sides are asked for one
     Parents(complet, paul, Creer('F', "Roux", "Rose", "1830"));
     Repondre({Oui, Non});
     CHECK(CreerUnion(session, paul, anne) == NoMariage{1});
-    CHECK(Dit() == Dits{"608(Luc Noir, Anne Blanc)", "609(Eve Blanc, Paul Noir)"});
+    CHECK(Dit() == Dits{"DemanderSiEpouseEstLaMere(Luc Noir, Anne Blanc)",
+                        "DemanderSiEpouxEstLePere(Eve Blanc, Paul Noir)"});
     CHECK(ParentsDe(luc) == "1 2");
     CHECK(ParentsDe(zoe) == "0 2");
 }
@@ -58,7 +59,8 @@ TEST_CASE_FIXTURE(Famille,
     Parents(zoe, {}, anne);
     Repondre({Oui, Oui});
     CHECK(CreerUnion(session, anne, paul) == NoMariage{1});
-    CHECK(Dit() == Dits{"609(Eve Blanc, Paul Noir)", "608(Luc Noir, Anne Blanc)"});
+    CHECK(Dit() == Dits{"DemanderSiEpouxEstLePere(Eve Blanc, Paul Noir)",
+                        "DemanderSiEpouseEstLaMere(Luc Noir, Anne Blanc)"});
     CHECK(ParentsDe(luc) == "1 2");
     CHECK(ParentsDe(zoe) == "1 2");
 }
@@ -77,7 +79,8 @@ TEST_CASE_FIXTURE(Famille,
     CHECK_FALSE(PeutAvoirConjoint(session, camille, Provenance::Cherche));
     CHECK_FALSE(PeutAvoirConjoint(session, camille, Provenance::Cree));
     CHECK(CreerUnion(session, camille, paul) == NoMariage{});
-    CHECK(Dit() == Dits{"627", "634", "627"});
+    CHECK(Dit() == Dits{"SexeRequisPourChercherConjoint", "SexeRequisPourCreerConjoint",
+                        "SexeRequisPourChercherConjoint"});
     CHECK(base.entete.DernierMariage == 0);
 }
 
@@ -85,7 +88,8 @@ TEST_CASE_FIXTURE(Famille, "CreerUnion: oneself, one's own sex and nobody are re
     CHECK_FALSE(CreerUnion(session, paul, paul));
     CHECK_FALSE(CreerUnion(session, paul, luc));
     CHECK_FALSE(CreerUnion(session, paul, NoOrdre{77}));
-    CHECK(Dit() == Dits{"2810(Paul Noir)", "2811(Paul Noir, Luc Noir)", "2807"});
+    CHECK(Dit() == Dits{"PropreConjoint(Paul Noir)", "ConjointsDeMemeSexe(Paul Noir, Luc Noir)",
+                        "PersonneAbsenteDeLaBase"});
     CHECK(base.entete.DernierMariage == 0);
 }
 
@@ -102,7 +106,9 @@ TEST_CASE_FIXTURE(Famille, "A 201st union changes no cell and no counter") {
     CHECK_FALSE(PeutAvoirConjoint(session, paul, Provenance::Cree));
     CHECK_FALSE(CreerUnion(session, paul, anne));
     CHECK_FALSE(CreerUnion(session, anne, paul));
-    CHECK(Dit() == Dits{"2812(Paul Noir)", "2812(Paul Noir)", "2812(Paul Noir)"});
+    CHECK(Dit() == Dits{"MaximumUnionsPersonneAtteint(Paul Noir)",
+                        "MaximumUnionsPersonneAtteint(Paul Noir)",
+                        "MaximumUnionsPersonneAtteint(Paul Noir)"});
     CHECK(base.entete.DernierMariage == 200);
     CHECK(base.R_MARIAG.Elements(anne).empty());
     CHECK_FALSE(base.marques.ModifBase);
@@ -111,7 +117,7 @@ TEST_CASE_FIXTURE(Famille, "A 201st union changes no cell and no counter") {
 TEST_CASE_FIXTURE(Famille, "CreerUnion: a base with 64000 unions takes no more") {
     base.entete.DernierMariage = 64000;
     CHECK_FALSE(CreerUnion(session, paul, anne));
-    CHECK(Dit() == Dits{"2813"});
+    CHECK(Dit() == Dits{"MaximumUnionsBaseAtteint"});
     CHECK(base.R_MARIAG.Elements(paul).empty());
     base.entete.DernierMariage = 0;
 }
@@ -146,7 +152,7 @@ TEST_CASE_FIXTURE(Famille,
         // The number stays unused.
         CHECK(CreerUnion(session, paul, anne) == NoMariage{2});
     }
-    CHECK(Dit() == Dits{"2814(Paul Noir, Anne Blanc)+617"});
+    CHECK(Dit() == Dits{"ConfirmerSupprimerUnion(Paul Noir, Anne Blanc)+ConfirmerSuppression"});
 }
 
 TEST_CASE_FIXTURE(Famille, "RetirerUnion: a union with one partner, and none at all") {
@@ -154,7 +160,7 @@ TEST_CASE_FIXTURE(Famille, "RetirerUnion: a union with one partner, and none at 
     EcrireTexteMariage(session, m, "@Lyon");
     Repondre({Oui});
     CHECK(RetirerUnion(session, m));
-    CHECK(Dit() == Dits{"2815(Anne Blanc)+617"});
+    CHECK(Dit() == Dits{"ConfirmerSupprimerUnionSansConjoint(Anne Blanc)+ConfirmerSuppression"});
     CHECK_FALSE(RetirerUnion(session, {}));
     CHECK_FALSE(RetirerUnion(session, NoMariage{9}));
     CHECK(Dit().empty());

@@ -3,6 +3,8 @@
 #include "doublures/DialogueScript.h"
 #include "doublures/DossierTemporaire.h"
 #include "doublures/SessionEssai.h"
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
 #include "shell/CompilerCatalogue.h"
 
 #include <algorithm>
@@ -180,11 +182,11 @@ TEST_CASE("Catalogue: values take the place of &1 and &2, and are not searched t
                         .octets};
     Catalogue catalogue;
     catalogue.Ouvrir(memoire.Lecteur());
-    CHECK(catalogue.Composer(Msg(1, "Jean &2", "Marie")) ==
+    CHECK(catalogue.Composer(Msg(NoMessage{1}, "Jean &2", "Marie")) ==
           "Marie est-elle la m\xE8re de Jean &2 ?");
-    CHECK(catalogue.Composer(Msg(2, "x", "y")) == "100 & 3 &3 &");
+    CHECK(catalogue.Composer(Msg(NoMessage{2}, "x", "y")) == "100 & 3 &3 &");
     CHECK(catalogue.Composer(Litteral("tel &1 quel")) == "tel &1 quel");
-    Phrase double_ = Msg(2);
+    Phrase double_ = Msg(NoMessage{2});
     double_.suite = NoMessage{3};
     CHECK(catalogue.Composer(double_) == "100 & 3 &3 &\nS\xFBr ?");
 }
@@ -276,8 +278,8 @@ TEST_CASE("CompilerCatalogue: the program's own lists compile in French and Engl
         Memoire memoire{compile.octets};
         Catalogue catalogue;
         catalogue.Ouvrir(memoire.Lecteur());
-        CHECK(catalogue.Message(NoMessage{754}) ==
+        CHECK(catalogue.Message(message::TagBIRT) ==
               (colonne == std::string_view{"fr"} ? "Naissance" : "Birth"));
-        CHECK_FALSE(catalogue.Message(NoMessage{2400}).empty());
+        CHECK_FALSE(catalogue.Message(message::ReglagesAbimes).empty());
     }
 }

@@ -1,6 +1,8 @@
 #include "shell/CycleDeVie.h"
 
 #include "doublures/SessionEssai.h"
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
 #include "shell/Demarrage.h"
 #include "storage/Base.h"
 #include "values/Texte1252.h"
@@ -34,8 +36,8 @@ struct Bureau : SessionEssai {
         return n;
     }
     std::string NomDe(std::uint32_t n) { return session.base->R_NOM.NomDe(NoOrdre{n}); }
-    [[nodiscard]] std::uint32_t DernierMessage() const {
-        return dialogue.entendu.empty() ? 0 : dialogue.entendu.back().no.valeur;
+    [[nodiscard]] NoMessage DernierMessage() const {
+        return dialogue.entendu.empty() ? NoMessage{} : dialogue.entendu.back().no;
     }
     [[nodiscard]] std::vector<fs::path> Historique() const {
         return session.parametres.generaux.historique;
@@ -139,7 +141,7 @@ TEST_CASE_FIXTURE(Bureau,
                   "MnuNouveau: a place that cannot be written is told, and no base is open") {
     dialogue.fichiers.emplace_back(dossier / "absent" / "x.LGD");
     MnuNouveau(session);
-    CHECK(DernierMessage() == 2409);
+    CHECK(DernierMessage() == message::CreationBaseRefusee);
     CHECK_FALSE(session.BaseOuverte());
 }
 
@@ -190,7 +192,7 @@ TEST_CASE_FIXTURE(Bureau,
 TEST_CASE_FIXTURE(Bureau, "MnuOuvrir: a file that is no base is refused and left as it is") {
     EcrireFichier(dossier / "faux.LGD", "bonjour");
     MnuOuvrir(session, dossier / "faux.LGD");
-    CHECK(DernierMessage() == 2404);
+    CHECK(DernierMessage() == message::FichierPasUneBase);
     CHECK(dialogue.entendu.back().valeur.find("faux.LGD") != std::string::npos);
     CHECK_FALSE(session.BaseOuverte());
     CHECK(session.CheminBase.empty());
@@ -204,7 +206,7 @@ TEST_CASE_FIXTURE(Bureau, "MnuOuvrir: a base open elsewhere is refused with a me
     Demarrage(autre.session);
     MnuOuvrir(autre.session, famille);
     REQUIRE(autre.dialogue.entendu.size() == 1);
-    CHECK(autre.dialogue.entendu[0].no == NoMessage{2403});
+    CHECK(autre.dialogue.entendu[0].no == message::BaseOccupee);
     CHECK_FALSE(autre.session.BaseOuverte());
     MnuFermer(session);
     MnuOuvrir(autre.session, famille);
@@ -270,10 +272,12 @@ TEST_CASE_FIXTURE(Bureau,
     CHECK(session.parametres.magasin.Lire(famille.native(), "Personne en cours") == "1");
 }
 
-TEST_CASE_FIXTURE(Bureau, "Commands: while a long job runs each answers 503 and does nothing") {
+TEST_CASE_FIXTURE(
+    Bureau, "Commands: while a long job runs each is told to be impossible and does nothing") {
     Nouveau(famille);
     Creer("Martin");
-    const CadreProgression cadre{progression, Msg(774), Msg(775)};
+    const CadreProgression cadre{progression, Msg(message::TitreImportGedcom),
+                                 Msg(message::EtatPremiereLecture)};
     const std::size_t demandes = dialogue.demandesFichier.size();
     MnuNouveau(session);
     MnuOuvrir(session);
@@ -284,7 +288,7 @@ TEST_CASE_FIXTURE(Bureau, "Commands: while a long job runs each answers 503 and 
     MnuSauvegarde(session);
     MnuRestauration(session);
     CHECK_FALSE(ConfirmerSortie(session));
-    CHECK(dialogue.entendu == std::vector<Phrase>(9, Msg(503)));
+    CHECK(dialogue.entendu == std::vector<Phrase>(9, Msg(message::OperationImpossible)));
     CHECK(dialogue.demandesFichier.size() == demandes);
     CHECK(session.BaseOuverte());
     CHECK(session.base->marques.Modifie());
@@ -303,14 +307,15 @@ TEST_CASE_FIXTURE(Bureau, "Commands: a person sheet that the user keeps open sto
     CHECK(dialogue.entendu.empty());
 }
 
-TEST_CASE_FIXTURE(Bureau, "MnuSauvegarde: shows 41 without a question, copies, and opens again") {
+TEST_CASE_FIXTURE(Bureau,
+                  "MnuSauvegarde: says what it does, asks nothing, copies, and opens again") {
     Nouveau(famille);
     session.PersonneEnCours = Creer("Martin");
     session.deCujus[0].individu = NoOrdre{1};
     EcrireFichier(dossier / "Famille.SAV", "vieille copie");
     MnuSauvegarde(session);
     REQUIRE_FALSE(dialogue.annonces.empty());
-    CHECK(dialogue.annonces[0] == Msg(41));
+    CHECK(dialogue.annonces[0] == Msg(message::EtatSauvegardeEnCours));
     CHECK(dialogue.entendu.empty());
     REQUIRE(session.BaseOuverte());
     CHECK(session.PersonneEnCours == NoOrdre{1});
@@ -326,7 +331,7 @@ TEST_CASE_FIXTURE(Bureau, "MnuSauvegarde: a copy that fails leaves the base clos
     Creer("Martin");
     fs::create_directories(dossier / "Famille.SAV/obstacle");
     MnuSauvegarde(session);
-    CHECK(DernierMessage() == 2407);
+    CHECK(DernierMessage() == message::SauvegardeNonEcriteBaseFermee);
     CHECK_FALSE(session.BaseOuverte());
     CHECK(session.CheminBase.empty());
     CHECK_FALSE(fs::exists(dossier / "Famille.SAV.nouveau"));
@@ -357,10 +362,10 @@ TEST_CASE_FIXTURE(Bureau,
         CHECK(NomDe(1) == "Martin");
     }
     REQUIRE(dialogue.questions.size() == 1);
-    CHECK(dialogue.questions[0].texte == Msg(537));
-    CHECK(dialogue.questions[0].titre == Msg(538));
+    CHECK(dialogue.questions[0].texte == Msg(message::ConfirmerRemplacerBaseParSauvegarde));
+    CHECK(dialogue.questions[0].titre == Msg(message::TitreRemplacementBase));
     CHECK(dialogue.questions[0].defaut == Reponse::Non);
-    CHECK(dialogue.demandesFichier.back().titre == Msg(836));
+    CHECK(dialogue.demandesFichier.back().titre == Msg(message::TitreRestaurationSauvegarde));
 }
 
 TEST_CASE_FIXTURE(Bureau,
@@ -405,18 +410,18 @@ TEST_CASE_FIXTURE(Bureau, "MnuRestauration: what is no base never replaces one")
     dialogue.fichiers.emplace_back(dossier / "Famille.SAV");
     dialogue.reponses = {Reponse::Oui};
     MnuRestauration(session);
-    CHECK(DernierMessage() == 2404);
+    CHECK(DernierMessage() == message::FichierPasUneBase);
     CHECK(dialogue.questions.empty());
     CHECK(session.BaseOuverte());
     CHECK(LireFichier(famille) == avant);
 }
 
-TEST_CASE_FIXTURE(Bureau, "MnuHisto: a file that is gone gives 700 and stays in the list") {
+TEST_CASE_FIXTURE(Bureau, "MnuHisto: a file that is gone is told and stays in the list") {
     Nouveau(famille);
     MnuFermer(session);
     fs::remove(famille);
     MnuHisto(session, 0);
-    CHECK(dialogue.entendu == std::vector<Phrase>{Msg(700)});
+    CHECK(dialogue.entendu == std::vector<Phrase>{Msg(message::FichierDisparu)});
     CHECK(Historique() == std::vector<fs::path>{famille});
     MnuHisto(session, 3);
     MnuHisto(session, -1);
@@ -513,7 +518,7 @@ TEST_CASE_FIXTURE(Bureau,
     EcrireFichier(dossier / "config", "obstacle");
     Creer("Martin");
     CHECK(MnuEnregistrer(session));
-    CHECK(dialogue.entendu == std::vector<Phrase>{Msg(2402)});
+    CHECK(dialogue.entendu == std::vector<Phrase>{Msg(message::ReglagesNonEnregistres)});
     Creer("Bernard");
     CHECK(MnuEnregistrer(session));
     MnuFermer(session);

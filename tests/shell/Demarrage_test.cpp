@@ -1,6 +1,8 @@
 #include "shell/Demarrage.h"
 
 #include "doublures/SessionEssai.h"
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
 #include "shell/CycleDeVie.h"
 #include "storage/Base.h"
 #include "values/Texte1252.h"
@@ -29,7 +31,7 @@ void FaireBase(const fs::path& chemin) {
 
 TEST_CASE_FIXTURE(SessionEssai, "Demarrage: settings, catalogue, working folder and date order") {
     Demarrage(session);
-    CHECK(session.Message(754) == "Naissance");
+    CHECK(session.Message(message::TagBIRT) == "Naissance");
     CHECK(session.Travail() == dossier / "partage/Temp");
     CHECK(fs::is_empty(session.Travail()));
     CHECK(session.Ordre() == OrdreDate::JourMoisAnnee);
@@ -60,7 +62,7 @@ TEST_CASE_FIXTURE(SessionEssai, "Demarrage: when no working folder can be had th
     EcrireFichier(dossier / "partage/Temp", "obstacle");
     EcrireFichier(dossier / "cache", "obstacle");
     Demarrage(session);
-    CHECK(dialogue.entendu == std::vector<Phrase>{Msg(2413)});
+    CHECK(dialogue.entendu == std::vector<Phrase>{Msg(message::AucunDossierDeTravail)});
 }
 
 TEST_CASE_FIXTURE(SessionEssai, "Demarrage: the date order is the one of the settings") {
@@ -77,12 +79,12 @@ TEST_CASE_FIXTURE(SessionEssai,
     SUBCASE("French is there") {
         Demarrage(session);
         CHECK(session.parametres.generaux.langue == "Français");
-        CHECK(session.Message(754) == "Naissance");
+        CHECK(session.Message(message::TagBIRT) == "Naissance");
     }
     SUBCASE("nothing is there") {
         fs::remove(dossier / "partage/Français.mes");
         Demarrage(session);
-        CHECK(session.Message(754).empty());
+        CHECK(session.Message(message::TagBIRT).empty());
     }
     CHECK(dialogue.entendu.empty());
 }
@@ -91,10 +93,10 @@ TEST_CASE_FIXTURE(SessionEssai, "Demarrage: a damaged settings file is set aside
     EcrireFichier(dossier / "config/parametres.json", "{\"Defaut\": {");
     Demarrage(session);
     REQUIRE(dialogue.entendu.size() == 1);
-    CHECK(dialogue.entendu[0].no == NoMessage{2400});
+    CHECK(dialogue.entendu[0].no == message::ReglagesAbimes);
     CHECK(dialogue.entendu[0].valeur.find("parametres.json.abime") != std::string::npos);
     CHECK(LireFichier(dossier / "config/parametres.json.abime") == "{\"Defaut\": {");
-    CHECK(session.Message(754) == "Naissance");
+    CHECK(session.Message(message::TagBIRT) == "Naissance");
 }
 
 TEST_CASE_FIXTURE(SessionEssai,
@@ -137,13 +139,13 @@ TEST_CASE_FIXTURE(SessionEssai, "OuvrirFichierDepose: exchange and GEDCOM files 
     CHECK(importes == std::vector<fs::path>{dossier / "a.ged", dossier / "b.LGR"});
 }
 
-TEST_CASE_FIXTURE(SessionEssai, "ConfirmerSortie: only yes to 21 ends the program") {
+TEST_CASE_FIXTURE(SessionEssai, "ConfirmerSortie: only a yes ends the program") {
     Demarrage(session);
     CHECK_FALSE(ConfirmerSortie(session));
     dialogue.reponses = {Reponse::Non, Reponse::Oui};
     CHECK_FALSE(ConfirmerSortie(session));
     CHECK(ConfirmerSortie(session));
-    CHECK(dialogue.entendu == std::vector<Phrase>(3, Msg(21)));
+    CHECK(dialogue.entendu == std::vector<Phrase>(3, Msg(message::ConfirmerQuitterDorvane)));
     CHECK(ecran.fermeturesFiche == 3);
 }
 
@@ -180,7 +182,7 @@ TEST_CASE_FIXTURE(SessionEssai,
     CHECK(langues[1].libelle == "Français");
     CHECK(langues[1].courante);
     CHECK(ChoisirLangue(session, "ENGLISH"));
-    CHECK(session.Message(754) == "Birth");
+    CHECK(session.Message(message::TagBIRT) == "Birth");
     CHECK(session.Mots().mois[7].mot == "August");
     CHECK(LanguesOffertes(session)[0].courante);
 }
@@ -188,10 +190,10 @@ TEST_CASE_FIXTURE(SessionEssai,
 TEST_CASE_FIXTURE(SessionEssai, "ChoisirLangue: the switch is saved at the end and found again") {
     Demarrage(session);
     CHECK_FALSE(ChoisirLangue(session, "Klingon"));
-    CHECK(session.Message(754) == "Naissance");
+    CHECK(session.Message(message::TagBIRT) == "Naissance");
     REQUIRE(ChoisirLangue(session, "English"));
     Arret(session);
     Session suivante{Lieux(), {dialogue, progression, horloge, ecran, disque}};
     Demarrage(suivante);
-    CHECK(suivante.Message(754) == "Birth");
+    CHECK(suivante.Message(message::TagBIRT) == "Birth");
 }

@@ -1,6 +1,7 @@
 #include "shell/Libelles.h"
 
 #include "doublures/SessionEssai.h"
+#include "messages/Messages.h"
 #include "values/Texte1252.h"
 
 #include <cstring>
@@ -81,7 +82,7 @@ TEST_CASE_FIXTURE(DeuxLangues,
         CHECK(LibelleDeTag(francais, retour) == LibelleDeTag(francais, rang.tag));
     }
     CHECK(TableTags().size() == 135);
-    CHECK(MessageDeTag("EVEN") == NoMessage{644});
+    CHECK(MessageDeTag("EVEN") == message::TagEVEN);
     CHECK(MessageDeTag("SPOU") == NoMessage{});
 }
 

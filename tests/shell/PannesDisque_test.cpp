@@ -2,6 +2,8 @@
 #include "doublures/DialogueScript.h"
 #include "doublures/DisqueMemoire.h"
 #include "doublures/SessionEssai.h"
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
 #include "storage/Base.h"
@@ -63,8 +65,8 @@ struct Fragile {
         return resultat.base->R_NOM.NomDe(NoOrdre{1}) + ' ' +
                std::to_string(resultat.base->entete.DernierIndividu);
     }
-    [[nodiscard]] std::uint32_t DernierMessage() const {
-        return dialogue.entendu.empty() ? 0 : dialogue.entendu.back().no.valeur;
+    [[nodiscard]] NoMessage DernierMessage() const {
+        return dialogue.entendu.empty() ? NoMessage{} : dialogue.entendu.back().no;
     }
 };
 
@@ -78,7 +80,7 @@ TEST_CASE("A commit refused at any operation is told, and the file is as before 
         Creer(*f.session.base, "Durand");
         f.Casser(storage::Panne::Plein, n);
         const bool fait = MnuEnregistrer(f.session);
-        if (!fait) CHECK(f.DernierMessage() == 2406);
+        if (!fait) CHECK(f.DernierMessage() == message::EnregistrementBaseEchoue);
         refus += fait ? 0 : 1;
         CHECK(f.Relire(f.chemin) == (fait ? "Martin 2" : "Martin 1"));
         CHECK(f.progression.sabliers == 0);
@@ -90,7 +92,7 @@ TEST_CASE_FIXTURE(Fragile, "A commit refused at the close: told, no base open, t
     Creer(*session.base, "Durand");
     Casser(storage::Panne::Plein);
     MnuFermer(session);
-    CHECK(DernierMessage() == 2406);
+    CHECK(DernierMessage() == message::EnregistrementBaseEchoue);
     CHECK_FALSE(session.BaseOuverte());
     CHECK(session.CheminBase.empty());
     CHECK(Relire(chemin) == "Martin 1");
@@ -104,7 +106,7 @@ TEST_CASE_FIXTURE(Fragile,
     CHECK(dialogue.entendu.empty());
     Casser(storage::Panne::Plein);
     Minuterie1(session);
-    CHECK(DernierMessage() == 2406);
+    CHECK(DernierMessage() == message::EnregistrementBaseEchoue);
     CHECK(session.compteurMinuterie == 0);
     CHECK(session.BaseOuverte());
     CHECK(Relire(chemin) == "Martin 1");
@@ -137,7 +139,9 @@ TEST_CASE("A backup refused at any operation never leaves a part of one") {
         const std::string copie = f.Relire(f.sauvegarde);
         CHECK((copie == "Martin 1" || copie == "Martin 2"));
         if (copiee) CHECK(copie == "Martin 2");
-        if (!copiee) CHECK((f.DernierMessage() == 2406 || f.DernierMessage() == 2407));
+        if (!copiee)
+            CHECK((f.DernierMessage() == message::EnregistrementBaseEchoue ||
+                   f.DernierMessage() == message::SauvegardeNonEcriteBaseFermee));
         const std::string base = f.Relire(f.chemin);
         CHECK((base == "Martin 1" || base == "Martin 2"));
     }
@@ -160,7 +164,7 @@ TEST_CASE("A restoration refused at any operation leaves the base that was there
         CHECK((base == "Martin 1" || base == "Martin 2"));
         if (base == "Martin 2") {
             ++refus;
-            CHECK(f.DernierMessage() == 2408);
+            CHECK(f.DernierMessage() == message::SauvegardeNonRecopiee);
             CHECK_FALSE(f.session.BaseOuverte());
         }
         CHECK(f.Relire(f.sauvegarde) == "Martin 1");
@@ -176,16 +180,16 @@ TEST_CASE_FIXTURE(Fragile,
     Session autre{lieux.Lieux(), {dialogue2, progression2, lieux.horloge, lieux.ecran, disque}};
     Demarrage(autre);
     CHECK_FALSE(OuvrirChemin(autre, chemin));
-    CHECK(dialogue2.entendu.back().no == NoMessage{2403});
+    CHECK(dialogue2.entendu.back().no == message::BaseOccupee);
     CHECK(autre.CheminBase.empty());
     MnuFermer(session);
     CHECK(OuvrirChemin(autre, chemin));
     CHECK(autre.base->R_NOM.NomDe(NoOrdre{1}) == "Martin");
 }
 
-TEST_CASE_FIXTURE(SessionEssai,
-                  "A death in mid-edit: the next opening shows the frame of 543 and 835 and gives "
-                  "the last commit") {
+TEST_CASE_FIXTURE(
+    SessionEssai,
+    "A death in mid-edit: the next opening shows that it goes back and gives the last commit") {
     const fs::path chemin = dossier / "famille.LGD";
     constexpr std::uint32_t Nombre = 2500;
     const pid_t fils = ::fork();
@@ -217,8 +221,8 @@ TEST_CASE_FIXTURE(SessionEssai,
     Demarrage(session, chemin);
     REQUIRE(session.BaseOuverte());
     REQUIRE_FALSE(progression.titres.empty());
-    CHECK(progression.titres.front().no == NoMessage{543});
-    CHECK(progression.textes.front().no == NoMessage{835});
+    CHECK(progression.titres.front().no == message::TitreRecuperationBase);
+    CHECK(progression.textes.front().no == message::EtatRetourEtatPrecedent);
     CHECK(progression.cadres == 0);
     CHECK_FALSE(fs::exists(dossier / "famille.LOG"));
     CHECK(session.base->entete.DernierIndividu == Nombre);

@@ -2,6 +2,8 @@
 
 #include "doublures/FamilleEssai.h"
 #include "doublures/SessionEssai.h"
+#include "messages/Messages.h"
+#include "messages/Reglages.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
 #include "storage/Base.h"
@@ -51,8 +53,10 @@ TEST_CASE_FIXTURE(Bureau, "ChangerTri: asks, sorts and keeps the order for the n
     CHECK(ChangerTri(session, '0'));
     CHECK(Ordre() == "123");
     REQUIRE(dialogue.entendu.size() == 2);
-    CHECK(dialogue.entendu[0] == Phrase{NoMessage{717}, {}, {}, NoMessage{629}});
-    CHECK(dialogue.entendu[1] == Phrase{NoMessage{716}, {}, {}, NoMessage{629}});
+    CHECK(dialogue.entendu[0] ==
+          Phrase{message::ConfirmerNouveauTri, {}, {}, message::ConfirmerOperation});
+    CHECK(dialogue.entendu[1] ==
+          Phrase{message::ConfirmerOrdreDeCreation, {}, {}, message::ConfirmerOperation});
     CHECK(session.base->marques.ModifBase);
 }
 
@@ -128,7 +132,7 @@ TEST_CASE_FIXTURE(Bureau,
         doublures::EcrireFichier(dossier / "fichier", "x");
         r.generaux.travail = dossier / "fichier/travail";
         CHECK(ValiderReglages(session, r) == ChampReglage::Travail);
-        CHECK(dialogue.entendu.back().no == NoMessage{3400});
+        CHECK(dialogue.entendu.back().no == message::DossierDeTravailImpossible);
         CHECK(session.parametres.generaux.frequenceSauvegarde == 15);
     }
     SUBCASE("a frequency out of reason") {

@@ -5,6 +5,9 @@
 #include "doublures/FamilleEssai.h"
 #include "doublures/SeanceEssai.h"
 #include "doublures/SessionEssai.h"
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
+#include "messages/Soin.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
 #include "shell/FichierSur.h"
@@ -69,8 +72,8 @@ TEST_CASE_FIXTURE(Bureau, "MnuReorganiser: asks for a copy first; no goes on, ca
         CHECK(ecran.fermetures > 0);
     }
     REQUIRE(dialogue.questions.size() == 1);
-    CHECK(dialogue.questions[0].texte == Msg(842));
-    CHECK(dialogue.questions[0].titre == Msg(545));
+    CHECK(dialogue.questions[0].texte == Msg(message::ProposerCopieAvantOperation));
+    CHECK(dialogue.questions[0].titre == Msg(message::TitreReorganisationBase));
     CHECK(dialogue.questions[0].boutons == Boutons::OuiNonAnnuler);
     REQUIRE(session.BaseOuverte());
     CHECK(Contenu() == contenu);
@@ -82,7 +85,7 @@ TEST_CASE_FIXTURE(Bureau, "MnuReorganiser: asks for a copy first; no goes on, ca
 TEST_CASE_FIXTURE(Bureau, "MnuReorganiser: a running job is told, and nothing is asked") {
     progression.Commencer({}, {});
     CHECK(MnuReorganiser(session) == IssueSoin::Abandonnee);
-    CHECK(dialogue.entendu == std::vector{Msg(503)});
+    CHECK(dialogue.entendu == std::vector{Msg(message::OperationImpossible)});
 }
 
 TEST_CASE_FIXTURE(Bureau, "MnuReorganiser: a sheet that stays open stops it before the question") {
@@ -143,7 +146,7 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: the size before and after is told, by
     };
     const std::string avant = dite();
     REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
-    CHECK(dialogue.annonces.back() == Msg(3904, dite(), avant));
+    CHECK(dialogue.annonces.back() == Msg(message::EtatReorganisationTerminee, dite(), avant));
 }
 
 TEST_CASE("Reorganisation: unions that are left out are told with their number") {
@@ -155,7 +158,7 @@ TEST_CASE("Reorganisation: unions that are left out are told with their number")
     famille.Marier({}, famille.Creer('F', "MARTIN", "Anne"));
     essai.dialogue.entendu.clear();
     REQUIRE(ReorganiserBase(essai.session, false) == IssueSoin::Faite);
-    CHECK(essai.dialogue.entendu == std::vector{Msg(3905, "1")});
+    CHECK(essai.dialogue.entendu == std::vector{Msg(message::UnionsSansEpouxAbandonnees, "1")});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: a leftover of an earlier one is overwritten") {
@@ -188,7 +191,8 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: two at a time in one folder are refus
     const storage::ResultatVerrou verrou = disque.Verrouiller(dossier / "Reorg.fic");
     const std::string avant = Octets();
     CHECK(ReorganiserBase(session, false) == IssueSoin::Refusee);
-    CHECK(dialogue.entendu == std::vector{Msg(3901, CheminAffiche(dossier / "Reorg.fic"))});
+    CHECK(dialogue.entendu == std::vector{Msg(message::ReorganisationDejaEnCours,
+                                              CheminAffiche(dossier / "Reorg.fic"))});
     CHECK(Octets() == avant);
     CHECK(session.BaseOuverte());
 }
@@ -197,7 +201,8 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: a new file that cannot be written is 
     const std::string avant = Octets();
     std::filesystem::create_directories(dossier / "Reorg.fic" / "plein");
     CHECK(ReorganiserBase(session, false) == IssueSoin::Refusee);
-    CHECK(dialogue.entendu == std::vector{Msg(3902, CheminAffiche(dossier / "Reorg.fic"))});
+    CHECK(dialogue.entendu ==
+          std::vector{Msg(message::NouveauFichierNonEcrit, CheminAffiche(dossier / "Reorg.fic"))});
     CHECK(Octets() == avant);
     CHECK(session.BaseOuverte());
 }
@@ -228,9 +233,9 @@ TEST_CASE_FIXTURE(Bureau,
     const NoOrdre anne = famille.Creer('F', "MARTIN", "Anne", "1825");
     const NoMariage m = famille.Marier(jean, anne, "1845");
     b.R_NOM.EcrireNom(jean, "DURAND;Jean;;vers;12 mars");
-    const std::string metier = session.Message(MessageDeTag("OCCU").valeur);
-    const std::string divorce = session.Message(MessageDeTag("DIV").valeur);
-    const std::string parrain = session.Message(MessageDeTag("GODF").valeur);
+    const std::string metier = session.Message(MessageDeTag("OCCU"));
+    const std::string divorce = session.Message(MessageDeTag("DIV"));
+    const std::string parrain = session.Message(MessageDeTag("GODF"));
     REQUIRE(metier != "OCCU");
     for (const auto& [k, libelle] : {std::pair{6U, metier}, {10U, divorce}}) {
         storage::MotCle type = b.motsCles.LibelleType(NoMotCle{k});
@@ -282,7 +287,7 @@ TEST_CASE_FIXTURE(Bureau,
 TEST_CASE("Reorganisation: a file of version 3.1 comes out current and neutral") {
     doublures::SessionEssai essai;
     Demarrage(essai.session);
-    const std::string metier = essai.session.Message(MessageDeTag("OCCU").valeur);
+    const std::string metier = essai.session.Message(MessageDeTag("OCCU"));
     storage::BaseAncienne ancienne{"[Dorvane Version 3.1]"};
     ancienne.Individus({{"DURAND;Jean;;vers;12 mars", "1820"}, {"MARTIN;Paul", "1850"}});
     ancienne.MotsCles({{'|', "BIRN"}, {'\\', metier}});
@@ -310,7 +315,8 @@ TEST_CASE_FIXTURE(Bureau,
     const std::string avant = Octets();
     std::filesystem::create_directories(dossier / "Famille.SAV" / "plein");
     CHECK(ReorganiserBase(session, true) == IssueSoin::Refusee);
-    CHECK(dialogue.entendu == std::vector{Msg(2407, CheminAffiche(dossier / "Famille.SAV"))});
+    CHECK(dialogue.entendu == std::vector{Msg(message::SauvegardeNonEcriteBaseFermee,
+                                              CheminAffiche(dossier / "Famille.SAV"))});
     CHECK(Octets() == avant);
 }
 
@@ -321,7 +327,7 @@ TEST_CASE_FIXTURE(Bureau,
     const storage::ResultatVerrou verrou = disque.Verrouiller(chemin);
     dialogue.entendu.clear();
     CHECK(ReecrireBase(session, chemin) == IssueSoin::Refusee);
-    CHECK(dialogue.entendu == std::vector{Msg(2403, CheminAffiche(chemin))});
+    CHECK(dialogue.entendu == std::vector{Msg(message::BaseOccupee, CheminAffiche(chemin))});
     CHECK(Octets() == avant);
     CHECK(Octets("Reorg.fic") == "absent");
 }

@@ -1,5 +1,6 @@
 #include "storage/ConstruireIndex.h"
 
+#include "messages/Noms.h"
 #include "storage/BureauIndex.h"
 
 #include <algorithm>
@@ -57,7 +58,7 @@ TEST_CASE_FIXTURE(Bureau, "ConstruireIndex: given up by the user it changes noth
     class Stop final : public Avancement {
     public:
         void Commencer(const TexteAvancement& titre, const TexteAvancement& texte) override {
-            vu = std::string{titre.litteral} + " " + std::to_string(texte.message.valeur);
+            vu = std::string{titre.litteral} + " " + std::string{message::Nom(texte.message)};
         }
         void Phase(const TexteAvancement& /*texte*/) override {}
         [[nodiscard]] bool Avancer(std::uint32_t /*fait*/, std::uint32_t /*total*/) override {
@@ -71,7 +72,7 @@ TEST_CASE_FIXTURE(Bureau, "ConstruireIndex: given up by the user it changes noth
     const std::uint32_t fin = base->volume.FinFichier();
     CHECK_FALSE(ConstruireIndex(*base, '|', stop));
     CHECK(base->volume.FinFichier() == fin);
-    CHECK(stop.vu == "BIRN 968");
+    CHECK(stop.vu == "BIRN EtatIndexation");
     CHECK(De(1).empty());
 }
 

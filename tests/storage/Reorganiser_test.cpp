@@ -2,7 +2,9 @@
 
 #include "doublures/ContenuBase.h"
 #include "doublures/FamilleEssai.h"
+#include "doublures/MessagesLisibles.h"
 #include "doublures/SeanceEssai.h"
+#include "messages/Soin.h"
 #include "storage/Essai.h"
 #include "storage/OctetsVivants.h"
 #include "values/Octets.h"
@@ -21,7 +23,7 @@ constexpr const char* Nouveau = "Reorg.fic";
 class AvancementEssai final : public Avancement {
 public:
     std::vector<std::string> phases;
-    std::vector<std::uint32_t> messages;
+    std::vector<NoMessage> messages;
     std::uint32_t pas = 0;
     std::uint32_t arret = 0;
     int cadres = 0;
@@ -30,7 +32,7 @@ public:
     }
     void Phase(const TexteAvancement& texte) override {
         phases.emplace_back(texte.litteral);
-        if (texte.message) messages.push_back(texte.message.valeur);
+        if (texte.message) messages.push_back(texte.message);
     }
     [[nodiscard]] bool Avancer(std::uint32_t /*fait*/, std::uint32_t /*total*/) override {
         return ++pas != arret;
@@ -158,7 +160,7 @@ TEST_CASE_FIXTURE(Bureau,
     BilanReorganisation bilan;
     const std::string octets = Reorganiser(&bilan);
     CHECK(bilan.unionsSansEpoux == 1);
-    CHECK(avancement.messages == std::vector<std::uint32_t>{3900});
+    CHECK(avancement.messages == std::vector{message::EtatUnionsSansEpoux});
     CHECK(octets.find("Brest") == std::string::npos);
     CHECK(octets.find("BREST") == std::string::npos);
     const std::unique_ptr<Base> neuve = Ouvrir(octets);

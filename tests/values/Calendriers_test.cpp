@@ -1,5 +1,6 @@
 #include "values/Calendriers.h"
 
+#include "messages/Messages.h"
 #include "values/Texte1252.h"
 
 #include <array>
@@ -128,14 +129,14 @@ TEST_CASE("RepublicainVersGregorien: a result may stand past the last year of th
 }
 
 TEST_CASE("Calendriers: a day out of range is refused first, then the month, then the year") {
-    CHECK(RepublicainVersGregorien({0, 0, 0}).refus == NoMessage{727});
-    CHECK(RepublicainVersGregorien({31, 1, 1}).refus == NoMessage{727});
-    CHECK(RepublicainVersGregorien({30, 14, 1}).refus == NoMessage{728});
-    CHECK(RepublicainVersGregorien({30, 13, 15}).refus == NoMessage{729});
-    CHECK(GregorienVersRepublicain({32, 1, 1}).refus == NoMessage{726});
-    CHECK(GregorienVersRepublicain({-1, 1, 1}).refus == NoMessage{726});
-    CHECK(GregorienVersRepublicain({31, 13, 1}).refus == NoMessage{728});
-    CHECK(GregorienVersRepublicain({31, 12, 0}).refus == NoMessage{729});
+    CHECK(RepublicainVersGregorien({0, 0, 0}).refus == message::JourHorsDe1A30);
+    CHECK(RepublicainVersGregorien({31, 1, 1}).refus == message::JourHorsDe1A30);
+    CHECK(RepublicainVersGregorien({30, 14, 1}).refus == message::MoisNonChoisi);
+    CHECK(RepublicainVersGregorien({30, 13, 15}).refus == message::AnneeNonChoisie);
+    CHECK(GregorienVersRepublicain({32, 1, 1}).refus == message::JourHorsDe1A31);
+    CHECK(GregorienVersRepublicain({-1, 1, 1}).refus == message::JourHorsDe1A31);
+    CHECK(GregorienVersRepublicain({31, 13, 1}).refus == message::MoisNonChoisi);
+    CHECK(GregorienVersRepublicain({31, 12, 0}).refus == message::AnneeNonChoisie);
 }
 
 TEST_CASE("Calendriers: every entry of the lists gives a day and a month that exist") {

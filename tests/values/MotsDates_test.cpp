@@ -1,6 +1,7 @@
 #include "values/MotsDates.h"
 
 #include "doublures/MotsDeTest.h"
+#include "messages/Messages.h"
 
 #include <array>
 
@@ -52,7 +53,7 @@ TEST_CASE("CvtPremierDuMois: at the very end, in another case or inside a word i
 
 TEST_CASE("CvtPremierDuMois: a catalogue without the word, or with 1 for it, ends as well") {
     CHECK(CvtPremierDuMois("1er 1 mars", MotsDates{}) == "1er 1 mars");
-    const MotsDates mots = essais::MotsDeListe({{848, "1"}});
+    const MotsDates mots = essais::MotsDeListe({{message::PremierDuMois, "1"}});
     CHECK(CvtPremierDuMois("1 1 mars", mots) == "1 1 mars");
 }
 
@@ -233,7 +234,8 @@ TEST_CASE("CvtDateLocale: EST in any other form is the token") {
 }
 
 TEST_CASE("CvtDateLocale: a catalogue in capitals or without words ends as well") {
-    const MotsDates mots = essais::MotsDeListe({{732, "MARS"}, {832, "EST"}, {834, "AND"}});
+    const MotsDates mots = essais::MotsDeListe(
+        {{message::TagMAR, "MARS"}, {message::TagEST, "EST"}, {message::TagAND, "AND"}});
     CHECK(CvtDateLocale("EST MARCH MAR AND EST 1820", mots) == "EST MARS MARS AND EST 1820");
     CHECK(CvtDateLocale("ABT 12 MAR 1820", MotsDates{}) == " 12  1820");
 }

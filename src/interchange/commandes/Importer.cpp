@@ -2,6 +2,10 @@
 
 #include "interchange/gedcom/ImportGedcom.h"
 #include "interchange/lgr/ImportLgr.h"
+#include "messages/Dorvane.h"
+#include "messages/Echange.h"
+#include "messages/Messages.h"
+#include "messages/Releve.h"
 #include "shell/CycleDeVie.h"
 #include "shell/FichierSur.h"
 #include "storage/EnTete.h"
@@ -37,21 +41,24 @@ void Expliquer(shell::Session& session, IssueImport issue, const std::filesystem
         case IssueImport::Fait:
             return;
         case IssueImport::Illisible:
-            session.dialogue.Informer(shell::Msg(2240, NomAffichable(fichier)));
+            session.dialogue.Informer(
+                shell::Msg(message::FichierIllisible, NomAffichable(fichier)));
             return;
         case IssueImport::Inexploitable:
-            session.dialogue.Informer(EstGedcom(fichier)
-                                          ? shell::Litteral("Fichier GEDCOM inexploitable"_1252)
-                                          : shell::Msg(3804, NomAffichable(fichier.filename())));
+            session.dialogue.Informer(
+                EstGedcom(fichier)
+                    ? shell::Litteral("Fichier GEDCOM inexploitable"_1252)
+                    : shell::Msg(message::FichierPasUnEchange, NomAffichable(fichier.filename())));
             return;
         case IssueImport::Abandonne:
-            session.dialogue.Informer(shell::Msg(2241));
+            session.dialogue.Informer(shell::Msg(message::ImportAbandonne));
             return;
         case IssueImport::Occupee:
-            session.dialogue.Informer(shell::Msg(2403, NomAffichable(base)));
+            session.dialogue.Informer(shell::Msg(message::BaseOccupee, NomAffichable(base)));
             return;
         case IssueImport::Refuse:
-            session.dialogue.Informer(shell::Msg(2242, NomAffichable(base)));
+            session.dialogue.Informer(
+                shell::Msg(message::BaseImporteeNonEcrite, NomAffichable(base)));
             return;
     }
 }
@@ -62,11 +69,12 @@ void AvertirLimites(shell::Session& session, const RapportImport& rapport) {
         return rapport.Nombre(Constat::Limite, rapport.version.empty() ? gedcom : echange) > 0;
     };
     const bool echange = !rapport.version.empty();
-    if (depasse("INDI", "INDIVIDUS")) session.dialogue.Informer(shell::Msg(625));
+    if (depasse("INDI", "INDIVIDUS"))
+        session.dialogue.Informer(shell::Msg(message::MaximumPersonnesBaseAtteint));
     if (depasse("SOUR", "EVENEMENTS") && (echange || rapport.evenements >= storage::MaxEvenements))
-        session.dialogue.Informer(shell::Msg(709));
+        session.dialogue.Informer(shell::Msg(message::MaximumEvenementsBaseAtteint));
     if (depasse("NOTE", "IMAGES") && (echange || rapport.documents >= storage::MaxDocuments))
-        session.dialogue.Informer(shell::Msg(707));
+        session.dialogue.Informer(shell::Msg(message::MaximumDocumentsBaseAtteint));
 }
 
 /// Keeps the report of an import beside the other files of work.
@@ -77,15 +85,15 @@ void EnregistrerRapport(shell::Session& session, const std::filesystem::path& ba
     if (shell::EcrireTout(chemin, TexteVersUtf8(importation.texte)))
         importation.fichierRapport = chemin;
     else
-        session.dialogue.Informer(shell::Msg(2244));
+        session.dialogue.Informer(shell::Msg(message::FichierRapportNonEcrit));
 }
 
 bool PeutRemplacer(shell::Session& session, const std::filesystem::path& base) {
     std::error_code erreur;
     if (!std::filesystem::exists(base, erreur)) return true;
     shell::Question question;
-    question.texte = shell::Msg(536);
-    question.titre = shell::Msg(538);
+    question.texte = shell::Msg(message::ConfirmerRemplacerBaseParImport);
+    question.titre = shell::Msg(message::TitreRemplacementBase);
     question.defaut = shell::Reponse::Non;
     question.grave = true;
     return session.dialogue.Confirmer(question);
@@ -113,8 +121,9 @@ void ImporterEtOuvrir(shell::Session& session, const std::filesystem::path& fich
         return;
     }
     shell::MnuOuvrir(session, base);
-    session.dialogue.Annoncer(shell::Msg(2243, NomAffichable(base.filename())));
-    if (montrer) montrer(session.Message(titre.no.valeur), importation.texte);
+    session.dialogue.Annoncer(
+        shell::Msg(message::EtatImportTermine, NomAffichable(base.filename())));
+    if (montrer) montrer(session.Message(titre.no), importation.texte);
 }
 
 }  // namespace
@@ -145,7 +154,8 @@ Importation ImporterActesVers(shell::Session& session, const Releve& releve,
     importation.faite = issue == IssueImport::Fait;
     if (!importation.faite) return importation;
     if (releve.ligneSansSeparateur != 0)
-        session.dialogue.Informer(shell::Msg(4161, std::to_string(releve.ligneSansSeparateur)));
+        session.dialogue.Informer(shell::Msg(message::ImportReleveArreteSansSeparateur,
+                                             std::to_string(releve.ligneSansSeparateur)));
     importation.texte = ComposerRapport(importation.releve, releve, session);
     EnregistrerRapport(session, base, importation);
     return importation;
@@ -158,7 +168,7 @@ void ImporterFichier(shell::Session& session, const std::filesystem::path& fichi
     const auto importer = [&](const std::filesystem::path& base) {
         return ImporterVers(session, fichier, base);
     };
-    ImporterEtOuvrir(session, fichier, importer, shell::Msg(2246), montrer);
+    ImporterEtOuvrir(session, fichier, importer, shell::Msg(message::TitreRapportImport), montrer);
 }
 
 void ImporterActes(shell::Session& session, const Releve& releve,
@@ -166,14 +176,14 @@ void ImporterActes(shell::Session& session, const Releve& releve,
     const auto importer = [&](const std::filesystem::path& base) {
         return ImporterActesVers(session, releve, fichier, base);
     };
-    ImporterEtOuvrir(session, fichier, importer, shell::Msg(4181), montrer);
+    ImporterEtOuvrir(session, fichier, importer, shell::Msg(message::TitreImportReleve), montrer);
 }
 
 void MnuImporter(shell::Session& session, const MontrerRapport& montrer) {
     if (!shell::CommandePermise(session)) return;
     shell::DemandeFichier demande;
-    demande.titre = shell::Msg(774);
-    demande.filtre = session.Message(2245);
+    demande.titre = shell::Msg(message::TitreImportGedcom);
+    demande.filtre = session.Message(message::FiltreFichiersAImporter);
     demande.extension = ".ged";
     demande.depart = session.CheminGedcom;
     if (const auto fichier = session.dialogue.ChoisirFichier(demande))

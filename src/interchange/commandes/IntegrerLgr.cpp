@@ -4,6 +4,10 @@
 #include "interchange/lgr/LireLgr.h"
 #include "interchange/lgr/MotsClesLgr.h"
 #include "interchange/lgr/PoserLgr.h"
+#include "messages/Dorvane.h"
+#include "messages/Echange.h"
+#include "messages/Exporter.h"
+#include "messages/Messages.h"
 #include "shell/CycleDeVie.h"
 #include "shell/FichierSur.h"
 #include "shell/Parametres.h"
@@ -21,7 +25,7 @@ namespace {
 
 /// A kind of records that must fit behind those of the base.
 struct Besoin {
-    std::uint32_t message;  ///< told when they do not
+    NoMessage message;      ///< told when they do not
     std::uint32_t present;  ///< highest number of the base
     std::uint32_t apporte;  ///< highest number of the file
     std::uint32_t limite;
@@ -38,11 +42,14 @@ std::uint32_t DernierNumero(const std::vector<Record>& records) {
 bool TientDans(shell::Session& session, const ContenuLgr& contenu, const std::string& nom) {
     const storage::EnTete& e = session.base->entete;
     const Besoin besoins[] = {
-        {3805, e.DernierIndividu, DernierNumero(contenu.individus), storage::MaxIndividus},
-        {3806, e.DernierMariage, static_cast<std::uint32_t>(contenu.unions.size()),
-         session.base->R_EPOUX.Portee()},
-        {3807, e.DernierEvenement, DernierNumero(contenu.evenements), storage::MaxEvenements},
-        {3808, e.DernierDocument, DernierNumero(contenu.documents), storage::MaxDocuments}};
+        {message::IntegrationTropDePersonnes, e.DernierIndividu, DernierNumero(contenu.individus),
+         storage::MaxIndividus},
+        {message::IntegrationTropDUnions, e.DernierMariage,
+         static_cast<std::uint32_t>(contenu.unions.size()), session.base->R_EPOUX.Portee()},
+        {message::IntegrationTropDEvenements, e.DernierEvenement, DernierNumero(contenu.evenements),
+         storage::MaxEvenements},
+        {message::IntegrationTropDeDocuments, e.DernierDocument, DernierNumero(contenu.documents),
+         storage::MaxDocuments}};
     for (const Besoin& b : besoins)
         if (b.apporte > b.limite - std::min(b.present, b.limite)) {
             session.dialogue.Informer(shell::Msg(b.message, nom, std::to_string(b.limite)));
@@ -72,7 +79,7 @@ public:
     void Executer() {
         AjouterSlots(base_.entete.SlotsIndividu, contenu_.slotsIndividu);
         AjouterSlots(base_.entete.SlotsMariage, contenu_.slotsMariage);
-        const auto suivre = [this](std::uint32_t message, std::uint32_t nombre) {
+        const auto suivre = [this](NoMessage message, std::uint32_t nombre) {
             session_.progression.Phase(
                 shell::Litteral(session_.Message(message) + ' ' + std::to_string(nombre)));
             // Keeps the screen alive; the answer comes too late.
@@ -193,9 +200,12 @@ IssueIntegration Issue(IssueImport lecture) {
 }
 
 void Expliquer(shell::Session& session, IssueIntegration issue, const std::string& nom) {
-    if (issue == IssueIntegration::Illisible) session.dialogue.Informer(shell::Msg(2240, nom));
-    if (issue == IssueIntegration::PasUnEchange) session.dialogue.Informer(shell::Msg(3804, nom));
-    if (issue == IssueIntegration::Abandonnee) session.dialogue.Informer(shell::Msg(3810));
+    if (issue == IssueIntegration::Illisible)
+        session.dialogue.Informer(shell::Msg(message::FichierIllisible, nom));
+    if (issue == IssueIntegration::PasUnEchange)
+        session.dialogue.Informer(shell::Msg(message::FichierPasUnEchange, nom));
+    if (issue == IssueIntegration::Abandonnee)
+        session.dialogue.Informer(shell::Msg(message::InfoIntegrationAbandonnee));
 }
 
 /// Everything up to the first change of the base.
@@ -206,8 +216,8 @@ IssueIntegration Preparer(shell::Session& session, std::string& octets, ContenuL
     if (!TientDans(session, contenu, nom)) return IssueIntegration::TropGrande;
     if (!contenu.complet) {
         shell::Question question;
-        question.texte = shell::Msg(3809, nom);
-        question.titre = shell::Msg(3802);
+        question.texte = shell::Msg(message::ConfirmerIntegrerFichierIncomplet, nom);
+        question.titre = shell::Msg(message::TitreIntegration);
         question.defaut = shell::Reponse::Non;
         if (!session.dialogue.Confirmer(question)) return IssueIntegration::Abandonnee;
     }
@@ -226,15 +236,16 @@ Integration Integrer(shell::Session& session, const std::filesystem::path& fichi
     std::optional<std::string> octets = shell::LireTout(fichier);
     if (octets) {
         ContenuLgr contenu;
-        const shell::CadreProgression cadre{session.progression, shell::Msg(3802),
-                                            shell::Msg(3803)};
+        const shell::CadreProgression cadre{session.progression,
+                                            shell::Msg(message::TitreIntegration),
+                                            shell::Msg(message::EtatLectureFichier)};
         integration.issue = Preparer(session, *octets, contenu, integration.rapport, nom);
         if (integration.issue == IssueIntegration::Faite) {
             if (permettre && !permettre(contenu)) {
                 integration.issue = IssueIntegration::Abandonnee;
                 return integration;
             }
-            session.progression.Phase(shell::Msg(3812));
+            session.progression.Phase(shell::Msg(message::EtatEcritureBase));
             Ecriture{session, contenu, integration.rapport}.Executer();
         }
     }
@@ -245,20 +256,22 @@ Integration Integrer(shell::Session& session, const std::filesystem::path& fichi
 }
 
 std::string DireContenu(const shell::Session& session, const ContenuLgr& contenu) {
-    const auto dire = [&session](std::uint32_t message, std::size_t un, std::size_t deux) {
+    const auto dire = [&session](NoMessage message, std::size_t un, std::size_t deux) {
         return session.catalogue.Composer(
             shell::Msg(message, std::to_string(un), std::to_string(deux)));
     };
-    return dire(4241, contenu.individus.size(), contenu.unions.size()) + ", " +
-           dire(4242, contenu.evenements.size(), contenu.documents.size());
+    return dire(message::ContenuPersonnesUnions, contenu.individus.size(), contenu.unions.size()) +
+           ", " +
+           dire(message::ContenuEvenementsDocuments, contenu.evenements.size(),
+                contenu.documents.size());
 }
 
 /// Says what will be added, and that a copy is the only way back; the copy is made on a yes.
 bool Permettre(shell::Session& session, const ContenuLgr& contenu, const std::string& nom) {
     shell::Question question;
-    question.texte = shell::Msg(4240, nom, DireContenu(session, contenu));
-    question.texte.suite = NoMessage{842};
-    question.titre = shell::Msg(3802);
+    question.texte = shell::Msg(message::ConfirmerIntegration, nom, DireContenu(session, contenu));
+    question.texte.suite = message::ProposerCopieAvantOperation;
+    question.titre = shell::Msg(message::TitreIntegration);
     question.boutons = shell::Boutons::OuiNonAnnuler;
     question.grave = true;
     const shell::Reponse reponse = session.dialogue.Demander(question);
@@ -281,15 +294,15 @@ void IntegrerFichier(shell::Session& session, const std::filesystem::path& fichi
     });
     session.ecran.Actualiser();
     if (integration.issue != IssueIntegration::Faite) return;
-    session.dialogue.Annoncer(shell::Msg(3811, nom));
-    if (montrer) montrer(session.Message(3802), integration.texte);
+    session.dialogue.Annoncer(shell::Msg(message::EtatIntegrationTerminee, nom));
+    if (montrer) montrer(session.Message(message::TitreIntegration), integration.texte);
 }
 
 void MnuIntegrer(shell::Session& session, const MontrerRapport& montrer) {
     if (!session.BaseOuverte() || !shell::CommandePermise(session)) return;
     shell::DemandeFichier demande;
-    demande.titre = shell::Msg(3819);
-    demande.filtre = session.Message(3813);
+    demande.titre = shell::Msg(message::TitreIntegrerFichier);
+    demande.filtre = session.Message(message::FiltreExportDorvane);
     demande.extension = ".lgr";
     demande.depart = session.CheminEchange;
     if (const auto fichier = session.dialogue.ChoisirFichier(demande))

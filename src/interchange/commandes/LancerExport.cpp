@@ -3,6 +3,10 @@
 #include "interchange/gedcom/ExportGedcom.h"
 #include "interchange/lgr/EcrireLgr.h"
 #include "interchange/lgr/RedactionLgr.h"
+#include "messages/Echange.h"
+#include "messages/Export.h"
+#include "messages/Exporter.h"
+#include "messages/Messages.h"
 #include "shell/CycleDeVie.h"
 #include "shell/FichierSur.h"
 #include "shell/Session.h"
@@ -124,8 +128,9 @@ std::optional<fs::path> ChoisirFichier(shell::Session& session, FormatExport for
     const std::string extension = Extension(format);
     shell::DemandeFichier demande;
     demande.sorte = shell::DemandeFichier::Sorte::Enregistrer;
-    demande.titre = shell::Msg(4234);
-    demande.filtre = session.Message(format == FormatExport::Gedcom ? 4239 : 3813);
+    demande.titre = shell::Msg(message::TitreExporterDansUnFichier);
+    demande.filtre = session.Message(format == FormatExport::Gedcom ? message::FiltreExportGedcom
+                                                                    : message::FiltreExportDorvane);
     demande.extension = extension;
     demande.depart = DossierPropose(session) / session.CheminBase.stem();
     demande.depart += extension;
@@ -138,14 +143,16 @@ std::optional<fs::path> ChoisirFichier(shell::Session& session, FormatExport for
         autreNom = true;
     }
     if (EstDeLaBase(session, fichier)) {
-        session.dialogue.Informer(shell::Msg(4236, shell::CheminAffiche(fichier.filename())));
+        session.dialogue.Informer(
+            shell::Msg(message::FichierDeLaBaseOuverte, shell::CheminAffiche(fichier.filename())));
         return std::nullopt;
     }
     // The dialog has asked about the name that it knew.
     std::error_code erreur;
     if (autreNom && fs::exists(fichier, erreur)) {
         shell::Question question;
-        question.texte = shell::Msg(4235, shell::CheminAffiche(fichier.filename()));
+        question.texte =
+            shell::Msg(message::ConfirmerRemplacerExport, shell::CheminAffiche(fichier.filename()));
         question.defaut = shell::Reponse::Non;
         question.grave = true;
         if (!session.dialogue.Confirmer(question)) return std::nullopt;
@@ -195,28 +202,33 @@ Lancement Ecrire(shell::Session& session, const fs::path& fichier, const Demande
 /// What a stopped export leaves is of use to nobody who has not asked for it.
 void ProposerSuppression(shell::Session& session, const fs::path& partiel) {
     shell::Question question;
-    question.texte = shell::Msg(4237, shell::CheminAffiche(partiel));
+    question.texte =
+        shell::Msg(message::ConfirmerSupprimerExportPartiel, shell::CheminAffiche(partiel));
     question.defaut = shell::Reponse::Non;
     question.grave = true;
     if (!session.dialogue.Confirmer(question)) return;
     std::error_code erreur;
     if (!fs::remove(partiel, erreur))
-        session.dialogue.Informer(shell::Msg(4238, shell::CheminAffiche(partiel)));
+        session.dialogue.Informer(
+            shell::Msg(message::FichierNonSupprime, shell::CheminAffiche(partiel)));
 }
 
 void Dire(shell::Session& session, const Lancement& lancement, const fs::path& fichier) {
     switch (lancement.issue) {
         case IssueLancement::Fait:
-            session.dialogue.Informer(shell::Msg(652));
+            session.dialogue.Informer(shell::Msg(message::InfoExportTermine));
             if (lancement.perdus > 0)
-                session.dialogue.Informer(shell::Msg(3702, std::to_string(lancement.perdus)));
+                session.dialogue.Informer(shell::Msg(message::CaracteresPerdusALExport,
+                                                     std::to_string(lancement.perdus)));
             if (lancement.omis > 0)
-                session.dialogue.Informer(shell::Msg(4201, std::to_string(lancement.omis)));
+                session.dialogue.Informer(
+                    shell::Msg(message::UnionsEtEntreesOmises, std::to_string(lancement.omis)));
             return;
         case IssueLancement::Interrompu:
             return ProposerSuppression(session, shell::CheminPartiel(fichier));
         case IssueLancement::Echec:
-            session.dialogue.Informer(shell::Msg(3701, shell::CheminAffiche(fichier)));
+            session.dialogue.Informer(
+                shell::Msg(message::FichierNonEcrit, shell::CheminAffiche(fichier)));
             return;
         case IssueLancement::Refuse:
         case IssueLancement::Vide:
@@ -286,7 +298,7 @@ Lancement LancerExport(shell::Session& session, const DemandeExport& demande) {
     const SelectionExport selection = Selectionner(*session.base, demande);
     OptionsLgr options = Options(selection, demande);
     if (std::ranges::find(options.choisis, true) == options.choisis.end()) {
-        session.dialogue.Informer(shell::Msg(959));
+        session.dialogue.Informer(shell::Msg(message::ExportSansPersonneChoisie));
         return {.issue = IssueLancement::Vide};
     }
     const std::optional<fs::path> fichier = ChoisirFichier(session, demande.format);

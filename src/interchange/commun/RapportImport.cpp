@@ -1,5 +1,7 @@
 #include "interchange/commun/RapportImport.h"
 
+#include "messages/Dorvane.h"
+#include "messages/Echange.h"
 #include "shell/Session.h"
 #include "values/Texte1252.h"
 
@@ -8,8 +10,14 @@
 namespace dorvane::interchange {
 namespace {
 
-constexpr std::uint32_t PremierTitre = 2210;    ///< message of the first kind; the others follow
-constexpr std::uint32_t PremiereRaison = 2230;  ///< message of the first reason; the others follow
+/// By `Constat`.
+constexpr std::array<NoMessage, static_cast<std::size_t>(Constat::Nombre)> Titres{
+    message::TitreImportNonRepris,         message::TitreImportSansPlace,
+    message::TitreImportDansLaNote,        message::TitreImportRemplaces,
+    message::TitreImportReferencesPerdues, message::TitreImportDoublons,
+    message::TitreImportLimitesDeBase,     message::TitreImportLignesSansParent,
+    message::TitreImportLignesIllisibles,  message::TitreImportFamillesSansUnion};
+
 constexpr std::size_t LargeurLigne = 96;
 
 /// Line numbers, runs of them as "12-15", folded into lines of text.
@@ -34,10 +42,22 @@ std::string EcrireNumeros(const std::vector<std::uint32_t>& numeros) {
 }
 
 /// The message that tells why a set was taken; others where the file declares none.
-std::uint32_t RaisonEnClair(const ChoixDeJeu& choix) {
-    if (choix.declare.empty() && choix.raison == RaisonDuJeu::ContenuUtf8) return 2235;
-    if (choix.declare.empty() && choix.raison == RaisonDuJeu::Defaut) return 2236;
-    return PremiereRaison + static_cast<std::uint32_t>(choix.raison);
+NoMessage RaisonEnClair(const ChoixDeJeu& choix) {
+    const bool declare = !choix.declare.empty();
+    switch (choix.raison) {
+        case RaisonDuJeu::Marque:
+            return message::RapportJeuSelonMarque;
+        case RaisonDuJeu::Declare:
+            return message::RapportJeuDeclare;
+        case RaisonDuJeu::SansMarque16:
+            return message::RapportJeuSelonPremiersOctets;
+        case RaisonDuJeu::ContenuUtf8:
+            return declare ? message::RapportJeuSelonContenu
+                           : message::RapportJeuSelonContenuNonDeclare;
+        case RaisonDuJeu::Defaut:
+            break;
+    }
+    return declare ? message::RapportJeuParDefaut : message::RapportJeuParDefautNonDeclare;
 }
 
 /// Puts the lines of one report together.
@@ -45,11 +65,10 @@ class Redaction {
 public:
     explicit Redaction(const shell::Session& session) : session_{session} {}
 
-    void Ligne(std::uint32_t message, const std::string& valeur = {},
-               const std::string& valeur2 = {}) {
+    void Ligne(NoMessage message, const std::string& valeur = {}, const std::string& valeur2 = {}) {
         texte_ += session_.catalogue.Composer(shell::Msg(message, valeur, valeur2)) + '\n';
     }
-    void Compter(std::uint32_t message, std::size_t nombre) {
+    void Compter(NoMessage message, std::size_t nombre) {
         if (nombre > 0) Ligne(message, std::to_string(nombre));
     }
     void Sauter() { texte_ += '\n'; }
@@ -57,14 +76,14 @@ public:
     void Chapitre(Constat constat, const RapportImport::Mentions& mentions) {
         if (mentions.empty()) return;
         Sauter();
-        const std::string titre =
-            session_.Message(PremierTitre + static_cast<std::uint32_t>(constat));
+        const std::string titre = session_.Message(Titres[static_cast<std::size_t>(constat)]);
         texte_.append(titre).append(1, '\n').append(titre.size(), '-').append(1, '\n');
         for (const auto& [chemin, mention] : mentions) {
             texte_.append(chemin.empty() ? "?" : chemin).append(" : ");
             texte_ += std::to_string(mention.nombre) + '\n' + EcrireNumeros(mention.lignes);
             if (mention.nombre > mention.lignes.size())
-                Ligne(2206, std::to_string(mention.nombre - mention.lignes.size()));
+                Ligne(message::RapportEtAutresLignes,
+                      std::to_string(mention.nombre - mention.lignes.size()));
         }
     }
 
@@ -101,24 +120,27 @@ std::size_t RapportImport::Nombre(Constat constat, std::string_view chemin) cons
 std::string ComposerRapport(const RapportImport& rapport, const shell::Session& session,
                             std::string_view fichier) {
     Redaction redaction{session};
-    redaction.Ligne(2200, std::string{fichier});
+    redaction.Ligne(message::RapportImportDe, std::string{fichier});
     redaction.Sauter();
-    redaction.Ligne(2201, std::to_string(rapport.individus), std::to_string(rapport.unions));
-    redaction.Ligne(2202, std::to_string(rapport.evenements), std::to_string(rapport.documents));
-    redaction.Ligne(2203, std::to_string(rapport.lignes));
-    redaction.Compter(2204, rapport.lignesVides);
+    redaction.Ligne(message::RapportPersonnesUnions, std::to_string(rapport.individus),
+                    std::to_string(rapport.unions));
+    redaction.Ligne(message::RapportEvenementsDocuments, std::to_string(rapport.evenements),
+                    std::to_string(rapport.documents));
+    redaction.Ligne(message::RapportLignesLues, std::to_string(rapport.lignes));
+    redaction.Compter(message::RapportLignesVides, rapport.lignesVides);
     const bool echange = !rapport.version.empty();
-    if (!rapport.finTrouvee) redaction.Ligne(echange ? 3817 : 2205);
+    if (!rapport.finTrouvee)
+        redaction.Ligne(echange ? message::RapportFinManquante : message::GedcomSansLigneDeFin);
 
     redaction.Sauter();
     if (echange)
-        redaction.Ligne(3816, rapport.version);
+        redaction.Ligne(message::RapportVersionFichier, rapport.version);
     else
         redaction.Ligne(RaisonEnClair(rapport.jeu), std::string{NomDeJeu(rapport.jeu.jeu)},
                         rapport.jeu.declare);
-    redaction.Compter(2207, rapport.translitteres);
-    redaction.Compter(2208, rapport.perdus);
-    redaction.Compter(2209, rapport.octetsNuls);
+    redaction.Compter(message::RapportCaracteresApproches, rapport.translitteres);
+    redaction.Compter(message::RapportCaracteresPerdus, rapport.perdus);
+    redaction.Compter(message::RapportOctetsNuls, rapport.octetsNuls);
 
     bool rien = true;
     for (std::size_t i = 0; i < static_cast<std::size_t>(Constat::Nombre); ++i) {
@@ -128,7 +150,7 @@ std::string ComposerRapport(const RapportImport& rapport, const shell::Session& 
     }
     if (rien) {
         redaction.Sauter();
-        redaction.Ligne(2229);
+        redaction.Ligne(message::RapportToutRepris);
     }
     return redaction.Rendre();
 }

@@ -1,6 +1,8 @@
 #include "interchange/communes/GestionCommunes.h"
 
 #include "interchange/communes/LireListeCommunes.h"
+#include "messages/Communes.h"
+#include "messages/Messages.h"
 #include "shell/FichierSur.h"
 #include "shell/RelaisAvancement.h"
 #include "shell/Session.h"
@@ -95,9 +97,10 @@ bool GestionCommunes::Ouvrir() {
         Compter();
         return true;
     }
-    session_.dialogue.Informer(r.etat == storage::OuvertureCommunes::Absente
-                                   ? shell::Msg(742)
-                                   : shell::Msg(4000, shell::CheminAffiche(chemin)));
+    session_.dialogue.Informer(
+        r.etat == storage::OuvertureCommunes::Absente
+            ? shell::Msg(message::FichierCommunesIntrouvable)
+            : shell::Msg(message::FichierPasUneBaseDeCommunes, shell::CheminAffiche(chemin)));
     return false;
 }
 
@@ -144,7 +147,8 @@ bool GestionCommunes::Changer(const std::function<Essai()>& essai) {
         if (issue == Essai::Abandonne) return false;
         if (issue == Essai::Ailleurs) {
             static_cast<void>(Relire());
-            session_.dialogue.Informer(shell::Msg(4002, shell::CheminAffiche(chemin_)));
+            session_.dialogue.Informer(
+                shell::Msg(message::FichierCommunesChangeAilleurs, shell::CheminAffiche(chemin_)));
             return false;
         }
         if (!ProposerCopie()) return false;
@@ -157,8 +161,9 @@ bool GestionCommunes::ProposerCopie() {
     std::filesystem::path refuse = chemin_;
     if (chemin_.parent_path() == lieux.repertoire) {
         const std::filesystem::path copie = NomLibre(lieux.configuration, chemin_.filename());
-        if (!session_.dialogue.Confirmer(
-                shell::Msg(4012, shell::CheminAffiche(chemin_), shell::CheminAffiche(copie))))
+        if (!session_.dialogue.Confirmer(shell::Msg(message::ProposerCopieFichierCommunes,
+                                                    shell::CheminAffiche(chemin_),
+                                                    shell::CheminAffiche(copie))))
             return false;
         std::error_code erreur;
         std::filesystem::create_directories(lieux.configuration, erreur);
@@ -171,7 +176,8 @@ bool GestionCommunes::ProposerCopie() {
         }
         refuse = copie;
     }
-    session_.dialogue.Informer(shell::Msg(4001, shell::CheminAffiche(refuse)));
+    session_.dialogue.Informer(
+        shell::Msg(message::FichierCommunesNonEcrit, shell::CheminAffiche(refuse)));
     return false;
 }
 
@@ -189,15 +195,16 @@ GestionCommunes::Essai GestionCommunes::EcrireBase() {
 
 NoCommune GestionCommunes::Enregistrer(NoCommune n, const Commune& commune) {
     if (storage::NettoyerCommune(commune).nom.empty()) {
-        session_.dialogue.Informer(shell::Msg(4010));
+        session_.dialogue.Informer(shell::Msg(message::CommuneSansNom));
         return {};
     }
     if (storage::TropLongue(commune)) {
-        session_.dialogue.Informer(shell::Msg(4028));
+        session_.dialogue.Informer(shell::Msg(message::CommuneTropLongue));
         return {};
     }
     if (!n && base_->Nombre() >= BaseCommunes::MaxCommunes) {
-        session_.dialogue.Informer(shell::Msg(4011, std::to_string(BaseCommunes::MaxCommunes)));
+        session_.dialogue.Informer(
+            shell::Msg(message::BaseCommunesPleine, std::to_string(BaseCommunes::MaxCommunes)));
         return {};
     }
     NoCommune ecrite;
@@ -223,8 +230,9 @@ bool GestionCommunes::Supprimer(NoCommune n) {
                 ++rattachees;
     const std::string lieu = storage::TexteLieu(commune);
     shell::Question question;
-    question.texte = rattachees == 0 ? shell::Msg(4013, lieu)
-                                     : shell::Msg(4014, lieu, std::to_string(rattachees));
+    question.texte = rattachees == 0 ? shell::Msg(message::ConfirmerSupprimerCommune, lieu)
+                                     : shell::Msg(message::ConfirmerSupprimerCommuneDeRattachement,
+                                                  lieu, std::to_string(rattachees));
     question.defaut = shell::Reponse::Non;
     question.grave = true;
     if (!session_.dialogue.Confirmer(question)) return false;
@@ -244,7 +252,9 @@ bool GestionCommunes::Reorganiser() {
         if (base_->ReorganiserCommunes(relais)) return Essai::Fait;
         return relais.abandon ? Essai::Abandonne : Essai::Refuse;
     });
-    if (fait) session_.dialogue.Informer(shell::Msg(4015, avant, Kilos(chemin_)));
+    if (fait)
+        session_.dialogue.Informer(
+            shell::Msg(message::InfoBaseCommunesReorganisee, avant, Kilos(chemin_)));
     return fait;
 }
 
@@ -260,8 +270,8 @@ GestionCommunes::Essai GestionCommunes::Composer(const std::vector<Commune>& com
 
 bool GestionCommunes::ChargerListe(bool remplacer) {
     shell::DemandeFichier demande;
-    demande.titre = shell::Msg(4016);
-    demande.filtre = session_.Message(4025);
+    demande.titre = shell::Msg(message::TitreChoisirListeCommunes);
+    demande.filtre = session_.Message(message::FiltreListesCommunes);
     const auto fichier = session_.dialogue.ChoisirFichier(demande);
     if (!fichier) return false;
     const std::optional<ListeCommunes> liste = LireListeCommunes(session_.dialogue, *fichier);
@@ -269,12 +279,14 @@ bool GestionCommunes::ChargerListe(bool remplacer) {
     const std::string nom = shell::CheminAffiche(fichier->filename());
     // The counts are those of the file as it is now.
     if (!Relire()) {
-        session_.dialogue.Informer(shell::Msg(4000, shell::CheminAffiche(chemin_)));
+        session_.dialogue.Informer(
+            shell::Msg(message::FichierPasUneBaseDeCommunes, shell::CheminAffiche(chemin_)));
         return false;
     }
     if (remplacer && nombre_ != 0) {
         shell::Question question;
-        question.texte = shell::Msg(4017, std::to_string(nombre_), nom);
+        question.texte =
+            shell::Msg(message::ConfirmerRemplacerCommunesParListe, std::to_string(nombre_), nom);
         question.defaut = shell::Reponse::Non;
         question.grave = true;
         if (!session_.dialogue.Confirmer(question)) return false;
@@ -284,7 +296,8 @@ bool GestionCommunes::ChargerListe(bool remplacer) {
     if (!remplacer) {
         std::optional<std::vector<Commune>> toutes = base_->Toutes();
         if (!toutes) {
-            session_.dialogue.Informer(shell::Msg(4000, shell::CheminAffiche(chemin_)));
+            session_.dialogue.Informer(
+                shell::Msg(message::FichierPasUneBaseDeCommunes, shell::CheminAffiche(chemin_)));
             return false;
         }
         communes = std::move(*toutes);
@@ -295,22 +308,24 @@ bool GestionCommunes::ChargerListe(bool remplacer) {
     for (const Commune& commune : liste->communes)
         if (connues.insert(CleEntiere(commune)).second) communes.push_back(commune);
     if (communes.size() > BaseCommunes::MaxCommunes) {
-        session_.dialogue.Informer(shell::Msg(4011, std::to_string(BaseCommunes::MaxCommunes)));
+        session_.dialogue.Informer(
+            shell::Msg(message::BaseCommunesPleine, std::to_string(BaseCommunes::MaxCommunes)));
         return false;
     }
     if (!Changer([&] { return Composer(communes); })) return false;
 
     const std::size_t ajoutees = communes.size() - avant;
-    std::string bilan = session_.catalogue.Composer(shell::Msg(4018, std::to_string(ajoutees)));
-    const auto dire = [&](std::uint32_t no, std::size_t combien, const std::string& reste) {
+    std::string bilan = session_.catalogue.Composer(
+        shell::Msg(message::InfoCommunesAjoutees, std::to_string(ajoutees)));
+    const auto dire = [&](NoMessage no, std::size_t combien, const std::string& reste) {
         if (combien == 0) return;
         bilan.append(1, '\n').append(
             session_.catalogue.Composer(shell::Msg(no, std::to_string(combien), reste)));
     };
-    dire(4019, liste->communes.size() - ajoutees, {});
-    dire(4020, liste->sansNom.size(), Joindre(liste->sansNom));
-    dire(4027, liste->tropLongues.size(), Joindre(liste->tropLongues));
-    dire(4008, liste->remplaces, {});
+    dire(message::InfoCommunesDejaPresentes, liste->communes.size() - ajoutees, {});
+    dire(message::InfoLignesSansNom, liste->sansNom.size(), Joindre(liste->sansNom));
+    dire(message::InfoLignesTropLongues, liste->tropLongues.size(), Joindre(liste->tropLongues));
+    dire(message::ListeCommunesHorsJeuDeCaracteres, liste->remplaces, {});
     session_.dialogue.Informer(shell::Litteral(bilan));
     return true;
 }

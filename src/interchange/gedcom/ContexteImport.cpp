@@ -4,8 +4,8 @@
 
 namespace dorvane::interchange {
 
-const std::string& TextesImport::Message(std::uint32_t no) {
-    const auto [ou, nouveau] = messages_.try_emplace(no);
+const std::string& TextesImport::Message(NoMessage no) {
+    const auto [ou, nouveau] = messages_.try_emplace(no.valeur);
     if (nouveau) ou->second = session_.Message(no);
     return ou->second;
 }

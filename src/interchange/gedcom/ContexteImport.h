@@ -19,7 +19,7 @@ public:
     /// `session` outlives the object.
     explicit TextesImport(const shell::Session& session) : session_{session} {}
 
-    [[nodiscard]] const std::string& Message(std::uint32_t no);
+    [[nodiscard]] const std::string& Message(NoMessage no);
     /// Label of a tag in the language in use; the tag itself when it has none.
     [[nodiscard]] const std::string& Libelle(std::string_view etiquette);
     /// The tag of a label; a tag, and a text that is no label, come back as they stand.

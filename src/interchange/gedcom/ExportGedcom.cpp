@@ -1,6 +1,8 @@
 #include "interchange/gedcom/ExportGedcom.h"
 
 #include "interchange/gedcom/RedactionGedcom.h"
+#include "messages/Export.h"
+#include "messages/Messages.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 
@@ -21,7 +23,7 @@ bool Derouler(shell::Session& session, const std::string& titre, std::uint32_t t
     return true;
 }
 
-std::string Titre(const shell::Session& session, int phase, std::uint32_t message) {
+std::string Titre(const shell::Session& session, int phase, NoMessage message) {
     return "Phase " + std::to_string(phase) + " - " + session.Message(message);
 }
 
@@ -29,26 +31,29 @@ std::string Titre(const shell::Session& session, int phase, std::uint32_t messag
 
 bool ComposerGedcom(shell::Session& session, const std::string& nomFichier,
                     const OptionsExport& options, std::string& octets, ComptesExport& comptes) {
-    const shell::CadreProgression cadre{session.progression, shell::Msg(3700),
+    const shell::CadreProgression cadre{session.progression, shell::Msg(message::TitreExportGedcom),
                                         shell::Litteral("Phase 1")};
     storage::Base& base = *session.base;
     storage::TablesTri& tri = base.R_TRI;
     RedactionGedcom redaction{session, options};
     redaction.EcrireEnTete(nomFichier);
-    const bool fait = Derouler(session, Titre(session, 2, 647), base.entete.NbTriIndividus,
+    const bool fait = Derouler(session, Titre(session, 2, message::EtatPersonnesExportees),
+                               base.entete.NbTriIndividus,
                                [&](std::uint32_t rang) {
                                    const NoOrdre n = tri.IndividuAuRang(rang);
                                    if (redaction.EstEcrit(n)) redaction.EcrireIndividu(n);
                                }) &&
-                      Derouler(session, Titre(session, 3, 649), redaction.NombreFamilles(),
+                      Derouler(session, Titre(session, 3, message::EtatUnionsExportees),
+                               redaction.NombreFamilles(),
                                [&](std::uint32_t famille) { redaction.EcrireFamille(famille); }) &&
-                      Derouler(session, Titre(session, 4, 651), base.entete.DernierEvenement,
+                      Derouler(session, Titre(session, 4, message::EtatEnregistrementsTraites),
+                               base.entete.DernierEvenement,
                                [&](std::uint32_t e) {
                                    if (redaction.EstEcrit(NoEvenement{e}))
                                        redaction.EcrireSource(NoEvenement{e});
                                }) &&
-                      Derouler(session, Titre(session, 5, 650), base.entete.DernierDocument,
-                               [&](std::uint32_t d) {
+                      Derouler(session, Titre(session, 5, message::EtatDocumentsExportes),
+                               base.entete.DernierDocument, [&](std::uint32_t d) {
                                    if (redaction.EstEcrit(NoDocument{d}))
                                        redaction.EcrireDocument(NoDocument{d});
                                });

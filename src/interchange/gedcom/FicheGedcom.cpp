@@ -1,12 +1,19 @@
 #include "interchange/gedcom/FicheGedcom.h"
 
+#include "messages/Messages.h"
 #include "values/Comparaison.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace dorvane::interchange {
 namespace {
+
+/// By the digit of a QUAY line.
+constexpr std::array<NoMessage, 4> Fiabilites{message::FiabiliteNulle, message::FiabiliteDouteuse,
+                                              message::FiabiliteSourceSecondaire,
+                                              message::FiabiliteSourceOriginale};
 
 /// Joins two pieces by a blank when both are there.
 void Joindre(std::string& texte, std::string_view suite, std::string_view separateur = " ") {
@@ -122,7 +129,7 @@ void FicheGedcom::OuvrirAutre(const LigneGedcom& ligne) {
     courantTient_ = false;
 }
 
-void FicheGedcom::AjouterTexte(std::uint32_t message, std::string_view valeur) {
+void FicheGedcom::AjouterTexte(NoMessage message, std::string_view valeur) {
     std::string& notes = Notes();
     notes += "\r\n";
     if (EnEvenement()) notes.append(libelle_).append(" - ");
@@ -270,12 +277,12 @@ bool FicheGedcom::LireAdresse(const LigneGedcom& ligne) {
 }
 
 bool FicheGedcom::LireAdoption(const LigneGedcom& ligne) {
-    const std::uint32_t qui = ligne.valeur == "HUSB"   ? 681
-                              : ligne.valeur == "WIFE" ? 683
-                              : ligne.valeur == "BOTH" ? 876
-                                                       : 0;
-    if (qui == 0) return false;
-    AjouterTexte(777, contexte_.textes.Message(qui));
+    const NoMessage qui = ligne.valeur == "HUSB"   ? message::TagFATH
+                          : ligne.valeur == "WIFE" ? message::TagMOTH
+                          : ligne.valeur == "BOTH" ? message::PereEtMere
+                                                   : NoMessage{};
+    if (!qui) return false;
+    AjouterTexte(message::TagADOP, contexte_.textes.Message(qui));
     return true;
 }
 
@@ -284,13 +291,14 @@ bool FicheGedcom::LireCitation(const LigneGedcom& ligne) {
     if (ligne.code == "QUAY"_tag) {
         const bool connue =
             ligne.valeur.size() == 1 && ligne.valeur[0] >= '0' && ligne.valeur[0] <= '3';
-        AjouterTexte(889, connue ? std::string_view{contexte_.textes.Message(
-                                       890U + static_cast<std::uint32_t>(ligne.valeur[0] - '0'))}
-                                 : ligne.valeur);
+        AjouterTexte(message::Fiabilite,
+                     connue ? std::string_view{contexte_.textes.Message(
+                                  Fiabilites[static_cast<std::size_t>(ligne.valeur[0] - '0')])}
+                            : ligne.valeur);
         return true;
     }
     AjouterSuite(" ");
-    AjouterSuite(contexte_.textes.Message(744));
+    AjouterSuite(contexte_.textes.Message(message::MotPage));
     AjouterSuite(" - ");
     AjouterSuite(ligne.valeur);
     return true;
@@ -300,7 +308,7 @@ bool FicheGedcom::LireCorpsDeSource(const LigneGedcom& ligne) {
     const CodeEtiquette parent = contexte_.pile.Parent();
     if (ligne.code == "TEXT"_tag) {
         if (parent != "SOUR"_tag && parent != "DATA"_tag) return false;
-        AjouterTexte(894, ligne.valeur);
+        AjouterTexte(message::Source, ligne.valeur);
         return true;
     }
     if (parent != "SOUR"_tag) return false;
@@ -326,34 +334,34 @@ bool FicheGedcom::LireSousLigne(const LigneGedcom& ligne) {
         case "TYPE"_tag:
             return LireType(ligne);
         case "AGNC"_tag:
-            AjouterTexte(877, ligne.valeur);
+            AjouterTexte(message::Autorite, ligne.valeur);
             return true;
         case "CAUS"_tag:
-            AjouterTexte(878, ligne.valeur);
+            AjouterTexte(message::Cause, ligne.valeur);
             return true;
         case "CHAN"_tag:
-            AjouterTexte(879, ligne.valeur);
+            AjouterTexte(message::Modification, ligne.valeur);
             return true;
         case "GODP"_tag:
-            AjouterTexte(805, ligne.valeur);
+            AjouterTexte(message::ParrainEtMarraine, ligne.valeur);
             return true;
         case "TEMP"_tag:
-            AjouterTexte(897, ligne.valeur);
+            AjouterTexte(message::Temple, ligne.valeur);
             return true;
         case "AUTH"_tag:
-            AjouterTexte(900, ligne.valeur);
+            AjouterTexte(message::TagAUTH, ligne.valeur);
             return true;
         case "CORP"_tag:
-            AjouterTexte(901, ligne.valeur);
+            AjouterTexte(message::Organisme, ligne.valeur);
             return true;
         case "PUBL"_tag:
-            AjouterTexte(905, ligne.valeur);
+            AjouterTexte(message::TagPUBL, ligne.valeur);
             return true;
         case "NAME"_tag:
-            AjouterTexte(865, ligne.valeur);
+            AjouterTexte(message::NomCite, ligne.valeur);
             return true;
         case "REFN"_tag:
-            AjouterTexte(646, ligne.valeur);
+            AjouterTexte(message::Document, ligne.valeur);
             return true;
         case "CEME"_tag:
             return EnEvenement() && (AjouterAuSlot(ligne, "BURP"), true);
@@ -389,17 +397,17 @@ void FicheGedcom::ComposerSuite(std::string& texte) const {
 }
 
 std::string TraduireAge(std::string_view age, TextesImport& textes) {
-    if (age == "CHILD") return textes.Message(750);
-    if (age == "INFANT") return textes.Message(872);
-    if (age == "STILLBORN") return textes.Message(873);
+    if (age == "CHILD") return textes.Message(message::TagCHIL);
+    if (age == "INFANT") return textes.Message(message::AgeNourrisson);
+    if (age == "STILLBORN") return textes.Message(message::AgeMortNe);
     std::string traduit;
     for (const char c : age) {
         if (c == 'y')
-            traduit += textes.Message(874);
+            traduit += textes.Message(message::AgeAns);
         else if (c == 'm')
-            traduit += textes.Message(866);
+            traduit += textes.Message(message::AgeMois);
         else if (c == 'd')
-            traduit += textes.Message(875);
+            traduit += textes.Message(message::AgeJours);
         else
             traduit += c;
     }

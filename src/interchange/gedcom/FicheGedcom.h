@@ -45,7 +45,7 @@ public:
 
     /// Adds a line "message: value" to the text, behind the label of the event that is open. What
     /// continues the value goes there too.
-    void AjouterTexte(std::uint32_t message, std::string_view valeur);
+    void AjouterTexte(NoMessage message, std::string_view valeur);
     /// Adds the value alone as a line of the text.
     void AjouterNote(std::string_view valeur);
     /// Adds the value as a line of the text behind the label of the event that is open, which there

@@ -2,6 +2,7 @@
 
 #include "interchange/commun/FaireBase.h"
 #include "interchange/gedcom/PassesImport.h"
+#include "messages/Messages.h"
 #include "shell/CycleDeVie.h"
 #include "shell/FichierSur.h"
 #include "shell/Parametres.h"
@@ -67,8 +68,10 @@ IssueImport ImporterTexte(shell::Session& session, std::string octets,
     if (!fin) return IssueImport::Inexploitable;
 
     EnTeteLu entete;
-    const IssueImport issue =
-        FaireBase(session, base, {shell::Msg(774), shell::Msg(775)}, [&](storage::Base& nouvelle) {
+    const IssueImport issue = FaireBase(
+        session, base,
+        {shell::Msg(message::TitreImportGedcom), shell::Msg(message::EtatPremiereLecture)},
+        [&](storage::Base& nouvelle) {
             PassesImport import{session, nouvelle, texte, *fin, rapport};
             const bool fini = import.Executer();
             entete = import.EnTete();

@@ -3,6 +3,7 @@
 #include "interchange/gedcom/DatesGedcom.h"
 #include "interchange/gedcom/NomGedcom.h"
 #include "interchange/gedcom/TitreDocument.h"
+#include "messages/Messages.h"
 #include "storage/Textes.h"
 #include "values/Comparaison.h"
 #include "values/Dates.h"
@@ -157,32 +158,32 @@ void LecteurAnnexes::LireDateDeSource(const LigneGedcom& ligne) {
 }
 
 bool LecteurAnnexes::LireTexte(const LigneGedcom& ligne, std::string& note) {
-    const auto ajouter = [&](std::uint32_t message) {
+    const auto ajouter = [&](NoMessage message) {
         AjouterLigne(note, contexte_.textes.Message(message) + ": " + std::string{ligne.valeur});
         Suivre(note);
         return true;
     };
     switch (ligne.code) {
         case "AUTH"_tag:
-            return ajouter(900);
+            return ajouter(message::TagAUTH);
         case "CORP"_tag:
-            return ajouter(901);
+            return ajouter(message::Organisme);
         case "PUBL"_tag:
-            return ajouter(905);
+            return ajouter(message::TagPUBL);
         case "AGNC"_tag:
-            return ajouter(877);
+            return ajouter(message::Autorite);
         case "CAUS"_tag:
-            return ajouter(878);
+            return ajouter(message::Cause);
         case "CHAN"_tag:
-            return ajouter(879);
+            return ajouter(message::Modification);
         case "GODP"_tag:
-            return ajouter(805);
+            return ajouter(message::ParrainEtMarraine);
         case "TEMP"_tag:
-            return ajouter(897);
+            return ajouter(message::Temple);
         case "NAME"_tag:
-            return ajouter(865);
+            return ajouter(message::NomCite);
         case "REFN"_tag:
-            return ajouter(646);
+            return ajouter(message::Document);
         case "DATE"_tag:
             if (contexte_.pile.Parent() != "CHAN"_tag) return false;
             note += ligne.valeur;

@@ -1,6 +1,7 @@
 #include "interchange/gedcom/LecteurFamille.h"
 
 #include "interchange/gedcom/NomGedcom.h"
+#include "messages/Messages.h"
 #include "storage/Textes.h"
 #include "values/Comparaison.h"
 #include "values/Texte1252.h"
@@ -104,10 +105,10 @@ void LecteurFamille::LireNiveau1(const LigneGedcom& ligne) {
             fiche_.OuvrirAutre(ligne);
             return;
         case "NCHI"_tag:
-            fiche_.AjouterTexte(793, ligne.valeur);
+            fiche_.AjouterTexte(message::NombreEnfants, ligne.valeur);
             return;
         case "RESI"_tag:
-            fiche_.AjouterTexte(801,
+            fiche_.AjouterTexte(message::TagRESI,
                                 ligne.valeur.empty() ? "" : "%" + BlancsEnPoints(ligne.valeur));
             return;
         default:
@@ -126,14 +127,14 @@ bool LecteurFamille::LireNote(const LigneGedcom& ligne) {
     if (contexte_.pile.Niveau() == 1)
         fiche_.AjouterNote(ligne.valeur);
     else
-        fiche_.AjouterTexte(646, ligne.valeur);
+        fiche_.AjouterTexte(message::Document, ligne.valeur);
     return true;
 }
 
 void LecteurFamille::LireSource(const LigneGedcom& ligne) {
     const std::string_view cle = CleDeReference(ligne.valeur);
     if (cle.empty()) {
-        fiche_.AjouterTexte(894, ligne.valeur);
+        fiche_.AjouterTexte(message::Source, ligne.valeur);
         return;
     }
     fiche_.Ignorer();
@@ -154,7 +155,7 @@ bool LecteurFamille::LireSousLigne(const LigneGedcom& ligne) {
             return fiche_.EnEvenement();
         case "AGE"_tag:
             if (parent != "HUSB"_tag && parent != "WIFE"_tag) return false;
-            fiche_.AjouterTexte(parent == "HUSB"_tag ? 907 : 908,
+            fiche_.AjouterTexte(parent == "HUSB"_tag ? message::AgeEpoux : message::AgeEpouse,
                                 TraduireAge(ligne.valeur, contexte_.textes));
             return true;
         case "ROLE"_tag:

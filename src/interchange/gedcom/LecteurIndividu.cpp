@@ -1,5 +1,6 @@
 #include "interchange/gedcom/LecteurIndividu.h"
 
+#include "messages/Messages.h"
 #include "storage/Textes.h"
 #include "values/Comparaison.h"
 
@@ -162,7 +163,7 @@ bool LecteurIndividu::LireTexte(const LigneGedcom& ligne) {
             return fiche_.LireSousLigne(ligne);
         case "ADDR"_tag:
         case "PHON"_tag:
-            fiche_.AjouterTexte(899, ligne.valeur);
+            fiche_.AjouterTexte(message::AdressePostale, ligne.valeur);
             return true;
         default:
             return false;
@@ -172,7 +173,7 @@ bool LecteurIndividu::LireTexte(const LigneGedcom& ligne) {
 void LecteurIndividu::LireNom(const LigneGedcom& ligne) {
     if (nomVu_) {
         contexte_.Noter(Constat::DansLaNote, ligne);
-        fiche_.AjouterTexte(865, ligne.valeur);
+        fiche_.AjouterTexte(message::NomCite, ligne.valeur);
         return;
     }
     nomVu_ = true;
@@ -181,7 +182,7 @@ void LecteurIndividu::LireNom(const LigneGedcom& ligne) {
     nom_ = LireNomGedcom(SansDoubleArobase(ligne.valeur), reglages_.prenomUnique);
     if (!nom_.entier) {
         contexte_.Noter(Constat::DansLaNote, ligne);
-        fiche_.AjouterTexte(865, ligne.valeur);
+        fiche_.AjouterTexte(message::NomCite, ligne.valeur);
     }
     if (std::max({nom_.nom.size(), nom_.prenom.size(), nom_.autres.size()}) > NomLePlusLong)
         contexte_.Noter(Constat::Remplace, ligne);
@@ -222,7 +223,7 @@ bool LecteurIndividu::LireNote(const LigneGedcom& ligne) {
     if (contexte_.pile.Niveau() == 1)
         fiche_.AjouterNote(ligne.valeur);
     else
-        fiche_.AjouterTexte(646, ligne.valeur);
+        fiche_.AjouterTexte(message::Document, ligne.valeur);
     return true;
 }
 
@@ -230,7 +231,7 @@ bool LecteurIndividu::LireSource(const LigneGedcom& ligne) {
     roleOuvert_ = false;
     derniereSource_ = CleDeReference(ligne.valeur);
     if (derniereSource_.empty()) {
-        fiche_.AjouterTexte(894, ligne.valeur);
+        fiche_.AjouterTexte(message::Source, ligne.valeur);
         return true;
     }
     fiche_.Ignorer();
@@ -242,13 +243,13 @@ bool LecteurIndividu::LireSource(const LigneGedcom& ligne) {
 bool LecteurIndividu::LireFiliation(const LigneGedcom& ligne) {
     if (contexte_.pile.Parent() != "FAMC"_tag) return false;
     const std::string_view v = ligne.valeur;
-    const std::uint32_t message = v == "adopted"   ? 886
-                                  : v == "birth"   ? 754
-                                  : v == "foster"  ? 887
-                                  : v == "sealing" ? 888
-                                                   : 0;
-    fiche_.AjouterTexte(885,
-                        message != 0 ? std::string_view{contexte_.textes.Message(message)} : v);
+    const NoMessage filiation = v == "adopted"   ? message::FiliationAdoptive
+                                : v == "birth"   ? message::TagBIRT
+                                : v == "foster"  ? message::FiliationFamilleAccueil
+                                : v == "sealing" ? message::FiliationScellement
+                                                 : NoMessage{};
+    fiche_.AjouterTexte(message::TagPEDI,
+                        filiation ? std::string_view{contexte_.textes.Message(filiation)} : v);
     return true;
 }
 

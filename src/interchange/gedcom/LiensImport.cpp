@@ -1,6 +1,7 @@
 #include "interchange/gedcom/LiensImport.h"
 
 #include "interchange/gedcom/NomGedcom.h"
+#include "messages/Messages.h"
 #include "values/Comparaison.h"
 #include "values/Octets.h"
 
@@ -78,7 +79,8 @@ void LiensImport::EcrireLiens(const ClesImport& cles) {
         const std::string* libelle;
         std::uint32_t ligne;
     };
-    const std::string parDefaut = contexte_.textes.Tag(contexte_.textes.Message(815));
+    const std::string parDefaut =
+        contexte_.textes.Tag(contexte_.textes.Message(message::RelationParDefaut));
     std::vector<Cote> cotes;
     for (const Lien& lien : liens_) {
         const NoOrdre autre{Resoudre(cles.individus, lien.cle, lien.ligne, "INDI.ASSO")};

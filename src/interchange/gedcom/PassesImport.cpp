@@ -2,6 +2,7 @@
 
 #include "interchange/commun/PhaseDImport.h"
 #include "interchange/gedcom/NomGedcom.h"
+#include "messages/Messages.h"
 #include "shell/Parametres.h"
 #include "storage/ConstruireIndex.h"
 #include "storage/Textes.h"
@@ -21,7 +22,7 @@ constexpr std::uint32_t PasDeProgression = 100;  ///< records between two steps 
 
 }  // namespace
 
-bool PassesImport::Avancer(std::size_t ou, std::uint32_t message, std::uint32_t nombre) {
+bool PassesImport::Avancer(std::size_t ou, NoMessage message, std::uint32_t nombre) {
     if (nombre != compteMontre_ && nombre % PasDeProgression == 0) {
         compteMontre_ = nombre;
         session_.progression.Phase(
@@ -142,8 +143,8 @@ void PassesImport::LireLigne(const LigneGedcom& ligne) {
 
 bool PassesImport::AvancerDUnEnregistrement(const LigneGedcom& ligne, std::size_t ou) {
     if (ligne.code == "NOTE"_tag || ligne.code == "TITL"_tag)
-        return Avancer(ou, 646, base_.entete.DernierDocument);
-    return Avancer(ou, 898, base_.entete.DernierIndividu);
+        return Avancer(ou, message::Document, base_.entete.DernierDocument);
+    return Avancer(ou, message::EtatPersonnesLues, base_.entete.DernierIndividu);
 }
 
 bool PassesImport::PremierePasse() {
@@ -191,7 +192,7 @@ void PassesImport::AjouterDescription() {
     const NoDocument d = base_.NouveauDocument();
     if (!d) return;
     storage::Document document;
-    document.titre = textes_.Message(967);
+    document.titre = textes_.Message(message::TitreDescriptionBase);
     document.note = storage::SansDiese(SansDoubleArobase(entete.note));
     base_.R_IMAGE.EcrireDoc(d, document);
 }
@@ -238,7 +239,7 @@ void PassesImport::VerifierFamilles() {
 }
 
 bool PassesImport::SecondePasse() {
-    session_.progression.Phase(shell::Msg(808));
+    session_.progression.Phase(shell::Msg(message::EtatSecondeLecture));
     LecteurFamille lecteur{contexte_, slotsMariage_, liens_, familles_, cles_};
     compteMontre_ = 0;
     std::uint64_t rang = 0;
@@ -247,7 +248,7 @@ bool PassesImport::SecondePasse() {
         LireFamille(lecteur, famille);
         if (lecteur.Terminer()) memoire_.AjouterUnion(lecteur.Texte());
         ReleverMembres(lecteur, ++rang);
-        if (!Avancer(famille.debut, 918, base_.entete.DernierMariage)) return false;
+        if (!Avancer(famille.debut, message::LibUnion, base_.entete.DernierMariage)) return false;
     }
     VerifierFamilles();
     familles_.Ecrire();
@@ -279,7 +280,8 @@ ReglesNoms PassesImport::Regles() const {
 
 bool PassesImport::Trier() {
     PhaseDImport avancement{session_.progression};
-    if (session_.parametres.generaux.triImport && session_.dialogue.Confirmer(shell::Msg(1079)))
+    if (session_.parametres.generaux.triImport &&
+        session_.dialogue.Confirmer(shell::Msg(message::ProposerTrierBaseImportee)))
         return base_.R_TRI.TrierIndividus(memoire_, avancement);
     // A table out of order would mislead every search by rank.
     if (!memoire_.EstTriee(base_.entete.TypeTri, Regles())) base_.entete.TypeTri = '0';

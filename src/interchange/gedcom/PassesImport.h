@@ -71,7 +71,7 @@ private:
     [[nodiscard]] bool Trier();
     [[nodiscard]] bool Indexer();
     /// Shows the count every 100, behind its message. False when the user has given up.
-    [[nodiscard]] bool Avancer(std::size_t ou, std::uint32_t message, std::uint32_t nombre);
+    [[nodiscard]] bool Avancer(std::size_t ou, NoMessage message, std::uint32_t nombre);
     [[nodiscard]] bool AvancerDUnEnregistrement(const LigneGedcom& ligne, std::size_t ou);
 
     shell::Session& session_;

@@ -1,6 +1,8 @@
 #include "interchange/lgr/EcrireLgr.h"
 
 #include "interchange/lgr/RedactionLgr.h"
+#include "messages/Echange.h"
+#include "messages/Messages.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 
@@ -14,7 +16,7 @@ constexpr std::uint32_t Pas = 100;  ///< records between two looks at the cancel
 /// Runs one section: `faire(rang)` for 1 to `total`, the count behind its message. False when the
 /// user gave up.
 template <class Faire>
-bool Derouler(shell::Session& session, std::uint32_t message, std::uint32_t total, Faire faire) {
+bool Derouler(shell::Session& session, NoMessage message, std::uint32_t total, Faire faire) {
     const std::string titre = session.Message(message);
     session.progression.Phase(shell::Litteral(titre));
     for (std::uint32_t rang = 1; rang <= total; ++rang) {
@@ -33,12 +35,13 @@ bool EcrireIndividus(shell::Session& session, RedactionLgr& redaction, std::stri
     const std::uint32_t dernier = base.entete.DernierIndividu;
     std::string fiches;
     std::vector<std::pair<std::size_t, std::size_t>> places(dernier + 1);
-    const bool fini = Derouler(session, 647, dernier, [&](std::uint32_t n) {
-        if (!redaction.EstEcrit(NoOrdre{n})) return;
-        const std::size_t debut = fiches.size();
-        redaction.EcrireIndividu(fiches, NoOrdre{n});
-        places[n] = {debut, fiches.size() - debut};
-    });
+    const bool fini =
+        Derouler(session, message::EtatPersonnesExportees, dernier, [&](std::uint32_t n) {
+            if (!redaction.EstEcrit(NoOrdre{n})) return;
+            const std::size_t debut = fiches.size();
+            redaction.EcrireIndividu(fiches, NoOrdre{n});
+            places[n] = {debut, fiches.size() - debut};
+        });
     octets.append("[INDIVIDUS]\r\n");
     for (std::uint32_t rang = 1; rang <= base.entete.NbTriIndividus; ++rang) {
         const std::uint32_t n = base.R_TRI.IndividuAuRang(rang).valeur;
@@ -53,7 +56,7 @@ bool EcrireIndividus(shell::Session& session, RedactionLgr& redaction, std::stri
 /// A section of the records 1 to `total` that `redaction` writes.
 template <class Numero, class Ecrire>
 bool EcrireSection(shell::Session& session, std::string& octets, std::string_view nom,
-                   std::uint32_t message, std::uint32_t total, Ecrire ecrire) {
+                   NoMessage message, std::uint32_t total, Ecrire ecrire) {
     octets.append("[").append(nom).append("]\r\n");
     if (!Derouler(session, message, total, [&](std::uint32_t n) { ecrire(Numero{n}); }))
         return false;
@@ -65,16 +68,19 @@ bool EcrireTout(shell::Session& session, RedactionLgr& redaction, std::string& o
     const storage::EnTete& entete = session.base->entete;
     redaction.EcrireTete(octets);
     if (!EcrireIndividus(session, redaction, octets) ||
-        !EcrireSection<NoMariage>(session, octets, "MARIAGES", 649, entete.DernierMariage,
+        !EcrireSection<NoMariage>(session, octets, "MARIAGES", message::EtatUnionsExportees,
+                                  entete.DernierMariage,
                                   [&](NoMariage m) {
                                       if (redaction.EstEcrite(m)) redaction.EcrireUnion(octets, m);
                                   }) ||
-        !EcrireSection<NoDocument>(session, octets, "IMAGES", 650, entete.DernierDocument,
+        !EcrireSection<NoDocument>(session, octets, "IMAGES", message::EtatDocumentsExportes,
+                                   entete.DernierDocument,
                                    [&](NoDocument d) {
                                        if (redaction.EstEcrit(d))
                                            redaction.EcrireDocument(octets, d);
                                    }) ||
-        !EcrireSection<NoEvenement>(session, octets, "EVENEMENTS", 651, entete.DernierEvenement,
+        !EcrireSection<NoEvenement>(session, octets, "EVENEMENTS",
+                                    message::EtatEnregistrementsTraites, entete.DernierEvenement,
                                     [&](NoEvenement e) {
                                         if (redaction.EstEcrit(e))
                                             redaction.EcrireEvenement(octets, e);
@@ -88,8 +94,9 @@ bool EcrireTout(shell::Session& session, RedactionLgr& redaction, std::string& o
 
 bool ComposerLgr(shell::Session& session, const OptionsLgr& options, std::string& octets,
                  ComptesLgr& comptes) {
-    const shell::CadreProgression cadre{session.progression, shell::Msg(3800),
-                                        shell::Litteral(session.Message(647))};
+    const shell::CadreProgression cadre{
+        session.progression, shell::Msg(message::TitreExportDorvane),
+        shell::Litteral(session.Message(message::EtatPersonnesExportees))};
     RedactionLgr redaction{session, options};
     const bool fini = EcrireTout(session, redaction, octets);
     comptes = redaction.Comptes();

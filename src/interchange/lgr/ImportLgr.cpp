@@ -5,6 +5,7 @@
 #include "interchange/lgr/MotsClesLgr.h"
 #include "interchange/lgr/PoserLgr.h"
 #include "interchange/lgr/ReglagesLgr.h"
+#include "messages/Echange.h"
 #include "shell/CycleDeVie.h"
 #include "shell/FichierSur.h"
 #include "storage/Base.h"
@@ -37,7 +38,7 @@ public:
             base_.entete.SlotsIndividu = Slots(contenu_.slotsIndividu);
             base_.entete.SlotsMariage = Slots(contenu_.slotsMariage);
         }
-        const auto suivre = [this](std::uint32_t message, std::uint32_t nombre) {
+        const auto suivre = [this](NoMessage message, std::uint32_t nombre) {
             session_.progression.Phase(
                 shell::Litteral(session_.Message(message) + ' ' + std::to_string(nombre)));
             return session_.progression.Avancer(nombre, 0);
@@ -124,7 +125,7 @@ private:
 
 IssueImport LireContenuLgr(shell::Session& session, std::string& octets, ContenuLgr& contenu,
                            RapportImport& rapport) {
-    session.progression.Phase(shell::Msg(3803));
+    session.progression.Phase(shell::Msg(message::EtatLectureFichier));
     PreparationLgr preparation;
     const LectureLgr lecture =
         LireLgr(octets, contenu, preparation, [&session](std::uint32_t fait, std::uint32_t total) {
@@ -143,15 +144,18 @@ IssueImport ImporterOctetsLgr(shell::Session& session, std::string octets,
                               const std::filesystem::path& base, RapportImport& rapport) {
     ContenuLgr contenu;
     {
-        const shell::CadreProgression cadre{session.progression, shell::Msg(3801),
-                                            shell::Msg(3803)};
+        const shell::CadreProgression cadre{session.progression,
+                                            shell::Msg(message::TitreImportDorvane),
+                                            shell::Msg(message::EtatLectureFichier)};
         const IssueImport lecture = LireContenuLgr(session, octets, contenu, rapport);
         if (lecture != IssueImport::Fait) return lecture;
     }
-    const IssueImport issue = FaireBase(
-        session, base, {shell::Msg(3801), shell::Msg(3812)}, [&](storage::Base& nouvelle) {
-            return ImportNeuf{session, nouvelle, contenu, rapport}.Executer();
-        });
+    const IssueImport issue =
+        FaireBase(session, base,
+                  {shell::Msg(message::TitreImportDorvane), shell::Msg(message::EtatEcritureBase)},
+                  [&](storage::Base& nouvelle) {
+                      return ImportNeuf{session, nouvelle, contenu, rapport}.Executer();
+                  });
     if (issue == IssueImport::Fait && !PrendreReglagesLgr(session, base, contenu.reglages))
         shell::DireReglagesRefuses(session);
     return issue;

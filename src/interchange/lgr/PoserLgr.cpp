@@ -2,6 +2,7 @@
 
 #include "interchange/commun/OrdreImport.h"
 #include "interchange/lgr/DatesLgr.h"
+#include "messages/Messages.h"
 #include "shell/Parametres.h"
 #include "storage/Slots.h"
 #include "values/Comparaison.h"
@@ -187,7 +188,7 @@ bool PoserLgr::PoserIndividus(const SuivreLgr& suivre) {
     std::uint32_t fait = 0;
     for (const std::uint32_t place : individus_.ParNumero()) {
         PoserIndividu(contenu_.individus[place]);
-        if (++fait % Pas == 0 && !suivre(898, fait)) return false;
+        if (++fait % Pas == 0 && !suivre(message::EtatPersonnesLues, fait)) return false;
     }
     std::uint32_t rang = base_.entete.NbTriIndividus;
     for (const std::uint32_t place : individus_.Ordre())
@@ -251,7 +252,7 @@ bool PoserLgr::PoserUnions(const SuivreLgr& suivre) {
     textesUnions_.resize(contenu_.unions.size());
     for (std::uint32_t rang = 0; rang < contenu_.unions.size(); ++rang) {
         PoserUnion(rang);
-        if ((rang + 1) % Pas == 0 && !suivre(918, rang + 1)) return false;
+        if ((rang + 1) % Pas == 0 && !suivre(message::LibUnion, rang + 1)) return false;
     }
     return true;
 }
@@ -330,7 +331,7 @@ bool PoserLgr::PoserDocuments(const SuivreLgr& suivre) {
         document.note = Limiter(storage::SansDiese(lu.texte), MaxDescription, "IMAGES", lu.ligne);
         base_.R_IMAGE.EcrireDoc(d, document);
         base_.R_TRI.FixerRang(++rang, d);
-        if (++fait % Pas == 0 && !suivre(646, fait)) return false;
+        if (++fait % Pas == 0 && !suivre(message::Document, fait)) return false;
     }
     base_.entete.NbTriDocuments = rang;
     if (fait != 0) base_.R_TRI.TrierDocuments();
@@ -372,7 +373,7 @@ bool PoserLgr::PoserEvenements(const SuivreLgr& suivre) {
         const EvenementLgr& lu = contenu_.evenements[place];
         PoserEvenement(lu, place);
         base_.R_TRI.FixerRang(++rang, NoEvenement{lu.numero + decalageEvenements_});
-        if (++fait % Pas == 0 && !suivre(644, fait)) return false;
+        if (++fait % Pas == 0 && !suivre(message::TagEVEN, fait)) return false;
     }
     base_.entete.NbTriEvenements = rang;
     if (fait != 0) base_.R_TRI.TrierEvenements();

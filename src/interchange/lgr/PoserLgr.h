@@ -20,7 +20,7 @@
 namespace dorvane::interchange {
 
 /// Called every 100 records; false to stop.
-using SuivreLgr = std::function<bool(std::uint32_t message, std::uint32_t nombre)>;
+using SuivreLgr = std::function<bool(NoMessage message, std::uint32_t nombre)>;
 
 /// Writes the records of an exchange text into a base behind those that it has: each number is
 /// raised by the highest one given. Numbers past the limits of a base are left out and noted.

@@ -3,6 +3,7 @@
 
 #include "interchange/gedcom/NomGedcom.h"
 #include "interchange/releves/LectureActe.h"
+#include "messages/Releve.h"
 #include "shell/Libelles.h"
 #include "values/Comparaison.h"
 #include "values/Texte1252.h"
@@ -22,18 +23,6 @@ namespace {
 namespace col = colonnes;
 
 constexpr std::uint32_t PasDeProgression = 100;
-constexpr std::uint32_t TropDeColonnes = 4151;
-constexpr std::uint32_t SansNom = 4152;
-constexpr std::uint32_t SansDate = 4153;
-constexpr std::uint32_t DateApprochee = 4154;
-constexpr std::uint32_t AgeIncompris = 4155;
-constexpr std::uint32_t SexeInconnu = 4156;
-constexpr std::uint32_t SosaIllisible = 4157;
-constexpr std::uint32_t SosaDouble = 4158;
-constexpr std::uint32_t SansEnfant = 4159;
-constexpr std::uint32_t BasePleine = 4160;
-constexpr std::uint32_t SansConjoint = 4162;
-constexpr std::uint32_t ValeurTropLongue = 4163;
 
 /// Persons whom one line may name.
 std::uint32_t PersonnesParActe(SorteReleve sorte) {
@@ -78,10 +67,10 @@ public:
             if (++fait % PasDeProgression == 0 && !avancer(fait, total)) return false;
             ligne_ = &ligne;
             if (ligne.trop || ligne.champs.size() > TitresColonnes(releve_.sorte).size())
-                Noter(TropDeColonnes);
-            if (EstTropLongue(ligne)) Noter(ValeurTropLongue);
+                Noter(message::RapportTropDeColonnes);
+            if (EstTropLongue(ligne)) Noter(message::RapportValeurTropLongue);
             if (!ecrivain_.APlace(PersonnesParActe(releve_.sorte)))
-                Noter(BasePleine);
+                Noter(message::RapportBasePleine);
             else if (Reprendre())
                 ++rapport_.lignes;
         }
@@ -105,9 +94,7 @@ private:
             if (ligne.champs[i].size() > NomLePlusLong) return true;
         return false;
     }
-    void Noter(std::uint32_t message) {
-        rapport_.constats.push_back({ligne_->numero, NoMessage{message}});
-    }
+    void Noter(NoMessage message) { rapport_.constats.push_back({ligne_->numero, message}); }
     [[nodiscard]] std::string Libelle(std::string_view tag) const {
         return shell::LibelleDeTag(session_.catalogue, tag);
     }
@@ -131,9 +118,9 @@ private:
         DateActe date =
             LireDateActe(Champ(col::BapAnnee), Champ(col::BapMois), Champ(col::BapJour));
         if (!date.serie)
-            Noter(SansDate);
+            Noter(message::RapportDateIncomprise);
         else if (date.approchee)
-            Noter(DateApprochee);
+            Noter(message::RapportJourOuMoisIncompris);
         return date;
     }
 
@@ -141,13 +128,13 @@ private:
         const std::string sexe = Replie(champ);
         if (sexe == "H" || sexe == "M") return 'H';
         if (sexe == "F") return 'F';
-        if (!sexe.empty() && sexe != "I") Noter(SexeInconnu);
+        if (!sexe.empty() && sexe != "I") Noter(message::RapportSexeIncompris);
         return 'I';
     }
 
     std::optional<Age> LireAgeDe(std::string_view champ) {
         std::optional<Age> age = LireAge(champ);
-        if (!age && !champ.empty()) Noter(AgeIncompris);
+        if (!age && !champ.empty()) Noter(message::RapportAgeIncompris);
         return age;
     }
 
@@ -167,7 +154,7 @@ private:
         const std::string_view nom = Champ(col::BapNom);
         const std::string_view prenoms = Champ(col::BapPrenoms);
         if (nom.empty() && prenoms.empty()) {
-            Noter(SansNom);
+            Noter(message::RapportLigneSansNom);
             return false;
         }
         const DateActe date = LireDate();
@@ -240,7 +227,7 @@ private:
             for (const std::size_t colonne : {std::size_t{col::EpNom}, std::size_t{col::EpPrenoms}})
                 personne = personne && Champ(premiere + colonne).empty();
         if (personne) {
-            Noter(SansNom);
+            Noter(message::RapportLigneSansNom);
             return false;
         }
         const DateActe date = LireDate();
@@ -265,7 +252,7 @@ private:
         defunt.nom = Champ(col::SepNom);
         defunt.prenoms = Champ(col::SepPrenoms);
         if (defunt.EstVide()) {
-            Noter(SansNom);
+            Noter(message::RapportLigneSansNom);
             return false;
         }
         const DateActe date = LireDate();
@@ -339,14 +326,14 @@ private:
         std::uint64_t sosa = 0;
         const auto [fin, erreur] = std::from_chars(champ.data(), champ.data() + champ.size(), sosa);
         if (erreur != std::errc{} || fin != champ.data() + champ.size() || sosa == 0) {
-            Noter(SosaIllisible);
+            Noter(message::RapportSosaPasUnNombre);
             return false;
         }
         PersonneActe p;
         p.nom = Champ(col::AscNom);
         p.prenoms = Champ(col::AscPrenoms);
         if (p.EstVide() || ascendants_.contains(sosa)) {
-            Noter(p.EstVide() ? SansNom : SosaDouble);
+            Noter(p.EstVide() ? message::RapportLigneSansNom : message::RapportSosaEnDouble);
             return false;
         }
         p.sexe = sosa == 1 ? 'I' : sosa % 2 == 0 ? 'H' : 'F';
@@ -370,11 +357,11 @@ private:
         for (const auto& [sosa, ascendant] : ascendants_) {
             const std::uint32_t ligneLue = ascendant.ligne->numero;
             if (sosa > 1 && !ascendants_.contains(sosa / 2))
-                rapport_.constats.push_back({ligneLue, NoMessage{SansEnfant}});
+                rapport_.constats.push_back({ligneLue, message::RapportEnfantAbsentDuReleve});
             // The partner of 2n is 2n + 1; number 1 has none in the file.
             if (DitMariage(*ascendant.ligne) &&
                 (sosa == 1 || !ascendants_.contains(sosa ^ 1U) || !ascendants_.contains(sosa / 2)))
-                rapport_.constats.push_back({ligneLue, NoMessage{SansConjoint}});
+                rapport_.constats.push_back({ligneLue, message::RapportConjointAbsentDuReleve});
             if (sosa > UINT64_MAX / 2 - 1) continue;
             const Ascendant pere = Trouver(sosa * 2);
             const Ascendant mere = Trouver(sosa * 2 + 1);

@@ -2,6 +2,7 @@
 #include "interchange/releves/ImportReleve.h"
 
 #include "interchange/releves/ActesReleve.h"
+#include "messages/Releve.h"
 #include "shell/Libelles.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
@@ -22,7 +23,7 @@ std::string NomReleve(const shell::Session& session, SorteReleve sorte) {
         case SorteReleve::Ascendance:
             break;
     }
-    return session.Message(4142);
+    return session.Message(message::ReleveDAscendance);
 }
 
 namespace {
@@ -30,7 +31,8 @@ namespace {
 /// The line at which reading stopped is told, and everything in the order of the lines.
 void Ranger(RapportReleve& rapport, const Releve& releve) {
     if (releve.ligneSansSeparateur != 0)
-        rapport.constats.push_back({releve.ligneSansSeparateur, NoMessage{4150}});
+        rapport.constats.push_back(
+            {releve.ligneSansSeparateur, message::RapportLigneSansSeparateur});
     std::ranges::stable_sort(rapport.constats, {}, &RapportReleve::Constat::ligne);
 }
 
@@ -50,8 +52,9 @@ RapportReleve ExaminerReleve(const shell::Session& session, const Releve& releve
 bool RemplirReleve(shell::Session& session, storage::Base& base, const Releve& releve,
                    const std::filesystem::path& fichier, RapportReleve& rapport) {
     EcrivainReleve ecrivain{base, releve.sorte};
-    ecrivain.CreerDocument(session.Message(4140) + ' ' + NomReleve(session, releve.sorte),
-                           Utf8VersTexte(fichier.string()).octets);
+    ecrivain.CreerDocument(
+        session.Message(message::MotReleve) + ' ' + NomReleve(session, releve.sorte),
+        Utf8VersTexte(fichier.string()).octets);
     const auto avancer = [&session](std::uint32_t fait, std::uint32_t total) {
         return session.progression.Avancer(fait, total);
     };
@@ -66,32 +69,36 @@ bool RemplirReleve(shell::Session& session, storage::Base& base, const Releve& r
 IssueImport ImporterReleve(shell::Session& session, const Releve& releve,
                            const std::filesystem::path& fichier, const std::filesystem::path& base,
                            RapportReleve& rapport) {
-    return FaireBase(session, base, {shell::Msg(4181), shell::Msg(4182)},
-                     [&](storage::Base& nouvelle) {
-                         return RemplirReleve(session, nouvelle, releve, fichier, rapport);
-                     });
+    return FaireBase(
+        session, base,
+        {shell::Msg(message::TitreImportReleve), shell::Msg(message::LignesDuReleveLues)},
+        [&](storage::Base& nouvelle) {
+            return RemplirReleve(session, nouvelle, releve, fichier, rapport);
+        });
 }
 
 std::string ComposerRapport(const RapportReleve& rapport, const Releve& releve,
                             const shell::Session& session) {
     std::string texte;
-    const auto ligne = [&](std::uint32_t message, const std::string& valeur) {
+    const auto ligne = [&](NoMessage message, const std::string& valeur) {
         std::string phrase = session.Message(message);
         RemplacerTout(phrase, "&1", valeur);
         texte += phrase + '\n';
     };
-    ligne(4170, NomReleve(session, releve.sorte));
-    ligne(4175, std::string{NomDeJeu(releve.jeu.jeu)});
-    if (releve.remplaces != 0) ligne(4176, std::to_string(releve.remplaces));
-    ligne(4171, std::to_string(rapport.lignes));
-    ligne(4172, std::to_string(rapport.individus));
-    ligne(4173, std::to_string(rapport.evenements));
-    ligne(4174, std::to_string(rapport.unions));
+    ligne(message::RapportSorteDeReleve, NomReleve(session, releve.sorte));
+    ligne(message::RapportJeuDeCaracteresReleve, std::string{NomDeJeu(releve.jeu.jeu)});
+    if (releve.remplaces != 0)
+        ligne(message::RapportCaracteresRemplaces, std::to_string(releve.remplaces));
+    ligne(message::RapportLignesReprises, std::to_string(rapport.lignes));
+    ligne(message::RapportPersonnesReleve, std::to_string(rapport.individus));
+    ligne(message::RapportEvenementsReleve, std::to_string(rapport.evenements));
+    ligne(message::RapportUnionsReleve, std::to_string(rapport.unions));
     texte += '\n';
-    if (rapport.constats.empty()) return texte + session.Message(4177) + '\n';
+    if (rapport.constats.empty())
+        return texte + session.Message(message::RapportToutCompris) + '\n';
     for (const RapportReleve::Constat& constat : rapport.constats) {
-        std::string phrase = session.Message(4178);
-        RemplacerTout(phrase, "&2", session.Message(constat.message.valeur));
+        std::string phrase = session.Message(message::RapportLigneEtConstat);
+        RemplacerTout(phrase, "&2", session.Message(constat.message));
         RemplacerTout(phrase, "&1", std::to_string(constat.ligne));
         texte += phrase + '\n';
     }

@@ -1,5 +1,6 @@
 #include "interchange/releves/Releve.h"
 
+#include "messages/Releve.h"
 #include "values/Comparaison.h"
 
 #include <algorithm>
@@ -9,16 +10,34 @@ namespace dorvane::interchange {
 
 namespace {
 
-constexpr std::array<std::uint16_t, 12> TitresBapteme{4100, 4101, 4102, 4103, 4104, 4105,
-                                                      4106, 4107, 4108, 4109, 4110, 4111};
-constexpr std::array<std::uint16_t, 19> TitresMariage{4100, 4101, 4102, 4103, 4112, 4113, 4114,
-                                                      4115, 4116, 4117, 4118, 4119, 4120, 4121,
-                                                      4122, 4123, 4124, 4125, 4111};
-constexpr std::array<std::uint16_t, 17> TitresSepulture{4100, 4101, 4102, 4103, 4104, 4105,
-                                                        4106, 4126, 4127, 4128, 4107, 4108,
-                                                        4109, 4110, 4129, 4130, 4111};
-constexpr std::array<std::uint16_t, 11> TitresAscendance{4131, 4104, 4105, 4132, 4127, 4128,
-                                                         4133, 4134, 4135, 4136, 4111};
+constexpr std::array<NoMessage, 12> TitresBapteme{
+    message::ColonneAnneeReleve, message::ColonneMoisReleve,  message::ColonneJourReleve,
+    message::ColonneLieuReleve,  message::ColonneNomReleve,   message::ColonnePrenomsReleve,
+    message::ColonneSexeReleve,  message::ColonneNomPere,     message::ColonnePrenomsPere,
+    message::ColonneNomMere,     message::ColonnePrenomsMere, message::ColonneRemarques};
+constexpr std::array<NoMessage, 19> TitresMariage{
+    message::ColonneAnneeReleve,       message::ColonneMoisReleve,
+    message::ColonneJourReleve,        message::ColonneLieuReleve,
+    message::ColonneNomEpoux,          message::ColonnePrenomsEpoux,
+    message::ColonneAgeEpoux,          message::ColonnePrenomsPereEpoux,
+    message::ColonneNomMereEpoux,      message::ColonnePrenomsMereEpoux,
+    message::ColonneEpouxVeufDe,       message::ColonneNomEpouse,
+    message::ColonnePrenomsEpouse,     message::ColonneAgeEpouse,
+    message::ColonnePrenomsPereEpouse, message::ColonneNomMereEpouse,
+    message::ColonnePrenomsMereEpouse, message::ColonneEpouseVeuveDe,
+    message::ColonneRemarques};
+constexpr std::array<NoMessage, 17> TitresSepulture{
+    message::ColonneAnneeReleve,     message::ColonneMoisReleve,  message::ColonneJourReleve,
+    message::ColonneLieuReleve,      message::ColonneNomReleve,   message::ColonnePrenomsReleve,
+    message::ColonneSexeReleve,      message::ColonneAgeReleve,   message::ColonneDateNaissance,
+    message::ColonneLieuNaissance,   message::ColonneNomPere,     message::ColonnePrenomsPere,
+    message::ColonneNomMere,         message::ColonnePrenomsMere, message::ColonneNomConjoint,
+    message::ColonnePrenomsConjoint, message::ColonneRemarques};
+constexpr std::array<NoMessage, 11> TitresAscendance{
+    message::ColonneNumeroSosa,  message::ColonneNomReleve,     message::ColonnePrenomsReleve,
+    message::ColonneProfession,  message::ColonneDateNaissance, message::ColonneLieuNaissance,
+    message::ColonneDateDeces,   message::ColonneLieuDeces,     message::ColonneDateMariage,
+    message::ColonneLieuMariage, message::ColonneRemarques};
 
 /// Between fields that all stand in quotes.
 constexpr std::string_view GuillemetBlancGuillemet = "\" \"";
@@ -103,7 +122,7 @@ std::string_view PrendreLigne(std::string_view& texte) {
 
 }  // namespace
 
-std::span<const std::uint16_t> TitresColonnes(SorteReleve sorte) {
+std::span<const NoMessage> TitresColonnes(SorteReleve sorte) {
     switch (sorte) {
         case SorteReleve::Bapteme:
             return TitresBapteme;

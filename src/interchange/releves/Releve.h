@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interchange/jeux/JeuxDeCaracteres.h"
+#include "values/Numeros.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -86,7 +87,7 @@ enum Ascendance : std::size_t {
 }  // namespace colonnes
 
 /// The messages that head the columns of a kind.
-[[nodiscard]] std::span<const std::uint16_t> TitresColonnes(SorteReleve sorte);
+[[nodiscard]] std::span<const NoMessage> TitresColonnes(SorteReleve sorte);
 
 /// At most this many fields of a line are taken.
 inline constexpr std::size_t MaxChampsReleve = 20;

@@ -1,6 +1,7 @@
 #include "interchange/releves/RemiseGeneanet.h"
 
 #include "interchange/gedcom/ExportGedcom.h"
+#include "messages/Export.h"
 #include "shell/CycleDeVie.h"
 #include "storage/Base.h"
 #include "values/Texte1252.h"
@@ -28,7 +29,8 @@ bool Exporter(shell::Session& session, const fs::path& sortie) {
         case IssueExport::Refus:
             break;
     }
-    session.dialogue.Informer(shell::Msg(3701, Utf8VersTexte(sortie.string()).octets));
+    session.dialogue.Informer(
+        shell::Msg(message::FichierNonEcrit, Utf8VersTexte(sortie.string()).octets));
     return false;
 }
 

@@ -3,6 +3,8 @@
 #include "ui_FrmCalendrier.h"
 #include <QSignalBlocker>
 
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
 #include "shell/Session.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/Unicode.h"
@@ -111,7 +113,8 @@ void FrmCalendrier::Convertir(const Champs& de, const Champs& vers, Conversion c
         return;
     }
     Montrer(vers, resultat.date);
-    if (vers.annee->currentIndex() < 0) vers.refusAnnee->setText(TexteEcran(S(), 2513));
+    if (vers.annee->currentIndex() < 0)
+        vers.refusAnnee->setText(TexteEcran(S(), message::AnneeHorsDesListes));
 }
 
 DateDeListe FrmCalendrier::Lire(const Champs& champs) {
@@ -137,15 +140,13 @@ void FrmCalendrier::EffacerRefus(const Champs& champs) {
 }
 
 void FrmCalendrier::Refuser(const Champs& champs, NoMessage refus) {
-    constexpr NoMessage Mois{728};
-    constexpr NoMessage Annee{729};
-    QLabel* etiquette = refus == Mois    ? champs.refusMois
-                        : refus == Annee ? champs.refusAnnee
-                                         : champs.refusJour;
-    QWidget* champ = refus == Mois    ? static_cast<QWidget*>(champs.mois)
-                     : refus == Annee ? static_cast<QWidget*>(champs.annee)
-                                      : champs.jour;
-    etiquette->setText(TexteEcran(S(), refus.valeur));
+    QLabel* etiquette = refus == message::MoisNonChoisi     ? champs.refusMois
+                        : refus == message::AnneeNonChoisie ? champs.refusAnnee
+                                                            : champs.refusJour;
+    QWidget* champ = refus == message::MoisNonChoisi     ? static_cast<QWidget*>(champs.mois)
+                     : refus == message::AnneeNonChoisie ? static_cast<QWidget*>(champs.annee)
+                                                         : champs.jour;
+    etiquette->setText(TexteEcran(S(), refus));
     champ->setFocus();
 }
 

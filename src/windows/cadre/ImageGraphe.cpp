@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <QStyleFactory>
 
+#include "messages/Dorvane.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
 #include "shell/FichierSur.h"
@@ -93,7 +94,8 @@ bool ImagerFenetre(const DemandeImage& demande) {
     programme.fenetre.show();
     QApplication::processEvents();
     if (!EcrirePng(programme.fenetre.grab(), demande.sortie)) {
-        dialogue.Informer(shell::Msg(2086, shell::CheminAffiche(demande.sortie)));
+        dialogue.Informer(
+            shell::Msg(message::FichierNonEcritAutreNom, shell::CheminAffiche(demande.sortie)));
         return false;
     }
     return true;

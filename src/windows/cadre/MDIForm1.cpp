@@ -16,6 +16,7 @@
 #include <QTranslator>
 
 #include "interchange/commandes/Importer.h"
+#include "messages/Dorvane.h"
 #include "records/NomsAffiches.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
@@ -266,7 +267,7 @@ void MDIForm1::Traduire() {
     for (int k = 1; k <= 2; ++k) {
         // The caption of a reference person is its name.
         QAction* choix = ActionNommee(QStringLiteral("MnuDeCujus%1").arg(k));
-        choix->setToolTip(SansMnemonique(TexteEcran(session_, 2014)));
+        choix->setToolTip(SansMnemonique(TexteEcran(session_, message::MenuChoisirDeCujus)));
     }
 }
 

@@ -4,6 +4,8 @@
 #include <QToolBar>
 
 #include "interchange/commandes/Importer.h"
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
 #include "records/Famille.h"
 #include "records/NomsAffiches.h"
 #include "shell/CycleDeVie.h"
@@ -20,22 +22,22 @@ namespace dorvane::windows {
 
 namespace {
 
-/// The section title of a group of relatives; 0 for the person, who needs none.
-std::uint32_t TitreGroupe(records::EntreeFamille::Groupe groupe) {
+/// The section title of a group of relatives; none for the person, who needs none.
+NoMessage TitreGroupe(records::EntreeFamille::Groupe groupe) {
     using Groupe = records::EntreeFamille::Groupe;
     switch (groupe) {
         case Groupe::Personne:
-            return 0;
+            return {};
         case Groupe::Parents:
-            return 876;
+            return message::PereEtMere;
         case Groupe::Conjoints:
-            return 579;
+            return message::Conjoints;
         case Groupe::Enfants:
-            return 666;
+            return message::Enfants;
         case Groupe::Lies:
             break;
     }
-    return 910;
+    return message::Liens;
 }
 
 }  // namespace
@@ -53,7 +55,8 @@ void MDIForm1::Fermer() {
 }
 
 void MDIForm1::Enregistrer() {
-    if (shell::MnuEnregistrer(session_)) session_.dialogue.Annoncer(shell::Msg(2414));
+    if (shell::MnuEnregistrer(session_))
+        session_.dialogue.Annoncer(shell::Msg(message::EtatBaseEnregistree));
 }
 
 void MDIForm1::Sauvegarde() {
@@ -127,7 +130,8 @@ void MDIForm1::PasVers(records::Parente parente) {
 }
 
 void MDIForm1::Agrandir() {
-    if (!graphe_->Agrandir()) session_.dialogue.Annoncer(shell::Msg(2105));
+    if (!graphe_->Agrandir())
+        session_.dialogue.Annoncer(shell::Msg(message::EtatGrapheAuPlusGrand));
 }
 
 void MDIForm1::Diminuer() {
@@ -151,9 +155,9 @@ void MDIForm1::Droite() {
 void MDIForm1::DireGenerations() {
     const records::ModeleFamille& modele = graphe_->Modele();
     const bool toutes = modele.demandees == modele.montrees;
-    session_.dialogue.Annoncer(shell::Msg(toutes ? 2103 : 2104,
-                                          std::to_string(modele.montrees.ascendantes),
-                                          std::to_string(modele.montrees.descendantes)));
+    session_.dialogue.Annoncer(shell::Msg(
+        toutes ? message::EtatGenerationsMontrees : message::EtatFamilleTropGrandePourGraphe,
+        std::to_string(modele.montrees.ascendantes), std::to_string(modele.montrees.descendantes)));
 }
 
 void MDIForm1::Presentation(int presentation) {
@@ -198,7 +202,8 @@ void MDIForm1::MenuIndividu(NoOrdre individu, const QPoint& point) {
         connect(action, &QAction::triggered, this, [this, vers] { AllerA(vers); });
     }
     menu->addSeparator();
-    QAction* fiche = menu->addAction(Icone("MnuModif"), TexteEcran(session_, 2124));
+    QAction* fiche =
+        menu->addAction(Icone("MnuModif"), TexteEcran(session_, message::MenuOuvrirFiche));
     fiche->setObjectName(QStringLiteral("OuvrirFiche"));
     connect(fiche, &QAction::triggered, this, [this, individu] { OuvrirFiche(individu); });
     menu->popup(point);

@@ -2,6 +2,7 @@
 #include <QMenu>
 #include <QToolBar>
 
+#include "messages/Dorvane.h"
 #include "records/Filiation.h"
 #include "records/Individus.h"
 #include "records/NomsAffiches.h"
@@ -118,10 +119,13 @@ void MDIForm1::MenuParent(NoOrdre enfant, char cote, const QPoint& point) {
     menu->setObjectName(QStringLiteral("MnuParent"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const bool pere = cote == 'H';
-    QAction* creer = menu->addAction(Icone("MnuNouvInd"), TexteEcran(session_, pere ? 2120 : 2121));
+    QAction* creer = menu->addAction(
+        Icone("MnuNouvInd"),
+        TexteEcran(session_, pere ? message::MenuCreerPere : message::MenuCreerMere));
     creer->setObjectName(QStringLiteral("CréerParent"));
-    QAction* chercher =
-        menu->addAction(Icone("Chercher"), TexteEcran(session_, pere ? 2122 : 2123));
+    QAction* chercher = menu->addAction(
+        Icone("Chercher"),
+        TexteEcran(session_, pere ? message::MenuChercherPere : message::MenuChercherMere));
     chercher->setObjectName(QStringLiteral("ChercherParent"));
     connect(creer, &QAction::triggered, this, [this, enfant, cote] { CreerParent(enfant, cote); });
     connect(chercher, &QAction::triggered, this,

@@ -4,6 +4,8 @@
 
 #include "interchange/commandes/Importer.h"
 #include "interchange/releves/RemiseGeneanet.h"
+#include "messages/Dorvane.h"
+#include "messages/Releve.h"
 #include "shell/CycleDeVie.h"
 #include "shell/FichierSur.h"
 #include "shell/Session.h"
@@ -39,14 +41,15 @@ void MDIForm1::FaireReleves(QMenu* menu) {
 void MDIForm1::ImporterActes(interchange::SorteReleve sorte) {
     if (!shell::CommandePermise(session_)) return;
     shell::DemandeFichier demande;
-    demande.titre = shell::Msg(4194);
+    demande.titre = shell::Msg(message::TitreChoisirFichierReleve);
     demande.filtre = "Texte (*.txt, *.csv)|*.txt;*.csv";
     demande.extension = ".txt";
     const std::optional<std::filesystem::path> fichier = session_.dialogue.ChoisirFichier(demande);
     if (!fichier) return;
     std::optional<std::string> octets = shell::LireTout(*fichier);
     if (!octets) {
-        session_.dialogue.Informer(shell::Msg(2240, Utf8VersTexte(fichier->string()).octets));
+        session_.dialogue.Informer(
+            shell::Msg(message::FichierIllisible, Utf8VersTexte(fichier->string()).octets));
         return;
     }
     FrmReleve apercu{session_, sorte, std::move(*octets),
@@ -63,7 +66,8 @@ void MDIForm1::Geneanet() {
         session_,
         [this](const interchange::AppelOutil& appel) { return LancerEtAttendre(session_, appel); },
         [this](const std::filesystem::path& fichier) {
-            OuvrirTexte(session_, fichier, TexteEcran(session_, 4183), *this);
+            OuvrirTexte(session_, fichier, TexteEcran(session_, message::TitreRemiseGeneanet),
+                        *this);
         });
 }
 

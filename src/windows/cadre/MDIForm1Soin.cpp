@@ -1,6 +1,7 @@
 // The entries of the main window that look after a base: repair and reorganisation.
 #include <QMenu>
 
+#include "messages/Controle.h"
 #include "records/Depannage.h"
 #include "shell/Reorganisation.h"
 #include "shell/Session.h"
@@ -22,7 +23,8 @@ void MDIForm1::Depannage() {
     if (!bilan.fait) return;
     RelireTout(nullptr);
     if (!bilan.journal.empty())
-        OuvrirTexte(session_, bilan.journal, TexteEcran(session_, 4284), *this);
+        OuvrirTexte(session_, bilan.journal,
+                    TexteEcran(session_, message::TitreCompteRenduDepannage), *this);
 }
 
 void MDIForm1::Reorganiser() {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCoreApplication>
 
+#include "messages/Dorvane.h"
 #include "shell/Session.h"
 #include "windows/controles/CadreAvancement.h"
 #include "windows/controles/Legendes.h"
@@ -71,7 +72,7 @@ void ProgressionQt::Annuler() {
     if (cadres_ == 0) return;
     abandon_ = true;
     if (cadre_ != nullptr && session_ != nullptr)
-        cadre_->DireAnnulation(TexteEcran(*session_, 2051));
+        cadre_->DireAnnulation(TexteEcran(*session_, message::EtatAnnulation));
 }
 
 }  // namespace dorvane::windows

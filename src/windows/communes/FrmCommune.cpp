@@ -9,6 +9,7 @@
 #include <QShortcut>
 #include <QTimer>
 
+#include "messages/Communes.h"
 #include "shell/Session.h"
 #include "windows/communes/ModeleCommunes.h"
 #include "windows/controles/ChampSuivi.h"
@@ -50,12 +51,14 @@ FrmCommune::FrmCommune(shell::Session& session, QWidget* parent)
     ui_->LstCommunes->setColumnWidth(ModeleCommunes::Code, 9 * cadratin);
     ui_->LstCommunes->horizontalHeader()->setStretchLastSection(true);
     // The words for an empty list depend on the search: they are set with it.
-    liste_ = new ListeFiltree{session,
-                              {nullptr, ui_->LstCommunes, ui_->LblNombre, ui_->Pages, ui_->LblVide},
-                              {4036, 4037, 4038, 4040},
-                              *modele_,
-                              objectName(),
-                              this};
+    liste_ =
+        new ListeFiltree{session,
+                         {nullptr, ui_->LstCommunes, ui_->LblNombre, ui_->Pages, ui_->LblVide},
+                         {message::NombreCommunes, message::NombreCommunesFiltrees,
+                          message::InfoAucuneCommuneCommencePar, message::InfoBaseCommunesVide},
+                         *modele_,
+                         objectName(),
+                         this};
     ui_->CmdRattachement->setIcon(Icone("MnuSuivant"));
     for (QLabel* avis : {ui_->LblAvisRattachement, ui_->LblAvisCode, ui_->LblAvisAutreCode})
         Avertir(*avis);
@@ -167,11 +170,15 @@ void FrmCommune::Compter() {
     const std::string total = std::to_string(communes_.Nombre());
     const bool toutes = std::to_string(montres) == total;
     ui_->LblNombre->setText(TexteEcran(S().catalogue.Composer(
-        toutes ? shell::Msg(4036, total) : shell::Msg(4037, std::to_string(montres), total))));
+        toutes ? shell::Msg(message::NombreCommunes, total)
+               : shell::Msg(message::NombreCommunesFiltrees, std::to_string(montres), total))));
     const std::string cherche = QtVersTexte(ui_->TxtCherche->text()).octets;
-    const shell::Phrase vide = communes_.Nombre() == 0
-                                   ? shell::Msg(4040)
-                                   : shell::Msg(ui_->ChkSon->isChecked() ? 4039 : 4038, cherche);
+    const shell::Phrase vide =
+        communes_.Nombre() == 0
+            ? shell::Msg(message::InfoBaseCommunesVide)
+            : shell::Msg(ui_->ChkSon->isChecked() ? message::InfoAucuneCommuneSePrononce
+                                                  : message::InfoAucuneCommuneCommencePar,
+                         cherche);
     ui_->LblVide->setText(TexteEcran(S().catalogue.Composer(vide)));
     ui_->CmdReorganiser->setEnabled(communes_.Nombre() != 0);
 }
@@ -227,8 +234,10 @@ void FrmCommune::Travailler(const std::function<bool()>& travail) {
 
 void FrmCommune::SuivreDestination() {
     const bool champ = lieux_ != nullptr && lieux_->Champ() != nullptr;
-    ui_->CmdUtiliser->setText(TexteEcran(S(), champ ? 4066 : 4067));
-    ui_->CmdUtiliser->setToolTip(TexteEcran(S(), champ ? 4068 : 4069));
+    ui_->CmdUtiliser->setText(
+        TexteEcran(S(), champ ? message::BoutonUtiliserLieu : message::BoutonCopierLieu));
+    ui_->CmdUtiliser->setToolTip(
+        TexteEcran(S(), champ ? message::BulleUtiliserLieu : message::BulleCopierLieu));
 }
 
 void FrmCommune::Utiliser(const Commune& commune) {
@@ -236,14 +245,15 @@ void FrmCommune::Utiliser(const Commune& commune) {
     if (lieu.empty()) return;
     const bool pose = lieux_ != nullptr && lieux_->Poser(TexteVersQt(lieu));
     if (!pose) QGuiApplication::clipboard()->setText(TexteVersQt(lieu));
-    ui_->LblEtat->setText(TexteEcran(S().catalogue.Composer(shell::Msg(pose ? 4071 : 4070, lieu))));
+    ui_->LblEtat->setText(TexteEcran(S().catalogue.Composer(
+        shell::Msg(pose ? message::InfoLieuMisDansLaFiche : message::InfoLieuCopie, lieu))));
 }
 
 bool FrmCommune::ConfirmerFermeture() {
     if (travaille_) return false;
     if (!Modifiee()) return true;
-    switch (S().dialogue.Demander(
-        {.texte = shell::Msg(4022), .boutons = shell::Boutons::OuiNonAnnuler})) {
+    switch (S().dialogue.Demander({.texte = shell::Msg(message::ProposerEnregistrerCommune),
+                                   .boutons = shell::Boutons::OuiNonAnnuler})) {
         case shell::Reponse::Oui:
             return Enregistrer();
         case shell::Reponse::Non:

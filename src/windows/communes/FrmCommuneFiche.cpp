@@ -6,6 +6,7 @@
 #include <QRegularExpressionValidator>
 #include <QStringListModel>
 
+#include "messages/Communes.h"
 #include "shell/Session.h"
 #include "values/Comparaison.h"
 #include "windows/communes/FrmCommune.h"
@@ -89,14 +90,17 @@ void FrmCommune::SuivreFiche() {
         MarquerChamp(*champ, S());
     MarquerModifie(*ui_->TxtCommentaire, saisie.commentaire != montree_.commentaire, S());
     ui_->LblFiche->setText(TexteEcran(S().catalogue.Composer(
-        numero_ ? shell::Msg(4074, std::to_string(numero_.valeur)) : shell::Msg(4073))));
-    AviserCode(*ui_->LblAvisCode, *ui_->TxtCode, ChiffresCode, TexteEcran(S(), 4055));
+        numero_ ? shell::Msg(message::NumeroDeCommune, std::to_string(numero_.valeur))
+                : shell::Msg(message::NouvelleCommune))));
+    AviserCode(*ui_->LblAvisCode, *ui_->TxtCode, ChiffresCode,
+               TexteEcran(S(), message::CodeDePlusDe5Chiffres));
     AviserCode(*ui_->LblAvisAutreCode, *ui_->TxtAutreCode, ChiffresAutreCode,
-               TexteEcran(S(), 4056));
+               TexteEcran(S(), message::AutreCodeDePlusDe4Chiffres));
     const bool rattachee = !SansBlancs(saisie.rattachement).empty();
     const bool connue =
         rattachee && ouverte_ && !communes_.Base().ChercherCommune(saisie.rattachement).empty();
-    ui_->LblAvisRattachement->setText(rattachee && !connue ? TexteEcran(S(), 4054) : QString{});
+    ui_->LblAvisRattachement->setText(
+        rattachee && !connue ? TexteEcran(S(), message::CommuneDeRattachementInconnue) : QString{});
     ui_->LblAvisRattachement->setVisible(rattachee && !connue);
     ui_->CmdRattachement->setEnabled(connue);
     ui_->MnuMaj->setEnabled(saisie != montree_);

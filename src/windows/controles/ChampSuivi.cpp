@@ -3,6 +3,7 @@
 #include <QPalette>
 #include <QVariant>
 
+#include "messages/Fiche.h"
 #include "shell/Session.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/Unicode.h"
@@ -12,7 +13,6 @@ namespace dorvane::windows {
 namespace {
 
 constexpr const char* Stocke = "stocke";
-constexpr std::uint32_t NonEnregistre = 2620;
 
 QColor Teinte(const QPalette& palette) {
     constexpr int Part = 28;  // per cent of the selection colour
@@ -34,7 +34,8 @@ void MarquerModifie(QWidget& widget, bool modifie, const shell::Session& session
         palette.setColor(QPalette::Button, Teinte(palette));
     }
     widget.setPalette(palette);
-    const QString texte = modifie ? TexteEcran(session, NonEnregistre) : QString{};
+    const QString texte =
+        modifie ? TexteEcran(session, message::BulleChampNonEnregistre) : QString{};
     widget.setAccessibleDescription(texte);
     widget.setToolTip(texte);
 }

@@ -46,7 +46,7 @@ void FenetreFille::showEvent(QShowEvent* evenement) {
     QDialog::showEvent(evenement);
 }
 
-void FenetreFille::Renoncer(std::uint32_t question, const std::function<void()>& enregistrer) {
+void FenetreFille::Renoncer(NoMessage question, const std::function<void()>& enregistrer) {
     switch (session_.dialogue.Demander(
         {.texte = shell::Msg(question), .boutons = shell::Boutons::OuiNonAnnuler})) {
         case shell::Reponse::Oui:

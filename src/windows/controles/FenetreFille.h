@@ -2,6 +2,8 @@
 
 #include <QDialog>
 
+#include "values/Numeros.h"
+
 #include <cstdint>
 #include <functional>
 
@@ -51,7 +53,7 @@ protected:
 
     /// Gives the window up when something is not saved: asks `question`; yes saves with
     /// `enregistrer`, no closes, cancel stays.
-    void Renoncer(std::uint32_t question, const std::function<void()>& enregistrer);
+    void Renoncer(NoMessage question, const std::function<void()>& enregistrer);
 
     [[nodiscard]] shell::Session& S() const { return session_; }
 

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "messages/Dorvane.h"
 #include "shell/FichierSur.h"
 #include "shell/Session.h"
 #include "windows/controles/Legendes.h"
@@ -57,18 +58,23 @@ FrmRapport::FrmRapport(shell::Session& session, const QString& titre, const QStr
 
 void FrmRapport::CmdCopierClique() {
     QGuiApplication::clipboard()->setText(texte_->toPlainText());
-    etat_->setText(TexteEcran(S(), 2085));
+    etat_->setText(TexteEcran(S(), message::EtatRapportCopie));
 }
 
 void FrmRapport::CmdEnregistrerClique() {
-    const std::optional<std::filesystem::path> chemin = S().dialogue.ChoisirFichier(
-        {shell::DemandeFichier::Sorte::Enregistrer, {}, S().Message(2084), ".txt", {}});
+    const std::optional<std::filesystem::path> chemin =
+        S().dialogue.ChoisirFichier({shell::DemandeFichier::Sorte::Enregistrer,
+                                     {},
+                                     S().Message(message::FiltreFichiersTexte),
+                                     ".txt",
+                                     {}});
     if (!chemin) return;
     const std::string nom = shell::CheminAffiche(*chemin);
     if (shell::EcrireTout(*chemin, texte_->toPlainText().toStdString() + '\n'))
-        etat_->setText(TexteEcran(S().catalogue.Composer(shell::Msg(2087, nom))));
+        etat_->setText(
+            TexteEcran(S().catalogue.Composer(shell::Msg(message::EtatRapportEnregistre, nom))));
     else
-        S().dialogue.Informer(shell::Msg(2086, nom));
+        S().dialogue.Informer(shell::Msg(message::FichierNonEcritAutreNom, nom));
 }
 
 }  // namespace dorvane::windows

@@ -6,6 +6,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "messages/Mots.h"
 #include "records/MotsUsuels.h"
 #include "shell/Session.h"
 #include "windows/controles/Icones.h"
@@ -118,7 +119,8 @@ void FrmTexte::MontrerRubrique(const QString& rubrique) {
     ui_->LstMot->clear();
     for (const std::string& mot : records::ListerMotsUsuels(S(), QtVersTexte(rubrique).octets))
         ui_->LstMot->addItem(TexteVersQt(mot));
-    ui_->LblAide->setText(TexteEcran(S(), ui_->LstMot->count() == 0 ? 3249 : 3265));
+    ui_->LblAide->setText(TexteEcran(
+        S(), ui_->LstMot->count() == 0 ? message::RubriqueSansMot : message::EditeurAideMots));
     ui_->CdrMot->show();
     ui_->LstMot->setCurrentRow(0);
     ui_->LstMot->setFocus();
@@ -148,14 +150,15 @@ void FrmTexte::SuivreCurseur() {
 
 void FrmTexte::Compter() {
     const int nombre = ui_->TxtTexte->document()->characterCount() - 1;
-    ui_->LblNombre->setText(
-        TexteEcran(S().catalogue.Composer(shell::Msg(3266, std::to_string(nombre)))));
+    ui_->LblNombre->setText(TexteEcran(S().catalogue.Composer(
+        shell::Msg(message::EditeurNombreCaracteres, std::to_string(nombre)))));
 }
 
 void FrmTexte::Traduire() {
     FenetreFille::Traduire();
     if (!titre_.isEmpty())
-        setWindowTitle(QStringLiteral("%1 \u2013 %2").arg(TexteEcran(S(), 3250), titre_));
+        setWindowTitle(QStringLiteral("%1 \u2013 %2")
+                           .arg(TexteEcran(S(), message::TitreEditeurTexte), titre_));
     FaireRubriques();
     Compter();
     SuivreCurseur();
@@ -174,18 +177,20 @@ bool FrmTexte::Editer(std::string& note, const QString& titre, std::size_t auPlu
 void FrmTexte::Sauver() {
     const std::size_t taille = ui_->TxtTexte->Note().size();
     if (auPlus_ > 0 && taille > auPlus_) {
-        S().dialogue.Informer(shell::Msg(3269, std::to_string(taille), std::to_string(auPlus_)));
+        S().dialogue.Informer(
+            shell::Msg(message::TexteTropLong, std::to_string(taille), std::to_string(auPlus_)));
         return;
     }
     if (const std::size_t remplaces = ui_->TxtTexte->Remplaces(); remplaces > 0)
-        S().dialogue.Informer(shell::Msg(3268, std::to_string(remplaces)));
+        S().dialogue.Informer(
+            shell::Msg(message::TexteHorsJeuDeCaracteres, std::to_string(remplaces)));
     accept();
 }
 
 /// Escape and the close button lose nothing without a question.
 void FrmTexte::reject() {
     if (!ui_->TxtTexte->EstModifiee()) return FenetreFille::reject();
-    Renoncer(3267, [this] { Sauver(); });
+    Renoncer(message::ProposerEnregistrerTexte, [this] { Sauver(); });
 }
 
 }  // namespace dorvane::windows

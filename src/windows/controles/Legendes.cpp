@@ -115,7 +115,7 @@ QString TexteEcran(const std::string& texte) {
     return rendu;
 }
 
-QString TexteEcran(const shell::Session& session, std::uint32_t message) {
+QString TexteEcran(const shell::Session& session, NoMessage message) {
     return TexteEcran(session.Message(message));
 }
 

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "values/Numeros.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -29,7 +31,7 @@ struct Legende {
     const char* fenetre;   ///< name of the window
     const char* controle;  ///< name of the control, UTF-8; empty is the window itself
     Propriete propriete;
-    std::uint16_t message;
+    NoMessage message;
     int indice = 0;  ///< column or row, from 0
 };
 
@@ -45,7 +47,7 @@ void TraduireFenetre(QWidget& fenetre, const shell::Session& session);
                                    const char* controle, int colonne);
 
 /// A text of the catalogue as the screen shows it: no-break spaces stand before ":" and the like.
-[[nodiscard]] QString TexteEcran(const shell::Session& session, std::uint32_t message);
+[[nodiscard]] QString TexteEcran(const shell::Session& session, NoMessage message);
 
 /// The same for a text in code page 1252.
 [[nodiscard]] QString TexteEcran(const std::string& texte);

@@ -1,3 +1,5 @@
+#include "messages/Exporter.h"
+#include "messages/Faits.h"
 #include "windows/controles/TablesLegendes.h"
 
 namespace dorvane::windows {
@@ -7,37 +9,37 @@ namespace {
 using enum Propriete;
 
 constexpr Legende Table[] = {
-    {"MDIForm1", "MnuExporter", Texte, 4243},
-    {"MDIForm1", "MnuExporterSélectif", Texte, 4244},
-    {"MDIForm1", "MnuIntégrer", Texte, 4245},
+    {"MDIForm1", "MnuExporter", Texte, message::MenuExporter},
+    {"MDIForm1", "MnuExporterSélectif", Texte, message::MenuExporterSelection},
+    {"MDIForm1", "MnuIntégrer", Texte, message::MenuIntegrerFichierDorvane},
 
-    {"FrmExporter", "", Texte, 4200},
-    {"FrmExporter", "LblPersonnes", Texte, 3044},
-    {"FrmExporter", "OptBase(0)", Texte, 4202},
-    {"FrmExporter", "OptBase(1)", Texte, 4203},
-    {"FrmExporter", "LblNom", Texte, 4204},
-    {"FrmExporter", "CmdListe", Texte, 4205},
-    {"FrmExporter", "OptExport(0)", Texte, 4206},
-    {"FrmExporter", "OptExport(1)", Texte, 4207},
-    {"FrmExporter", "LblGen", Texte, 4208},
-    {"FrmExporter", "UpDown1", Acces, 4208},
-    {"FrmExporter", "CmdSélection", Texte, 4209},
-    {"FrmExporter", "CmdVider", Texte, 4210},
-    {"FrmExporter", "LstSélection", Acces, 4249},
-    {"FrmExporter", "LstSélection", Bulle, 4249},
-    {"FrmExporter", "ChkCollateraux", Texte, 4211},
-    {"FrmExporter", "ChkCollateraux", Bulle, 4247},
-    {"FrmExporter", "ChkComplet", Texte, 4216},
-    {"FrmExporter", "ChkComplet", Bulle, 4246},
-    {"FrmExporter", "Ecarter", Texte, 4214},
-    {"FrmExporter", "Chk1900", Texte, 4215},
-    {"FrmExporter", "LblFormat", Texte, 4219},
-    {"FrmExporter", "ChxFormat", Ligne, 4217, 0},
-    {"FrmExporter", "ChxFormat", Ligne, 4218, 1},
-    {"FrmExporter", "LblJeu", Texte, 4220},
-    {"FrmExporter", "CboJeu", Bulle, 4248},
-    {"FrmExporter", "CmdDossier", Texte, 4230},
-    {"FrmExporter", "CmdLancer", Texte, 4228},
+    {"FrmExporter", "", Texte, message::TitreExporter},
+    {"FrmExporter", "LblPersonnes", Texte, message::ColonnePersonnes},
+    {"FrmExporter", "OptBase(0)", Texte, message::ChoixTouteLaBase},
+    {"FrmExporter", "OptBase(1)", Texte, message::ChoixUnePartieDeLaBase},
+    {"FrmExporter", "LblNom", Texte, message::PersonneDeDepart},
+    {"FrmExporter", "CmdListe", Texte, message::BoutonChoisirDepart},
+    {"FrmExporter", "OptExport(0)", Texte, message::ChoixAscendants},
+    {"FrmExporter", "OptExport(1)", Texte, message::ChoixDescendants},
+    {"FrmExporter", "LblGen", Texte, message::NombreDeGenerations},
+    {"FrmExporter", "UpDown1", Acces, message::NombreDeGenerations},
+    {"FrmExporter", "CmdSélection", Texte, message::BoutonSelection},
+    {"FrmExporter", "CmdVider", Texte, message::BoutonViderSelection},
+    {"FrmExporter", "LstSélection", Acces, message::BulleSelectionExport},
+    {"FrmExporter", "LstSélection", Bulle, message::BulleSelectionExport},
+    {"FrmExporter", "ChkCollateraux", Texte, message::ChoixCollateraux},
+    {"FrmExporter", "ChkCollateraux", Bulle, message::BulleCollateraux},
+    {"FrmExporter", "ChkComplet", Texte, message::ChoixComplete},
+    {"FrmExporter", "ChkComplet", Bulle, message::BulleExportComplet},
+    {"FrmExporter", "Ecarter", Texte, message::TitreEcarter},
+    {"FrmExporter", "Chk1900", Texte, message::ChoixNaissanceApres1900},
+    {"FrmExporter", "LblFormat", Texte, message::FormatDExport},
+    {"FrmExporter", "ChxFormat", Ligne, message::FormatGedcom, 0},
+    {"FrmExporter", "ChxFormat", Ligne, message::FormatDorvane, 1},
+    {"FrmExporter", "LblJeu", Texte, message::JeuDeCaracteresExport},
+    {"FrmExporter", "CboJeu", Bulle, message::BulleJeuDeCaracteres},
+    {"FrmExporter", "CmdDossier", Texte, message::BoutonOuvrirDossier},
+    {"FrmExporter", "CmdLancer", Texte, message::BoutonLancerExport},
 };
 
 }  // namespace

@@ -1,3 +1,5 @@
+#include "messages/Dorvane.h"
+#include "messages/Famille.h"
 #include "windows/controles/TablesLegendes.h"
 
 #include <array>
@@ -13,48 +15,54 @@ using enum Propriete;
 constexpr const char* Choix[] = {"FrmPère", "FrmEnfants", "FrmConjoints", "FrmLiens"};
 
 constexpr Legende LegendesChoix[] = {
-    {nullptr, "LblNom", Texte, 2850},       {nullptr, "Commande1", Texte, 2851},
-    {nullptr, "ChkAnnees", Texte, 2852},    {nullptr, "ChkAnnees", Bulle, 2853},
-    {nullptr, "C_Préc", Texte, 2854},       {nullptr, "C_Suiv", Texte, 2855},
-    {nullptr, "CmdChoisir", Texte, 2857},   {nullptr, "CmdAnnuler", Texte, 2858},
-    {nullptr, "Grille1", Acces, 2859},      {nullptr, "Grille1", Colonne, 2860, 0},
-    {nullptr, "Grille1", Colonne, 2861, 1}, {nullptr, "Grille1", Colonne, 2862, 2},
+    {nullptr, "LblNom", Texte, message::NomOuNumero},
+    {nullptr, "Commande1", Texte, message::BoutonFiltrer},
+    {nullptr, "ChkAnnees", Texte, message::BoutonToutesLesAnnees},
+    {nullptr, "ChkAnnees", Bulle, message::BulleToutesLesAnnees},
+    {nullptr, "C_Préc", Texte, message::BoutonPagePrecedente},
+    {nullptr, "C_Suiv", Texte, message::BoutonPageSuivante},
+    {nullptr, "CmdChoisir", Texte, message::BoutonChoisirProche},
+    {nullptr, "CmdAnnuler", Texte, message::BoutonAnnulerProche},
+    {nullptr, "Grille1", Acces, message::PersonnesProposees},
+    {nullptr, "Grille1", Colonne, message::ColonneParentsTrouves, 0},
+    {nullptr, "Grille1", Colonne, message::ColonneNomTrouve, 1},
+    {nullptr, "Grille1", Colonne, message::ColonneDatesTrouvees, 2},
 };
 
 constexpr Legende LegendesRecherche[] = {
-    {"FrmRecherche", "", Texte, 2880},
-    {"FrmRecherche", "LblRecherche", Texte, 2881},
-    {"FrmRecherche", "T_Recherche", Invite, 2882},
-    {"FrmRecherche", "C_Recherche", Texte, 2883},
-    {"FrmRecherche", "ChxCumul", Texte, 2884},
-    {"FrmRecherche", "Grille1", Acces, 2885},
-    {"FrmRecherche", "Grille1", Colonne, 2860, 0},
-    {"FrmRecherche", "Grille1", Colonne, 2861, 1},
-    {"FrmRecherche", "Grille1", Colonne, 2862, 2},
-    {"FrmRecherche", "C_Affichage", Texte, 2886},
-    {"FrmRecherche", "C_Maj", Texte, 2887},
-    {"FrmRecherche", "CmdAjouter", Texte, 2888},
-    {"FrmRecherche", "CmdAjouter", Bulle, 2897},
-    {"FrmRecherche", "CmdEcarter", Texte, 2889},
-    {"FrmRecherche", "CmdEcarter", Bulle, 2898},
-    {"FrmRecherche", "CmdParenté", Texte, 2890},
-    {"FrmRecherche", "CmdStats", Texte, 2891},
-    {"FrmRecherche", "CmdImprimer", Texte, 2892},
-    {"FrmRecherche", "CmdFermer", Texte, 2893},
+    {"FrmRecherche", "", Texte, message::TitreRechercheParNom},
+    {"FrmRecherche", "LblRecherche", Texte, message::TexteCherche},
+    {"FrmRecherche", "T_Recherche", Invite, message::InvitePartieDuNom},
+    {"FrmRecherche", "C_Recherche", Texte, message::BoutonRechercher},
+    {"FrmRecherche", "ChxCumul", Texte, message::BoutonGarderListe},
+    {"FrmRecherche", "Grille1", Acces, message::PersonnesTrouvees},
+    {"FrmRecherche", "Grille1", Colonne, message::ColonneParentsTrouves, 0},
+    {"FrmRecherche", "Grille1", Colonne, message::ColonneNomTrouve, 1},
+    {"FrmRecherche", "Grille1", Colonne, message::ColonneDatesTrouvees, 2},
+    {"FrmRecherche", "C_Affichage", Texte, message::BoutonVoirDansGraphe},
+    {"FrmRecherche", "C_Maj", Texte, message::BoutonOuvrirFicheRecherche},
+    {"FrmRecherche", "CmdAjouter", Texte, message::BoutonAjouterPersonneEnCours},
+    {"FrmRecherche", "CmdAjouter", Bulle, message::BulleAjouterPersonneDuGraphe},
+    {"FrmRecherche", "CmdEcarter", Texte, message::BoutonEcarterDeLaListe},
+    {"FrmRecherche", "CmdEcarter", Bulle, message::BulleEcarterDeLaListe},
+    {"FrmRecherche", "CmdParenté", Texte, message::BoutonParente},
+    {"FrmRecherche", "CmdStats", Texte, message::BoutonStatistiques},
+    {"FrmRecherche", "CmdImprimer", Texte, message::BoutonImprimer},
+    {"FrmRecherche", "CmdFermer", Texte, message::BoutonFermerRecherche},
 };
 
 constexpr Legende LegendesNoms[] = {
-    {"FrmNom", "", Texte, 2060},
-    {"FrmNom", "LblFiltre", Texte, 2061},
-    {"FrmNom", "TxtFiltre", Invite, 2073},
-    {"FrmNom", "LstNoms", Colonne, 2062, 0},
-    {"FrmNom", "LstNoms", Colonne, 2063, 1},
-    {"FrmNom", "LstNoms", Colonne, 2064, 2},
-    {"FrmNom", "LstNoms", Colonne, 2065, 3},
-    {"FrmNom", "LstNoms", Colonne, 2066, 4},
-    {"FrmNom", "LstNoms", Acces, 2013},
-    {"FrmNom", "CmdChoisir", Texte, 2070},
-    {"FrmNom", "CmdAnnuler", Texte, 2071},
+    {"FrmNom", "", Texte, message::TitreChoisirPersonne},
+    {"FrmNom", "LblFiltre", Texte, message::FiltrerNoms},
+    {"FrmNom", "TxtFiltre", Invite, message::InviteMotsDuNomOuAnnees},
+    {"FrmNom", "LstNoms", Colonne, message::ColonneNomListeNoms, 0},
+    {"FrmNom", "LstNoms", Colonne, message::ColonneDatesPersonne, 1},
+    {"FrmNom", "LstNoms", Colonne, message::ColonneParentsListeNoms, 2},
+    {"FrmNom", "LstNoms", Colonne, message::ColonneSexeListeNoms, 3},
+    {"FrmNom", "LstNoms", Colonne, message::ColonneFamilleListeNoms, 4},
+    {"FrmNom", "LstNoms", Acces, message::MenuTousLesNoms},
+    {"FrmNom", "CmdChoisir", Texte, message::BoutonChoisirListeNoms},
+    {"FrmNom", "CmdAnnuler", Texte, message::BoutonAnnulerListeNoms},
 };
 
 consteval auto Assembler() {

@@ -1,3 +1,4 @@
+#include "messages/Releve.h"
 #include "windows/controles/TablesLegendes.h"
 
 namespace dorvane::windows {
@@ -7,18 +8,18 @@ namespace {
 using enum Propriete;
 
 constexpr Legende Table[] = {
-    {"MDIForm1", "MnuRelevés", Texte, 4199},
-    {"MDIForm1", "MnuBaptème", Texte, 4195},
-    {"MDIForm1", "MnuRelevéMariage", Texte, 4196},
-    {"MDIForm1", "MnuSépulture", Texte, 4197},
-    {"MDIForm1", "MnuRelevéAscendance", Texte, 4198},
-    {"MDIForm1", "MnuGénéanet", Texte, 4180},
+    {"MDIForm1", "MnuRelevés", Texte, message::MenuReleves},
+    {"MDIForm1", "MnuBaptème", Texte, message::MenuReleveBaptemes},
+    {"MDIForm1", "MnuRelevéMariage", Texte, message::MenuReleveMariages},
+    {"MDIForm1", "MnuSépulture", Texte, message::MenuReleveSepultures},
+    {"MDIForm1", "MnuRelevéAscendance", Texte, message::MenuReleveAscendance},
+    {"MDIForm1", "MnuGénéanet", Texte, message::MenuRemettreAGeneanet},
 
-    {"FrmRelevé", "", Texte, 4185},
-    {"FrmRelevé", "LblSorte", Texte, 4186},
-    {"FrmRelevé", "GrdLignes", Acces, 4187},
-    {"FrmRelevé", "CmdImporter", Texte, 4192},
-    {"FrmRelevé", "CmdAnnuler", Texte, 4193},
+    {"FrmRelevé", "", Texte, message::TitreReleveAImporter},
+    {"FrmRelevé", "LblSorte", Texte, message::SorteDeReleve},
+    {"FrmRelevé", "GrdLignes", Acces, message::LignesDuReleve},
+    {"FrmRelevé", "CmdImporter", Texte, message::BoutonImporterReleve},
+    {"FrmRelevé", "CmdAnnuler", Texte, message::BoutonAnnulerReleve},
 };
 
 }  // namespace

@@ -1,3 +1,6 @@
+#include "messages/Controle.h"
+#include "messages/Faits.h"
+#include "messages/Messages.h"
 #include "windows/controles/TablesLegendes.h"
 
 namespace dorvane::windows {
@@ -7,32 +10,32 @@ namespace {
 using enum Propriete;
 
 constexpr Legende Table[] = {
-    {"MDIForm1", "MnuSoin", Texte, 4250},
-    {"MDIForm1", "MnuControle", Texte, 4251},
-    {"MDIForm1", "MnuDépannage", Texte, 4252},
-    {"MDIForm1", "MnuRéorganiser", Texte, 4253},
+    {"MDIForm1", "MnuSoin", Texte, message::MenuEntretienBase},
+    {"MDIForm1", "MnuControle", Texte, message::MenuControlerBase},
+    {"MDIForm1", "MnuDépannage", Texte, message::MenuDepannerBase},
+    {"MDIForm1", "MnuRéorganiser", Texte, message::MenuReorganiserBase},
 
-    {"FrmControle", "", Texte, 504},
-    {"FrmControle", "LblFiltre", Texte, 3065},
-    {"FrmControle", "TxtFiltre", Invite, 4264},
-    {"FrmControle", "LblSortes", Texte, 4254},
-    {"FrmControle", "LstSortes", Acces, 4254},
-    {"FrmControle", "LstSortes", Colonne, 4256, 0},
-    {"FrmControle", "LstSortes", Colonne, 4257, 1},
-    {"FrmControle", "LblAno", Texte, 505},
-    {"FrmControle", "GrdAno", Acces, 505},
-    {"FrmControle", "GrdAno", Colonne, 4258, 0},
-    {"FrmControle", "GrdAno", Colonne, 4256, 1},
-    {"FrmControle", "GrdAno", Colonne, 3070, 2},
-    {"FrmControle", "GrdAno", Colonne, 4257, 3},
-    {"FrmControle", "GrdFiche", Acces, 4277},
-    {"FrmControle", "GrdFiche", Colonne, 4275, 0},
-    {"FrmControle", "GrdFiche", Colonne, 4276, 1},
-    {"FrmControle", "Avancement", Acces, 4269},
-    {"FrmControle", "CmdFiche", Texte, 3076},
-    {"FrmControle", "CmdAller", Texte, 3075},
-    {"FrmControle", "CmdTexte", Texte, 4265},
-    {"FrmControle", "CmdRelancer", Texte, 4266},
+    {"FrmControle", "", Texte, message::TitreControleBase},
+    {"FrmControle", "LblFiltre", Texte, message::FiltrerListe},
+    {"FrmControle", "TxtFiltre", Invite, message::InviteMotsAnomalieOuNom},
+    {"FrmControle", "LblSortes", Texte, message::SortesDAnomalies},
+    {"FrmControle", "LstSortes", Acces, message::SortesDAnomalies},
+    {"FrmControle", "LstSortes", Colonne, message::ColonneAnomalie, 0},
+    {"FrmControle", "LstSortes", Colonne, message::ColonneNombreAnomalies, 1},
+    {"FrmControle", "LblAno", Texte, message::AnomaliesRelevees},
+    {"FrmControle", "GrdAno", Acces, message::AnomaliesRelevees},
+    {"FrmControle", "GrdAno", Colonne, message::ColonneNumeroPersonne, 0},
+    {"FrmControle", "GrdAno", Colonne, message::ColonneAnomalie, 1},
+    {"FrmControle", "GrdAno", Colonne, message::Personne, 2},
+    {"FrmControle", "GrdAno", Colonne, message::ColonneNombreAnomalies, 3},
+    {"FrmControle", "GrdFiche", Acces, message::FicheDeLaPersonne},
+    {"FrmControle", "GrdFiche", Colonne, message::ColonneRubriqueFiche, 0},
+    {"FrmControle", "GrdFiche", Colonne, message::ColonneContenuFiche, 1},
+    {"FrmControle", "Avancement", Acces, message::EtatControleEnCours},
+    {"FrmControle", "CmdFiche", Texte, message::BoutonOuvrirFiche},
+    {"FrmControle", "CmdAller", Texte, message::BoutonAller},
+    {"FrmControle", "CmdTexte", Texte, message::BoutonEnTexte},
+    {"FrmControle", "CmdRelancer", Texte, message::BoutonRecontroler},
 };
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <QObject>
 
+#include "values/Numeros.h"
+
 #include <cstdint>
 
 class QLabel;
@@ -31,10 +33,10 @@ public:
         QLabel* vide;
     };
     struct Messages {
-        std::uint32_t nombre;      ///< with the count
-        std::uint32_t partie;      ///< with the rows shown and the count
-        std::uint32_t sansTrouve;  ///< with the filter: it hides all rows
-        std::uint32_t vide;        ///< there is no row at all
+        NoMessage nombre;      ///< with the count
+        NoMessage partie;      ///< with the rows shown and the count
+        NoMessage sansTrouve;  ///< with the filter: it hides all rows
+        NoMessage vide;        ///< there is no row at all
     };
 
     /// All outlive the object but its parent. `nom`: under which the columns are remembered.

@@ -2,6 +2,7 @@
 
 #include <QMimeData>
 
+#include "messages/Dorvane.h"
 #include "records/Choix.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
@@ -17,10 +18,10 @@ namespace dorvane::windows {
 namespace {
 
 /// What a mark stands for, in words.
-std::uint32_t MessageMarque(std::string_view marque) {
-    if (marque == "*") return 2077;
-    if (marque == "P") return 2075;
-    return marque == "M" ? 2076 : 2074;
+NoMessage MessageMarque(std::string_view marque) {
+    if (marque == "*") return message::BulleParentsInconnus;
+    if (marque == "P") return message::BullePereConnu;
+    return marque == "M" ? message::BulleMereConnue : message::BulleParentsConnus;
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <QDesktopServices>
 #include <QUrl>
 
+#include "messages/Faits.h"
 #include "records/FicheDocument.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
@@ -30,14 +31,15 @@ void OuvrirDocument(shell::Session& session, const storage::Document& valeurs) {
             chemin = records::LireLien(chemin);
         std::error_code erreur;
         if (chemin.empty() || !std::filesystem::exists(chemin, erreur)) {
-            session.dialogue.Informer(shell::Msg(3055, valeurs.fichier),
-                                      shell::Litteral(records::TitreAffiche(valeurs)));
+            session.dialogue.Informer(
+                shell::Msg(message::FichierDocumentIntrouvable, valeurs.fichier),
+                shell::Litteral(records::TitreAffiche(valeurs)));
             return;
         }
         url = QUrl::fromLocalFile(CheminVersQt(std::filesystem::absolute(chemin, erreur)));
     }
     if (!QDesktopServices::openUrl(url))
-        session.dialogue.Informer(shell::Msg(3056, valeurs.fichier),
+        session.dialogue.Informer(shell::Msg(message::AucunProgrammePourOuvrir, valeurs.fichier),
                                   shell::Litteral(records::TitreAffiche(valeurs)));
 }
 

@@ -8,6 +8,10 @@
 #include <QSignalBlocker>
 #include <QUrl>
 
+#include "messages/Dorvane.h"
+#include "messages/Export.h"
+#include "messages/Exporter.h"
+#include "messages/Messages.h"
 #include "records/Famille.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
@@ -34,19 +38,23 @@ using interchange::SensExport;
 constexpr int PasBarre = 1000;  ///< the bar counts in thousandths
 const QString Separateur = QStringLiteral("  ·  ");
 
-QString Remplir(const shell::Session& session, std::uint32_t message, const QString& valeur) {
+QString Remplir(const shell::Session& session, NoMessage message, const QString& valeur) {
     return TexteEcran(session, message).replace(QStringLiteral("&1"), valeur);
 }
 
-QString Remplir(const shell::Session& session, std::uint32_t message, std::uint32_t nombre) {
+QString Remplir(const shell::Session& session, NoMessage message, std::uint32_t nombre) {
     return Remplir(session, message, QString::number(nombre));
 }
 
 /// "Ascendants de Paul Martin (1820-1890), 3 génération(s)".
 QString DireParcours(shell::Session& session, const ParcoursExport& parcours) {
     const QString nom = TexteVersQt(records::NomEtDates(session, parcours.depart)).trimmed();
-    return Remplir(session, parcours.sens == SensExport::Ascendants ? 575 : 702, nom) +
-           QStringLiteral(", ") + QString::number(parcours.generations) + TexteEcran(session, 694);
+    return Remplir(session,
+                   parcours.sens == SensExport::Ascendants ? message::TitreAscendantsDe
+                                                           : message::TitreDescendantsDe,
+                   nom) +
+           QStringLiteral(", ") + QString::number(parcours.generations) +
+           TexteEcran(session, message::EtatSuffixeGenerations);
 }
 
 }  // namespace
@@ -122,8 +130,9 @@ void FrmExporter::Selectionner(const std::vector<NoOrdre>& liste) {
 
 void FrmExporter::Traduire() {
     FenetreFille::Traduire();
-    ui_->CmdFermer->setText(enCours_ ? SansMnemonique(TexteEcran(S(), 2050))
-                                     : TexteEcran(S(), 4229));
+    ui_->CmdFermer->setText(enCours_
+                                ? SansMnemonique(TexteEcran(S(), message::BoutonAnnulerTraitement))
+                                : TexteEcran(S(), message::BoutonFermerExport));
     PoserDepart(ui_->EtiNom->Individu());
     if (!ui_->PnlResultat->isHidden()) MontrerResultat(dernier_);
     MontrerSelection();
@@ -203,7 +212,8 @@ bool FrmExporter::eventFilter(QObject* objet, QEvent* evenement) {
 
 void FrmExporter::PoserDepart(NoOrdre individu) {
     const bool existe = S().base && records::Existe(*S().base, individu);
-    ui_->EtiNom->Poser(existe ? individu : NoOrdre{}, TexteEcran(S(), 2060));
+    ui_->EtiNom->Poser(existe ? individu : NoOrdre{},
+                       TexteEcran(S(), message::TitreChoisirPersonne));
     PoserEtats();
 }
 
@@ -264,7 +274,8 @@ void FrmExporter::MontrerSelection() {
     ui_->LstSélection->clear();
     if (!S().base) return;
     if (!liste_.empty())
-        ui_->LstSélection->addItem(Remplir(S(), 4233, static_cast<std::uint32_t>(liste_.size())));
+        ui_->LstSélection->addItem(Remplir(S(), message::NombrePersonnesDUneListe,
+                                           static_cast<std::uint32_t>(liste_.size())));
     for (const ParcoursExport& parcours : parcours_)
         ui_->LstSélection->addItem(DireParcours(S(), parcours));
 }
@@ -278,23 +289,24 @@ void FrmExporter::Compter() {
     if (enCours_) return;
     PoserEtats();
     if (Vide()) {
-        ui_->LblRetenus->setText(Remplir(S(), 4212, 0));
-        ui_->LblMarques->setText(Remplir(S(), 4213, 0));
-        ui_->LblFiche->setText(TexteEcran(S(), 4226));
+        ui_->LblRetenus->setText(Remplir(S(), message::NombrePersonnesChoisies, 0));
+        ui_->LblMarques->setText(Remplir(S(), message::NombreAvecCollateraux, 0));
+        ui_->LblFiche->setText(TexteEcran(S(), message::RienAExporterBaseVide));
         return;
     }
     const interchange::ComptesSelection comptes = interchange::CompterExport(S(), Demande());
-    ui_->LblRetenus->setText(Remplir(S(), 4212, comptes.retenus));
-    ui_->LblMarques->setText(Remplir(S(), 4213, comptes.marques));
+    ui_->LblRetenus->setText(Remplir(S(), message::NombrePersonnesChoisies, comptes.retenus));
+    ui_->LblMarques->setText(Remplir(S(), message::NombreAvecCollateraux, comptes.marques));
     if (comptes.retenus == 0)
-        ui_->LblFiche->setText(TexteEcran(S(), 4227));
+        ui_->LblFiche->setText(TexteEcran(S(), message::RienAExporterSansSelection));
     else if (comptes.individus == 0)
-        ui_->LblFiche->setText(TexteEcran(S(), 4232));
+        ui_->LblFiche->setText(TexteEcran(S(), message::RienAExporterNesApres1900));
     else
-        ui_->LblFiche->setText(QStringList{Remplir(S(), 2067, comptes.individus),
-                                           Remplir(S(), 4224, comptes.evenements),
-                                           Remplir(S(), 4225, comptes.documents)}
-                                   .join(Separateur));
+        ui_->LblFiche->setText(
+            QStringList{Remplir(S(), message::NombrePersonnes, comptes.individus),
+                        Remplir(S(), message::NombreEvenementsExport, comptes.evenements),
+                        Remplir(S(), message::NombreDocumentsExport, comptes.documents)}
+                .join(Separateur));
 }
 
 void FrmExporter::PoserEtats() {
@@ -310,7 +322,8 @@ void FrmExporter::PoserEtats() {
     ui_->ChkComplet->setEnabled(!ui_->Chk1900->isChecked());
     ui_->LblJeu->setEnabled(gedcom);
     ui_->CboJeu->setEnabled(gedcom);
-    ui_->LblUsage->setText(TexteEcran(S(), gedcom ? 4221 : 4222));
+    ui_->LblUsage->setText(
+        TexteEcran(S(), gedcom ? message::UsageFormatGedcom : message::UsageFormatDorvane));
     ui_->CmdLancer->setEnabled(!vide && !enCours_);
 }
 
@@ -318,8 +331,9 @@ void FrmExporter::Occuper(bool enCours) {
     enCours_ = enCours;
     ui_->BarAvancement->setRange(0, 0);
     ui_->BarAvancement->hide();
-    ui_->CmdFermer->setText(enCours ? SansMnemonique(TexteEcran(S(), 2050))
-                                    : TexteEcran(S(), 4229));
+    ui_->CmdFermer->setText(enCours
+                                ? SansMnemonique(TexteEcran(S(), message::BoutonAnnulerTraitement))
+                                : TexteEcran(S(), message::BoutonFermerExport));
     PoserEtats();
 }
 
@@ -350,15 +364,17 @@ void FrmExporter::Lancer() {
 
 void FrmExporter::MontrerResultat(const Lancement& lancement) {
     QStringList lignes;
-    lignes << TexteEcran(S(), 652)
-           << QStringList{Remplir(S(), 2067, lancement.individus),
-                          Remplir(S(), 4223, lancement.unions),
-                          Remplir(S(), 4224, lancement.evenements),
-                          Remplir(S(), 4225, lancement.documents)}
+    lignes << TexteEcran(S(), message::InfoExportTermine)
+           << QStringList{Remplir(S(), message::NombrePersonnes, lancement.individus),
+                          Remplir(S(), message::NombreUnionsExport, lancement.unions),
+                          Remplir(S(), message::NombreEvenementsExport, lancement.evenements),
+                          Remplir(S(), message::NombreDocumentsExport, lancement.documents)}
                   .join(Separateur)
-           << Remplir(S(), 4231, CheminVersQt(lancement.fichier));
-    if (lancement.perdus > 0) lignes << Remplir(S(), 3702, QString::number(lancement.perdus));
-    if (lancement.omis > 0) lignes << Remplir(S(), 4201, lancement.omis);
+           << Remplir(S(), message::FichierExporte, CheminVersQt(lancement.fichier));
+    if (lancement.perdus > 0)
+        lignes << Remplir(S(), message::CaracteresPerdusALExport,
+                          QString::number(lancement.perdus));
+    if (lancement.omis > 0) lignes << Remplir(S(), message::UnionsEtEntreesOmises, lancement.omis);
     ui_->LblResultat->setText(lignes.join(u'\n'));
     ui_->PnlResultat->show();
     BornerHauteur();

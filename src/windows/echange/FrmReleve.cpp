@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include "messages/Releve.h"
 #include "shell/Session.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/Unicode.h"
@@ -27,7 +28,7 @@ constexpr std::size_t MaxConstats = 500;
 /// Rows whose texts settle the width of the columns.
 constexpr int RangeesMesurees = 100;
 
-QString Compter(const shell::Session& session, std::uint32_t message, std::size_t nombre) {
+QString Compter(const shell::Session& session, NoMessage message, std::size_t nombre) {
     return TexteEcran(session, message).replace(QStringLiteral("&1"), QString::number(nombre));
 }
 
@@ -84,15 +85,20 @@ void FrmReleve::Montrer() {
     ui_->GrdLignes->resizeColumnsToContents();
     ui_->CmdImporter->setEnabled(!releve_.lignes.empty());
     if (releve_.lignes.empty())
-        ui_->LblTitres->setText(TexteEcran(S(), 4179).replace(QStringLiteral("&1"), nom_));
+        ui_->LblTitres->setText(
+            TexteEcran(S(), message::FichierSansLigneDeReleve).replace(QStringLiteral("&1"), nom_));
     else
-        ui_->LblTitres->setText(TexteEcran(S(), releve_.titres ? 4188 : 4189));
+        ui_->LblTitres->setText(TexteEcran(
+            S(), releve_.titres ? message::AideTitresDuReleve : message::AideColonnesDuReleve));
     QStringList bilan;
-    bilan << TexteEcran(S(), 4175).replace(QStringLiteral("&1"),
-                                           TexteVersQt(interchange::NomDeJeu(releve_.jeu.jeu)))
-          << Compter(S(), 4171, rapport_.lignes) << Compter(S(), 4172, rapport_.individus)
-          << Compter(S(), 4173, rapport_.evenements) << Compter(S(), 4174, rapport_.unions);
-    if (releve_.remplaces != 0) bilan << Compter(S(), 4176, releve_.remplaces);
+    bilan << TexteEcran(S(), message::RapportJeuDeCaracteresReleve)
+                 .replace(QStringLiteral("&1"), TexteVersQt(interchange::NomDeJeu(releve_.jeu.jeu)))
+          << Compter(S(), message::RapportLignesReprises, rapport_.lignes)
+          << Compter(S(), message::RapportPersonnesReleve, rapport_.individus)
+          << Compter(S(), message::RapportEvenementsReleve, rapport_.evenements)
+          << Compter(S(), message::RapportUnionsReleve, rapport_.unions);
+    if (releve_.remplaces != 0)
+        bilan << Compter(S(), message::RapportCaracteresRemplaces, releve_.remplaces);
     ui_->LblBilan->setText(bilan.join(QStringLiteral("  ·  ")));
     MontrerConstats();
 }
@@ -101,13 +107,14 @@ void FrmReleve::MontrerConstats() {
     const bool aucun = rapport_.constats.empty();
     ui_->LblConstats->setVisible(!aucun);
     ui_->LstConstats->setVisible(!aucun);
-    ui_->LblConstats->setText(Compter(S(), 4190, rapport_.constats.size()));
+    ui_->LblConstats->setText(
+        Compter(S(), message::NombreLignesAVerifier, rapport_.constats.size()));
     ui_->LstConstats->clear();
     for (std::size_t i = 0; i < std::min(rapport_.constats.size(), MaxConstats); ++i) {
         const interchange::RapportReleve::Constat& constat = rapport_.constats[i];
         ui_->LstConstats->addItem(
-            TexteEcran(S(), 4178)
-                .replace(QStringLiteral("&2"), TexteEcran(S(), constat.message.valeur))
+            TexteEcran(S(), message::RapportLigneEtConstat)
+                .replace(QStringLiteral("&2"), TexteEcran(S(), constat.message))
                 .replace(QStringLiteral("&1"), QString::number(constat.ligne)));
     }
 }

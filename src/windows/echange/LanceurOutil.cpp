@@ -2,6 +2,7 @@
 
 #include <QProcess>
 
+#include "messages/Releve.h"
 #include "shell/Progression.h"
 #include "shell/Session.h"
 
@@ -28,7 +29,9 @@ bool LancerEtAttendre(shell::Session& session, const interchange::AppelOutil& ap
     outil.start();
     if (!outil.waitForStarted()) return false;
 
-    const shell::CadreProgression cadre{session.progression, shell::Msg(4183), shell::Msg(4184)};
+    const shell::CadreProgression cadre{session.progression,
+                                        shell::Msg(message::TitreRemiseGeneanet),
+                                        shell::Msg(message::OutilDeConversionEnCours)};
     while (!outil.waitForFinished(PasMs) && outil.state() != QProcess::NotRunning) {
         if (session.progression.Avancer(0, 0)) continue;
         outil.terminate();

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QStyle>
 
+#include "messages/Releve.h"
 #include "shell/Session.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/Unicode.h"
@@ -20,7 +21,7 @@ void ModeleReleve::Poser(const interchange::Releve& releve,
     releve_ = &releve;
     constats_.clear();
     for (const interchange::RapportReleve::Constat& constat : rapport.constats)
-        constats_[constat.ligne] << TexteEcran(session_, constat.message.valeur);
+        constats_[constat.ligne] << TexteEcran(session_, constat.message);
     endResetModel();
 }
 
@@ -62,7 +63,8 @@ QVariant ModeleReleve::data(const QModelIndex& index, int role) const {
 QVariant ModeleReleve::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || releve_ == nullptr) return {};
     if (section == 0)
-        return role == Qt::DisplayRole ? QVariant{TexteEcran(session_, 4191)} : QVariant{};
+        return role == Qt::DisplayRole ? QVariant{TexteEcran(session_, message::ColonneLigneReleve)}
+                                       : QVariant{};
     const auto colonne = static_cast<std::size_t>(section - 1);
     if (role != Qt::DisplayRole) return {};
     const QString titre =

@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include "messages/Faits.h"
 #include "records/FicheEvenement.h"
 #include "records/MotsUsuels.h"
 #include "records/NomsAffiches.h"
@@ -164,7 +165,8 @@ void FrmDesEvt::Connecter() {
 void FrmDesEvt::Traduire() {
     FenetreFille::Traduire();
     const std::string resume = records::ResumeEvenement(S(), saisie_.evenement);
-    setWindowTitle(resume.empty() ? TexteEcran(S(), 3090) : TexteEcran(resume));
+    setWindowTitle(resume.empty() ? TexteEcran(S(), message::TitreNouvelEvenement)
+                                  : TexteEcran(resume));
     RemplirTypes();
     RemplirRoles();
 }
@@ -253,7 +255,8 @@ void FrmDesEvt::SuivreDate() {
             NomJourSemaine(AfficherDateEvenement(*date, S().Mots()), S().Ordre(), S().Mots());
         ui_->LblAvis->setText(TexteVersQt(SansBlancs(jour)));
     } else {
-        ui_->LblAvis->setText(SansBlancs(saisie).empty() ? QString{} : TexteEcran(S(), 3091));
+        ui_->LblAvis->setText(
+            SansBlancs(saisie).empty() ? QString{} : TexteEcran(S(), message::AideDateEvenement));
         Avertir(*ui_->LblAvis);
     }
 }
@@ -304,7 +307,7 @@ void FrmDesEvt::CmdMajClique() {
         if (issue.etat != Etat::Incomplet) return accept();
         Traduire();
         Montrer();
-        ui_->LblEtat->setText(TexteEcran(S(), 3092));
+        ui_->LblEtat->setText(TexteEcran(S(), message::EvenementEnregistreRolesACompleter));
     }
     switch (issue.champ) {
         case records::ChampEvenement::Date:
@@ -326,7 +329,7 @@ void FrmDesEvt::CmdMajClique() {
 void FrmDesEvt::reject() {
     static_cast<void>(Lire());
     if (!records::EvenementModifie(S(), saisie_)) return FenetreFille::reject();
-    Renoncer(3093, [this] { CmdMajClique(); });
+    Renoncer(message::ProposerEnregistrerEvenement, [this] { CmdMajClique(); });
 }
 
 void FrmDesEvt::done(int resultat) {

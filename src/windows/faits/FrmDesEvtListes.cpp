@@ -2,6 +2,7 @@
 #include "ui_FrmDesEvt.h"
 #include <QKeyEvent>
 
+#include "messages/Faits.h"
 #include "records/FicheEvenement.h"
 #include "shell/Libelles.h"
 #include "shell/Session.h"
@@ -27,7 +28,7 @@ void FrmDesEvt::ChercherPersonne() {
     const std::string role = QtVersTexte(ui_->CboRole->currentText()).octets;
     shell::DemandePersonne demande;
     demande.depart = S().PersonneEnCours;
-    if (!role.empty()) demande.titre = shell::Msg(3094, role);
+    if (!role.empty()) demande.titre = shell::Msg(message::TitreChoisirPersonnePourRole, role);
     AjouterLien(S().dialogue.ChoisirPersonne(demande), false);
 }
 
@@ -105,7 +106,7 @@ void FrmDesEvt::AjouterDocument(NoDocument document) {
     if (!document) return;
     std::vector<NoDocument>& liste = saisie_.documents;
     if (std::find(liste.begin(), liste.end(), document) != liste.end())
-        S().dialogue.Informer(shell::Msg(3015));
+        S().dialogue.Informer(shell::Msg(message::DocumentDejaDansLaListe));
     else
         liste.push_back(document);
     MontrerDocuments(document);

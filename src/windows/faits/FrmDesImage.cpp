@@ -5,6 +5,7 @@
 #include <QMimeData>
 #include <QUrl>
 
+#include "messages/Faits.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "windows/controles/ChampSuivi.h"
@@ -69,8 +70,9 @@ FrmDesImage::~FrmDesImage() = default;
 void FrmDesImage::Traduire() {
     FenetreFille::Traduire();
     const std::string titre = records::TitreAffiche(saisie_.valeurs);
-    setWindowTitle(saisie_.document ? TexteEcran(S().catalogue.Composer(shell::Msg(3110, titre)))
-                                    : TexteEcran(S(), 3111));
+    setWindowTitle(saisie_.document ? TexteEcran(S().catalogue.Composer(
+                                          shell::Msg(message::TitreDocument, titre)))
+                                    : TexteEcran(S(), message::TitreNouveauDocument));
     RemplirTypes();
 }
 
@@ -98,8 +100,12 @@ void FrmDesImage::CmdFichierClique() {
     static_cast<void>(Lire());
     std::filesystem::path depart = FichierDeDocument(S().CheminBase, saisie_.valeurs.fichier);
     if (depart.empty()) depart = S().CheminBase.parent_path();
-    const auto choisi = S().dialogue.ChoisirFichier(
-        {shell::DemandeFichier::Sorte::Ouvrir, shell::Msg(3112), S().Message(3100), {}, depart});
+    const auto choisi =
+        S().dialogue.ChoisirFichier({shell::DemandeFichier::Sorte::Ouvrir,
+                                     shell::Msg(message::TitreChoisirFichierDocument),
+                                     S().Message(message::FiltreFichiersImage),
+                                     {},
+                                     depart});
     if (choisi) ProposerFichier(*choisi);
 }
 
@@ -109,7 +115,8 @@ void FrmDesImage::ProposerFichier(const std::filesystem::path& fichier) {
     if (ui_->ChkOle->isChecked()) {
         const std::filesystem::path lien = records::CreerLien(S(), fichier);
         if (!lien.empty()) return NommerFichier(lien);
-        S().dialogue.Informer(shell::Msg(3113, shell::CheminAffiche(fichier)));
+        S().dialogue.Informer(
+            shell::Msg(message::FichierDeLienNonEcrit, shell::CheminAffiche(fichier)));
     }
     NommerFichier(fichier);
 }
@@ -120,7 +127,8 @@ void FrmDesImage::NommerFichier(const std::filesystem::path& chemin) {
     if (QtVersTexte(nom).remplaces == 0)
         ui_->TxtNomfic->setText(nom);
     else
-        S().dialogue.Informer(shell::Msg(3101, shell::CheminAffiche(chemin)));
+        S().dialogue.Informer(
+            shell::Msg(message::NomFichierHorsJeuDeCaracteres, shell::CheminAffiche(chemin)));
 }
 
 /// Ticked, the file is reached through a link file beside the base; unticked, by its own name.
@@ -149,37 +157,39 @@ void FrmDesImage::SuivreFichier() {
 }
 
 void FrmDesImage::MontrerApercu() {
-    std::uint32_t message = 0;
+    NoMessage message{};
     QPixmap image;
     switch (records::NatureDe(saisie_.valeurs)) {
         case NatureDocument::Rien:
-            message = 3051;
+            message = message::SansFichier;
             break;
         case NatureDocument::Adresse:
-            message = 3052;
+            message = message::AdresseWeb;
             break;
         case NatureDocument::Courriel:
-            message = 3053;
+            message = message::AdresseElectronique;
             break;
         case NatureDocument::Lien:
         case NatureDocument::Fichier: {
             std::filesystem::path fichier =
                 FichierDeDocument(S().CheminBase, saisie_.valeurs.fichier);
             if (fichier.empty()) {
-                message = 3050;
+                message = message::FichierAbsent;
                 break;
             }
             if (records::NatureDe(saisie_.valeurs) == NatureDocument::Lien)
                 fichier = records::LireLien(fichier);
             image = VignetteDeFichier(fichier, CoteApercu);
-            if (image.isNull()) message = 3114;
+            if (image.isNull()) message = message::AucunApercu;
             break;
         }
     }
     ui_->LblApercu->setPixmap(image);
     if (image.isNull()) ui_->LblApercu->setText(TexteEcran(S(), message));
-    ui_->LblAvis->setText(message == 3050 ? TexteEcran(S(), 3115) : QString{});
-    ui_->LblAvis->setVisible(message == 3050);
+    ui_->LblAvis->setText(message == message::FichierAbsent
+                              ? TexteEcran(S(), message::FichierPasASaPlace)
+                              : QString{});
+    ui_->LblAvis->setVisible(message == message::FichierAbsent);
     Avertir(*ui_->LblAvis);
 }
 
@@ -204,7 +214,7 @@ void FrmDesImage::CmdValiderClique() {
 void FrmDesImage::reject() {
     static_cast<void>(Lire());
     if (!S().base || !records::DocumentModifie(S(), saisie_)) return FenetreFille::reject();
-    Renoncer(3116, [this] { CmdValiderClique(); });
+    Renoncer(message::ProposerEnregistrerDocument, [this] { CmdValiderClique(); });
 }
 
 void FrmDesImage::dragEnterEvent(QDragEnterEvent* evenement) {

@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QMenu>
 
+#include "messages/Faits.h"
 #include "records/FicheEvenement.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
@@ -36,7 +37,8 @@ FrmLstEvt::FrmLstEvt(shell::Session& session, QWidget* parent)
     liste_ =
         new ListeFiltree{session,
                          {ui_->TxtFiltre, ui_->GrdEvts, ui_->LblNombre, ui_->Pages, ui_->LblVide},
-                         {3030, 3031, 3032, 3033},
+                         {message::NombreEvenements, message::NombreEvenementsFiltres,
+                          message::AucunEvenementNeContient, message::BaseSansEvenement},
                          *modele_,
                          QStringLiteral("FrmLstEvt"),
                          this};
@@ -123,9 +125,9 @@ void FrmLstEvt::contextMenuEvent(QContextMenuEvent* evenement) {
         const std::string nom = records::NomEtDates(S(), lien.individu);
         QMenu* personne =
             menu->addMenu(TexteVersQt(SansBlancs(nom)).replace(u'&', QStringLiteral("&&")));
-        personne->addAction(TexteEcran(S(), 3075), this,
+        personne->addAction(TexteEcran(S(), message::BoutonAller), this,
                             [this, individu] { Q_EMIT allerDemande(individu); });
-        personne->addAction(TexteEcran(S(), 3076), this,
+        personne->addAction(TexteEcran(S(), message::BoutonOuvrirFiche), this,
                             [this, individu] { Q_EMIT ficheDemandee(individu); });
     }
     if (menu->isEmpty()) return menu->deleteLater();

@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QMimeData>
 
+#include "messages/Faits.h"
 #include "records/FicheDocument.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
@@ -39,7 +40,8 @@ FrmLstImage::FrmLstImage(shell::Session& session, QWidget* parent)
     liste_ =
         new ListeFiltree{session,
                          {ui_->TxtFiltre, ui_->LstImage, ui_->LblNombre, ui_->Pages, ui_->LblVide},
-                         {3034, 3035, 3036, 3037},
+                         {message::NombreDocuments, message::NombreDocumentsFiltres,
+                          message::AucunDocumentNeContient, message::BaseSansDocument},
                          *modele_,
                          QStringLiteral("FrmLstImage"),
                          this};
@@ -174,9 +176,11 @@ void FrmLstImage::contextMenuEvent(QContextMenuEvent* evenement) {
     if (!choisi || !S().base) return;
     auto* menu = new QMenu{this};
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addAction(TexteEcran(S(), 3062), this, [this, choisi] { Modifier(choisi); })
+    menu->addAction(TexteEcran(S(), message::MenuModifierFicheDocument), this,
+                    [this, choisi] { Modifier(choisi); })
         ->setShortcut(QKeySequence{Qt::Key_F2});
-    menu->addAction(TexteEcran(S(), 3063), this, [this, choisi] { OuvrirDocument(S(), choisi); });
+    menu->addAction(TexteEcran(S(), message::MenuOuvrirFichierDocument), this,
+                    [this, choisi] { OuvrirDocument(S(), choisi); });
     menu->popup(evenement->globalPos());
 }
 
@@ -193,7 +197,8 @@ void FrmLstImage::Deposer(const QMimeData* donnees, NoDocument sur) {
         this,
         [this, individu, sur] {
             if (!sur || !records::AttacherDocument(S(), individu, sur)) return;
-            S().dialogue.Annoncer(shell::Msg(3064, records::TitreAffiche(S(), sur),
+            S().dialogue.Annoncer(shell::Msg(message::EtatDocumentAttache,
+                                             records::TitreAffiche(S(), sur),
                                              records::NomAffiche(S(), individu)));
             Q_EMIT baseChangee();
         },

@@ -4,6 +4,8 @@
 #include <QHeaderView>
 #include <QIcon>
 
+#include "messages/Faits.h"
+#include "messages/Messages.h"
 #include "records/FicheEvenement.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
@@ -39,7 +41,7 @@ public:
 protected:
     [[nodiscard]] std::string Texte(std::uint32_t numero, int colonne) const override {
         const NoEvenement evenement = EvenementDe(numero);
-        if (colonne == 0) return S().Message(evenement ? 644 : 3070);
+        if (colonne == 0) return S().Message(evenement ? message::TagEVEN : message::Personne);
         return evenement ? records::ResumeEvenement(S(), evenement)
                          : records::NomEtDates(S(), IndividuDe(numero));
     }
@@ -62,7 +64,8 @@ FrmUtilImage::FrmUtilImage(shell::Session& session, NoDocument document, QWidget
     ui_->LstUtil->horizontalHeader()->setStretchLastSection(true);
     liste_ = new ListeFiltree{session,
                               {nullptr, ui_->LstUtil, ui_->LblNombre, ui_->Pages, ui_->LblVide},
-                              {3071, 3071, 3072, 3072},
+                              {message::NombreUtilisations, message::NombreUtilisations,
+                               message::DocumentSansUtilisation, message::DocumentSansUtilisation},
                               *modele_,
                               QStringLiteral("FrmUtilImage"),
                               this};
@@ -81,8 +84,8 @@ FrmUtilImage::~FrmUtilImage() = default;
 
 void FrmUtilImage::Traduire() {
     FenetreFille::Traduire();
-    ui_->LblTitre->setText(TexteEcran(
-        S().catalogue.Composer(shell::Msg(3073, records::TitreAffiche(S(), document_)))));
+    ui_->LblTitre->setText(TexteEcran(S().catalogue.Composer(
+        shell::Msg(message::OuLeDocumentEstUtilise, records::TitreAffiche(S(), document_)))));
     liste_->Traduire();
 }
 

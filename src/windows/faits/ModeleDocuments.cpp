@@ -3,6 +3,7 @@
 #include <QIcon>
 #include <QPixmap>
 
+#include "messages/Faits.h"
 #include "records/FicheDocument.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
@@ -18,17 +19,11 @@ using records::NatureDocument;
 namespace {
 
 /// The drawing for a document without a picture, by its state.
-const char* NomIcone(std::uint32_t etat) {
-    switch (etat) {
-        case 3050:
-            return "FichierAbsent";
-        case 3052:
-            return "Adresse";
-        case 3053:
-            return "Courriel";
-        default:
-            return "Fichier";
-    }
+const char* NomIcone(NoMessage etat) {
+    if (etat == message::FichierAbsent) return "FichierAbsent";
+    if (etat == message::AdresseWeb) return "Adresse";
+    if (etat == message::AdresseElectronique) return "Courriel";
+    return "Fichier";
 }
 
 }  // namespace
@@ -43,19 +38,19 @@ std::vector<std::uint32_t> ModeleDocuments::Numeros(const shell::Session& sessio
     return {tri.begin(), tri.end()};
 }
 
-std::uint32_t ModeleDocuments::MessageEtat(NoDocument document) const {
+NoMessage ModeleDocuments::MessageEtat(NoDocument document) const {
     switch (records::NatureDe(S().base->R_IMAGE.LireDoc(document))) {
         case NatureDocument::Rien:
-            return 3051;
+            return message::SansFichier;
         case NatureDocument::Adresse:
-            return 3052;
+            return message::AdresseWeb;
         case NatureDocument::Courriel:
-            return 3053;
+            return message::AdresseElectronique;
         case NatureDocument::Lien:
         case NatureDocument::Fichier:
             break;
     }
-    return FichierDeDocument(S(), document).empty() ? 3050 : 0;
+    return FichierDeDocument(S(), document).empty() ? message::FichierAbsent : NoMessage{};
 }
 
 std::string ModeleDocuments::Texte(std::uint32_t numero, int colonne) const {
@@ -68,10 +63,10 @@ std::string ModeleDocuments::Texte(std::uint32_t numero, int colonne) const {
         case Fichier:
             return S().base->R_IMAGE.FichierDoc(document);
         default: {
-            const std::uint32_t message = MessageEtat(document);
-            std::string etat = message == 0 ? std::string{} : S().Message(message);
+            const NoMessage message = MessageEtat(document);
+            std::string etat = message ? S().Message(message) : std::string{};
             if (S().base->entete.DocBase == document)
-                etat += (etat.empty() ? "" : ", ") + S().Message(3054);
+                etat += (etat.empty() ? "" : ", ") + S().Message(message::DocumentTitreDeLaBase);
             return etat;
         }
     }

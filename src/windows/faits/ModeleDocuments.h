@@ -29,7 +29,7 @@ protected:
     [[nodiscard]] QVariant Autre(std::uint32_t numero, int colonne, int role) const override;
 
 private:
-    [[nodiscard]] std::uint32_t MessageEtat(NoDocument document) const;
+    [[nodiscard]] NoMessage MessageEtat(NoDocument document) const;
 };
 
 }  // namespace dorvane::windows

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPalette>
 
+#include "messages/Faits.h"
 #include "records/FicheEvenement.h"
 #include "records/NomsAffiches.h"
 #include "shell/Libelles.h"
@@ -50,39 +51,42 @@ QVariant ModeleLiens::Texte(int rangee, int colonne) const {
     if (colonne == Role)
         return TexteVersQt(shell::LibelleDeTag(session_.catalogue, RoleDe(rangee)));
     const auto lien = Lien(rangee);
-    if (!lien) return colonne == Personne ? TexteEcran(session_, 3080) : QString{};
+    if (!lien)
+        return colonne == Personne ? TexteEcran(session_, message::PersonneAChoisir) : QString{};
     const NoOrdre individu = saisie_.liens[*lien].individu;
     return TexteVersQt(colonne == Personne ? records::NomAffiche(session_, individu)
                                            : records::DatesDeVie(session_, individu));
 }
 
-/// What is wrong with a row; 0 when nothing is.
-std::uint32_t ModeleLiens::MessageDefaut(int rangee) const {
+/// What is wrong with a row; none when nothing is.
+NoMessage ModeleLiens::MessageDefaut(int rangee) const {
     const auto lien = Lien(rangee);
-    if (!lien) return 3081;
-    return records::RoleConvient(session_, saisie_.type, saisie_.liens[*lien]) ? 0 : 3082;
+    if (!lien) return message::BulleRoleObligatoire;
+    return records::RoleConvient(session_, saisie_.type, saisie_.liens[*lien])
+               ? NoMessage{}
+               : message::BulleRoleInadapteAuSexe;
 }
 
 QVariant ModeleLiens::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= rowCount({}) || !session_.base) return {};
-    const std::uint32_t defaut = MessageDefaut(index.row());
+    const NoMessage defaut = MessageDefaut(index.row());
     switch (role) {
         case Qt::DisplayRole:
         case Qt::EditRole:
             return Texte(index.row(), index.column());
         case Qt::ToolTipRole:
-            return defaut == 0 ? Texte(index.row(), index.column()).toString()
-                               : TexteEcran(session_, defaut);
+            return defaut ? TexteEcran(session_, defaut)
+                          : Texte(index.row(), index.column()).toString();
         case Qt::AccessibleTextRole:
             return Texte(index.row(), index.column()).toString() +
-                   (defaut == 0 || index.column() != Role
+                   (!defaut || index.column() != Role
                         ? QString{}
                         : QStringLiteral(" \u2013 ") + TexteEcran(session_, defaut));
         case Qt::DecorationRole:
-            if (index.column() != Role || defaut == 0) return {};
-            return Icone(defaut == 3081 ? "Chercher" : "Abandonner");
+            if (index.column() != Role || !defaut) return {};
+            return Icone(defaut == message::BulleRoleObligatoire ? "Chercher" : "Abandonner");
         case Qt::ForegroundRole:
-            return defaut == 3081
+            return defaut == message::BulleRoleObligatoire
                        ? QVariant{QApplication::palette().color(QPalette::PlaceholderText)}
                        : QVariant{};
         default:
@@ -116,7 +120,7 @@ QWidget* EditeurRole::createEditor(QWidget* parent, const QStyleOptionViewItem& 
     auto* liste = new QComboBox{parent};
     liste->setEditable(true);
     liste->lineEdit()->setMaxLength(static_cast<int>(storage::MaxTexteElement));
-    liste->setAccessibleName(TexteEcran(session_, 3083));
+    liste->setAccessibleName(TexteEcran(session_, message::RoleDeLaPersonne));
     for (const shell::RoleEvenement& role : records::RolesDe(session_, saisie_))
         liste->addItem(TexteVersQt(shell::LibelleDeTag(session_.catalogue, role.label)));
     return liste;

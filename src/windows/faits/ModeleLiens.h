@@ -49,7 +49,7 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] QVariant Texte(int rangee, int colonne) const;
-    [[nodiscard]] std::uint32_t MessageDefaut(int rangee) const;
+    [[nodiscard]] NoMessage MessageDefaut(int rangee) const;
 
     shell::Session& session_;
     const records::SaisieEvenement& saisie_;

@@ -5,6 +5,8 @@
 #include <QShortcut>
 #include <QTabBar>
 
+#include "messages/Fiche.h"
+#include "messages/Messages.h"
 #include "records/Famille.h"
 #include "records/Fiche.h"
 #include "records/Individus.h"
@@ -30,6 +32,10 @@ using records::Champ;
 namespace {
 
 constexpr QSize TailleInitiale{1240, 640};
+/// In the order of the pages.
+constexpr NoMessage TitresPages[] = {message::TitrePageFaits,     message::TitrePageUnions,
+                                     message::TitrePageLiens,     message::TitrePageEvenements,
+                                     message::TitrePageDocuments, message::TitrePageFratrie};
 
 /// The pointer of waiting for as long as it lives.
 class Sablier {
@@ -119,8 +125,7 @@ bool FrmMisajour::Ouvrir(NoOrdre individu) {
 void FrmMisajour::Traduire() {
     FenetreFille::Traduire();
     ui_->Champs->Traduire();
-    const auto habiller = [this](QAbstractButton& bouton, const char* icone,
-                                 std::uint32_t message) {
+    const auto habiller = [this](QAbstractButton& bouton, const char* icone, NoMessage message) {
         bouton.setIcon(Icone(icone));
         const QString texte = TexteEcran(S(), message);
         const QString touches = bouton.shortcut().toString(QKeySequence::NativeText);
@@ -128,15 +133,15 @@ void FrmMisajour::Traduire() {
                                             : texte + QStringLiteral(" (") + touches + u')');
         bouton.setAccessibleName(texte);
     };
-    habiller(*ui_->C_Rechpère, "Chercher", 2684);
-    habiller(*ui_->CmdCréPère, "Ajouter", 2685);
-    habiller(*ui_->C_Spère, "Abandonner", 2686);
-    habiller(*ui_->C_Rechmère, "Chercher", 2687);
-    habiller(*ui_->CmdCréMère, "Ajouter", 2688);
-    habiller(*ui_->C_Smère, "Abandonner", 2689);
-    habiller(*ui_->CmdPrécédent, "MnuPrécédent", 2690);
-    habiller(*ui_->CmdSuivant, "MnuSuivant", 2691);
-    habiller(*ui_->CmdGraphe, "Famille", 2692);
+    habiller(*ui_->C_Rechpère, "Chercher", message::BulleChercherPere);
+    habiller(*ui_->CmdCréPère, "Ajouter", message::BulleCreerPere);
+    habiller(*ui_->C_Spère, "Abandonner", message::BulleRetirerPere);
+    habiller(*ui_->C_Rechmère, "Chercher", message::BulleChercherMere);
+    habiller(*ui_->CmdCréMère, "Ajouter", message::BulleCreerMere);
+    habiller(*ui_->C_Smère, "Abandonner", message::BulleRetirerMere);
+    habiller(*ui_->CmdPrécédent, "MnuPrécédent", message::BullePersonnePrecedente);
+    habiller(*ui_->CmdSuivant, "MnuSuivant", message::BullePersonneSuivante);
+    habiller(*ui_->CmdGraphe, "Famille", message::BulleMontrerDansGraphe);
     for (PageFiche* page : pages_)
         page->Traduire();
     MontrerParents();
@@ -180,11 +185,11 @@ void FrmMisajour::EnchainerPages() {
 
 void FrmMisajour::MontrerTitres() {
     const QString nom = TexteVersQt(records::NomEtDates(S(), individu_)).trimmed();
-    setWindowTitle(TexteEcran(S(), 2680) + QStringLiteral(" – ") +
-                   (individu_ ? nom : TexteEcran(S(), 2670)) + QStringLiteral("[*]"));
-    constexpr std::uint32_t Premier = 2693;
+    setWindowTitle(TexteEcran(S(), message::TitreFiche) + QStringLiteral(" – ") +
+                   (individu_ ? nom : TexteEcran(S(), message::TitreNouvellePersonne)) +
+                   QStringLiteral("[*]"));
     for (std::size_t i = 0; i < pages_.size(); ++i) {
-        const QString titre = TexteEcran(S(), Premier + static_cast<std::uint32_t>(i));
+        const QString titre = TexteEcran(S(), TitresPages[i]);
         const QString compte = pages_[i]->Compte();
         const int onglet = static_cast<int>(i);
         ui_->SSTab1->setTabText(
@@ -224,8 +229,10 @@ void FrmMisajour::Changer() {
     if (modifiee) ecrite_ = false;
     // Texts wait to be written anew after a change of the flags of the base.
     ui_->C_Maj->setEnabled(modifiee || (individu_ && !S().indexationFaite));
-    ui_->C_Maj->setText(TexteEcran(S(), ecrite_ ? 623 : 2681));
-    ui_->LblEtat->setText(modifiee ? TexteEcran(S(), 2683) : QString{});
+    ui_->C_Maj->setText(
+        TexteEcran(S(), ecrite_ ? message::MisAJour : message::BoutonEnregistrerFiche));
+    ui_->LblEtat->setText(modifiee ? TexteEcran(S(), message::ModificationsNonEnregistrees)
+                                   : QString{});
     setWindowModified(modifiee);
 }
 
@@ -269,7 +276,7 @@ void FrmMisajour::AllerAuChamp(Champ champ) {
 
 bool FrmMisajour::Demander() {
     if (!Modifiee()) return true;
-    if (S().dialogue.Confirmer(shell::Msg(847))) return Valider();
+    if (S().dialogue.Confirmer(shell::Msg(message::ProposerEnregistrerFiche))) return Valider();
     Charger();
     return true;
 }

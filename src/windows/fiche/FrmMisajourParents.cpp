@@ -1,6 +1,7 @@
 // Father and mother of the sheet: what the buttons show, and the operations behind them.
 #include "ui_FrmMisajour.h"
 
+#include "messages/Fiche.h"
 #include "records/Filiation.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
@@ -43,8 +44,8 @@ void FrmMisajour::MontrerParents() {
     };
     const NoOrdre pere = lire('H');
     const NoOrdre mere = lire('F');
-    ui_->N_Père->Poser(pere, TexteEcran(S(), 2677));
-    ui_->N_Mère->Poser(mere, TexteEcran(S(), 2678));
+    ui_->N_Père->Poser(pere, TexteEcran(S(), message::PereInconnu));
+    ui_->N_Mère->Poser(mere, TexteEcran(S(), message::MereInconnue));
     ui_->C_Spère->setEnabled(static_cast<bool>(pere));
     ui_->C_Rechpère->setEnabled(!pere);
     ui_->CmdCréPère->setEnabled(!pere);

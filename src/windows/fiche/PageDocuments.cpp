@@ -3,6 +3,8 @@
 #include "ui_PageDocuments.h"
 #include <QHeaderView>
 
+#include "messages/Faits.h"
+#include "messages/Fiche.h"
 #include "records/FicheDocument.h"
 #include "shell/Libelles.h"
 #include "shell/Session.h"
@@ -63,7 +65,8 @@ void PageDocuments::Charger(NoOrdre individu, bool /*garder*/) {
             if (fichier.empty() && (nature == records::NatureDocument::Fichier ||
                                     nature == records::NatureDocument::Lien)) {
                 ligne.icone = Icone("FichierAbsent");
-                ligne.textes.last() += QStringLiteral(" \u2013 ") + TexteEcran(S(), 3050);
+                ligne.textes.last() +=
+                    QStringLiteral(" \u2013 ") + TexteEcran(S(), message::FichierAbsent);
             } else if (const QPixmap vignette = VignetteDeFichier(fichier, CoteVignette);
                        !vignette.isNull()) {
                 ligne.icone = QIcon{vignette};
@@ -138,9 +141,9 @@ void PageDocuments::Ranger(int pas) {
 
 void PageDocuments::Traduire() {
     TraduireFenetre(*this, S());
-    Habiller(*ui_->CmdImgUp, "Monter", 2758);
-    Habiller(*ui_->CmdImgDown, "Descendre", 2759);
-    ui_->LstImage->DireVide(TexteEcran(S(), 2760));
+    Habiller(*ui_->CmdImgUp, "Monter", message::BulleMonterDocument);
+    Habiller(*ui_->CmdImgDown, "Descendre", message::BulleDescendreDocument);
+    ui_->LstImage->DireVide(TexteEcran(S(), message::AucunDocumentFiche));
 }
 
 QString PageDocuments::Compte() const {

@@ -2,6 +2,7 @@
 
 #include "ui_PageEvts.h"
 
+#include "messages/Fiche.h"
 #include "records/FicheEvenement.h"
 #include "shell/Libelles.h"
 #include "shell/Session.h"
@@ -76,7 +77,7 @@ void PageEvts::Retirer() {
 
 void PageEvts::Traduire() {
     TraduireFenetre(*this, S());
-    ui_->GrdEvts->DireVide(TexteEcran(S(), 2748));
+    ui_->GrdEvts->DireVide(TexteEcran(S(), message::AucunEvenementFiche));
 }
 
 QString PageEvts::Compte() const {

@@ -11,7 +11,7 @@
 
 namespace dorvane::windows {
 
-void PageFiche::Habiller(QAbstractButton& bouton, const char* icone, std::uint32_t message) const {
+void PageFiche::Habiller(QAbstractButton& bouton, const char* icone, NoMessage message) const {
     bouton.setIcon(Icone(icone));
     const QString texte = TexteEcran(session_, message);
     bouton.setToolTip(texte);

@@ -67,7 +67,7 @@ protected:
     void PoserIndividu(NoOrdre individu) { individu_ = individu; }
 
     /// An icon and the text of a message as tip and name.
-    void Habiller(QAbstractButton& bouton, const char* icone, std::uint32_t message) const;
+    void Habiller(QAbstractButton& bouton, const char* icone, NoMessage message) const;
     /// The rows about persons of a list lead to their sheet.
     void RelierPersonnes(TableFiche& table);
     /// Shows a stored note; a formatted one can be changed in the large editor only.

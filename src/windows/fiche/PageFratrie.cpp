@@ -2,6 +2,7 @@
 
 #include "ui_PageFratrie.h"
 
+#include "messages/Fiche.h"
 #include "records/Fiche.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
@@ -29,9 +30,9 @@ void PageFratrie::Charger(NoOrdre individu, bool /*garder*/) {
         LigneFiche ligne;
         ligne.numero = membre.individu.valeur;
         ligne.individu = membre.individu;
-        const std::uint32_t parents = membre.memePere && membre.memeMere ? 2773U
-                                      : membre.memePere                  ? 2774U
-                                                                         : 2775U;
+        const NoMessage parents = membre.memePere && membre.memeMere ? message::FratrieDePereEtMere
+                                  : membre.memePere                  ? message::FratrieDePere
+                                                                     : message::FratrieDeMere;
         ligne.textes << TexteVersQt(records::NomAffiche(S(), membre.individu))
                      << TexteVersQt(records::DatesDeVie(S(), membre.individu))
                      << TexteEcran(S(), parents);
@@ -43,7 +44,7 @@ void PageFratrie::Charger(NoOrdre individu, bool /*garder*/) {
 
 void PageFratrie::Traduire() {
     TraduireFenetre(*this, S());
-    ui_->GrdFratrie->DireVide(TexteEcran(S(), 2776));
+    ui_->GrdFratrie->DireVide(TexteEcran(S(), message::AucuneFratrieFiche));
 }
 
 QString PageFratrie::Compte() const {

@@ -3,6 +3,7 @@
 #include "ui_PageLiens.h"
 #include <QCompleter>
 
+#include "messages/Fiche.h"
 #include "records/Fiche.h"
 #include "records/Liens.h"
 #include "records/NomsAffiches.h"
@@ -134,7 +135,7 @@ void PageLiens::Traduire() {
     mots->setCaseSensitivity(Qt::CaseInsensitive);
     delete ui_->TxtLien->completer();
     ui_->TxtLien->setCompleter(mots);
-    ui_->GrdLiens->DireVide(TexteEcran(S(), 2735));
+    ui_->GrdLiens->DireVide(TexteEcran(S(), message::AucunLienFiche));
 }
 
 QString PageLiens::Compte() const {

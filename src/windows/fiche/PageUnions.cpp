@@ -2,6 +2,7 @@
 
 #include "ui_PageUnions.h"
 
+#include "messages/Fiche.h"
 #include "records/Famille.h"
 #include "records/Fiche.h"
 #include "records/NomsAffiches.h"
@@ -72,7 +73,7 @@ void PageUnions::ListerUnions() {
             ligne.numero = m.valeur;
             ligne.individu = partenaire;
             const QString nom = TexteVersQt(records::NomEtDates(S(), partenaire)).trimmed();
-            ligne.textes << (partenaire ? nom : TexteEcran(S(), 2701))
+            ligne.textes << (partenaire ? nom : TexteEcran(S(), message::ConjointInconnu))
                          << TexteVersQt(base.R_DEBMAR.LireCellule(m)).trimmed();
             if (partenaire) ligne.icone = IconeSexe(base.R_SEXE.LireCellule(partenaire));
             lignes.push_back(std::move(ligne));
@@ -195,16 +196,16 @@ bool PageUnions::UnionModifiee() const {
 void PageUnions::Traduire() {
     TraduireFenetre(*this, S());
     ui_->Rangées->Traduire();
-    Habiller(*ui_->C_Rechconjoint, "Chercher", 2710);
-    Habiller(*ui_->CmdCréConjoint, "Ajouter", 2711);
-    Habiller(*ui_->C_Smar, "Abandonner", 2712);
-    Habiller(*ui_->CmdMarUp, "Monter", 2713);
-    Habiller(*ui_->CmdMarDown, "Descendre", 2714);
-    Habiller(*ui_->CmdRechEnft, "Chercher", 2715);
-    Habiller(*ui_->CmdCréEnfant, "Ajouter", 2716);
-    Habiller(*ui_->CmdSupEnft, "Abandonner", 2717);
-    ui_->L_Conjoint->DireVide(TexteEcran(S(), 2718));
-    ui_->L_Enfants->DireVide(TexteEcran(S(), 2719));
+    Habiller(*ui_->C_Rechconjoint, "Chercher", message::BulleUnirAPersonneDeLaBase);
+    Habiller(*ui_->CmdCréConjoint, "Ajouter", message::BulleCreerConjoint);
+    Habiller(*ui_->C_Smar, "Abandonner", message::BulleSupprimerUnion);
+    Habiller(*ui_->CmdMarUp, "Monter", message::BulleMonterUnion);
+    Habiller(*ui_->CmdMarDown, "Descendre", message::BulleDescendreUnion);
+    Habiller(*ui_->CmdRechEnft, "Chercher", message::BulleRattacherEnfant);
+    Habiller(*ui_->CmdCréEnfant, "Ajouter", message::BulleCreerEnfant);
+    Habiller(*ui_->CmdSupEnft, "Abandonner", message::BulleRetirerEnfant);
+    ui_->L_Conjoint->DireVide(TexteEcran(S(), message::AucuneUnionFiche));
+    ui_->L_Enfants->DireVide(TexteEcran(S(), message::AucunEnfantFiche));
 }
 
 QString PageUnions::Compte() const {

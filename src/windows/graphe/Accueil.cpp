@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "messages/Dorvane.h"
 #include "shell/Session.h"
 #include "windows/controles/Icones.h"
 #include "windows/controles/Legendes.h"
@@ -78,8 +79,10 @@ Accueil::Accueil(const shell::Session& session, QWidget* parent)
 
 void Accueil::Actualiser() {
     const bool ouverte = session_.BaseOuverte();
-    titre_->setText(TexteEcran(session_, ouverte ? 2043 : 2040));
-    texte_->setText(TexteEcran(session_, ouverte ? 2044 : 2041));
+    titre_->setText(
+        TexteEcran(session_, ouverte ? message::TitreBaseVide : message::TitreBienvenue));
+    texte_->setText(
+        TexteEcran(session_, ouverte ? message::AccueilBaseVide : message::AccueilSansBase));
     // Centred in its column, the label would get one line only.
     texte_->setMinimumHeight(texte_->heightForWidth(LargeurColonne));
     personne_->setVisible(ouverte);

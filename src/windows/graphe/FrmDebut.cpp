@@ -8,6 +8,7 @@
 #include <QStyle>
 #include <QWheelEvent>
 
+#include "messages/Dorvane.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
@@ -107,7 +108,8 @@ ContenuCase FrmDebut::LireCase(const records::CaseFamille& modele) const {
     ContenuCase contenu;
     if (!modele.individu) {
         const bool parent = modele.sorte != records::CaseFamille::Sorte::Conjoint;
-        contenu.bulle = TexteEcran(session_, parent ? 2101 : 2107);
+        contenu.bulle = TexteEcran(
+            session_, parent ? message::BulleParentInconnu : message::BulleConjointInconnu);
         return contenu;
     }
     shell::Session& session = session_;
@@ -115,7 +117,8 @@ ContenuCase FrmDebut::LireCase(const records::CaseFamille& modele) const {
     contenu.dates = TexteVersQt(records::DatesDeVie(session, modele.individu));
     contenu.numeros = TexteVersQt(records::NumerosAffiches(session, modele.individu));
     contenu.bulle = TexteVersQt(records::NomEtDates(session, modele.individu)).trimmed();
-    if (modele.repetee) contenu.bulle += u'\n' + TexteEcran(session, 2100);
+    if (modele.repetee)
+        contenu.bulle += u'\n' + TexteEcran(session, message::BulleFigurePlusieursFois);
     contenu.sexe = session.base->R_SEXE.LireCellule(modele.individu);
     if (style_.mesures.vignette)
         contenu.vignette =
@@ -167,10 +170,11 @@ void FrmDebut::Actualiser() {
 void FrmDebut::Traduire() {
     const NoOrdre n = session_.PersonneEnCours;
     const std::string nom = records::NomEtDates(session_, n);
-    setWindowTitle(n ? TexteVersQt(nom).trimmed() : TexteEcran(session_, 2106));
-    setAccessibleName(TexteEcran(session_, 2106));
-    setAccessibleDescription(TexteEcran(
-        session_.catalogue.Composer(shell::Msg(2102, nom, std::to_string(modele_.cases.size())))));
+    setWindowTitle(n ? TexteVersQt(nom).trimmed()
+                     : TexteEcran(session_, message::TitreGrapheFamille));
+    setAccessibleName(TexteEcran(session_, message::TitreGrapheFamille));
+    setAccessibleDescription(TexteEcran(session_.catalogue.Composer(
+        shell::Msg(message::DescriptionGrapheFamille, nom, std::to_string(modele_.cases.size())))));
 }
 
 void FrmDebut::Centrer(const Vue& depuis, bool glisser) {

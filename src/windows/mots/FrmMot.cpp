@@ -3,6 +3,7 @@
 #include "ui_FrmMot.h"
 #include <QLineEdit>
 
+#include "messages/Faits.h"
 #include "records/AccordEvenements.h"
 #include "records/Fiche.h"
 #include "records/NomsAffiches.h"
@@ -45,7 +46,7 @@ FrmMot::FrmMot(shell::Session& session, NoOrdre individu, const records::SaisieE
 FrmMot::~FrmMot() = default;
 
 QLineEdit* FrmMot::FaireChamp(const char* nom, std::size_t k, std::string_view texte,
-                              std::uint32_t acces, const QString& rubrique) {
+                              NoMessage acces, const QString& rubrique) {
     auto* champ = new QLineEdit{this};
     champ->setObjectName(QStringLiteral("%1(%2)").arg(QString::fromUtf8(nom)).arg(k));
     champ->setAccessibleName(rubrique + u' ' + TexteEcran(S(), acces));
@@ -72,8 +73,10 @@ void FrmMot::FaireRangees() {
         ui_->Rangees->addWidget(etiquette, ligne, 0);
         Rangee& rangee = rangees_[k];
         if (definition.slots[k].drapeau == '1') {
-            rangee.jourMois = FaireChamp("TxtIndJ", k, slots_[k].jourMois, 3121, rubrique);
-            rangee.annee = FaireChamp("TxtIndA", k, slots_[k].annee, 3122, rubrique);
+            rangee.jourMois = FaireChamp("TxtIndJ", k, slots_[k].jourMois,
+                                         message::InviteJourEtMoisRubrique, rubrique);
+            rangee.annee =
+                FaireChamp("TxtIndA", k, slots_[k].annee, message::InviteAnneeRubrique, rubrique);
             rangee.annee->setMaxLength(TailleAnnee);
             rangee.annee->setMaximumWidth(9 * fontMetrics().averageCharWidth());
             rangee.jourMois->setMaximumWidth(26 * fontMetrics().averageCharWidth());
@@ -83,7 +86,9 @@ void FrmMot::FaireRangees() {
             suivre(rangee.annee);
         }
         const bool date = rangee.jourMois != nullptr;
-        rangee.lieu = FaireChamp("TxtIndL", k, slots_[k].lieu, date ? 3123 : 3124, rubrique);
+        rangee.lieu =
+            FaireChamp("TxtIndL", k, slots_[k].lieu,
+                       date ? message::InviteLieuRubrique : message::InviteMotRubrique, rubrique);
         new Completeur{*rangee.lieu, S(), std::string_view{&definition.slots[k].symbole, 1}};
         ui_->Rangees->addWidget(rangee.lieu, ligne, date ? 3 : 1, 1, date ? 1 : 3);
         etiquette->setBuddy(date ? rangee.jourMois : rangee.lieu);
@@ -148,7 +153,7 @@ void FrmMot::Valider() {
 void FrmMot::reject() {
     std::size_t remplaces = 0;
     if (Lire(remplaces) == slots_) return FenetreFille::reject();
-    Renoncer(3128, [this] { Valider(); });
+    Renoncer(message::ProposerEnregistrerRubriques, [this] { Valider(); });
 }
 
 }  // namespace dorvane::windows

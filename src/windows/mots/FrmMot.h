@@ -42,7 +42,7 @@ private:
 
     void FaireRangees();
     [[nodiscard]] QLineEdit* FaireChamp(const char* nom, std::size_t k, std::string_view texte,
-                                        std::uint32_t acces, const QString& rubrique);
+                                        NoMessage acces, const QString& rubrique);
     void Reprendre();
     [[nodiscard]] records::RangeesSlots Lire(std::size_t& remplaces) const;
     void Valider();

@@ -4,6 +4,8 @@
 #include <QHeaderView>
 #include <QSignalBlocker>
 
+#include "messages/Messages.h"
+#include "messages/Mots.h"
 #include "shell/Session.h"
 #include "windows/controles/ChampSuivi.h"
 #include "windows/controles/Icones.h"
@@ -135,7 +137,9 @@ void FrmMotCle::ListerMots(NoMotCle choisi) {
             auto* code = new QTableWidgetItem{TexteVersQt({&mot.code, 1})};
             code->setTextAlignment(Qt::AlignCenter);
             liste.setItem(i, Code, code);
-            liste.setItem(i, Index, new QTableWidgetItem{TexteEcran(S(), mot.indexe ? 725 : 724)});
+            liste.setItem(i, Index,
+                          new QTableWidgetItem{TexteEcran(
+                              S(), mot.indexe ? message::MotCleIndexe : message::MotCleNonIndexe)});
         }
         const auto ici = std::ranges::find(mots_, choisi, &records::LigneMotCle::mot);
         liste.setCurrentCell(ici == mots_.end() ? 0 : static_cast<int>(ici - mots_.begin()),
@@ -149,7 +153,8 @@ void FrmMotCle::ListerLignes(const Panneau& panneau, int rang) {
     if (!S().base) return;
     for (const records::LigneFiche& ligne : records::ListerLignes(S(), panneau.table)) {
         QString texte = TexteVersQt(ligne.libelle);
-        if (ligne.datee) texte += QStringLiteral(" (%1)").arg(TexteEcran(S(), 3230));
+        if (ligne.datee)
+            texte += QStringLiteral(" (%1)").arg(TexteEcran(S(), message::LigneAvecDate));
         panneau.liste->addItem(texte);
     }
     panneau.liste->setCurrentRow(std::clamp(rang, -1, panneau.liste->count() - 1));

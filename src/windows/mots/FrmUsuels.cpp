@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
+#include "messages/Mots.h"
 #include "records/MotsUsuels.h"
 #include "shell/Session.h"
 #include "windows/controles/ChampSuivi.h"
@@ -58,7 +59,7 @@ FrmUsuels::~FrmUsuels() = default;
 
 void FrmUsuels::Traduire() {
     FenetreFille::Traduire();
-    ui_->LblVide->setText(TexteEcran(S(), 3249));
+    ui_->LblVide->setText(TexteEcran(S(), message::RubriqueSansMot));
     const int rang = std::max(0, ui_->CboRubrique->currentIndex());
     ListerRubriques({});
     ui_->CboRubrique->setCurrentIndex(std::min(rang, ui_->CboRubrique->count() - 1));

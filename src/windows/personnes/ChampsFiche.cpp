@@ -3,6 +3,7 @@
 #include "ui_ChampsFiche.h"
 #include <QLabel>
 
+#include "messages/Fiche.h"
 #include "records/TexteFiche.h"
 #include "shell/Session.h"
 #include "windows/controles/ChampSuivi.h"
@@ -20,9 +21,23 @@ using records::Casse;
 using records::Champ;
 
 QString TexteAvis(const shell::Session& session, AvisDate avis) {
-    constexpr std::uint32_t Premier = 2630;  // "the year is missing", then as in the enumeration
-    if (avis == AvisDate::Bon) return {};
-    return TexteEcran(session, Premier + static_cast<std::uint32_t>(avis) - 1);
+    switch (avis) {
+        case AvisDate::AnneeManque:
+            return TexteEcran(session, message::AvisAnneeManque);
+        case AvisDate::AnneeIllisible:
+            return TexteEcran(session, message::AvisAnneeNonTriable);
+        case AvisDate::DateIllisible:
+            return TexteEcran(session, message::AvisDateNonReconnue);
+        case AvisDate::AvantNaissance:
+            return TexteEcran(session, message::AvisAvantNaissance);
+        case AvisDate::ApresDeces:
+            return TexteEcran(session, message::AvisApresDeces);
+        case AvisDate::VieTropLongue:
+            return TexteEcran(session, message::AvisPlusDe120Ans);
+        case AvisDate::Bon:
+            break;
+    }
+    return {};
 }
 
 void SuivreJourMois(QLineEdit& champ, const shell::Session& session) {
@@ -187,7 +202,8 @@ void ChampsFiche::AviserDates() {
     ui_->LblJDécès->setText(
         TexteVersQt(records::JourDeLaSemaine(session, fiche.jourMoisDeces, fiche.anneeDeces)));
     const auto montrer = [&session](EtiquetteElidee& etiquette, AvisDate avis, bool manque) {
-        const QString texte = manque ? TexteEcran(session, 2629) : TexteAvis(session, avis);
+        const QString texte = manque ? TexteEcran(session, message::AnneeNaissanceManquante)
+                                     : TexteAvis(session, avis);
         etiquette.Dire(texte);
         etiquette.setPalette({});
         if (manque)

@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include "messages/Famille.h"
 #include "records/Apercu.h"
 #include "records/NomsAffiches.h"
 #include "shell/Session.h"
@@ -138,7 +139,7 @@ void FenetreChoix::Dire() {
     ui_->LblFenetre->setText(texte(TexteFenetre()));
     ui_->LblVide->setText(texte(TexteVide()));
     ui_->LblPage->setText(
-        texte(Msg(2856, std::to_string(choix_.Nombre()),
+        texte(Msg(message::NombrePersonnesEtPage, std::to_string(choix_.Nombre()),
                   std::to_string(choix_.NoPage()) + '/' + std::to_string(choix_.NbPages()))));
     ui_->Pages->setCurrentIndex(choix_.Page().empty() ? 1 : 0);
     ui_->CmdChoisir->setEnabled(!choix_.Page().empty());
@@ -155,33 +156,41 @@ shell::Phrase FenetreChoix::TexteTitre() const {
     const std::string nom = records::NomAffiche(S(), choix_.Demande().reference);
     switch (choix_.Demande().sorte) {
         case SorteChoix::Parent:
-            return Msg(choix_.Demande().sexe == 'H' ? 2840 : 2841, nom);
+            return Msg(choix_.Demande().sexe == 'H' ? message::TitreChercherPere
+                                                    : message::TitreChercherMere,
+                       nom);
         case SorteChoix::Enfant:
-            return Msg(2842, nom);
+            return Msg(message::TitreChercherEnfant, nom);
         case SorteChoix::Conjoint:
-            return Msg(2843, nom);
+            return Msg(message::TitreChercherConjoint, nom);
         case SorteChoix::Lien:
             break;
     }
-    return Msg(2844, nom);
+    return Msg(message::TitreChoisirPersonneALier, nom);
 }
 
 shell::Phrase FenetreChoix::TexteFenetre() const {
-    if (choix_.FenetreLevee()) return Msg(2868);
+    if (choix_.FenetreLevee()) return Msg(message::ProchesSansEgardAuxDates);
     const std::string nom = records::NomAffiche(S(), choix_.Demande().reference);
-    if (choix_.Demande().sorte == SorteChoix::Lien) return Msg(2867, nom);
+    if (choix_.Demande().sorte == SorteChoix::Lien) return Msg(message::ProchesContemporains, nom);
     if (choix_.SansAnnee())
-        return Msg(choix_.Demande().sorte == SorteChoix::Enfant ? 2866 : 2865, nom);
+        return Msg(choix_.Demande().sorte == SorteChoix::Enfant
+                       ? message::ProchesNaissanceInconnueCocherAnnees
+                       : message::ProchesSansAnneeDeNaissance,
+                   nom);
     const records::FenetreAnnees& annees = choix_.Fenetre();
-    if (annees.de == "-") return Msg(2864, AnneeLisible(annees.a));
-    return Msg(2863, AnneeLisible(annees.de), AnneeLisible(annees.a));
+    if (annees.de == "-") return Msg(message::ProchesNesJusquEn, AnneeLisible(annees.a));
+    return Msg(message::ProchesNesDeA, AnneeLisible(annees.de), AnneeLisible(annees.a));
 }
 
 shell::Phrase FenetreChoix::TexteVide() const {
     const std::string& filtre = choix_.Filtre();
-    if (choix_.ParNumero()) return Msg(2874, filtre);
-    if (choix_.FenetreLevee()) return filtre.empty() ? Msg(2873) : Msg(2872, filtre);
-    return filtre.empty() ? Msg(2871) : Msg(2870, filtre);
+    if (choix_.ParNumero()) return Msg(message::AucunProcheDeCeNumero, filtre);
+    if (choix_.FenetreLevee())
+        return filtre.empty() ? Msg(message::AucunAutreProche)
+                              : Msg(message::AucunProcheDeCeNom, filtre);
+    return filtre.empty() ? Msg(message::AucunProcheSelonDates)
+                          : Msg(message::AucunProcheSelonDatesEtNom, filtre);
 }
 
 /// The arrows go on to the neighbour page at the ends of the list, the page keys at once.

@@ -2,6 +2,7 @@
 
 #include "ui_FrmCreation.h"
 
+#include "messages/Fiche.h"
 #include "records/Individus.h"
 #include "shell/Session.h"
 #include "windows/controles/Legendes.h"
@@ -95,8 +96,12 @@ void FrmCreation::Creer() {
 void FrmCreation::reject() {
     std::size_t remplaces = 0;
     if (Lire(remplaces) != depart_) {
-        const shell::Reponse reponse = S().dialogue.Demander(
-            {shell::Msg(2611), {}, shell::Boutons::OuiNonAnnuler, shell::Reponse::Oui, false});
+        const shell::Reponse reponse =
+            S().dialogue.Demander({shell::Msg(message::ProposerCreerPersonne),
+                                   {},
+                                   shell::Boutons::OuiNonAnnuler,
+                                   shell::Reponse::Oui,
+                                   false});
         if (reponse == shell::Reponse::Annuler) return;
         if (reponse == shell::Reponse::Oui) {
             Creer();

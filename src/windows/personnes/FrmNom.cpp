@@ -4,6 +4,8 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include "messages/Dorvane.h"
+#include "messages/Famille.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "windows/controles/EnTeteListe.h"
@@ -70,8 +72,10 @@ void FrmNom::Traduire() {
     if (!demande_.titre.EstVide())
         setWindowTitle(TexteEcran(S().catalogue.Composer(demande_.titre)));
     const bool parAnnee = S().BaseOuverte() && S().base->entete.TypeTri == '1';
-    ui_->LblPosition->setText(TexteEcran(S(), parAnnee ? 2901 : 2900));
-    ui_->TxPosition->setPlaceholderText(TexteEcran(S(), parAnnee ? 2903 : 2902));
+    ui_->LblPosition->setText(
+        TexteEcran(S(), parAnnee ? message::AllerALAnnee : message::AllerAuNom));
+    ui_->TxPosition->setPlaceholderText(
+        TexteEcran(S(), parAnnee ? message::InviteAnneeNaissance : message::InviteDebutDuNom));
     Compter();
 }
 
@@ -110,15 +114,17 @@ void FrmNom::done(int resultat) {
 void FrmNom::Compter() {
     const int montres = modele_->rowCount({});
     const std::string total = std::to_string(modele_->Total());
-    const shell::Phrase nombre = montres == modele_->Total()
-                                     ? shell::Msg(2067, total)
-                                     : shell::Msg(2068, std::to_string(montres), total);
+    const shell::Phrase nombre =
+        montres == modele_->Total()
+            ? shell::Msg(message::NombrePersonnes, total)
+            : shell::Msg(message::NombrePersonnesFiltrees, std::to_string(montres), total);
     ui_->LblNombre->setText(TexteEcran(S().catalogue.Composer(nombre)));
     ui_->CmdChoisir->setEnabled(montres > 0);
     ui_->Pages->setCurrentIndex(montres > 0 ? 0 : 1);
-    const shell::Phrase vide = modele_->Total() == 0
-                                   ? shell::Msg(2072)
-                                   : shell::Msg(2069, QtVersTexte(ui_->TxtFiltre->text()).octets);
+    const shell::Phrase vide =
+        modele_->Total() == 0
+            ? shell::Msg(message::BaseSansPersonne)
+            : shell::Msg(message::AucunNomNeContient, QtVersTexte(ui_->TxtFiltre->text()).octets);
     ui_->LblVide->setText(TexteEcran(S().catalogue.Composer(vide)));
 }
 

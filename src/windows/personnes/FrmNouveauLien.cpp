@@ -4,6 +4,7 @@
 #include <QCompleter>
 #include <QLineEdit>
 
+#include "messages/Fiche.h"
 #include "records/Liens.h"
 #include "records/MotsUsuels.h"
 #include "records/NomsAffiches.h"
@@ -52,8 +53,8 @@ bool FrmNouveauLien::Lier(shell::Session& session, NoOrdre individu, NoOrdre aut
 
 void FrmNouveauLien::Traduire() {
     FenetreFille::Traduire();
-    setWindowTitle(
-        TexteEcran(S().catalogue.Composer(shell::Msg(2733, records::NomAffiche(S(), autre_)))));
+    setWindowTitle(TexteEcran(S().catalogue.Composer(
+        shell::Msg(message::TitreLienAvec, records::NomAffiche(S(), autre_)))));
 }
 
 void FrmNouveauLien::Valider() {

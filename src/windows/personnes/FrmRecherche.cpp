@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include "messages/Famille.h"
 #include "records/Apercu.h"
 #include "shell/Session.h"
 #include "windows/controles/ChampReplie.h"
@@ -168,10 +169,11 @@ void FrmRecherche::PoserBoutons() {
     const auto texte = [this](const shell::Phrase& phrase) {
         return TexteEcran(S().catalogue.Composer(phrase));
     };
-    ui_->LblNombre->setText(texte(shell::Msg(2894, std::to_string(nombre))));
-    ui_->LblVide->setText(cherche_.isEmpty()
-                              ? texte(shell::Msg(2895))
-                              : texte(shell::Msg(2896, QtVersTexte(cherche_).octets)));
+    ui_->LblNombre->setText(
+        texte(shell::Msg(message::NombrePersonnesRecherche, std::to_string(nombre))));
+    ui_->LblVide->setText(cherche_.isEmpty() ? texte(shell::Msg(message::AideRechercheParNom))
+                                             : texte(shell::Msg(message::RechercheSansResultat,
+                                                                QtVersTexte(cherche_).octets)));
 }
 
 /// In the list Enter shows the person, and Delete takes the row away.

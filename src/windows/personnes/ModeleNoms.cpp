@@ -3,6 +3,8 @@
 #include <QIcon>
 #include <QMimeData>
 
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
 #include "records/NomsAffiches.h"
 #include "records/PositionNoms.h"
 #include "shell/Session.h"
@@ -75,7 +77,7 @@ std::string ModeleNoms::Cle(NoOrdre individu) const {
         case Sexe:
             return std::string(1, session_.base->R_SEXE.LireCellule(individu));
         case Famille:
-            return std::to_string(MessageFamille(individu));
+            return std::to_string(static_cast<int>(FamilleDe(individu)));
         default:
             return Texte(individu, colonne_).toString().toStdString();
     }
@@ -161,41 +163,56 @@ QString ModeleNoms::Bulle(NoOrdre individu, int colonne) const {
         case Parents: {
             const bool pere{session_.base->R_PERE.LireCellule(individu)};
             const bool mere{session_.base->R_MERE.LireCellule(individu)};
-            return TexteEcran(session_, pere && mere ? 2074 : pere ? 2075 : mere ? 2076 : 2077);
+            return TexteEcran(session_, pere && mere ? message::BulleParentsConnus
+                                        : pere       ? message::BullePereConnu
+                                        : mere       ? message::BulleMereConnue
+                                                     : message::BulleParentsInconnus);
         }
         case Sexe: {
             const char sexe = session_.base->R_SEXE.LireCellule(individu);
-            return TexteEcran(session_, sexe == 'H' ? 661 : sexe == 'F' ? 663 : 664);
+            return TexteEcran(session_, sexe == 'H'   ? message::SexeMasculin
+                                        : sexe == 'F' ? message::SexeFeminin
+                                                      : message::SexeIndetermine);
         }
         case Famille: {
-            const std::uint32_t message = MessageFamille(individu);
-            return message == 0 ? QString{} : TexteEcran(session_, message);
+            switch (FamilleDe(individu)) {
+                case EtatFamille::UnionsEtEnfants:
+                    return TexteEcran(session_, message::BulleUnionsEtEnfants);
+                case EtatFamille::UnionSansEnfant:
+                    return TexteEcran(session_, message::BulleUnionSansEnfant);
+                case EtatFamille::EnfantsSansUnion:
+                    return TexteEcran(session_, message::BulleEnfantsSansUnion);
+                case EtatFamille::Aucune:
+                    break;
+            }
+            return {};
         }
         default:
             return Texte(individu, colonne).toString();
     }
 }
 
-std::uint32_t ModeleNoms::MessageFamille(NoOrdre individu) const {
+ModeleNoms::EtatFamille ModeleNoms::FamilleDe(NoOrdre individu) const {
     const bool unions = session_.base->R_MARIAG.NbElements(individu) != 0;
     const bool enfants = session_.base->R_ENFANT.NbElements(individu) != 0;
-    if (unions) return enfants ? 2078 : 2079;
-    return enfants ? 2080 : 0;
+    if (unions) return enfants ? EtatFamille::UnionsEtEnfants : EtatFamille::UnionSansEnfant;
+    return enfants ? EtatFamille::EnfantsSansUnion : EtatFamille::Aucune;
 }
 
 QVariant ModeleNoms::Image(NoOrdre individu, int colonne) const {
     if (colonne == Sexe) return IconeSexe(session_.base->R_SEXE.LireCellule(individu));
     if (colonne != Famille) return {};
-    switch (MessageFamille(individu)) {
-        case 2078:
+    switch (FamilleDe(individu)) {
+        case EtatFamille::UnionsEtEnfants:
             return Icone("Famille");
-        case 2079:
+        case EtatFamille::UnionSansEnfant:
             return Icone("Union");
-        case 2080:
+        case EtatFamille::EnfantsSansUnion:
             return Icone("Enfants");
-        default:
-            return {};
+        case EtatFamille::Aucune:
+            break;
     }
+    return {};
 }
 
 Qt::ItemFlags ModeleNoms::flags(const QModelIndex& index) const {

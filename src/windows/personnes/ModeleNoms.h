@@ -56,10 +56,12 @@ private:
     [[nodiscard]] QVariant Texte(NoOrdre individu, int colonne) const;
     [[nodiscard]] QString Bulle(NoOrdre individu, int colonne) const;
     [[nodiscard]] QVariant Image(NoOrdre individu, int colonne) const;
+    /// Unions and children of a person, in the order in which the column sorts.
+    enum class EtatFamille { Aucune, UnionsEtEnfants, UnionSansEnfant, EnfantsSansUnion };
     /// Fills `montres_` by filter and order.
     void Retenir();
     [[nodiscard]] std::string Cle(NoOrdre individu) const;
-    [[nodiscard]] std::uint32_t MessageFamille(NoOrdre individu) const;
+    [[nodiscard]] EtatFamille FamilleDe(NoOrdre individu) const;
 
     shell::Session& session_;
     std::vector<NoOrdre> tous_;

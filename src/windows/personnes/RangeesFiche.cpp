@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QToolButton>
 
+#include "messages/Fiche.h"
 #include "records/TexteFiche.h"
 #include "shell/Libelles.h"
 #include "shell/Session.h"
@@ -181,19 +182,19 @@ void RangeesFiche::Traduire() {
             TexteEcran(shell::LibelleDeTag(session_->catalogue, definition_.libelles[k]));
         // An ampersand in the word of a user is no mnemonic.
         r.etiquette->setText(QString{libelle}.replace(u'&', QStringLiteral("&&")));
-        const auto nommer = [this, &libelle](QWidget& champ, std::uint32_t message) {
+        const auto nommer = [this, &libelle](QWidget& champ, NoMessage message) {
             champ.setAccessibleName(libelle + QStringLiteral(", ") +
                                     TexteEcran(*session_, message));
         };
         const bool datee = definition_.slots[k].drapeau == '1';
-        nommer(*r.jourMois, 2640);
-        nommer(*r.annee, 2641);
-        nommer(*r.lieu, datee ? 2642U : 2643U);
-        nommer(*r.choix, 2644);
-        r.choix->setToolTip(TexteEcran(*session_, 2644));
-        r.jourMois->setPlaceholderText(TexteEcran(*session_, 2640));
-        r.annee->setPlaceholderText(TexteEcran(*session_, 2641));
-        if (datee) r.lieu->setPlaceholderText(TexteEcran(*session_, 2642));
+        nommer(*r.jourMois, message::InviteJourEtMoisFiche);
+        nommer(*r.annee, message::InviteAnneeFiche);
+        nommer(*r.lieu, datee ? message::InviteLieuFiche : message::InviteMotsFiche);
+        nommer(*r.choix, message::BulleChoisirParmiLesMots);
+        r.choix->setToolTip(TexteEcran(*session_, message::BulleChoisirParmiLesMots));
+        r.jourMois->setPlaceholderText(TexteEcran(*session_, message::InviteJourEtMoisFiche));
+        r.annee->setPlaceholderText(TexteEcran(*session_, message::InviteAnneeFiche));
+        if (datee) r.lieu->setPlaceholderText(TexteEcran(*session_, message::InviteLieuFiche));
     }
     Aviser();
 }

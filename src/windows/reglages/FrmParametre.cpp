@@ -6,6 +6,7 @@
 #include <QScrollArea>
 #include <QStackedWidget>
 
+#include "messages/Reglages.h"
 #include "shell/Reglages.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/Remplaces.h"
@@ -22,7 +23,10 @@ constexpr int Espace = 6;
 constexpr int LargeurListe = 180;
 constexpr int EspaceListe = 3;
 /// The titles of the pages, in their order.
-constexpr std::array<std::uint32_t, 6> Titres{3421, 3422, 3423, 3424, 3425, 3426};
+constexpr std::array<NoMessage, 6> Titres{
+    message::PageReglagesNoms,   message::PageReglagesParticules,
+    message::PageReglagesGraphe, message::PageReglagesEvenements,
+    message::PageReglagesBase,   message::PageReglagesProgramme};
 constexpr int PageDesEvenements = 3;
 constexpr int PageDuProgramme = 5;
 
@@ -89,7 +93,7 @@ void FrmParametre::Traduire() {
     FenetreFille::Traduire();
     const int rang = liste_->currentRow();
     liste_->clear();
-    for (const std::uint32_t titre : Titres)
+    for (const NoMessage titre : Titres)
         liste_->addItem(TexteEcran(S(), titre));
     liste_->setCurrentRow(rang);
     for (PageParametre* page : findChildren<PageParametre*>())
@@ -106,7 +110,7 @@ shell::Reglages FrmParametre::Lire(std::size_t& remplaces) const {
 void FrmParametre::reject() {
     std::size_t remplaces = 0;
     if (shell::MemesReglages(Lire(remplaces), montres_)) return FenetreFille::reject();
-    Renoncer(3520, [this] { Valider(); });
+    Renoncer(message::ProposerEnregistrerReglages, [this] { Valider(); });
 }
 
 void FrmParametre::Valider() {

@@ -8,6 +8,7 @@
 #include <QTableWidget>
 #include <QToolButton>
 
+#include "messages/Reglages.h"
 #include "records/MotsUsuels.h"
 #include "shell/Libelles.h"
 #include "shell/Session.h"
@@ -100,8 +101,9 @@ QString ParametreEvenements::Affiche(const std::string& neutre) const {
 
 void ParametreEvenements::Traduire() {
     GarderRoles(remplaces_);
-    roles_->setHorizontalHeaderLabels(
-        {TexteEcran(S(), 3473), TexteEcran(S(), 3474), TexteEcran(S(), 3475)});
+    roles_->setHorizontalHeaderLabels({TexteEcran(S(), message::ColonneRoleReglages),
+                                       TexteEcran(S(), message::ColonneSexeReglages),
+                                       TexteEcran(S(), message::ColonneObligatoireReglages)});
     ListerTypes(std::max(0, types_->Liste().currentRow()));
 }
 
@@ -140,15 +142,16 @@ void ParametreEvenements::AjouterRole(const shell::RoleEvenement& role) {
     auto* libelle = new QComboBox;
     libelle->setEditable(true);
     libelle->setFrame(false);
-    libelle->setAccessibleName(TexteEcran(S(), 3473));
+    libelle->setAccessibleName(TexteEcran(S(), message::ColonneRoleReglages));
     for (const std::string& mot :
          records::ListerMotsUsuels(S(), shell::LibelleDeTag(S().catalogue, "RELA")))
         libelle->addItem(TexteVersQt(mot));
     libelle->setEditText(Affiche(role.label));
     auto* sexe = new QComboBox;
     sexe->setFrame(false);
-    sexe->setAccessibleName(TexteEcran(S(), 3474));
-    for (const std::uint32_t message : {3476U, 3477U, 3478U})
+    sexe->setAccessibleName(TexteEcran(S(), message::ColonneSexeReglages));
+    for (const NoMessage message :
+         {message::RoleSexeIndifferent, message::RoleSexeHomme, message::RoleSexeFemme})
         sexe->addItem(TexteEcran(S(), message));
     sexe->setCurrentIndex(static_cast<int>(std::ranges::find(Sexes, role.sexe) - Sexes.begin()) %
                           3);
@@ -156,7 +159,7 @@ void ParametreEvenements::AjouterRole(const shell::RoleEvenement& role) {
     obligatoire->setChecked(role.principal);
     // An empty box would not show on the ground of a dark table.
     obligatoire->setAutoFillBackground(true);
-    obligatoire->setAccessibleName(TexteEcran(S(), 3475));
+    obligatoire->setAccessibleName(TexteEcran(S(), message::ColonneObligatoireReglages));
     roles_->setCellWidget(ligne, Role, libelle);
     roles_->setCellWidget(ligne, Sexe, sexe);
     roles_->setCellWidget(ligne, Obligatoire, obligatoire);

@@ -11,6 +11,8 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "messages/Dorvane.h"
+#include "messages/Reglages.h"
 #include "shell/Session.h"
 #include "windows/controles/ChampSuivi.h"
 #include "windows/controles/Legendes.h"
@@ -18,12 +20,17 @@
 #include "windows/graphe/PaletteGraphe.h"
 #include "windows/reglages/PagesParametre.h"
 
+#include <iterator>
+
 namespace dorvane::windows {
 
 namespace {
 
 enum Colonnes { Police, Taille, Cases, Proportionnel, NbColonnes };
-constexpr int NbPresentations = 4;
+constexpr NoMessage Presentations[] = {
+    message::MenuPresentationGrandesCases, message::MenuPresentationCasesMoyennes,
+    message::MenuPresentationPetitesCases, message::MenuPresentationUneLigne};
+constexpr int NbPresentations = static_cast<int>(std::size(Presentations));
 constexpr int Pastille = 16;
 
 template <class Controle>
@@ -149,14 +156,15 @@ void ParametreGraphe::Traduire() {
     const int rang = presentation_->currentIndex();
     presentation_->clear();
     QStringList lignes;
-    for (std::uint32_t i = 0; i < NbPresentations; ++i) {
-        lignes << SansMnemonique(TexteEcran(S(), 2023 + i));
+    for (const NoMessage presentation : Presentations) {
+        lignes << SansMnemonique(TexteEcran(S(), presentation));
         presentation_->addItem(lignes.last());
     }
     presentation_->setCurrentIndex(rang);
     table_->setVerticalHeaderLabels(lignes);
-    table_->setHorizontalHeaderLabels({TexteEcran(S(), 3461), TexteEcran(S(), 3462),
-                                       TexteEcran(S(), 3463), TexteEcran(S(), 3464)});
+    table_->setHorizontalHeaderLabels(
+        {TexteEcran(S(), message::ColonnePolice), TexteEcran(S(), message::ColonneTaillePolice),
+         TexteEcran(S(), message::ColonneCases), TexteEcran(S(), message::ColonneProportionnel)});
     for (int i = 0; i < NbPresentations; ++i)
         for (int colonne = 0; colonne < NbColonnes; ++colonne)
             table_->cellWidget(i, colonne)

@@ -10,6 +10,7 @@
 #include <QTableWidget>
 #include <QToolButton>
 
+#include "messages/Reglages.h"
 #include "records/FicheMotsCles.h"
 #include "records/NomsAffiches.h"
 #include "shell/Libelles.h"
@@ -29,9 +30,12 @@ namespace dorvane::windows {
 namespace {
 
 constexpr std::array<const char*, 6> Jetons{"FNAM", "BIRN", "OFNM", "NUMB", "FATN", "MOTN"};
-constexpr std::array<std::uint32_t, 6> MessagesJetons{3436, 3437, 3438, 3439, 3440, 3441};
+constexpr std::array<NoMessage, 6> MessagesJetons{
+    message::ElementPrenoms,       message::ElementNom,       message::ElementAutresPrenoms,
+    message::ElementNumeroDeCujus, message::ElementNomDuPere, message::ElementNomDeLaMere};
 constexpr int JetonsAuPlus = 10;
-constexpr int MessagesCasses[] = {3445, 3446, 3447};
+constexpr NoMessage MessagesCasses[] = {message::CasseCommeTape, message::CasseMajuscules,
+                                        message::CasseInitiales};
 
 QGroupBox* Groupe(QWidget& page, const char* nom) {
     auto* groupe = new QGroupBox{&page};
@@ -130,8 +134,8 @@ void ParametreNoms::Traduire() {
     for (QComboBox* liste : casses_) {
         const int rang = liste->currentIndex();
         liste->clear();
-        for (const int message : MessagesCasses)
-            liste->addItem(TexteEcran(S(), static_cast<std::uint32_t>(message)));
+        for (const NoMessage message : MessagesCasses)
+            liste->addItem(TexteEcran(S(), message));
         liste->setCurrentIndex(std::max(0, rang));
     }
     MontrerExemple();
@@ -149,21 +153,21 @@ void ParametreNoms::MontrerExemple() {
     const std::string nom =
         ComposerNom(modele, [this](std::string_view jeton, const SortieValeur& sortie) {
             // The sample is a person whom everybody knows, with a number.
-            const std::uint32_t message = jeton == "FNAM"   ? 3448
-                                          : jeton == "BIRN" ? 3449
-                                          : jeton == "OFNM" ? 3450
-                                          : jeton == "FATN" ? 3449
-                                          : jeton == "MOTN" ? 3451
-                                                            : 0;
+            const NoMessage exemple = jeton == "FNAM"   ? message::ExemplePrenom
+                                      : jeton == "BIRN" ? message::ExempleNom
+                                      : jeton == "OFNM" ? message::ExempleAutrePrenom
+                                      : jeton == "FATN" ? message::ExempleNom
+                                      : jeton == "MOTN" ? message::ExempleNomDeLaMere
+                                                        : NoMessage{};
             if (jeton == "NUMB")
                 sortie("[5]");
-            else if (message != 0)
-                sortie(S().Message(message));
+            else if (exemple)
+                sortie(S().Message(exemple));
             else
                 sortie(shell::LibelleDeTag(S().catalogue, jeton));
         });
-    exemple_->setText(
-        TexteEcran(S().catalogue.Composer(shell::Msg(nom.empty() ? 3443 : 3442, nom))));
+    exemple_->setText(TexteEcran(S().catalogue.Composer(
+        shell::Msg(nom.empty() ? message::AucunElementDuNom : message::ExempleDeNom, nom))));
 }
 
 void ParametreNoms::Charger(const shell::Reglages& r) {
@@ -237,8 +241,9 @@ ParametreParticules::ParametreParticules(shell::Session& session, QWidget* paren
 }
 
 void ParametreParticules::Traduire() {
-    table_->setHorizontalHeaderLabels(
-        {TexteEcran(S(), 3453), TexteEcran(S(), 3454), TexteEcran(S(), 3455)});
+    table_->setHorizontalHeaderLabels({TexteEcran(S(), message::ColonneMotCleDesNoms),
+                                       TexteEcran(S(), message::ColonneDansLesPrenoms),
+                                       TexteEcran(S(), message::ColonneDansLesNoms)});
 }
 
 void ParametreParticules::AjouterLigne(const Particule& particule) {

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 
+#include "messages/Reglages.h"
 #include "shell/Session.h"
 #include "windows/controles/BoutonsIcones.h"
 #include "windows/controles/Icones.h"
@@ -23,8 +24,15 @@ namespace dorvane::windows {
 
 namespace {
 
-constexpr std::array<const char*, 5> Ordres{"dd/mm/yyyy", "mm/dd/yyyy", "yyyy/mm/dd", "yyyy/dd/mm",
-                                            "mm/yyyy/dd"};
+struct Ordre {
+    const char* valeur;
+    NoMessage nom;
+};
+constexpr std::array<Ordre, 5> Ordres{{{"dd/mm/yyyy", message::OrdreDateJourMoisAnnee},
+                                       {"mm/dd/yyyy", message::OrdreDateMoisJourAnnee},
+                                       {"yyyy/mm/dd", message::OrdreDateAnneeMoisJour},
+                                       {"yyyy/dd/mm", message::OrdreDateAnneeJourMois},
+                                       {"mm/yyyy/dd", message::OrdreDateMoisAnneeJour}}};
 constexpr int FrequenceAuPlus = 1440;
 
 }  // namespace
@@ -126,7 +134,7 @@ void ParametreProgramme::FaireBoutons() {
     };
     const int rang = boutons_->currentIndex();
     boutons_->clear();
-    boutons_->addItem(TexteEcran(S(), 3490), SeparateurIcones);
+    boutons_->addItem(TexteEcran(S(), message::TraitDeSeparation), SeparateurIcones);
     for (const BoutonIcone& bouton : BoutonsIcones())
         boutons_->addItem(Icone(bouton.action), texte(bouton.action), bouton.no);
     boutons_->setCurrentIndex(std::max(0, rang));
@@ -141,11 +149,10 @@ void ParametreProgramme::Traduire() {
     FaireBoutons();
     const int rang = ordre_->currentIndex();
     ordre_->clear();
-    for (std::size_t i = 0; i < Ordres.size(); ++i)
-        ordre_->addItem(TexteEcran(S(), 3491 + static_cast<std::uint32_t>(i)),
-                        QLatin1String{Ordres[i]});
+    for (const Ordre& ordre : Ordres)
+        ordre_->addItem(TexteEcran(S(), ordre.nom), QLatin1String{ordre.valeur});
     ordre_->setCurrentIndex(rang);
-    frequence_->setSuffix(u' ' + TexteEcran(S(), 3496));
+    frequence_->setSuffix(u' ' + TexteEcran(S(), message::UniteMinutes));
 }
 
 void ParametreProgramme::Charger(const shell::Reglages& r) {

@@ -7,6 +7,9 @@
 #include <QHeaderView>
 #include <QMenu>
 
+#include "messages/Controle.h"
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
 #include "records/Famille.h"
 #include "records/LignesFiche.h"
 #include "records/NomsAffiches.h"
@@ -31,7 +34,9 @@ namespace dorvane::windows {
 namespace {
 
 constexpr qint64 EntreVersements = 250;  ///< ms between two updates of the lists
-constexpr ListeFiltree::Messages Comptes{4259, 4260, 4261, 532};
+constexpr ListeFiltree::Messages Comptes{message::NombreAnomalies, message::NombreAnomaliesFiltrees,
+                                         message::AucuneAnomalieNeContient,
+                                         message::InfoAucuneAnomalie};
 
 }  // namespace
 
@@ -151,7 +156,7 @@ void FrmControle::Verser(std::vector<records::Constat>& recus) {
 }
 
 void FrmControle::MontrerSorte() {
-    sorte_ = sortes_->Message(ui_->LstSortes->currentIndex().row());
+    sorte_ = sortes_->SorteDe(ui_->LstSortes->currentIndex().row());
     liste_->Poser(modele_->Numeros(sorte_));
     PoserEtat();
 }
@@ -176,24 +181,29 @@ void FrmControle::MontrerFiche() {
         lignes.push_back(std::move(ligne));
     }
     ui_->GrdFiche->Poser(std::move(lignes));
-    ui_->GrdFiche->DireVide(TexteEcran(S(), liste_->Choisi() == 0 ? 4278 : 4262));
+    ui_->GrdFiche->DireVide(TexteEcran(S(), liste_->Choisi() == 0
+                                                ? message::AideChoisirAnomalie
+                                                : message::FicheDePersonneDisparue));
     const QString nom = TexteVersQt(SansBlancs(records::NomEtDates(S(), individu)));
-    ui_->LblFiche->setText(nom.isEmpty() ? TexteEcran(S(), 4277)
+    ui_->LblFiche->setText(nom.isEmpty() ? TexteEcran(S(), message::FicheDeLaPersonne)
                                          : QString{nom}.replace(u'&', QStringLiteral("&&")));
     PoserBoutons();
 }
 
 void FrmControle::PoserEtat() {
     const bool enCours = etat_ == Etat::EnCours;
-    std::uint32_t message = 0;
-    if (enCours) message = 4269;
-    if (etat_ == Etat::Complet) message = modele_->Nombre() == 0 ? 532 : 530;
-    if (etat_ == Etat::Interrompu) message = 4274;
-    ui_->LblEtat->setText(message == 0 ? QString{} : TexteEcran(S(), message));
+    NoMessage message{};
+    if (enCours) message = message::EtatControleEnCours;
+    if (etat_ == Etat::Complet)
+        message =
+            modele_->Nombre() == 0 ? message::InfoAucuneAnomalie : message::EtatControleTermine;
+    if (etat_ == Etat::Interrompu) message = message::EtatControleInterrompu;
+    ui_->LblEtat->setText(message ? TexteEcran(S(), message) : QString{});
     ui_->Avancement->setVisible(enCours);
     // An empty list says why: the scan may not have come to an end.
     if (modele_->Nombre() == 0) ui_->LblVide->setText(ui_->LblEtat->text());
-    ui_->CmdQuitter->setText(TexteEcran(S(), enCours ? 4267 : 4268));
+    ui_->CmdQuitter->setText(TexteEcran(
+        S(), enCours ? message::BoutonInterrompreControle : message::BoutonFermerControle));
     PoserBoutons();
 }
 
@@ -207,7 +217,7 @@ void FrmControle::PoserBoutons() {
 
 bool FrmControle::Libre() const {
     if (!S().progression.EnCours()) return true;
-    S().dialogue.Informer(shell::Msg(503));
+    S().dialogue.Informer(shell::Msg(message::OperationImpossible));
     return false;
 }
 
@@ -226,13 +236,14 @@ void FrmControle::Relancer() {
 
 /// The rows as they are shown, in their order.
 void FrmControle::CmdTexteClique() {
-    std::filesystem::path chemin = S().Travail() / (S().Message(4285) + '-');
+    std::filesystem::path chemin = S().Travail() / (S().Message(message::NomFichierControle) + '-');
     chemin += S().CheminBase.stem();
     chemin += ".txt";
     if (shell::EcrireTout(chemin, records::TexteDesConstats(modele_->Montres())))
         OuvrirTexte(S(), chemin, windowTitle(), *parentWidget());
     else
-        S().dialogue.Informer(shell::Msg(4283, shell::CheminAffiche(chemin)));
+        S().dialogue.Informer(
+            shell::Msg(message::ListeAnomaliesNonEcrite, shell::CheminAffiche(chemin)));
 }
 
 void FrmControle::MontrerMenu(const QPoint& point) {
@@ -241,26 +252,29 @@ void FrmControle::MontrerMenu(const QPoint& point) {
     auto* menu = new QMenu{this};
     menu->setObjectName(QStringLiteral("MnuAnomalie"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const auto ajouter = [&](const char* nom, std::uint32_t message, auto action) {
+    const auto ajouter = [&](const char* nom, NoMessage message, auto action) {
         QAction* nouvelle = menu->addAction(TexteEcran(S(), message), this, action);
         nouvelle->setObjectName(QString::fromLatin1(nom));
         return nouvelle;
     };
     const bool presente{Choisie()};
-    ajouter("OuvrirFiche", 2124, [this] { OuvrirFiche(Choisie()); })->setEnabled(presente);
-    ajouter("Aller", 4279, [this] { Aller(); })->setEnabled(presente);
+    ajouter("OuvrirFiche", message::MenuOuvrirFiche, [this] {
+        OuvrirFiche(Choisie());
+    })->setEnabled(presente);
+    ajouter("Aller", message::MenuMontrerDansGraphe, [this] { Aller(); })->setEnabled(presente);
     menu->addSeparator();
-    ajouter("CetteSorte", 4280, [this, message = constat->message] {
-        ui_->LstSortes->setCurrentIndex(sortes_->index(sortes_->Rangee(message), 0));
+    ajouter("CetteSorte", message::MenuCetteSorteDAnomalie, [this, sorte = constat->sorte] {
+        ui_->LstSortes->setCurrentIndex(sortes_->index(sortes_->Rangee(sorte), 0));
     });
-    ajouter("CettePersonne", 4281, [this, identite = TexteVersQt(constat->identite)] {
-        ui_->LstSortes->setCurrentIndex(sortes_->index(0, 0));
-        ui_->TxtFiltre->setText(identite);
-    });
+    ajouter("CettePersonne", message::MenuAnomaliesDeLaPersonne,
+            [this, identite = TexteVersQt(constat->identite)] {
+                ui_->LstSortes->setCurrentIndex(sortes_->index(0, 0));
+                ui_->TxtFiltre->setText(identite);
+            });
     menu->addSeparator();
     records::Constat copie = *constat;
-    copie.texte = S().Message(copie.message);
-    ajouter("CopierLigne", 4282, [ligne = records::TexteDesConstats({copie})] {
+    copie.texte = S().Message(records::MessageDe(copie.sorte));
+    ajouter("CopierLigne", message::MenuCopierLigne, [ligne = records::TexteDesConstats({copie})] {
         QGuiApplication::clipboard()->setText(QString::fromStdString(ligne).trimmed());
     });
     menu->popup(ui_->GrdAno->viewport()->mapToGlobal(point));
@@ -280,7 +294,7 @@ void FrmControle::done(int resultat) {
     etat_ = Etat::Neuf;
     modele_->Vider();
     sortes_->Vider();
-    sorte_ = 0;
+    sorte_.reset();
     liste_->Poser({});
     ui_->TxtFiltre->clear();
     PoserEtat();

@@ -6,6 +6,7 @@
 #include "windows/controles/FenetreFille.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Ui {
@@ -62,8 +63,8 @@ private:
     ModeleSortes* sortes_;
     ListeFiltree* liste_;
     Etat etat_ = Etat::Neuf;
-    bool arret_ = false;       ///< the user has stopped the scan
-    std::uint32_t sorte_ = 0;  ///< the message of the kind shown; 0: all kinds
+    bool arret_ = false;                          ///< the user has stopped the scan
+    std::optional<records::SorteConstat> sorte_;  ///< the kind shown; none: all kinds
 };
 
 }  // namespace dorvane::windows

@@ -3,6 +3,7 @@
 #include <QLocale>
 #include <QMimeData>
 
+#include "messages/Controle.h"
 #include "records/Famille.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
@@ -13,7 +14,6 @@
 #include "windows/controles/Unicode.h"
 
 #include <algorithm>
-#include <iterator>
 #include <string>
 #include <utility>
 
@@ -22,19 +22,6 @@ namespace dorvane::windows {
 namespace {
 
 constexpr std::size_t ChiffresCle = 8;
-constexpr std::uint32_t MsgRang = 4263;
-constexpr std::uint32_t MsgToutes = 4255;
-
-/// The kinds in the order of the list: the person, father, mother, their union, children, unions,
-/// events.
-constexpr std::uint16_t Ordre[] = {506, 507, 508, 484, 483, 509, 510, 496, 511, 512, 513, 478,
-                                   476, 498, 499, 514, 515, 516, 517, 477, 475, 497, 518, 487,
-                                   486, 485, 519, 520, 495, 523, 522, 524, 525, 526, 527, 528,
-                                   494, 493, 492, 491, 480, 479, 482, 481, 490, 489, 488};
-
-std::ptrdiff_t PlaceDe(std::uint32_t message) {
-    return std::find(std::begin(Ordre), std::end(Ordre), message) - std::begin(Ordre);
-}
 
 /// A number as a key that compares as a text.
 std::string CleDe(std::uint32_t nombre) {
@@ -49,7 +36,7 @@ ModeleAnomalies::ModeleAnomalies(shell::Session& session, QObject* parent)
 
 void ModeleAnomalies::Recevoir(std::vector<records::Constat>&& constats) {
     for (records::Constat& constat : constats) {
-        ++comptes_[constat.message];
+        ++comptes_[constat.sorte];
         // The catalogue has it, and in the language in use.
         constat.texte = {};
         constats_.push_back(std::move(constat));
@@ -62,10 +49,11 @@ void ModeleAnomalies::Vider() {
     comptes_.clear();
 }
 
-std::vector<std::uint32_t> ModeleAnomalies::Numeros(std::uint32_t message) const {
+std::vector<std::uint32_t> ModeleAnomalies::Numeros(
+    std::optional<records::SorteConstat> sorte) const {
     std::vector<std::uint32_t> numeros;
     for (std::size_t i = 0; i < constats_.size(); ++i)
-        if (message == 0 || constats_[i].message == message)
+        if (!sorte || constats_[i].sorte == *sorte)
             numeros.push_back(static_cast<std::uint32_t>(i) + 1);
     return numeros;
 }
@@ -78,7 +66,7 @@ std::vector<records::Constat> ModeleAnomalies::Montres() const {
     std::vector<records::Constat> montres;
     for (int rangee = 0; rangee < rowCount({}); ++rangee) {
         montres.push_back(*Constat(Numero(rangee)));
-        montres.back().texte = S().Message(montres.back().message);
+        montres.back().texte = S().Message(records::MessageDe(montres.back().sorte));
     }
     return montres;
 }
@@ -90,7 +78,7 @@ std::string ModeleAnomalies::Texte(std::uint32_t numero, int colonne) const {
         case Numero_:
             return std::to_string(constat->individu.valeur);
         case Anomalie:
-            return S().Message(constat->message);
+            return S().Message(records::MessageDe(constat->sorte));
         case Identite:
             return constat->identite;
         default:
@@ -110,8 +98,8 @@ QVariant ModeleAnomalies::Autre(std::uint32_t numero, int colonne, int role) con
     if (role == Qt::TextAlignmentRole && (colonne == Numero_ || colonne == Compte))
         return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
     if (role == Qt::ToolTipRole && colonne == Numero_)
-        return TexteEcran(
-            S().catalogue.Composer(shell::Msg(MsgRang, std::to_string(constat->rang))));
+        return TexteEcran(S().catalogue.Composer(
+            shell::Msg(message::BulleRangDeTri, std::to_string(constat->rang))));
     if (role == Qt::DecorationRole && colonne == Identite &&
         records::Existe(*S().base, constat->individu))
         return IconeSexe(S().base->R_SEXE.LireCellule(constat->individu));
@@ -132,22 +120,22 @@ QMimeData* ModeleAnomalies::mimeData(const QModelIndexList& lignes) const {
 }
 
 ModeleSortes::ModeleSortes(const shell::Session& session, QObject* parent)
-    : QAbstractTableModel{parent}, session_{session}, lignes_{{0, 0}} {}
+    : QAbstractTableModel{parent}, session_{session}, lignes_{{std::nullopt, 0}} {}
 
-void ModeleSortes::Compter(const std::map<std::uint32_t, std::uint32_t>& comptes) {
+void ModeleSortes::Compter(const std::map<records::SorteConstat, std::uint32_t>& comptes) {
     lignes_[0].nombre = 0;
-    for (const auto& [message, nombre] : comptes) {
+    for (const auto& [sorte, nombre] : comptes) {
         lignes_[0].nombre += nombre;
-        const auto apres = std::find_if(
-            lignes_.begin() + 1, lignes_.end(),
-            [place = PlaceDe(message)](const Ligne& l) { return PlaceDe(l.message) >= place; });
-        if (apres != lignes_.end() && apres->message == message) {
+        const auto apres =
+            std::find_if(lignes_.begin() + 1, lignes_.end(),
+                         [cherchee = sorte](const Ligne& l) { return l.sorte >= cherchee; });
+        if (apres != lignes_.end() && apres->sorte == sorte) {
             apres->nombre = nombre;
             continue;
         }
         const int rangee = static_cast<int>(apres - lignes_.begin());
         beginInsertRows({}, rangee, rangee);
-        lignes_.insert(apres, {message, nombre});
+        lignes_.insert(apres, {sorte, nombre});
         endInsertRows();
     }
     Q_EMIT dataChanged(index(0, Nombre), index(rowCount({}) - 1, Nombre));
@@ -155,7 +143,7 @@ void ModeleSortes::Compter(const std::map<std::uint32_t, std::uint32_t>& comptes
 
 void ModeleSortes::Vider() {
     beginResetModel();
-    lignes_ = {{0, 0}};
+    lignes_ = {{std::nullopt, 0}};
     endResetModel();
 }
 
@@ -164,14 +152,14 @@ void ModeleSortes::Traduire() {
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, NbColonnes - 1);
 }
 
-std::uint32_t ModeleSortes::Message(int rangee) const {
-    return rangee >= 0 && rangee < rowCount({}) ? lignes_[static_cast<std::size_t>(rangee)].message
-                                                : 0;
+std::optional<records::SorteConstat> ModeleSortes::SorteDe(int rangee) const {
+    if (rangee < 0 || rangee >= rowCount({})) return {};
+    return lignes_[static_cast<std::size_t>(rangee)].sorte;
 }
 
-int ModeleSortes::Rangee(std::uint32_t message) const {
+int ModeleSortes::Rangee(records::SorteConstat sorte) const {
     const auto place = std::find_if(lignes_.begin(), lignes_.end(),
-                                    [message](const Ligne& l) { return l.message == message; });
+                                    [sorte](const Ligne& l) { return l.sorte == sorte; });
     return place == lignes_.end() ? 0 : static_cast<int>(place - lignes_.begin());
 }
 
@@ -190,7 +178,8 @@ QVariant ModeleSortes::data(const QModelIndex& index, int role) const {
         return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
     if (index.column() == Nombre) return QLocale{}.toString(ligne.nombre);
-    return TexteEcran(session_, ligne.message == 0 ? MsgToutes : ligne.message);
+    return TexteEcran(session_,
+                      ligne.sorte ? records::MessageDe(*ligne.sorte) : message::ToutesLesAnomalies);
 }
 
 QVariant ModeleSortes::headerData(int section, Qt::Orientation orientation, int role) const {

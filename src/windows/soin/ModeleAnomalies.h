@@ -6,6 +6,7 @@
 #include "windows/controles/ModeleListe.h"
 
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace dorvane::windows {
@@ -25,10 +26,13 @@ public:
     void Recevoir(std::vector<records::Constat>&& constats);
     void Vider();
 
-    /// The numbers of the findings of one kind; message 0: of all kinds.
-    [[nodiscard]] std::vector<std::uint32_t> Numeros(std::uint32_t message) const;
-    /// How many findings there are of each message.
-    [[nodiscard]] const std::map<std::uint32_t, std::uint32_t>& Comptes() const { return comptes_; }
+    /// The numbers of the findings of one kind, or of all kinds.
+    [[nodiscard]] std::vector<std::uint32_t> Numeros(
+        std::optional<records::SorteConstat> sorte) const;
+    /// How many findings there are of each kind.
+    [[nodiscard]] const std::map<records::SorteConstat, std::uint32_t>& Comptes() const {
+        return comptes_;
+    }
     [[nodiscard]] std::size_t Nombre() const { return constats_.size(); }
     /// The finding of a number; null for 0. Valid until the next `Recevoir`.
     [[nodiscard]] const records::Constat* Constat(std::uint32_t numero) const;
@@ -46,11 +50,10 @@ protected:
 
 private:
     std::vector<records::Constat> constats_;
-    std::map<std::uint32_t, std::uint32_t> comptes_;
+    std::map<records::SorteConstat, std::uint32_t> comptes_;
 };
 
-/// The kinds of findings with their counts, persons before parents before unions before events;
-/// the first row stands for all kinds.
+/// The kinds of findings with their counts, in their order; the first row stands for all kinds.
 class ModeleSortes final : public QAbstractTableModel {
     Q_OBJECT
 
@@ -62,14 +65,14 @@ public:
 
     /// New counts. Kinds that are there already keep their row and their selection; none goes away
     /// but by `Vider`.
-    void Compter(const std::map<std::uint32_t, std::uint32_t>& comptes);
+    void Compter(const std::map<records::SorteConstat, std::uint32_t>& comptes);
     void Vider();
     void Traduire();
 
-    /// The message of a row; 0 for the first one and for no row.
-    [[nodiscard]] std::uint32_t Message(int rangee) const;
-    /// The row of a message; 0 when it has none.
-    [[nodiscard]] int Rangee(std::uint32_t message) const;
+    /// The kind of a row; none for the first one and for no row.
+    [[nodiscard]] std::optional<records::SorteConstat> SorteDe(int rangee) const;
+    /// The row of a kind; 0 when it has none.
+    [[nodiscard]] int Rangee(records::SorteConstat sorte) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent) const override;
@@ -79,7 +82,7 @@ public:
 
 private:
     struct Ligne {
-        std::uint32_t message;
+        std::optional<records::SorteConstat> sorte;  ///< none: all kinds
         std::uint32_t nombre;
     };
 

@@ -1,6 +1,7 @@
 #include "interchange/commandes/Importer.h"
 
 #include "interchange/EssaiImport.h"
+#include "messages/Messages.h"
 #include "shell/CycleDeVie.h"
 
 using namespace dorvane;
@@ -48,8 +49,8 @@ TEST_CASE_FIXTURE(Menu, "An existing base is replaced only after a yes; no is th
     EcrireFichier(chemin, "ancienne");
     dialogue.reponses.clear();
     ImporterFichier(session, fichier, {});
-    CHECK(dialogue.questions.back().texte.no == NoMessage{536});
-    CHECK(dialogue.questions.back().titre.no == NoMessage{538});
+    CHECK(dialogue.questions.back().texte.no == message::ConfirmerRemplacerBaseParImport);
+    CHECK(dialogue.questions.back().titre.no == message::TitreRemplacementBase);
     CHECK(dialogue.questions.back().defaut == shell::Reponse::Non);
     CHECK(LireFichier(chemin) == "ancienne");
     dialogue.reponses = {shell::Reponse::Oui, shell::Reponse::Oui};
@@ -57,10 +58,10 @@ TEST_CASE_FIXTURE(Menu, "An existing base is replaced only after a yes; no is th
     CHECK(session.BaseOuverte());
 }
 
-TEST_CASE_FIXTURE(Menu, "While a long job runs an import answers 503") {
+TEST_CASE_FIXTURE(Menu, "While a long job runs an import is told to be impossible") {
     progression.cadres = 1;
     ImporterFichier(session, fichier, {});
-    CHECK(dialogue.entendu.back().no == NoMessage{503});
+    CHECK(dialogue.entendu.back().no == message::OperationImpossible);
     CHECK_FALSE(std::filesystem::exists(chemin));
 }
 

@@ -2,6 +2,10 @@
 
 #include "doublures/Inventaire.h"
 #include "interchange/lgr/EssaiLgr.h"
+#include "messages/Dorvane.h"
+#include "messages/Echange.h"
+#include "messages/Exporter.h"
+#include "messages/Messages.h"
 #include "storage/Slots.h"
 
 #include <string>
@@ -98,7 +102,7 @@ TEST_CASE_FIXTURE(Fusion, "A cancel while the file is read leaves the base as it
         progression.annulerAu = pas;
         dialogue.entendu.clear();
         CHECK(Integrer(octets).issue == IssueIntegration::Abandonnee);
-        CHECK(dialogue.entendu == std::vector{shell::Msg(3810)});
+        CHECK(dialogue.entendu == std::vector{shell::Msg(message::InfoIntegrationAbandonnee)});
         CHECK(Etat() == avant);
         CHECK_FALSE(B().marques.Modifie());
         CHECK(progression.cadres == 0);
@@ -114,9 +118,9 @@ TEST_CASE_FIXTURE(Fusion, "A cancel while the file is read leaves the base as it
 TEST_CASE_FIXTURE(Fusion, "A file that is none, or cannot be read, changes nothing and is told") {
     const std::string avant = Etat();
     CHECK(Integrer("0 HEAD\r\n0 TRLR\r\n").issue == IssueIntegration::PasUnEchange);
-    CHECK(dialogue.entendu.back() == shell::Msg(3804, "essai.lgr"));
+    CHECK(dialogue.entendu.back() == shell::Msg(message::FichierPasUnEchange, "essai.lgr"));
     CHECK(IntegrerLgr(session, dossier / "absent.lgr").issue == IssueIntegration::Illisible);
-    CHECK(dialogue.entendu.back() == shell::Msg(2240, "absent.lgr"));
+    CHECK(dialogue.entendu.back() == shell::Msg(message::FichierIllisible, "absent.lgr"));
     CHECK(Etat() == avant);
 }
 
@@ -125,7 +129,8 @@ TEST_CASE_FIXTURE(Fusion,
     const std::string coupe = texte.substr(0, texte.size() - 7);
     const std::string avant = Etat();
     CHECK(Integrer(coupe).issue == IssueIntegration::Abandonnee);
-    CHECK(dialogue.questions.back().texte == shell::Msg(3809, "essai.lgr"));
+    CHECK(dialogue.questions.back().texte ==
+          shell::Msg(message::ConfirmerIntegrerFichierIncomplet, "essai.lgr"));
     CHECK(dialogue.questions.back().defaut == shell::Reponse::Non);
     CHECK(Etat() == avant);
     dialogue.reponses = {shell::Reponse::Oui};
@@ -135,8 +140,7 @@ TEST_CASE_FIXTURE(Fusion,
 
 TEST_CASE_FIXTURE(Fusion,
                   "Records that the base cannot number are refused before anything is written") {
-    const auto essayer = [&](const std::string& section, std::uint32_t message,
-                             const char* limite) {
+    const auto essayer = [&](const std::string& section, NoMessage message, const char* limite) {
         CAPTURE(section);
         const std::string avant = Etat();
         const std::string octets = EnLignes("[Dorvane Version 99.0]\n" + section + "[FIN]\n");
@@ -144,14 +148,16 @@ TEST_CASE_FIXTURE(Fusion,
         CHECK(dialogue.entendu.back() == shell::Msg(message, "essai.lgr", limite));
         CHECK(Etat() == avant);
     };
-    essayer("[INDIVIDUS]\n 63998 \nA;;;;\nH\n\n\n 0 \n 0 \n#\n#\n#\n[FIN INDIVIDUS]\n", 3805,
-            "64000");
-    essayer("[EVENEMENTS]\n 32000 \n0\n\n\n\n\n\n#\n[FIN EVENEMENTS]\n", 3807, "32000");
-    essayer("[IMAGES]\n 31999 \nA\nb\n#\n[FIN IMAGES]\n", 3808, "32000");
+    essayer("[INDIVIDUS]\n 63998 \nA;;;;\nH\n\n\n 0 \n 0 \n#\n#\n#\n[FIN INDIVIDUS]\n",
+            message::IntegrationTropDePersonnes, "64000");
+    essayer("[EVENEMENTS]\n 32000 \n0\n\n\n\n\n\n#\n[FIN EVENEMENTS]\n",
+            message::IntegrationTropDEvenements, "32000");
+    essayer("[IMAGES]\n 31999 \nA\nb\n#\n[FIN IMAGES]\n", message::IntegrationTropDeDocuments,
+            "32000");
     std::string unions = "[MARIAGES]\n";
     for (int i = 0; i < 64000; ++i)
         unions += " 0 \n 0 \n\n\n#\n";
-    essayer(unions + "[FIN MARIAGES]\n", 3806, "64000");
+    essayer(unions + "[FIN MARIAGES]\n", message::IntegrationTropDUnions, "64000");
 }
 
 TEST_CASE_FIXTURE(Fusion,
@@ -301,7 +307,7 @@ TEST_CASE_FIXTURE(Fusion, "The menu asks for the file, merges it in and shows th
     CHECK_FALSE(std::filesystem::exists(shell::CheminSauvegarde(session.CheminBase)));
     progression.cadres = 1;
     MnuIntegrer(session, {});
-    CHECK(dialogue.entendu.back().no == NoMessage{503});
+    CHECK(dialogue.entendu.back().no == message::OperationImpossible);
     progression.cadres = 0;
     CHECK(B().entete.NbTriIndividus == 6);
 }
@@ -312,11 +318,11 @@ TEST_CASE_FIXTURE(Fusion, "Before it is merged in, the question says what the fi
     IntegrerFichier(session, fichier, {});
     REQUIRE(dialogue.questions.size() == 1);
     const shell::Question& question = dialogue.questions.back();
-    CHECK(question.texte.no == NoMessage{4240});
+    CHECK(question.texte.no == message::ConfirmerIntegration);
     CHECK(question.texte.valeur == fichier.filename().string());
     CHECK(question.texte.valeur2 ==
           "personnes : 3, unions : 1, \xE9v\xE9nements : 1, documents : 2");
-    CHECK(question.texte.suite == NoMessage{842});
+    CHECK(question.texte.suite == message::ProposerCopieAvantOperation);
     CHECK(question.boutons == shell::Boutons::OuiNonAnnuler);
     // It was closed without an answer: nothing happened, and nothing more is said.
     CHECK(dialogue.entendu.size() == 1);
@@ -344,7 +350,7 @@ TEST_CASE_FIXTURE(Fusion, "Without the backup that was asked for nothing is merg
     const std::filesystem::path ouverte = session.CheminBase;
     dialogue.reponses = {shell::Reponse::Oui};
     IntegrerFichier(session, fichier, {});
-    CHECK(dialogue.entendu.back().no == NoMessage{2407});
+    CHECK(dialogue.entendu.back().no == message::SauvegardeNonEcriteBaseFermee);
     CHECK_FALSE(session.BaseOuverte());
     storage::AvancementMuet muet;
     const auto base = storage::OuvrirBase(disque, ouverte, muet).base;
@@ -356,5 +362,5 @@ TEST_CASE_FIXTURE(Fusion, "What is no exchange file is told, and no question is 
     doublures::EcrireFichier(fichier, "0 HEAD\r\n");
     IntegrerFichier(session, fichier, {});
     CHECK(dialogue.questions.empty());
-    CHECK(dialogue.entendu.back().no == NoMessage{3804});
+    CHECK(dialogue.entendu.back().no == message::FichierPasUnEchange);
 }

@@ -2,6 +2,9 @@
 
 #include "doublures/FicheEssai.h"
 #include "interchange/lgr/LireLgr.h"
+#include "messages/Export.h"
+#include "messages/Exporter.h"
+#include "messages/Messages.h"
 #include "shell/FichierSur.h"
 
 #include <string>
@@ -83,7 +86,7 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: the whole base goes to a file of the na
     CHECK(l.fichier == dossier / "Famille.ged");
     CHECK(l.individus == 6);
     CHECK(l.unions == 2);
-    CHECK(dialogue.entendu == std::vector{shell::Msg(652)});
+    CHECK(dialogue.entendu == std::vector{shell::Msg(message::InfoExportTermine)});
     const shell::DemandeFichier& demande = dialogue.demandesFichier.back();
     CHECK(demande.sorte == shell::DemandeFichier::Sorte::Enregistrer);
     CHECK(demande.depart == dossier / "Famille.ged");
@@ -102,15 +105,16 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: the format decides the writer and the p
     CHECK(Lu("Famille.lgr").starts_with("[Dorvane Version 99.0]\r\n"));
 }
 
-TEST_CASE_FIXTURE(Depart, "LancerExport: while a long job runs, message 503 and nothing is asked") {
+TEST_CASE_FIXTURE(
+    Depart, "LancerExport: while a long job runs it is told to be impossible, and nothing asked") {
     progression.cadres = 1;
     CHECK(LancerExport(session, {}).issue == IssueLancement::Refuse);
     progression.cadres = 0;
-    CHECK(dialogue.entendu == std::vector{shell::Msg(503)});
+    CHECK(dialogue.entendu == std::vector{shell::Msg(message::OperationImpossible)});
     CHECK(dialogue.demandesFichier.size() == 1);  // that of the base
 }
 
-TEST_CASE_FIXTURE(Depart, "LancerExport: nobody selected is message 959, before a file is asked") {
+TEST_CASE_FIXTURE(Depart, "LancerExport: nobody selected is told before a file is asked") {
     DemandeExport demande;
     demande.entiere = false;
     SUBCASE("nothing at all") {}
@@ -123,7 +127,7 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: nobody selected is message 959, before 
         demande.reglages.ecarter1900 = true;
     }
     CHECK(LancerExport(session, demande).issue == IssueLancement::Vide);
-    CHECK(dialogue.entendu == std::vector{shell::Msg(959)});
+    CHECK(dialogue.entendu == std::vector{shell::Msg(message::ExportSansPersonneChoisie)});
     CHECK(dialogue.demandesFichier.size() == 1);
 }
 
@@ -199,7 +203,8 @@ TEST_CASE_FIXTURE(Depart,
     SUBCASE("no: the file stays") {
         Vers("Essai.v2");
         CHECK(LancerExport(session, {}).issue == IssueLancement::Renonce);
-        CHECK(dialogue.entendu == std::vector{shell::Msg(4235, "Essai.v2.ged")});
+        CHECK(dialogue.entendu ==
+              std::vector{shell::Msg(message::ConfirmerRemplacerExport, "Essai.v2.ged")});
         CHECK(dialogue.questions.back().defaut == shell::Reponse::Non);
         CHECK(Lu("Essai.v2.ged") == "old");
     }
@@ -224,7 +229,7 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: the open base is never written over") {
     Vers("lien.ged");
     dialogue.entendu.clear();
     CHECK(LancerExport(session, {}).issue == IssueLancement::Renonce);
-    CHECK(dialogue.entendu == std::vector{shell::Msg(4236, "lien.ged")});
+    CHECK(dialogue.entendu == std::vector{shell::Msg(message::FichierDeLaBaseOuverte, "lien.ged")});
     CHECK(std::filesystem::is_symlink(dossier / "lien.ged"));
 }
 
@@ -252,7 +257,8 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: a stopped export leaves the former file
         CHECK_FALSE(std::filesystem::exists(partiel));
     }
     CHECK(Lu("Famille.ged") == "former");
-    CHECK(dialogue.entendu == std::vector{shell::Msg(4237, shell::CheminAffiche(partiel))});
+    CHECK(dialogue.entendu == std::vector{shell::Msg(message::ConfirmerSupprimerExportPartiel,
+                                                     shell::CheminAffiche(partiel))});
     CHECK(dialogue.questions.back().defaut == shell::Reponse::Non);
 }
 
@@ -260,7 +266,8 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: a folder that cannot be written to is n
     dialogue.fichiers.emplace_back(dossier / "absent/Famille.ged");
     CHECK(LancerExport(session, {}).issue == IssueLancement::Echec);
     CHECK(dialogue.entendu ==
-          std::vector{shell::Msg(3701, shell::CheminAffiche(dossier / "absent/Famille.ged"))});
+          std::vector{shell::Msg(message::FichierNonEcrit,
+                                 shell::CheminAffiche(dossier / "absent/Famille.ged"))});
 }
 
 TEST_CASE_FIXTURE(Depart, "LancerExport: what the set lacks is counted and told after the end") {
@@ -270,7 +277,8 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: what the set lacks is counted and told 
     Vers("a.ged");
     const Lancement l = LancerExport(session, demande);
     CHECK(l.perdus == 1);
-    CHECK(dialogue.entendu == std::vector{shell::Msg(652), shell::Msg(3702, "1")});
+    CHECK(dialogue.entendu == std::vector{shell::Msg(message::InfoExportTermine),
+                                          shell::Msg(message::CaracteresPerdusALExport, "1")});
     Vers("u.ged");
     demande.jeu = JeuExport::Utf8;
     CHECK(LancerExport(session, demande).perdus == 0);
@@ -285,7 +293,8 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: a union that the format has no place fo
     const Lancement l = LancerExport(session, demande);
     CHECK(l.unions == 2);
     CHECK(l.omis == 1);
-    CHECK(dialogue.entendu == std::vector{shell::Msg(652), shell::Msg(4201, "1")});
+    CHECK(dialogue.entendu == std::vector{shell::Msg(message::InfoExportTermine),
+                                          shell::Msg(message::UnionsEtEntreesOmises, "1")});
 }
 
 TEST_CASE_FIXTURE(Depart,

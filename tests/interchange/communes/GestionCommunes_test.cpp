@@ -1,6 +1,8 @@
 #include "interchange/communes/GestionCommunes.h"
 
 #include "doublures/SessionEssai.h"
+#include "messages/Communes.h"
+#include "messages/Messages.h"
 #include "shell/Demarrage.h"
 #include "values/Texte1252.h"
 
@@ -116,8 +118,9 @@ TEST_CASE_FIXTURE(Gazette, "GestionCommunes: a missing file and one of another k
     doublures::EcrireFichier(dossier / "autre.lgx", "text");
     seance.parametres.generaux.fichierCommunes = dossier / "autre.lgx";
     CHECK_FALSE(autres.Ouvrir());
-    CHECK(dialogue.entendu ==
-          std::vector{Msg(742), Msg(4000, shell::CheminAffiche(dossier / "autre.lgx"))});
+    CHECK(dialogue.entendu == std::vector{Msg(message::FichierCommunesIntrouvable),
+                                          Msg(message::FichierPasUneBaseDeCommunes,
+                                              shell::CheminAffiche(dossier / "autre.lgx"))});
     CHECK(communes.Perimee());
 }
 
@@ -137,7 +140,7 @@ TEST_CASE_FIXTURE(Gazette, "GestionCommunes: by ear, the rows come in the order 
 
 TEST_CASE_FIXTURE(Gazette, "GestionCommunes: a commune without a name is refused") {
     CHECK_FALSE(communes.Enregistrer({}, Lieu("   ", {}, "Eure")));
-    CHECK(dialogue.entendu == std::vector{Msg(4010)});
+    CHECK(dialogue.entendu == std::vector{Msg(message::CommuneSansNom)});
     CHECK(Fichier(fichier).size() == 5);
 }
 
@@ -145,10 +148,12 @@ TEST_CASE_FIXTURE(Gazette, "GestionCommunes: what no record holds is refused, or
     const std::string longue(storage::MaxFicheCommune, 'x');
     CHECK_FALSE(communes.Enregistrer({}, Lieu(longue)));
     CHECK_FALSE(communes.Enregistrer(NoCommune{2}, Lieu("Blois", {}, longue)));
-    CHECK(dialogue.entendu == std::vector{Msg(4028), Msg(4028)});
+    CHECK(dialogue.entendu ==
+          std::vector{Msg(message::CommuneTropLongue), Msg(message::CommuneTropLongue)});
     Liste("nom\nTalcy\n" + longue + "\n");
     CHECK(communes.ChargerListe(false));
-    CHECK(Bilan().find(seance.catalogue.Composer(Msg(4027, "1", "3"))) != std::string::npos);
+    CHECK(Bilan().find(seance.catalogue.Composer(Msg(message::InfoLignesTropLongues, "1", "3"))) !=
+          std::string::npos);
     CHECK(Fichier(fichier).size() == 6);
     // A comment stands by itself.
     Commune bavarde = Lieu("Blois");
@@ -170,7 +175,8 @@ TEST_CASE_FIXTURE(Gazette,
                   "GestionCommunes: deleting asks, and tells what then belongs to nothing") {
     SUBCASE("no") {
         CHECK_FALSE(communes.Supprimer(NoCommune{2}));
-        CHECK(dialogue.entendu == std::vector{Msg(4014, "Blois", "2")});
+        CHECK(dialogue.entendu ==
+              std::vector{Msg(message::ConfirmerSupprimerCommuneDeRattachement, "Blois", "2")});
         CHECK(dialogue.questions.at(0).defaut == Reponse::Non);
         CHECK(dialogue.questions.at(0).grave);
         CHECK(communes.Nombre() == 5);
@@ -184,7 +190,7 @@ TEST_CASE_FIXTURE(Gazette,
     SUBCASE("a homonym takes over") {
         CHECK(communes.Enregistrer({}, Lieu("BLOIS")));
         CHECK_FALSE(communes.Supprimer(NoCommune{2}));
-        CHECK(dialogue.entendu == std::vector{Msg(4013, "Blois")});
+        CHECK(dialogue.entendu == std::vector{Msg(message::ConfirmerSupprimerCommune, "Blois")});
     }
     SUBCASE("one that is not there") {
         CHECK_FALSE(communes.Supprimer(NoCommune{99}));
@@ -195,7 +201,7 @@ TEST_CASE_FIXTURE(Gazette,
 TEST_CASE_FIXTURE(Gazette, "GestionCommunes: what another program has written stays, and is read") {
     Ecrire(fichier, {Lieu("Orval")});
     CHECK_FALSE(communes.Enregistrer(NoCommune{2}, Lieu("Blois", {}, "Centre")));
-    CHECK(dialogue.entendu == std::vector{Msg(4002, Chemin())});
+    CHECK(dialogue.entendu == std::vector{Msg(message::FichierCommunesChangeAilleurs, Chemin())});
     CHECK(Fichier(fichier) == std::vector{Lieu("Orval")});
     CHECK(communes.Nombre() == 1);
     // The number has gone: the commune comes in as a new one.
@@ -208,7 +214,7 @@ TEST_CASE_FIXTURE(Gazette,
                   "what it did before") {
     doublures::EcrireFichier(fichier, "broken meanwhile");
     CHECK_FALSE(communes.Enregistrer({}, Lieu("Talcy")));
-    CHECK(dialogue.entendu == std::vector{Msg(4002, Chemin())});
+    CHECK(dialogue.entendu == std::vector{Msg(message::FichierCommunesChangeAilleurs, Chemin())});
     CHECK(communes.Nombre() == 5);
     CHECK(doublures::LireFichier(fichier) == "broken meanwhile");
 }
@@ -218,7 +224,8 @@ TEST_CASE_FIXTURE(Gazette,
                   "copied after a question, and the settings name the copy") {
     disqueFerme.ferme = dossier / "partage";
     const std::filesystem::path copie = dossier / "config/France.lgx";
-    const auto question = Msg(4012, Chemin(), shell::CheminAffiche(copie));
+    const auto question =
+        Msg(message::ProposerCopieFichierCommunes, Chemin(), shell::CheminAffiche(copie));
     SUBCASE("no") {
         CHECK_FALSE(communes.Enregistrer({}, Lieu("Talcy")));
         CHECK(dialogue.entendu == std::vector{question});
@@ -253,7 +260,8 @@ TEST_CASE_FIXTURE(Gazette,
         doublures::EcrireFichier(dossier / "config", "a file in the way");
         dialogue.reponses = {Reponse::Oui};
         CHECK_FALSE(communes.Enregistrer({}, Lieu("Talcy")));
-        CHECK(dialogue.entendu == std::vector{question, Msg(4001, shell::CheminAffiche(copie))});
+        CHECK(dialogue.entendu == std::vector{question, Msg(message::FichierCommunesNonEcrit,
+                                                            shell::CheminAffiche(copie))});
         CHECK(communes.Nombre() == 5);
     }
 }
@@ -269,8 +277,10 @@ TEST_CASE_FIXTURE(Gazette, "GestionCommunes: a file of the user's own is not cop
     CHECK_FALSE(communes.Reorganiser());
     dialogue.reponses = {Reponse::Oui};
     CHECK_FALSE(communes.Supprimer(NoCommune{1}));
-    CHECK(dialogue.entendu == std::vector{Msg(4001, Chemin()), Msg(4001, Chemin()),
-                                          Msg(4013, "Blois"), Msg(4001, Chemin())});
+    CHECK(dialogue.entendu == std::vector{Msg(message::FichierCommunesNonEcrit, Chemin()),
+                                          Msg(message::FichierCommunesNonEcrit, Chemin()),
+                                          Msg(message::ConfirmerSupprimerCommune, "Blois"),
+                                          Msg(message::FichierCommunesNonEcrit, Chemin())});
     CHECK(communes.Nombre() == 1);
     CHECK(Fichier(fichier) == std::vector{Lieu("Blois")});
 }
@@ -287,7 +297,8 @@ TEST_CASE_FIXTURE(Gazette,
     CHECK(communes.Reorganiser());
     const auto apres = std::filesystem::file_size(fichier);
     CHECK(apres < avant);
-    CHECK(dialogue.entendu == std::vector{Msg(4015, std::to_string((avant + 1023) / 1024),
+    CHECK(dialogue.entendu == std::vector{Msg(message::InfoBaseCommunesReorganisee,
+                                              std::to_string((avant + 1023) / 1024),
                                               std::to_string((apres + 1023) / 1024))});
     CHECK(progression.titres == std::vector{shell::Litteral("Réorganisation communes"_1252)});
     CHECK(progression.textes == std::vector{shell::Litteral("Réorganisation Communes"_1252),
@@ -346,10 +357,10 @@ TEST_CASE_FIXTURE(Gazette,
     const auto dit = [&](const shell::Phrase& phrase) {
         return Bilan().find(seance.catalogue.Composer(phrase)) != std::string::npos;
     };
-    CHECK(dit(Msg(4018, "3")));
-    CHECK(dit(Msg(4019, "2")));
-    CHECK(dit(Msg(4020, "1", "4")));
-    CHECK(dit(Msg(4008, "1")));
+    CHECK(dit(Msg(message::InfoCommunesAjoutees, "3")));
+    CHECK(dit(Msg(message::InfoCommunesDejaPresentes, "2")));
+    CHECK(dit(Msg(message::InfoLignesSansNom, "1", "4")));
+    CHECK(dit(Msg(message::ListeCommunesHorsJeuDeCaracteres, "1")));
     const std::string bilan = Bilan();
     CHECK(std::count(bilan.begin(), bilan.end(), '\n') == 3);
 }
@@ -358,7 +369,8 @@ TEST_CASE_FIXTURE(Gazette, "GestionCommunes: a list that replaces names what is 
     Liste("nom\nTalcy\n");
     SUBCASE("no") {
         CHECK_FALSE(communes.ChargerListe(true));
-        CHECK(dialogue.entendu == std::vector{Msg(4017, "5", "liste.csv")});
+        CHECK(dialogue.entendu ==
+              std::vector{Msg(message::ConfirmerRemplacerCommunesParListe, "5", "liste.csv")});
         CHECK(dialogue.questions.at(0).defaut == Reponse::Non);
         CHECK(communes.Nombre() == 5);
     }
@@ -395,8 +407,11 @@ TEST_CASE_FIXTURE(Gazette, "GestionCommunes: a list that cannot be used changes 
     Liste(trop);
     CHECK_FALSE(communes.ChargerListe(false));
     const std::string max = std::to_string(storage::BaseCommunes::MaxCommunes);
-    CHECK(dialogue.entendu == std::vector{Msg(4003, liste), Msg(4004, liste), Msg(4005, liste),
-                                          Msg(4006, liste, max), Msg(4011, max)});
+    CHECK(dialogue.entendu == std::vector{Msg(message::ListeCommunesIllisible, liste),
+                                          Msg(message::ListeCommunesSansColonneNom, liste),
+                                          Msg(message::ListeCommunesVide, liste),
+                                          Msg(message::ListeCommunesTropGrande, liste, max),
+                                          Msg(message::BaseCommunesPleine, max)});
     CHECK(doublures::LireFichier(fichier) == avant);
 }
 
@@ -407,7 +422,7 @@ TEST_CASE_FIXTURE(Gazette, "GestionCommunes: a full base takes no further commun
     Ecrire(fichier, toutes);
     REQUIRE(communes.Ouvrir());
     CHECK_FALSE(communes.Enregistrer({}, Lieu("Talcy")));
-    CHECK(dialogue.entendu ==
-          std::vector{Msg(4011, std::to_string(storage::BaseCommunes::MaxCommunes))});
+    CHECK(dialogue.entendu == std::vector{Msg(message::BaseCommunesPleine,
+                                              std::to_string(storage::BaseCommunes::MaxCommunes))});
     CHECK(communes.Enregistrer(NoCommune{7}, Lieu("Talcy")) == NoCommune{7});
 }

@@ -7,6 +7,7 @@
 #include "interchange/gedcom/FicheGedcom.h"
 #include "interchange/gedcom/NomGedcom.h"
 #include "interchange/jeux/JeuxDeCaracteres.h"
+#include "messages/Messages.h"
 #include "values/Comparaison.h"
 #include "values/Dates.h"
 
@@ -39,6 +40,11 @@ std::string Aplatir(std::string_view texte) {
         plat.pop_back();
     return plat.substr(1);
 }
+
+/// By the digit of a QUAY line.
+constexpr std::array<NoMessage, 4> Fiabilites{message::FiabiliteNulle, message::FiabiliteDouteuse,
+                                              message::FiabiliteSourceSecondaire,
+                                              message::FiabiliteSourceOriginale};
 
 /// Goes through a file beside its import.
 class Verificateur {
@@ -242,7 +248,7 @@ private:
         }
     }
 
-    [[nodiscard]] bool ContientMessage(std::uint32_t no) { return Contient(textes_.Message(no)); }
+    [[nodiscard]] bool ContientMessage(NoMessage no) { return Contient(textes_.Message(no)); }
 
     [[nodiscard]] bool EstDansLaBase(const LigneGedcom& ligne) {
         const std::string_view v = ligne.valeur;
@@ -265,16 +271,19 @@ private:
                 return Contient(TraduireAge(v, textes_));
             case "QUAY"_tag:
                 return v.size() == 1 && v[0] >= '0' && v[0] <= '3'
-                           ? ContientMessage(890U + static_cast<std::uint32_t>(v[0] - '0'))
+                           ? ContientMessage(Fiabilites[static_cast<std::size_t>(v[0] - '0')])
                            : Contient(v);
             case "PEDI"_tag:
-                return Contient(v) || (v == "adopted" && ContientMessage(886)) ||
-                       (v == "birth" && ContientMessage(754)) ||
-                       (v == "foster" && ContientMessage(887)) ||
-                       (v == "sealing" && ContientMessage(888));
+                return Contient(v) ||
+                       (v == "adopted" && ContientMessage(message::FiliationAdoptive)) ||
+                       (v == "birth" && ContientMessage(message::TagBIRT)) ||
+                       (v == "foster" && ContientMessage(message::FiliationFamilleAccueil)) ||
+                       (v == "sealing" && ContientMessage(message::FiliationScellement));
             case "ADOP"_tag:
                 if (parent == "FAMC"_tag || parent == "ADOP"_tag)
-                    return ContientMessage(v == "HUSB" ? 681 : v == "WIFE" ? 683 : 876);
+                    return ContientMessage(v == "HUSB"   ? message::TagFATH
+                                           : v == "WIFE" ? message::TagMOTH
+                                                         : message::PereEtMere);
                 break;
             case "TYPE"_tag:
             case "EVEN"_tag:

@@ -1,6 +1,7 @@
 #include "interchange/gedcom/ContexteImport.h"
 
 #include "interchange/EssaiImport.h"
+#include "messages/Messages.h"
 
 using namespace dorvane;
 using namespace dorvane::interchange;
@@ -14,8 +15,9 @@ TEST_CASE_FIXTURE(EssaiImport,
     CHECK(textes.Libelle("XYZ") == "XYZ");
     CHECK(textes.Tag("Naissance") == "BIRT");
     CHECK(textes.Tag("naissance") == "naissance");
-    CHECK(textes.Message(744) == "Page");
-    CHECK(textes.Message(31999).empty());
+    CHECK(textes.Message(message::MotPage) == "Page");
+    constexpr std::uint32_t JamaisDonne = 31999;
+    CHECK(textes.Message(NoMessage{JamaisDonne}).empty());
 }
 
 TEST_CASE("PileEtiquettes: a line needs an open line just above it") {

@@ -1,6 +1,8 @@
 #include "interchange/gedcom/ImportGedcom.h"
 
 #include "interchange/EssaiImport.h"
+#include "messages/Dorvane.h"
+#include "messages/Messages.h"
 #include "shell/CycleDeVie.h"
 
 #include <filesystem>
@@ -33,7 +35,7 @@ TEST_CASE_FIXTURE(EssaiImport, "Import: a file without line ends is refused with
 TEST_CASE_FIXTURE(EssaiImport, "Import: a missing file is told, nothing is made") {
     importation = ImporterVers(session, dossier / "absent.ged", chemin);
     CHECK_FALSE(importation.faite);
-    CHECK(dialogue.entendu.back().no == NoMessage{2240});
+    CHECK(dialogue.entendu.back().no == message::FichierIllisible);
     CHECK_FALSE(std::filesystem::exists(chemin));
 }
 
@@ -105,7 +107,7 @@ TEST_CASE_FIXTURE(EssaiImport, "Import: sorted by year and name on yes") {
     Importer(
         "0 @I1@ INDI\n1 NAME /Z/\n1 BIRT\n2 DATE 1900\n0 @I2@ INDI\n1 NAME /A/\n1 BIRT\n"
         "2 DATE 1900\n0 @I3@ INDI\n1 NAME /M/\n");
-    CHECK(dialogue.questions.back().texte.no == NoMessage{1079});
+    CHECK(dialogue.questions.back().texte.no == message::ProposerTrierBaseImportee);
     CHECK(base->R_TRI.IndividuAuRang(1) == NoOrdre{3});
     CHECK(base->R_TRI.IndividuAuRang(2) == NoOrdre{2});
     CHECK(base->R_TRI.IndividuAuRang(3) == NoOrdre{1});
@@ -120,7 +122,7 @@ TEST_CASE_FIXTURE(EssaiImport, "Import: given up in the middle, an existing base
     progression.annulerAu = 3;
     importation = ImporterVers(session, fichier, chemin);
     CHECK_FALSE(importation.faite);
-    CHECK(dialogue.entendu.back().no == NoMessage{2241});
+    CHECK(dialogue.entendu.back().no == message::ImportAbandonne);
     CHECK(LireFichier(chemin) == "ancienne");
     CHECK(FichiersDe(dossier.chemin) == 2);
     CHECK(progression.cadres == 0);
@@ -138,7 +140,7 @@ TEST_CASE_FIXTURE(EssaiImport, "Import: a base open elsewhere is not replaced") 
     const std::string avant = LireFichier(chemin);
     importation = ImporterVers(session, fichier, chemin);
     CHECK_FALSE(importation.faite);
-    CHECK(dialogue.entendu.back().no == NoMessage{2403});
+    CHECK(dialogue.entendu.back().no == message::BaseOccupee);
     CHECK(LireFichier(chemin) == avant);
 }
 
@@ -154,7 +156,7 @@ TEST_CASE_FIXTURE(EssaiImport,
     CHECK(base->R_EPOUSE.LireCellule(NoMariage{1}) == NoOrdre{64000});
     CHECK(Nom(64000) == "B64000;A;");
     CHECK(importation.rapport.Nombre(Constat::Limite, "INDI") == 11);
-    CHECK(dialogue.entendu.back().no == NoMessage{625});
+    CHECK(dialogue.entendu.back().no == message::MaximumPersonnesBaseAtteint);
 }
 
 TEST_CASE_FIXTURE(EssaiImport,
@@ -193,13 +195,16 @@ TEST_CASE_FIXTURE(EssaiImport, "Import: counts of both readings are shown every 
                   "@ FAM\n1 HUSB @I" + std::to_string(i) + "@\n1 WIFE @I" + std::to_string(i + 1) +
                   "@\n";
     Importer(lignes);
-    CHECK(progression.titres.front().no == NoMessage{774});
-    std::vector<shell::Phrase> attendus{shell::Msg(775)};
-    for (const auto& [message, nombre] :
-         {std::pair{898U, 100}, {898U, 200}, {646U, 100}, {0U, 808}, {918U, 100}})
-        attendus.push_back(message == 0 ? shell::Msg(808)
-                                        : shell::Litteral(session.Message(message) + ' ' +
-                                                          std::to_string(nombre)));
+    CHECK(progression.titres.front().no == message::TitreImportGedcom);
+    std::vector<shell::Phrase> attendus{shell::Msg(message::EtatPremiereLecture)};
+    for (const auto& [message, nombre] : {std::pair{message::EtatPersonnesLues, 100},
+                                          {message::EtatPersonnesLues, 200},
+                                          {message::Document, 100},
+                                          {message::EtatSecondeLecture, 0},
+                                          {message::LibUnion, 100}})
+        attendus.push_back(
+            nombre == 0 ? shell::Msg(message)
+                        : shell::Litteral(session.Message(message) + ' ' + std::to_string(nombre)));
     REQUIRE(progression.textes.size() > attendus.size());
     progression.textes.resize(attendus.size());
     CHECK((progression.textes == attendus));
@@ -213,7 +218,7 @@ TEST_CASE_FIXTURE(EssaiImport,
     base.reset();
     REQUIRE(shell::OuvrirChemin(session, chemin));
     ImporterFichier(session, dossier / "absent.ged", {});
-    CHECK(dialogue.entendu.back().no == NoMessage{2240});
+    CHECK(dialogue.entendu.back().no == message::FichierIllisible);
     CHECK_FALSE(session.BaseOuverte());
     CHECK(session.CheminBase.empty());
     CHECK_FALSE(session.PersonneEnCours);

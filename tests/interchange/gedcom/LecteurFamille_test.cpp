@@ -1,6 +1,7 @@
 #include "interchange/gedcom/LecteurFamille.h"
 
 #include "interchange/EssaiImport.h"
+#include "messages/Messages.h"
 
 using namespace dorvane;
 using namespace dorvane::interchange;
@@ -148,8 +149,8 @@ TEST_CASE_FIXTURE(Famille, "A family: the role of a source is that of both partn
         "1 MARR oui\n2 SOUR @S1@\n3 ROLE (Témoin)\n3 DATA\n4 TEXT extrait\n"_1252);
     CHECK(base->R_LSTEVT.TexteElement(Un, 1) == "WITN");
     CHECK(base->R_LSTEVT.TexteElement(Deux, 1) == "WITN");
-    const std::string source = session.Message(894);
+    const std::string source = session.Message(message::Source);
     CHECK(storage::NoteMariage(*base, NoMariage{1}) ==
-          source + ": Livre\r\n" + session.Message(642) + " - oui\r\n" + session.Message(642) +
-              " - " + source + ": extrait");
+          source + ": Livre\r\n" + session.Message(message::TagMARR) + " - oui\r\n" +
+              session.Message(message::TagMARR) + " - " + source + ": extrait");
 }

@@ -1,6 +1,7 @@
 #include "interchange/gedcom/LecteurIndividu.h"
 
 #include "interchange/EssaiImport.h"
+#include "messages/Messages.h"
 
 using namespace dorvane;
 using namespace dorvane::interchange;
@@ -142,7 +143,8 @@ TEST_CASE_FIXTURE(EssaiImport, "An individual: a number sign cannot cut a record
 TEST_CASE_FIXTURE(EssaiImport, "An individual: a suffix behind the surname goes to the note") {
     Importer("0 @I1@ INDI\n1 NAME Jean /Dupont/ fils\n1 OCCU maire\n");
     CHECK(Nom(1) == "Dupont;Jean;");
-    CHECK(storage::NoteDe(*base, NoOrdre{1}) == session.Message(865) + ": Jean /Dupont/ fils");
+    CHECK(storage::NoteDe(*base, NoOrdre{1}) ==
+          session.Message(message::NomCite) + ": Jean /Dupont/ fils");
     CHECK(importation.rapport.Nombre(Constat::DansLaNote, "INDI.NAME") == 1);
 }
 
@@ -212,11 +214,14 @@ TEST_CASE_FIXTURE(EssaiImport, "An individual: quality, page and filiation in th
         "0 @I1@ INDI\n1 SOUR Acte\n2 PAGE 12\n2 QUAY 0\n1 SOUR Acte\n2 QUAY 3\n1 SOUR x\n2 QUAY 7\n"
         "1 FAMC @F1@\n2 PEDI adopted\n1 FAMC @F1@\n2 PEDI inconnu\n0 @F1@ FAM\n");
     const std::string note = storage::NoteDe(*base, NoOrdre{1});
-    const auto message = [&](std::uint32_t n) { return session.Message(n); };
-    CHECK(note == message(894) + ": Acte " + message(744) + " - 12\r\n" + message(889) + ": " +
-                      message(890) + "\r\n" + message(894) + ": Acte\r\n" + message(889) + ": " +
-                      message(893) + "\r\n" + message(894) + ": x\r\n" + message(889) + ": 7\r\n" +
-                      message(885) + ": " + message(886) + "\r\n" + message(885) + ": inconnu");
+    const auto texte = [&](NoMessage message) { return session.Message(message); };
+    CHECK(note == texte(message::Source) + ": Acte " + texte(message::MotPage) + " - 12\r\n" +
+                      texte(message::Fiabilite) + ": " + texte(message::FiabiliteNulle) + "\r\n" +
+                      texte(message::Source) + ": Acte\r\n" + texte(message::Fiabilite) + ": " +
+                      texte(message::FiabiliteSourceOriginale) + "\r\n" + texte(message::Source) +
+                      ": x\r\n" + texte(message::Fiabilite) + ": 7\r\n" + texte(message::TagPEDI) +
+                      ": " + texte(message::FiliationAdoptive) + "\r\n" + texte(message::TagPEDI) +
+                      ": inconnu");
 }
 
 TEST_CASE_FIXTURE(EssaiImport, "An individual: ages as words and as years, months and days") {
@@ -224,12 +229,13 @@ TEST_CASE_FIXTURE(EssaiImport, "An individual: ages as words and as years, month
         "0 @I1@ INDI\n1 DEAT\n2 AGE CHILD\n0 @I2@ INDI\n1 DEAT\n2 AGE INFANT\n0 @I3@ INDI\n1 DEAT\n"
         "2 AGE STILLBORN\n0 @I4@ INDI\n1 DEAT\n2 AGE > 3y 2m 1d\n");
     const auto note = [&](std::uint32_t n) { return storage::NoteDe(*base, NoOrdre{n}); };
-    const auto message = [&](std::uint32_t n) { return session.Message(n); };
-    const std::string debut = message(755) + " - ";
-    CHECK(note(1) == debut + message(750));
-    CHECK(note(2) == debut + message(872));
-    CHECK(note(3) == debut + message(873));
-    CHECK(note(4) == debut + "> 3" + message(874) + " 2" + message(866) + " 1" + message(875));
+    const auto texte = [&](NoMessage message) { return session.Message(message); };
+    const std::string debut = texte(message::TagDEAT) + " - ";
+    CHECK(note(1) == debut + texte(message::TagCHIL));
+    CHECK(note(2) == debut + texte(message::AgeNourrisson));
+    CHECK(note(3) == debut + texte(message::AgeMortNe));
+    CHECK(note(4) == debut + "> 3" + texte(message::AgeAns) + " 2" + texte(message::AgeMois) +
+                         " 1" + texte(message::AgeJours));
 }
 
 TEST_CASE_FIXTURE(EssaiImport, "An individual: each attribute has a row with its word") {
@@ -273,15 +279,15 @@ TEST_CASE_FIXTURE(EssaiImport, "An individual: a baptism of another church has a
 }
 
 TEST_CASE_FIXTURE(EssaiImport, "An individual: each text has its message, alone and in an event") {
-    for (const auto& [tag, no] : {std::pair{"AGNC", 877U},
-                                  {"CAUS", 878U},
-                                  {"CHAN", 879U},
-                                  {"GODP", 805U},
-                                  {"TEMP", 897U},
-                                  {"AUTH", 900U},
-                                  {"CORP", 901U},
-                                  {"PUBL", 905U},
-                                  {"REFN", 646U}}) {
+    for (const auto& [tag, no] : {std::pair{"AGNC", message::Autorite},
+                                  {"CAUS", message::Cause},
+                                  {"CHAN", message::Modification},
+                                  {"GODP", message::ParrainEtMarraine},
+                                  {"TEMP", message::Temple},
+                                  {"AUTH", message::TagAUTH},
+                                  {"CORP", message::Organisme},
+                                  {"PUBL", message::TagPUBL},
+                                  {"REFN", message::Document}}) {
         CAPTURE(tag);
         std::string lignes{"0 @I1@ INDI\n1 "};
         lignes.append(tag).append(" un\n2 CONC mot\n1 DEAT\n2 ").append(tag);
@@ -290,7 +296,10 @@ TEST_CASE_FIXTURE(EssaiImport, "An individual: each text has its message, alone 
         const std::string message = session.Message(no);
         REQUIRE_FALSE(message.empty());
         std::string note = message + ": un mot\r\n";
-        note.append(session.Message(755)).append(" - ").append(message).append(": deux");
+        note.append(session.Message(message::TagDEAT))
+            .append(" - ")
+            .append(message)
+            .append(": deux");
         CHECK(storage::NoteDe(*base, NoOrdre{1}) == note);
         CHECK(base->R_EVT.NoteEvt(NoEvenement{1}) == message + ": trois");
     }
@@ -300,9 +309,10 @@ TEST_CASE_FIXTURE(EssaiImport, "An individual: a second name and a time are text
     Importer(
         "0 @I1@ INDI\n1 NAME A /B/\n1 NAME C /D/\n1 DEAT\n2 DATE 1850\n3 TIME 12:30\n2 NAME E\n"
         "2 NOTE mort\n2 ADDR Rue Haute\n3 CITY Dol\n2 ADDR Autre\n");
-    const std::string deces = session.Message(755);
+    const std::string deces = session.Message(message::TagDEAT);
     CHECK(storage::NoteDe(*base, NoOrdre{1}) ==
-          session.Message(865) + ": C /D/\r\n" + deces + " - 12:30\r\n" + deces + " - " +
-              session.Message(865) + ": E\r\n" + deces + " - " + session.Message(646) + ": mort");
+          session.Message(message::NomCite) + ": C /D/\r\n" + deces + " - 12:30\r\n" + deces +
+              " - " + session.Message(message::NomCite) + ": E\r\n" + deces + " - " +
+              session.Message(message::Document) + ": mort");
     CHECK(storage::SlotsDe(*base, NoOrdre{1}).at(0).lieu == "Rue Haute - Dol - Autre");
 }

@@ -1,6 +1,7 @@
 #include "interchange/lgr/EcrireLgr.h"
 
 #include "interchange/lgr/EssaiLgr.h"
+#include "messages/Messages.h"
 #include "values/Octets.h"
 
 #include <string>
@@ -207,10 +208,12 @@ TEST_CASE_FIXTURE(EssaiLgr, "The export shows its counts every 100 persons and e
     std::vector<std::string> textes;
     for (const shell::Phrase& texte : progression.textes)
         textes.push_back(texte.valeur);
-    const std::string personnes = session.Message(647);
+    const std::string personnes = session.Message(message::EtatPersonnesExportees);
     CHECK(textes == std::vector<std::string>{personnes, personnes, personnes + " 100",
-                                             personnes + " 200", session.Message(649),
-                                             session.Message(650), session.Message(651)});
+                                             personnes + " 200",
+                                             session.Message(message::EtatUnionsExportees),
+                                             session.Message(message::EtatDocumentsExportes),
+                                             session.Message(message::EtatEnregistrementsTraites)});
     CHECK(progression.cadres == 0);
 
     progression.pas = 0;

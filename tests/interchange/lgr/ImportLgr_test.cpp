@@ -1,6 +1,9 @@
 #include "interchange/lgr/ImportLgr.h"
 
 #include "interchange/lgr/EssaiLgr.h"
+#include "messages/Dorvane.h"
+#include "messages/Echange.h"
+#include "messages/Messages.h"
 #include "shell/CycleDeVie.h"
 #include "storage/Slots.h"
 
@@ -295,10 +298,12 @@ TEST_CASE_FIXTURE(Lecture,
     CHECK(neuve->entete.NbTriIndividus == 1);
     CHECK(neuve->entete.DernierIndividu == 64000);
     CHECK(importation.rapport.Nombre(Constat::Doublon, "INDIVIDUS") == 1);
-    std::vector<std::uint32_t> entendu;
+    std::vector<NoMessage> entendu;
     for (const shell::Phrase& phrase : dialogue.entendu)
-        entendu.push_back(phrase.no.valeur);
-    CHECK(entendu == std::vector<std::uint32_t>{625, 709, 707});
+        entendu.push_back(phrase.no);
+    CHECK(entendu == std::vector{message::MaximumPersonnesBaseAtteint,
+                                 message::MaximumEvenementsBaseAtteint,
+                                 message::MaximumDocumentsBaseAtteint});
 }
 
 TEST_CASE_FIXTURE(Lecture, "The order of the file tells the order of the base") {
@@ -362,7 +367,8 @@ TEST_CASE_FIXTURE(Lecture, "A file that is no exchange text makes no base and sa
         dialogue.entendu.clear();
         Importer(octets);
         CHECK_FALSE(importation.faite);
-        CHECK(dialogue.entendu == std::vector{shell::Msg(3804, "essai.lgr")});
+        CHECK(dialogue.entendu ==
+              std::vector{shell::Msg(message::FichierPasUnEchange, "essai.lgr")});
         CHECK_FALSE(std::filesystem::exists(chemin));
     }
 }
@@ -379,7 +385,8 @@ TEST_CASE_FIXTURE(Lecture, "A file that is cut off gives what it holds, and the 
     }
     CHECK(neuve->entete.NbTriIndividus == 3);
     Importer(octets.substr(0, octets.size() - 8));
-    CHECK(importation.texte.find(session.Message(3817)) != std::string::npos);
+    CHECK(importation.texte.find(session.Message(message::RapportFinManquante)) !=
+          std::string::npos);
 }
 
 TEST_CASE_FIXTURE(Lecture, "A cancel at any step leaves no base, or the former one") {
@@ -400,7 +407,7 @@ TEST_CASE_FIXTURE(Lecture, "A cancel at any step leaves no base, or the former o
         dialogue.entendu.clear();
         Lire(lignes);
         CHECK_FALSE(importation.faite);
-        CHECK(dialogue.entendu == std::vector{shell::Msg(2241)});
+        CHECK(dialogue.entendu == std::vector{shell::Msg(message::ImportAbandonne)});
         CHECK(doublures::LireFichier(chemin) == avant);
         CHECK_FALSE(std::filesystem::exists(dossier / "essai.LGD~imp"));
         CHECK(progression.cadres == 0);

@@ -2,6 +2,7 @@
 
 #include "doublures/Coherence.h"
 #include "doublures/SessionEssai.h"
+#include "messages/Releve.h"
 #include "shell/Demarrage.h"
 #include "storage/Base.h"
 #include "storage/Slots.h"
@@ -42,10 +43,10 @@ struct EssaiReleve : doublures::SessionEssai {
     [[nodiscard]] std::string Annee(std::uint32_t n) const {
         return std::string{base->R_NAISS.LireCellule(NoOrdre{n})};
     }
-    [[nodiscard]] std::vector<std::uint32_t> Constats() const {
-        std::vector<std::uint32_t> messages;
+    [[nodiscard]] std::vector<NoMessage> Constats() const {
+        std::vector<NoMessage> messages;
         for (const RapportReleve::Constat& c : rapport.constats)
-            messages.push_back(c.message.valeur);
+            messages.push_back(c.message);
         return messages;
     }
     [[nodiscard]] std::vector<std::string> Roles(std::uint32_t e) const {
@@ -61,7 +62,7 @@ struct EssaiReleve : doublures::SessionEssai {
 };
 
 using Mots = std::vector<std::string>;
-using Messages = std::vector<std::uint32_t>;
+using Messages = std::vector<NoMessage>;
 
 }  // namespace
 
@@ -123,7 +124,7 @@ TEST_CASE_FIXTURE(EssaiReleve, "a person of neither sex H nor F is stored with I
     Importer(Sorte::Bapteme, "1780;1;1;Mer;Dupont;Jean;?\n1780;1;1;Mer;Durand;Luc;\n");
     CHECK(base->R_SEXE.LireCellule(NoOrdre{1}) == 'I');
     CHECK(base->R_SEXE.LireCellule(NoOrdre{2}) == 'I');
-    CHECK(Constats() == Messages{4156});
+    CHECK(Constats() == Messages{message::RapportSexeIncompris});
     CHECK(base->R_EVT.NoteEvt(NoEvenement{1}) == "Baptême\r\nEnfant Jean Dupont"_1252);
 }
 
@@ -212,7 +213,8 @@ TEST_CASE_FIXTURE(EssaiReleve, "ascendants are joined by their Sosa numbers, in 
     CHECK(storage::NoteDe(*base, NoOrdre{3}) == "né tard"_1252);
     CHECK(base->R_SEXE.LireCellule(NoOrdre{3}) == 'H');
     CHECK(base->entete.DernierEvenement == 0);
-    CHECK(Constats() == Messages{4159, 4158, 4157});
+    CHECK(Constats() == Messages{message::RapportEnfantAbsentDuReleve, message::RapportSosaEnDouble,
+                                 message::RapportSosaPasUnNombre});
     CHECK(rapport.constats[0].ligne == 5);
 }
 
@@ -220,7 +222,10 @@ TEST_CASE_FIXTURE(EssaiReleve, "a marriage without its other partner is told, ne
     Importer(Sorte::Ascendance,
              "1;Dupont;Luc;;;;;;1870;Mer\n2;Dupont;Jean;;;;;;1844;Mer\n6;A;B;;;;;;1800\n7;C;D\n");
     CHECK(base->entete.DernierMariage == 0);
-    CHECK(Constats() == Messages{4162, 4162, 4159, 4162, 4159});
+    CHECK(Constats() ==
+          Messages{message::RapportConjointAbsentDuReleve, message::RapportConjointAbsentDuReleve,
+                   message::RapportEnfantAbsentDuReleve, message::RapportConjointAbsentDuReleve,
+                   message::RapportEnfantAbsentDuReleve});
     Importer(Sorte::Ascendance, "1;Dupont;Luc\n2;Dupont;Jean;;;;;;1844;Mer\n3;Martin;Anne\n");
     CHECK(Constats().empty());
     CHECK(base->R_DEBMAR.LireCellule(NoMariage{1}) == "1844");
@@ -229,14 +234,16 @@ TEST_CASE_FIXTURE(EssaiReleve, "a marriage without its other partner is told, ne
 TEST_CASE_FIXTURE(EssaiReleve, "a line without a separator stops the import and keeps the rest") {
     Importer(Sorte::Bapteme, "1780;1;1;Mer;Dupont;Jean;M\nrien\n1781;1;1;Mer;Durand;Luc;M\n");
     CHECK(base->entete.NbTriIndividus == 1);
-    CHECK(Constats() == Messages{4150});
+    CHECK(Constats() == Messages{message::RapportLigneSansSeparateur});
     CHECK(texteRapport.find("Ligne 2 : ") != std::string::npos);
 }
 
 TEST_CASE_FIXTURE(EssaiReleve, "what is not understood is told line by line") {
     Importer(Sorte::Bapteme,
              "an 4;1;1;Mer;Dupont;Jean;M\n1780;1;1;Mer;;;M\n1780;2;31;Mer;Durand;Luc;M;;;;;;x\n");
-    CHECK(Constats() == Messages{4153, 4152, 4151, 4154});
+    CHECK(Constats() == Messages{message::RapportDateIncomprise, message::RapportLigneSansNom,
+                                 message::RapportTropDeColonnes,
+                                 message::RapportJourOuMoisIncompris});
     CHECK(base->R_EVT.CleDateEvt(NoEvenement{1}) == storage::CleSansDate);
     CHECK(rapport.lignes == 2);
 }
@@ -265,7 +272,7 @@ TEST_CASE_FIXTURE(EssaiReleve, "a survey fills a base up to its last person") {
     Importer(Sorte::Ascendance, lignes);
     CHECK(base->entete.NbTriIndividus == 64000);
     CHECK(base->entete.DernierMariage == 31999);
-    CHECK(Constats() == Messages{4160});
+    CHECK(Constats() == Messages{message::RapportBasePleine});
     CHECK(rapport.constats[0].ligne == 64001);
 }
 
@@ -273,7 +280,7 @@ TEST_CASE_FIXTURE(EssaiReleve, "a name that is cut is told, a long remark is kep
     const std::string longue(301, 'N');
     Importer(Sorte::Bapteme, "1780;1;1;Mer;" + longue + ";Luc;M;;;;;" + longue + "\n1780;1;1;Mer;" +
                                  longue.substr(1) + ";Jean;M\n");
-    CHECK(Constats() == Messages{4163});
+    CHECK(Constats() == Messages{message::RapportValeurTropLongue});
     CHECK(base->R_NOM.NomDe(NoOrdre{1}) == longue.substr(1));
     CHECK(base->R_EVT.NoteEvt(NoEvenement{1}).ends_with("\r\n" + longue));
 }
@@ -285,7 +292,7 @@ TEST_CASE_FIXTURE(EssaiReleve, "a survey past the limit of events keeps what fit
     Importer(Sorte::Bapteme, lignes);
     CHECK(base->entete.NbTriEvenements == 32000);
     CHECK(base->entete.NbTriIndividus == 32000);
-    CHECK(Constats() == Messages(10, 4160));
+    CHECK(Constats() == Messages(10, message::RapportBasePleine));
 }
 
 }  // namespace dorvane::interchange

@@ -1,6 +1,7 @@
 #include "interchange/releves/RemiseGeneanet.h"
 
 #include "doublures/FicheEssai.h"
+#include "messages/Export.h"
 #include "values/Texte1252.h"
 
 #include <doctest/doctest.h>
@@ -92,7 +93,7 @@ TEST_CASE_FIXTURE(EssaiRemise, "a folder that cannot be written is told, and not
     Remettre();
     CHECK(appels.empty());
     REQUIRE(dialogue.entendu.size() == 1);
-    CHECK(dialogue.entendu[0].no == NoMessage{3701});
+    CHECK(dialogue.entendu[0].no == message::FichierNonEcrit);
 }
 
 }  // namespace dorvane::interchange

@@ -1,6 +1,7 @@
 #include <QPlainTextEdit>
 #include <QStatusBar>
 
+#include "messages/Messages.h"
 #include "shell/FichierSur.h"
 #include "windows/Conduite.h"
 #include "windows/cadre/ProgressionQt.h"
@@ -73,7 +74,9 @@ TEST_CASE_FIXTURE(Soin,
 }
 
 TEST_CASE_FIXTURE(Soin, "MnuControle: a long job is told, and no window opens") {
-    const shell::CadreProgression cadre{S().progression, shell::Msg(545), shell::Msg(545)};
+    const shell::CadreProgression cadre{S().progression,
+                                        shell::Msg(message::TitreReorganisationBase),
+                                        shell::Msg(message::TitreReorganisationBase)};
     const auto dit = RepondreBoite(QMessageBox::Ok);
     Action("MnuControle").trigger();
     CHECK(dit->startsWith(QStringLiteral("Opération impossible")));
@@ -208,7 +211,9 @@ TEST_CASE_FIXTURE(Soin, "MnuRéorganiser: a file that cannot be written is told;
 TEST_CASE_FIXTURE(Soin, "A job that has closed the base leaves nothing to open in its place") {
     REQUIRE(Graphe().isVisible());
     {
-        const shell::CadreProgression cadre{S().progression, shell::Msg(545), shell::Msg(545)};
+        const shell::CadreProgression cadre{S().progression,
+                                            shell::Msg(message::TitreReorganisationBase),
+                                            shell::Msg(message::TitreReorganisationBase)};
         REQUIRE(shell::FermerEtMemoriser(S()));
         Fenetre().Actualiser();
         CHECK_FALSE(Trouver<QWidget>("CmdAccueilOuvrir").isVisible());

@@ -12,6 +12,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "messages/Messages.h"
 #include "windows/Essai.h"
 #include "windows/cadre/FrmCalendrier.h"
 
@@ -256,7 +257,9 @@ TEST_CASE_FIXTURE(FenetreEssai,
                   "MDIForm1: while a long job runs nothing heavy starts and nothing closes") {
     DemarrerFamille();
     {
-        const shell::CadreProgression cadre{S().progression, shell::Msg(545), shell::Msg(545)};
+        const shell::CadreProgression cadre{S().progression,
+                                            shell::Msg(message::TitreReorganisationBase),
+                                            shell::Msg(message::TitreReorganisationBase)};
         for (const char* nom :
              {"MnuOuvrir", "MnuNouveau", "MnuFermer", "MnuEnregistrer", "MnuSauvegarde",
               "MnuRestauration", "MnuImporter", "MnuNoms", "MnuDeCujus1", "MnuQuitter"}) {
@@ -276,7 +279,8 @@ TEST_CASE_FIXTURE(FenetreEssai,
     DemarrerFamille();
     auto& bouton = Trouver<QToolButton>("CmdAnnuler");
     auto& barre = Trouver<QProgressBar>("Progression");
-    const shell::CadreProgression cadre{S().progression, shell::Msg(774), shell::Msg(775)};
+    const shell::CadreProgression cadre{S().progression, shell::Msg(message::TitreImportGedcom),
+                                        shell::Msg(message::EtatPremiereLecture)};
     QElapsedTimer clic;
     std::uint32_t fait = 0;
     int valeur = 0;
@@ -297,7 +301,8 @@ TEST_CASE_FIXTURE(FenetreEssai,
     CHECK(Trouver<QLabel>("LblProgression").text() == "Annulation...");
     // The next job starts anew.
     S().progression.Terminer();
-    S().progression.Commencer(shell::Msg(774), shell::Msg(775));
+    S().progression.Commencer(shell::Msg(message::TitreImportGedcom),
+                              shell::Msg(message::EtatPremiereLecture));
     CHECK(S().progression.Avancer(1, 2));
 }
 

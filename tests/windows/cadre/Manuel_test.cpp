@@ -25,7 +25,7 @@ TEST_CASE_FIXTURE(FenetreEssai, "Manual: every name in bold is a caption of the 
     Demarrer({});
     QSet<QString> legendes;
     for (std::uint32_t no = 1; no < 5000; ++no)
-        legendes << Epurer(TexteEcran(S(), no));
+        legendes << Epurer(TexteEcran(S(), NoMessage{no}));
     static const QRegularExpression Gras{QStringLiteral("\\*\\*([^*]+)\\*\\*")};
     const QDir manuel{QStringLiteral(RACINE_SOURCES "/docs/manuel")};
     const QStringList chapitres = manuel.entryList({QStringLiteral("*.md")});

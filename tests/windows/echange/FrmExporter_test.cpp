@@ -115,8 +115,7 @@ TEST_CASE_FIXTURE(Export, "FrmExporter: a choice clicked again stays, and the tw
     CHECK_FALSE(C<QRadioButton>("OptExport(0)").isChecked());
 }
 
-TEST_CASE_FIXTURE(Export,
-                  "FrmExporter: a selection of nobody is message 959, and nothing is asked") {
+TEST_CASE_FIXTURE(Export, "FrmExporter: a selection of nobody is told, and nothing is asked") {
     Ouvrir();
     Clic("OptBase(1)");
     CHECK(Fiche().startsWith(QStringLiteral("Aucune personne n'est encore choisie")));
@@ -372,7 +371,7 @@ TEST_CASE_FIXTURE(Export, "FrmExporter: who is deleted meanwhile leaves the sele
     CHECK(Fiche().startsWith(QStringLiteral("Personnes\u00A0: 1 ")));
 }
 
-TEST_CASE_FIXTURE(Export, "FrmExporter: while a long job runs the menu gives message 503") {
+TEST_CASE_FIXTURE(Export, "FrmExporter: while a long job runs the menu is told to be impossible") {
     DemarrerFamille();
     S().progression.Commencer({}, {});
     {

@@ -1,4 +1,5 @@
 // The sheet while other commands change or close what it shows.
+#include "messages/Messages.h"
 #include "windows/Conduite.h"
 #include "windows/FeuilleEssai.h"
 #include "windows/controles/BoutonPersonne.h"
@@ -102,7 +103,7 @@ TEST_CASE_FIXTURE(Conduite, "FrmMisajour: the last person of a base is deleted i
     {
         Enchainement suite;
         suite.Boite(QMessageBox::Yes, QStringLiteral("Jean"));
-        suite.Boite(QMessageBox::Ok, TexteEcran(S(), 619));
+        suite.Boite(QMessageBox::Ok, TexteEcran(S(), message::InfoPlusAucunePersonne));
         Cliquer(fiche, "CmdSupprimer");
     }
     CHECK_FALSE(fiche.isVisible());
