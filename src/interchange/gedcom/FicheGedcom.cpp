@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <utility>
 
 namespace dorvane::interchange {
@@ -317,6 +318,22 @@ bool FicheGedcom::LireCorpsDeSource(const LigneGedcom& ligne) {
     return true;
 }
 
+/// Lines whose value goes to the note behind a label.
+bool FicheGedcom::LireTexteLibelle(const LigneGedcom& ligne) {
+    static constexpr std::pair<CodeEtiquette, NoMessage> Libelles[] = {
+        {"AGNC"_tag, message::Autorite},     {"CAUS"_tag, message::Cause},
+        {"CHAN"_tag, message::Modification}, {"GODP"_tag, message::ParrainEtMarraine},
+        {"TEMP"_tag, message::Temple},       {"AUTH"_tag, message::TagAUTH},
+        {"CORP"_tag, message::Organisme},    {"PUBL"_tag, message::TagPUBL},
+        {"NAME"_tag, message::NomCite},      {"REFN"_tag, message::Document},
+    };
+    const auto* const libelle =
+        std::ranges::find(Libelles, ligne.code, &std::pair<CodeEtiquette, NoMessage>::first);
+    if (libelle == std::end(Libelles)) return false;
+    AjouterTexte(libelle->second, ligne.valeur);
+    return true;
+}
+
 bool FicheGedcom::LireSousLigne(const LigneGedcom& ligne) {
     switch (ligne.code) {
         case "CONT"_tag:
@@ -333,36 +350,6 @@ bool FicheGedcom::LireSousLigne(const LigneGedcom& ligne) {
             return LireHeure(ligne);
         case "TYPE"_tag:
             return LireType(ligne);
-        case "AGNC"_tag:
-            AjouterTexte(message::Autorite, ligne.valeur);
-            return true;
-        case "CAUS"_tag:
-            AjouterTexte(message::Cause, ligne.valeur);
-            return true;
-        case "CHAN"_tag:
-            AjouterTexte(message::Modification, ligne.valeur);
-            return true;
-        case "GODP"_tag:
-            AjouterTexte(message::ParrainEtMarraine, ligne.valeur);
-            return true;
-        case "TEMP"_tag:
-            AjouterTexte(message::Temple, ligne.valeur);
-            return true;
-        case "AUTH"_tag:
-            AjouterTexte(message::TagAUTH, ligne.valeur);
-            return true;
-        case "CORP"_tag:
-            AjouterTexte(message::Organisme, ligne.valeur);
-            return true;
-        case "PUBL"_tag:
-            AjouterTexte(message::TagPUBL, ligne.valeur);
-            return true;
-        case "NAME"_tag:
-            AjouterTexte(message::NomCite, ligne.valeur);
-            return true;
-        case "REFN"_tag:
-            AjouterTexte(message::Document, ligne.valeur);
-            return true;
         case "CEME"_tag:
             return EnEvenement() && (AjouterAuSlot(ligne, "BURP"), true);
         case "ADDR"_tag:
@@ -384,7 +371,7 @@ bool FicheGedcom::LireSousLigne(const LigneGedcom& ligne) {
         case "TEXT"_tag:
             return LireCorpsDeSource(ligne);
         default:
-            return false;
+            return LireTexteLibelle(ligne);
     }
 }
 

@@ -97,6 +97,7 @@ private:
     bool LireCitation(const LigneGedcom& ligne);
     /// What a citation says of its event, and the words that it quotes.
     bool LireCorpsDeSource(const LigneGedcom& ligne);
+    bool LireTexteLibelle(const LigneGedcom& ligne);
     /// Adds a value to the row of `etiquette`; false when there is no row left.
     bool AjouterAuSlot(const LigneGedcom& ligne, std::string_view etiquette);
 

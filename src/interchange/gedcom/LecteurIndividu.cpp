@@ -5,6 +5,8 @@
 #include "values/Comparaison.h"
 
 #include <algorithm>
+#include <iterator>
+#include <optional>
 
 namespace dorvane::interchange {
 
@@ -71,6 +73,28 @@ void LecteurIndividu::NoterFamille(const LigneGedcom& ligne) {
                          individu_, ligne.code == "FAMC"_tag});
 }
 
+namespace {
+
+/// Whether the row of a tag that goes to a row of its own name has a date; nothing for other tags.
+std::optional<bool> RangeeDatee(CodeEtiquette etiquette) {
+    static constexpr CodeEtiquette Datees[] = {
+        "BARM"_tag, "BASM"_tag, "BLES"_tag, "BURI"_tag, "CENS"_tag, "CHR"_tag,  "CONF"_tag,
+        "CONL"_tag, "CREM"_tag, "EMIG"_tag, "IMMI"_tag, "ORDI"_tag, "ORDN"_tag, "ADOP"_tag,
+    };
+    static constexpr CodeEtiquette SansDate[] = {
+        "CAST"_tag, "DSCR"_tag, "EDUC"_tag, "ENDL"_tag, "FCOM"_tag, "GIVN"_tag, "GRAD"_tag,
+        "LEGA"_tag, "IDNO"_tag, "MEDI"_tag, "MILI"_tag, "NAMR"_tag, "RETI"_tag, "NATI"_tag,
+        "NATU"_tag, "NCHI"_tag, "NICK"_tag, "NMR"_tag,  "NPFX"_tag, "NSFX"_tag, "OCCU"_tag,
+        "PROB"_tag, "PROP"_tag, "RELI"_tag, "RESI"_tag, "SIGN"_tag, "SITE"_tag, "SSN"_tag,
+        "STAT"_tag, "SPFX"_tag, "SURN"_tag, "WILL"_tag,
+    };
+    if (std::ranges::find(Datees, etiquette) != std::end(Datees)) return true;
+    if (std::ranges::find(SansDate, etiquette) != std::end(SansDate)) return false;
+    return std::nullopt;
+}
+
+}  // namespace
+
 bool LecteurIndividu::LireEvenement(const LigneGedcom& ligne) {
     switch (ligne.code) {
         case "BIRT"_tag:
@@ -86,56 +110,6 @@ bool LecteurIndividu::LireEvenement(const LigneGedcom& ligne) {
         case "BAPL"_tag:
             fiche_.OuvrirSlot(ligne, "BAPL", "CHR", true);
             return true;
-        case "BARM"_tag:
-        case "BASM"_tag:
-        case "BLES"_tag:
-        case "BURI"_tag:
-        case "CENS"_tag:
-        case "CHR"_tag:
-        case "CONF"_tag:
-        case "CONL"_tag:
-        case "CREM"_tag:
-        case "EMIG"_tag:
-        case "IMMI"_tag:
-        case "ORDI"_tag:
-        case "ORDN"_tag:
-        case "ADOP"_tag:
-            fiche_.OuvrirSlot(ligne, ligne.etiquette, ligne.etiquette, true);
-            return true;
-        case "CAST"_tag:
-        case "DSCR"_tag:
-        case "EDUC"_tag:
-        case "ENDL"_tag:
-        case "FCOM"_tag:
-        case "GIVN"_tag:
-        case "GRAD"_tag:
-        case "LEGA"_tag:
-        case "IDNO"_tag:
-        case "MEDI"_tag:
-        case "MILI"_tag:
-        case "NAMR"_tag:
-        case "RETI"_tag:
-        case "NATI"_tag:
-        case "NATU"_tag:
-        case "NCHI"_tag:
-        case "NICK"_tag:
-        case "NMR"_tag:
-        case "NPFX"_tag:
-        case "NSFX"_tag:
-        case "OCCU"_tag:
-        case "PROB"_tag:
-        case "PROP"_tag:
-        case "RELI"_tag:
-        case "RESI"_tag:
-        case "SIGN"_tag:
-        case "SITE"_tag:
-        case "SSN"_tag:
-        case "STAT"_tag:
-        case "SPFX"_tag:
-        case "SURN"_tag:
-        case "WILL"_tag:
-            fiche_.OuvrirSlot(ligne, ligne.etiquette, ligne.etiquette, false);
-            return true;
         case "TITL"_tag:
             // A reference is a document, as a NOTE has them.
             if (!CleDeReference(ligne.valeur).empty()) return LireNote(ligne);
@@ -145,8 +119,11 @@ bool LecteurIndividu::LireEvenement(const LigneGedcom& ligne) {
             fiche_.OuvrirAutre(ligne);
             return true;
         default:
-            return false;
+            break;
     }
+    const std::optional<bool> date = RangeeDatee(ligne.code);
+    if (date) fiche_.OuvrirSlot(ligne, ligne.etiquette, ligne.etiquette, *date);
+    return date.has_value();
 }
 
 bool LecteurIndividu::LireTexte(const LigneGedcom& ligne) {
