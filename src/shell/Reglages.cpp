@@ -115,11 +115,13 @@ void RangerSection(Magasin& magasin, std::string_view section,
 void EcrireEvenements(Magasin& magasin, const std::vector<TypeEvenement>& evenements) {
     const std::vector<Magasin::Entree> avant = magasin.LireSection(Liste);
     std::vector<Magasin::Entree> liste;
+    liste.reserve(evenements.size());
     for (const TypeEvenement& evenement : evenements) {
         const std::string nom = TexteVersUtf8(evenement.type);
         const auto ancien = std::ranges::find(avant, nom, &Magasin::Entree::first);
         liste.emplace_back(nom, ancien == avant.end() ? std::string{} : ancien->second);
         std::vector<Magasin::Entree> roles;
+        roles.reserve(evenement.roles.size());
         for (const RoleEvenement& role : evenement.roles)
             roles.emplace_back(TexteVersUtf8(CleDeRole(role)), std::string{});
         RangerSection(magasin, SectionRoles(evenement.type), roles);

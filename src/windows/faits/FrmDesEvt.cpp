@@ -277,6 +277,7 @@ void FrmDesEvt::MontrerLiens(int rangee) {
 
 void FrmDesEvt::MontrerDocuments(NoDocument choisi) {
     std::vector<std::uint32_t> numeros;
+    numeros.reserve(saisie_.documents.size());
     for (const NoDocument document : saisie_.documents)
         numeros.push_back(document.valeur);
     documents_->Poser(std::move(numeros));
