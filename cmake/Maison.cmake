@@ -3,6 +3,11 @@
 # src/<folder>), so that a header of a folder which is not linked is not found: an include of what
 # stands above, or of a neighbour that is not named, does not build.
 
+# What sources include and the build makes: the lint needs no more.
+add_custom_target(generes)
+# The forms of a folder are read whether or not the folders below are built.
+set(CMAKE_AUTOGEN_ORIGIN_DEPENDS OFF)
+
 # The target of a folder or the library of another house: "windows/graphe", "Qt6::Svg".
 function(maison_cibles resultat)
     set(cibles)
@@ -49,6 +54,7 @@ function(maison_dossier)
     target_link_libraries(${cible} PUBLIC ${depend} PRIVATE reglages ${prive})
     if(D_QT)
         set_target_properties(${cible} PROPERTIES AUTOMOC ON AUTOUIC ON)
+        add_dependencies(generes ${cible}_autogen)
         # "slots" and "signals" are words of ours below the windows.
         target_compile_definitions(${cible} PUBLIC QT_NO_KEYWORDS)
         precompiler(${cible} fenetres)
@@ -77,6 +83,7 @@ function(maison_messages)
     add_library(messages INTERFACE)
     target_include_directories(messages INTERFACE ${vue})
     add_dependencies(messages messages_faits)
+    add_dependencies(generes messages_faits)
     set_property(GLOBAL APPEND PROPERTY MAISON_DOSSIERS messages)
 endfunction()
 
@@ -100,6 +107,7 @@ function(maison_tests)
     target_link_libraries(${cible} PRIVATE ${depend} ${principal} doctest::doctest reglages essais)
     if(T_QT)
         set_target_properties(${cible} PROPERTIES AUTOMOC ON)
+        add_dependencies(generes ${cible}_autogen)
         target_link_libraries(${cible} PRIVATE Qt6::Test)
         precompiler(${cible} essais_fenetres)
     else()
