@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Statuts.h"
 #include "app/Terminal.h"
 #include "shell/Ecran.h"
 #include "shell/Horloge.h"
@@ -10,12 +11,6 @@
 #include <string>
 
 namespace dorvane::outil {
-
-/// What a command ends with.
-inline constexpr int Fait = 0;
-inline constexpr int Refus = 1;  ///< refused, or findings
-inline constexpr int MauvaisUsage = 2;
-inline constexpr int RefusSysteme = 3;  ///< the file system said no
 
 /// A session for one command: settings and texts, no windows.
 class Atelier {

@@ -1,20 +1,24 @@
 #include "app/CommandeBase.h"
 
 #include "messages/Dorvane.h"
+#include "messages/Messages.h"
 #include "messages/Outil.h"
 #include "records/Famille.h"
+#include "shell/CycleDeVie.h"
+#include "shell/FichierSur.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
 #include "values/Texte1252.h"
 
+#include <iostream>
 #include <string_view>
 
 namespace dorvane::outil {
 
-void DeclarerBase(CLI::App& verbe, OptionsBase& options) {
-    verbe.add_option("BASE", options.base, "Le fichier .LGD")->required();
-    CLI::Option* oui = verbe.add_flag("--oui", options.oui, "Répond oui à toutes les questions");
-    verbe.add_flag("--non", options.non, "Répond non à toutes les questions")->excludes(oui);
+void DeclarerBase(Verbe& verbe, OptionsBase& options) {
+    verbe.Ajouter("BASE", options.base, "Le fichier .LGD").Requise();
+    const Option oui = verbe.Drapeau("--oui", options.oui, "Répond oui à toutes les questions");
+    verbe.Drapeau("--non", options.non, "Répond non à toutes les questions").Exclut(oui);
 }
 
 int AvecBase(const OptionsBase& options, const std::function<int(Atelier&)>& travail) {
@@ -25,6 +29,21 @@ int AvecBase(const OptionsBase& options, const std::function<int(Atelier&)>& tra
     const int statut = travail(atelier);
     // A refusal in the middle of a command leaves nothing behind: the base goes without a commit.
     return statut == Fait ? atelier.Fermer() : statut;
+}
+
+int SauvegarderBase(const std::filesystem::path& base) {
+    Atelier atelier{{}};
+    if (const int statut = atelier.Ouvrir(base); statut != Fait) return statut;
+    // Only a whole, closed file is copied: a leftover journal was replayed by the opening.
+    if (const int statut = atelier.Fermer(); statut != Fait) return statut;
+    const std::filesystem::path copie = shell::CheminSauvegarde(base);
+    if (!shell::CopierTout(base, copie)) {
+        atelier.dialogue.Informer(
+            shell::Msg(message::SauvegardeNonEcrite, Utf8VersTexte(copie.string()).octets));
+        return RefusSysteme;
+    }
+    std::cout << copie.string() << '\n';
+    return Fait;
 }
 
 std::optional<std::string> LireArgument(Atelier& atelier, const std::string& utf8) {

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "app/Atelier.h"
+#include "app/Options.h"
 
-#include <CLI/CLI.hpp>
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -20,11 +21,15 @@ struct OptionsBase {
 };
 
 /// Declares BASE, --oui and --non.
-void DeclarerBase(CLI::App& verbe, OptionsBase& options);
+void DeclarerBase(Verbe& verbe, OptionsBase& options);
 
 /// Opens the base, runs `travail`, and commits what it wrote when it answers `Fait`; else the file
 /// stays as it was. The answer is the exit status.
 [[nodiscard]] int AvecBase(const OptionsBase& options, const std::function<int(Atelier&)>& travail);
+
+/// Copies a base to its .SAV, whose path is written to standard output. Only a whole, closed file
+/// is copied: a journal that was left is replayed first. The answer is the exit status.
+[[nodiscard]] int SauvegarderBase(const std::filesystem::path& base);
 
 /// An argument in code page 1252. Nothing, and a message, when it holds a character that the code
 /// page lacks: it would be stored as something else.
@@ -45,22 +50,18 @@ struct DateTapee {
 };
 [[nodiscard]] DateTapee CouperDateTapee(const std::string& date);
 
-/// Adds a verb on a base, whose options live as long as the parser and the work that it leaves in
-/// `faire`.
+/// Adds a verb on a base: BASE stands first among what it takes, and `travail` gets the base open.
 template <class Options>
-CLI::App* Declarer(CLI::App& app, std::function<int()>& faire, const char* nom, const char* aide,
-                   const std::function<void(CLI::App&, Options&)>& declarer,
-                   int (*travail)(Atelier&, const Options&)) {
+void Declarer(Verbe parent, const std::string& nom, const std::string& aide,
+              const std::function<void(Verbe&, Options&)>& declarer,
+              int (*travail)(Atelier&, const Options&)) {
     auto options = std::make_shared<Options>();
-    CLI::App* verbe = app.add_subcommand(nom, aide);
-    DeclarerBase(*verbe, *options);
-    declarer(*verbe, *options);
-    verbe->callback([options, travail, &faire] {
-        faire = [options, travail] {
-            return AvecBase(*options, [&](Atelier& atelier) { return travail(atelier, *options); });
-        };
+    Verbe verbe = parent.Sous(nom, aide);
+    DeclarerBase(verbe, *options);
+    declarer(verbe, *options);
+    verbe.Faire([options, travail] {
+        return AvecBase(*options, [&](Atelier& atelier) { return travail(atelier, *options); });
     });
-    return verbe;
 }
 
 }  // namespace dorvane::outil

@@ -6,6 +6,7 @@
 #include "values/Texte1252.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 #include <string>
 
 namespace dorvane::outil {
@@ -92,6 +93,10 @@ Json DecrireFlags(const storage::Slots& slots) {
 }
 
 }  // namespace
+
+std::string EnTexte(const Json& objet, int retrait) {
+    return objet.dump(retrait, ' ', false, Json::error_handler_t::replace);
+}
 
 Json DecrireBase(storage::Base& base) {
     const storage::EnTete& e = base.entete;

@@ -2,7 +2,7 @@
 
 #include "storage/Base.h"
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 
 namespace dorvane::outil {
@@ -11,9 +11,7 @@ namespace dorvane::outil {
 using Json = nlohmann::ordered_json;
 
 /// The text of a document; bytes that are no UTF-8, as a path may hold, are replaced.
-[[nodiscard]] inline std::string EnTexte(const Json& objet, int retrait = 2) {
-    return objet.dump(retrait, ' ', false, Json::error_handler_t::replace);
-}
+[[nodiscard]] std::string EnTexte(const Json& objet, int retrait = 2);
 
 /// What `infos` tells of a base.
 [[nodiscard]] Json DecrireBase(storage::Base& base);

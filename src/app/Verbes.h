@@ -1,32 +1,39 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
-#include <functional>
+#include "app/Options.h"
 
 namespace dorvane::outil {
 
-// The verbs that read and change the records of a base, by subjects. The verb that is given leaves
-// its work in `faire`, which outlives the parser.
+// The verbs, by subjects; each function adds its own to those of the line.
+
+/// `nouveau`, `infos`, `lister`, `personne`, `sauvegarder`, `restaurer`: a base as a whole.
+void DeclarerVerbesBase(Verbe racine);
+/// `importer`.
+void DeclarerVerbesImport(Verbe racine);
+/// `catalogue`: the texts of the program.
+void DeclarerVerbeCatalogue(Verbe racine);
+/// `calculer`: operations on values, without a base.
+void DeclarerVerbeCalculer(Verbe racine);
 
 /// `creer`, `modifier`, `supprimer`, `lier`, `delier`.
-void DeclarerVerbesFiche(CLI::App& app, std::function<int()>& faire);
+void DeclarerVerbesFiche(Verbe racine);
 /// `evenement`, `document`.
-void DeclarerVerbesFaits(CLI::App& app, std::function<int()>& faire);
+void DeclarerVerbesFaits(Verbe racine);
 /// `motcle`, `rechercher`, `parametre`.
-void DeclarerVerbesReglages(CLI::App& app, std::function<int()>& faire);
+void DeclarerVerbesReglages(Verbe racine);
 
 /// `reorganiser`, `controler`, `depanner`.
-void DeclarerVerbesSoin(CLI::App& app, std::function<int()>& faire);
+void DeclarerVerbesSoin(Verbe racine);
 
 /// `exporter`.
-void DeclarerVerbesExport(CLI::App& app, std::function<int()>& faire);
+void DeclarerVerbesExport(Verbe racine);
 /// `integrer`.
-void DeclarerVerbesEchange(CLI::App& app, std::function<int()>& faire);
+void DeclarerVerbesEchange(Verbe racine);
 
 /// `communes`: the base of communes, apart from any family.
-void DeclarerVerbesCommunes(CLI::App& app, std::function<int()>& faire);
+void DeclarerVerbesCommunes(Verbe racine);
 
 /// `releve`: surveys of registers.
-void DeclarerVerbesReleve(CLI::App& app, std::function<int()>& faire);
+void DeclarerVerbesReleve(Verbe racine);
 
 }  // namespace dorvane::outil

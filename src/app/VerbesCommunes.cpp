@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <iostream>
-#include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
@@ -79,12 +78,12 @@ int CreerCommunes(const OptionsCommunes& o) {
 }
 
 /// Opens a base of communes and runs `travail` on it.
-int AvecCommunes(const OptionsCommunes& o,
-                 const std::function<int(Atelier&, storage::BaseCommunes&)>& travail) {
+template <int (*travail)(Atelier&, storage::BaseCommunes&, const OptionsCommunes&)>
+int AvecCommunes(const OptionsCommunes& o) {
     Atelier atelier{{}};
     storage::DisqueReel disque;
     const storage::ResultatCommunes r = storage::BaseCommunes::OuvrirCommunes(disque, o.fichier);
-    if (r.etat == storage::OuvertureCommunes::Faite) return travail(atelier, *r.base);
+    if (r.etat == storage::OuvertureCommunes::Faite) return travail(atelier, *r.base, o);
     const bool absente = r.etat == storage::OuvertureCommunes::Absente;
     atelier.dialogue.Informer(
         absente ? shell::Msg(message::FichierCommunesIntrouvable)
@@ -128,48 +127,37 @@ int ReorganiserCommunes(Atelier& atelier, storage::BaseCommunes& base, const Opt
     return RefusSysteme;
 }
 
+void DeclarerFichier(Verbe& v, OptionsCommunes& o) {
+    v.Ajouter("FICHIER", o.fichier, "Le fichier .lgx").Requise();
+}
+
 }  // namespace
 
-void DeclarerVerbesCommunes(CLI::App& app, std::function<int()>& faire) {
-    CLI::App* communes = app.add_subcommand("communes", "La base des communes (.lgx)");
-    communes->require_subcommand(1);
-    const auto declarer = [&](const char* nom, const char* aide, auto options, auto travail) {
-        auto o = std::make_shared<OptionsCommunes>();
-        CLI::App* verbe = communes->add_subcommand(nom, aide);
-        verbe->add_option("FICHIER", o->fichier, "Le fichier .lgx")->required();
-        options(*verbe, *o);
-        verbe->callback([o, travail, &faire] { faire = [o, travail] { return travail(*o); }; });
-    };
-    declarer(
-        "creer", "Fait une base de communes d'une liste CSV, ou une base vide",
-        [](CLI::App& v, OptionsCommunes& o) {
-            v.add_option("LISTE", o.liste,
-                         "Le fichier CSV : nom, code, autre code, rattachement, precision, "
-                         "commentaire");
-            v.add_flag("--remplacer", o.remplacer, "Remplace le fichier qui existe");
+void DeclarerVerbesCommunes(Verbe racine) {
+    const Verbe communes = racine.Groupe("communes", "La base des communes (.lgx)");
+    Declarer<OptionsCommunes>(
+        communes, "creer", "Fait une base de communes d'une liste CSV, ou une base vide",
+        [](Verbe& v, OptionsCommunes& o) {
+            DeclarerFichier(v, o);
+            v.Ajouter("LISTE", o.liste,
+                      "Le fichier CSV : nom, code, autre code, rattachement, precision, "
+                      "commentaire");
+            v.Drapeau("--remplacer", o.remplacer, "Remplace le fichier qui existe");
         },
         CreerCommunes);
-    declarer(
-        "chercher", "Cherche des communes par leur nom",
-        [](CLI::App& v, OptionsCommunes& o) {
-            v.add_option("NOM", o.nom)->required();
-            CLI::Option* son = v.add_flag("--son", o.son, "Celles dont le nom sonne pareil");
-            v.add_flag("--debut", o.debut, "Celles dont le nom commence ainsi")->excludes(son);
-            v.add_flag("--json", o.json);
+    Declarer<OptionsCommunes>(
+        communes, "chercher", "Cherche des communes par leur nom",
+        [](Verbe& v, OptionsCommunes& o) {
+            DeclarerFichier(v, o);
+            v.Ajouter("NOM", o.nom).Requise();
+            const Option son = v.Drapeau("--son", o.son, "Celles dont le nom sonne pareil");
+            v.Drapeau("--debut", o.debut, "Celles dont le nom commence ainsi").Exclut(son);
+            v.Drapeau("--json", o.json);
         },
-        [](const OptionsCommunes& o) {
-            return AvecCommunes(o, [&o](Atelier& atelier, storage::BaseCommunes& base) {
-                return ChercherCommunes(atelier, base, o);
-            });
-        });
-    declarer(
-        "reorganiser", "Récrit une base de communes sans ce qui est mort",
-        [](CLI::App& /*verbe*/, OptionsCommunes& /*options*/) {},
-        [](const OptionsCommunes& o) {
-            return AvecCommunes(o, [&o](Atelier& atelier, storage::BaseCommunes& base) {
-                return ReorganiserCommunes(atelier, base, o);
-            });
-        });
+        AvecCommunes<ChercherCommunes>);
+    Declarer<OptionsCommunes>(communes, "reorganiser",
+                              "Récrit une base de communes sans ce qui est mort", DeclarerFichier,
+                              AvecCommunes<ReorganiserCommunes>);
 }
 
 }  // namespace dorvane::outil

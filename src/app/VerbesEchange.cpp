@@ -24,12 +24,12 @@ int Integrer(Atelier& atelier, const OptionsIntegrer& o) {
 
 }  // namespace
 
-void DeclarerVerbesEchange(CLI::App& app, std::function<int()>& faire) {
+void DeclarerVerbesEchange(Verbe racine) {
     Declarer<OptionsIntegrer>(
-        app, faire, "integrer",
+        racine, "integrer",
         "Ajoute à la base les personnes d'un fichier d'échange .lgr, sous de nouveaux numéros",
-        [](CLI::App& v, OptionsIntegrer& o) {
-            v.add_option("FICHIER", o.fichier, "Le fichier .lgr")->required();
+        [](Verbe& v, OptionsIntegrer& o) {
+            v.Ajouter("FICHIER", o.fichier, "Le fichier .lgr").Requise();
         },
         Integrer);
 }

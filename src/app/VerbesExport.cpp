@@ -10,7 +10,6 @@
 
 #include <filesystem>
 #include <iostream>
-#include <map>
 
 namespace dorvane::outil {
 
@@ -90,45 +89,45 @@ int Exporter(Atelier& atelier, const OptionsExporter& o) {
 }
 
 /// Who is written.
-void DeclarerSelection(CLI::App& v, OptionsExporter& o) {
-    CLI::Option* haut = v.add_option("--ascendants", o.ascendants,
-                                     "Seulement cette personne, ses ascendants et leurs conjoints");
-    CLI::Option* bas = v.add_option("--descendants", o.descendants,
-                                    "Seulement cette personne, ses descendants et leurs conjoints");
-    haut->check(CLI::Range(1U, 64000U))->excludes(bas);
-    bas->check(CLI::Range(1U, 64000U));
+void DeclarerSelection(Verbe& v, OptionsExporter& o) {
+    Option haut = v.Ajouter("--ascendants", o.ascendants,
+                            "Seulement cette personne, ses ascendants et leurs conjoints");
+    Option bas = v.Ajouter("--descendants", o.descendants,
+                           "Seulement cette personne, ses descendants et leurs conjoints");
+    haut.Entre(1, 64000).Exclut(bas);
+    bas.Entre(1, 64000);
     // What says nothing of a whole base is a mistake there.
-    const auto avecDepart = [haut, bas](const std::string& /*valeur*/) {
-        return haut->count() + bas->count() > 0 ? std::string{}
-                                                : "--ascendants ou --descendants manque";
+    const auto avecDepart = [haut, bas] {
+        return haut.EstDonnee() || bas.EstDonnee() ? std::string{}
+                                                   : "--ascendants ou --descendants manque";
     };
-    v.add_option("--generations", o.generations, "Jusqu'à cette génération ; 1 : la personne seule")
-        ->check(CLI::Range(1U, 64000U))
-        ->check(avecDepart);
-    v.add_flag("--collateraux", o.reglages.collateraux, "Avec les collatéraux")->check(avecDepart);
-    v.add_flag("--complet", o.reglages.complet, "Avec les événements et documents de toute la base")
-        ->check(avecDepart);
-    v.add_flag("--ecarter-1900", o.reglages.ecarter1900, "Sans les naissances après 1900");
+    v.Ajouter("--generations", o.generations, "Jusqu'à cette génération ; 1 : la personne seule")
+        .Entre(1, 64000)
+        .Verifier(avecDepart);
+    v.Drapeau("--collateraux", o.reglages.collateraux, "Avec les collatéraux").Verifier(avecDepart);
+    v.Drapeau("--complet", o.reglages.complet, "Avec les événements et documents de toute la base")
+        .Verifier(avecDepart);
+    v.Drapeau("--ecarter-1900", o.reglages.ecarter1900, "Sans les naissances après 1900");
 }
 
 }  // namespace
 
-void DeclarerVerbesExport(CLI::App& app, std::function<int()>& faire) {
+void DeclarerVerbesExport(Verbe racine) {
     Declarer<OptionsExporter>(
-        app, faire, "exporter",
+        racine, "exporter",
         "Écrit la base ou une partie en GEDCOM ou en texte d'échange (.lgr) ; dit combien de "
         "personnes, de familles, d'événements et de documents",
-        [](CLI::App& v, OptionsExporter& o) {
+        [](Verbe& v, OptionsExporter& o) {
             using interchange::JeuExport;
-            v.add_option("SORTIE", o.sortie, "Le fichier .ged ou .lgr")->required();
-            v.add_option("--jeu", o.jeu, "ascii, ansi, ansel, html ou utf8")
-                ->transform(CLI::CheckedTransformer(
-                    std::map<std::string, JeuExport>{{"ascii", JeuExport::Ascii},
-                                                     {"ansi", JeuExport::Ansi},
-                                                     {"ansel", JeuExport::Ansel},
-                                                     {"html", JeuExport::Html},
-                                                     {"utf8", JeuExport::Utf8}}));
-            v.add_flag("--reduit", o.reduit, "En-tête réduit");
+            v.Ajouter("SORTIE", o.sortie, "Le fichier .ged ou .lgr").Requise();
+            v.Choix<JeuExport>("--jeu", o.jeu,
+                               {{"ascii", JeuExport::Ascii},
+                                {"ansi", JeuExport::Ansi},
+                                {"ansel", JeuExport::Ansel},
+                                {"html", JeuExport::Html},
+                                {"utf8", JeuExport::Utf8}},
+                               "ascii, ansi, ansel, html ou utf8");
+            v.Drapeau("--reduit", o.reduit, "En-tête réduit");
             DeclarerSelection(v, o);
         },
         Exporter);

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <charconv>
 #include <iostream>
+#include <nlohmann/json.hpp>
 #include <vector>
 
 namespace dorvane::outil {
@@ -81,14 +82,14 @@ int ListerEvenements(Atelier& atelier, const OptionsEvenement& o) {
     return Fait;
 }
 
-void DeclarerChamps(CLI::App& verbe, OptionsEvenement& o) {
-    verbe.add_option("--type", o.type, "Type : étiquette ou libellé");
-    verbe.add_option("--date", o.date, "Date entière : 12/3/1820");
-    verbe.add_option("--lieu", o.lieu);
-    verbe.add_option("--libelle", o.libelle, "Libellé propre à l'événement");
-    verbe.add_option("--note", o.note);
-    verbe.add_option("--personne", o.personnes, "NUMERO:ROLE")->allow_extra_args(false);
-    verbe.add_option("--document", o.documents, "Numéro d'un document")->allow_extra_args(false);
+void DeclarerChamps(Verbe& verbe, OptionsEvenement& o) {
+    verbe.Ajouter("--type", o.type, "Type : étiquette ou libellé");
+    verbe.Ajouter("--date", o.date, "Date entière : 12/3/1820");
+    verbe.Ajouter("--lieu", o.lieu);
+    verbe.Ajouter("--libelle", o.libelle, "Libellé propre à l'événement");
+    verbe.Ajouter("--note", o.note);
+    verbe.Ajouter("--personne", o.personnes, "NUMERO:ROLE").UneALaFois();
+    verbe.Ajouter("--document", o.documents, "Numéro d'un document").UneALaFois();
 }
 
 /// "12:WITN", the role as a tag or in the user's words.
@@ -191,11 +192,11 @@ int ListerDocuments(Atelier& atelier, const OptionsDocument& o) {
     return Fait;
 }
 
-void DeclarerChamps(CLI::App& verbe, OptionsDocument& o) {
-    verbe.add_option("--titre", o.titre);
-    verbe.add_option("--fichier", o.fichier, "Fichier, adresse du web ou de courriel");
-    verbe.add_option("--type", o.type);
-    verbe.add_option("--note", o.note);
+void DeclarerChamps(Verbe& verbe, OptionsDocument& o) {
+    verbe.Ajouter("--titre", o.titre);
+    verbe.Ajouter("--fichier", o.fichier, "Fichier, adresse du web ou de courriel");
+    verbe.Ajouter("--type", o.type);
+    verbe.Ajouter("--note", o.note);
 }
 
 /// A file that is there is named relative to the base; anything else stands as it was given.
@@ -265,77 +266,73 @@ int DonnerUsages(Atelier& atelier, const OptionsDocument& o) {
     return Fait;
 }
 
-void DeclarerEvenement(CLI::App& app, std::function<int()>& faire) {
+void DeclarerEvenement(Verbe racine) {
     using O = OptionsEvenement;
-    CLI::App& verbe = *app.add_subcommand("evenement", "Les événements d'une base");
-    verbe.require_subcommand(1);
-    const auto numero = [](CLI::App& v, O& o) {
-        v.add_option("E", o.evenement, "Numéro de l'événement")->required();
+    const Verbe verbe = racine.Groupe("evenement", "Les événements d'une base");
+    const auto numero = [](Verbe& v, O& o) {
+        v.Ajouter("E", o.evenement, "Numéro de l'événement").Requise();
     };
-    const auto lien = [numero](CLI::App& v, O& o) {
+    const auto lien = [numero](Verbe& v, O& o) {
         numero(v, o);
-        v.add_option("N", o.personne, "Numéro de la personne")->required();
-        v.add_option("ROLE", o.role, "Rôle : étiquette ou libellé");
+        v.Ajouter("N", o.personne, "Numéro de la personne").Requise();
+        v.Ajouter("ROLE", o.role, "Rôle : étiquette ou libellé");
     };
     Declarer<O>(
-        verbe, faire, "lister", "Les événements de la base, ou d'une personne",
-        [](CLI::App& v, O& o) {
-            v.add_option("N", o.personne, "Numéro de la personne");
-            v.add_flag("--json", o.json);
+        verbe, "lister", "Les événements de la base, ou d'une personne",
+        [](Verbe& v, O& o) {
+            v.Ajouter("N", o.personne, "Numéro de la personne");
+            v.Drapeau("--json", o.json);
         },
         ListerEvenements);
     Declarer<O>(
-        verbe, faire, "creer", "Crée un événement et écrit son numéro",
-        [](CLI::App& v, O& o) { DeclarerChamps(v, o); }, CreerEvenement);
+        verbe, "creer", "Crée un événement et écrit son numéro",
+        [](Verbe& v, O& o) { DeclarerChamps(v, o); }, CreerEvenement);
     Declarer<O>(
-        verbe, faire, "modifier", "Change les champs donnés d'un événement",
-        [numero](CLI::App& v, O& o) {
+        verbe, "modifier", "Change les champs donnés d'un événement",
+        [numero](Verbe& v, O& o) {
             numero(v, o);
             DeclarerChamps(v, o);
         },
         ModifierEvenement);
-    Declarer<O>(verbe, faire, "supprimer", "Supprime un événement", numero, EffacerEvenement);
-    Declarer<O>(verbe, faire, "lier", "Ajoute une personne à un événement", lien, LierEvenement);
-    Declarer<O>(verbe, faire, "delier", "Retire une personne d'un événement", lien,
-                DelierEvenement);
+    Declarer<O>(verbe, "supprimer", "Supprime un événement", numero, EffacerEvenement);
+    Declarer<O>(verbe, "lier", "Ajoute une personne à un événement", lien, LierEvenement);
+    Declarer<O>(verbe, "delier", "Retire une personne d'un événement", lien, DelierEvenement);
 }
 
-void DeclarerDocument(CLI::App& app, std::function<int()>& faire) {
+void DeclarerDocument(Verbe racine) {
     using O = OptionsDocument;
-    CLI::App& verbe = *app.add_subcommand("document", "Les documents d'une base");
-    verbe.require_subcommand(1);
-    const auto numero = [](CLI::App& v, O& o) {
-        v.add_option("D", o.document, "Numéro du document")->required();
+    const Verbe verbe = racine.Groupe("document", "Les documents d'une base");
+    const auto numero = [](Verbe& v, O& o) {
+        v.Ajouter("D", o.document, "Numéro du document").Requise();
     };
-    const auto lien = [numero](CLI::App& v, O& o) {
+    const auto lien = [numero](Verbe& v, O& o) {
         numero(v, o);
-        v.add_option("N", o.personne, "Numéro de la personne")->required();
+        v.Ajouter("N", o.personne, "Numéro de la personne").Requise();
     };
     Declarer<O>(
-        verbe, faire, "lister", "Les documents par titre",
-        [](CLI::App& v, O& o) { v.add_flag("--json", o.json); }, ListerDocuments);
+        verbe, "lister", "Les documents par titre",
+        [](Verbe& v, O& o) { v.Drapeau("--json", o.json); }, ListerDocuments);
     Declarer<O>(
-        verbe, faire, "creer", "Crée un document et écrit son numéro",
-        [](CLI::App& v, O& o) { DeclarerChamps(v, o); }, CreerDocument);
+        verbe, "creer", "Crée un document et écrit son numéro",
+        [](Verbe& v, O& o) { DeclarerChamps(v, o); }, CreerDocument);
     Declarer<O>(
-        verbe, faire, "modifier", "Change les champs donnés d'un document",
-        [numero](CLI::App& v, O& o) {
+        verbe, "modifier", "Change les champs donnés d'un document",
+        [numero](Verbe& v, O& o) {
             numero(v, o);
             DeclarerChamps(v, o);
         },
         ModifierDocument);
-    Declarer<O>(verbe, faire, "supprimer", "Supprime un document et ses emplois", numero,
-                EffacerDocument);
-    Declarer<O>(verbe, faire, "attacher", "Donne un document à une personne", lien, Attacher);
-    Declarer<O>(verbe, faire, "detacher", "Le lui retire", lien, Detacher);
-    Declarer<O>(verbe, faire, "usages", "Qui emploie un document", numero, DonnerUsages);
+    Declarer<O>(verbe, "supprimer", "Supprime un document et ses emplois", numero, EffacerDocument);
+    Declarer<O>(verbe, "attacher", "Donne un document à une personne", lien, Attacher);
+    Declarer<O>(verbe, "detacher", "Le lui retire", lien, Detacher);
+    Declarer<O>(verbe, "usages", "Qui emploie un document", numero, DonnerUsages);
 }
 
 }  // namespace
 
-void DeclarerVerbesFaits(CLI::App& app, std::function<int()>& faire) {
-    DeclarerEvenement(app, faire);
-    DeclarerDocument(app, faire);
+void DeclarerVerbesFaits(Verbe racine) {
+    DeclarerEvenement(racine);
+    DeclarerDocument(racine);
 }
 
 }  // namespace dorvane::outil

@@ -1,5 +1,4 @@
 #include "app/CommandeBase.h"
-#include "app/DecrirePersonne.h"
 #include "app/Verbes.h"
 #include "messages/Outil.h"
 #include "records/Famille.h"
@@ -33,19 +32,17 @@ struct OptionsFiche : OptionsBase {
     Texte dateUnion, finUnion, lieuUnion, noteUnion;
 };
 
-void DeclarerChamps(CLI::App& verbe, OptionsFiche& o) {
-    verbe.add_option("--nom", o.nom, "Nom");
-    verbe.add_option("--prenom", o.prenom, "Prénoms");
-    verbe.add_option("--autres", o.autres, "Autre prénom");
-    verbe.add_option("--sexe", o.sexe, "H, F ou I")->check(CLI::IsMember({"H", "F", "I"}));
-    verbe.add_option("--naissance", o.naissance, "Date : 12/3/1820, vers 1820, 1820");
-    verbe.add_option("--lieu-naissance", o.lieuNaissance);
-    verbe.add_option("--deces", o.deces);
-    verbe.add_option("--lieu-deces", o.lieuDeces);
-    verbe.add_option("--ligne", o.lignes, "Ligne d'un mot-clé : LIBELLE DATE LIEU")
-        ->type_size(3)
-        ->allow_extra_args(false);
-    verbe.add_option("--note", o.note, "Note libre");
+void DeclarerChamps(Verbe& verbe, OptionsFiche& o) {
+    verbe.Ajouter("--nom", o.nom, "Nom");
+    verbe.Ajouter("--prenom", o.prenom, "Prénoms");
+    verbe.Ajouter("--autres", o.autres, "Autre prénom");
+    verbe.Ajouter("--sexe", o.sexe, "H, F ou I").Parmi({"H", "F", "I"});
+    verbe.Ajouter("--naissance", o.naissance, "Date : 12/3/1820, vers 1820, 1820");
+    verbe.Ajouter("--lieu-naissance", o.lieuNaissance);
+    verbe.Ajouter("--deces", o.deces);
+    verbe.Ajouter("--lieu-deces", o.lieuDeces);
+    verbe.Ajouter("--ligne", o.lignes, "Ligne d'un mot-clé : LIBELLE DATE LIEU").ParGroupes(3);
+    verbe.Ajouter("--note", o.note, "Note libre");
 }
 
 bool PoserDate(Atelier& atelier, const Texte& option, std::string& jourMois, std::string& annee) {
@@ -212,54 +209,52 @@ int Delier(Atelier& atelier, const OptionsLien& o) {
     return fait ? Fait : Refus;
 }
 
-void DeclarerNumero(CLI::App& verbe, std::uint32_t& numero) {
-    verbe.add_option("N", numero, "Numéro de la personne")->required();
+void DeclarerNumero(Verbe& verbe, std::uint32_t& numero) {
+    verbe.Ajouter("N", numero, "Numéro de la personne").Requise();
 }
 
 }  // namespace
 
-void DeclarerVerbesFiche(CLI::App& app, std::function<int()>& faire) {
-    Declarer<OptionsFiche>(app, faire, "creer", "Crée une personne et écrit son numéro",
-                           DeclarerChamps, CreerPersonne);
+void DeclarerVerbesFiche(Verbe racine) {
+    Declarer<OptionsFiche>(racine, "creer", "Crée une personne et écrit son numéro", DeclarerChamps,
+                           CreerPersonne);
     Declarer<OptionsFiche>(
-        app, faire, "modifier", "Change les champs donnés d'une personne",
-        [](CLI::App& verbe, OptionsFiche& o) {
+        racine, "modifier", "Change les champs donnés d'une personne",
+        [](Verbe& verbe, OptionsFiche& o) {
             DeclarerNumero(verbe, o.numero);
             DeclarerChamps(verbe, o);
-            CLI::Option* mariage =
-                verbe.add_option("--union", o.mariage, "Numéro de l'union à changer");
-            verbe.add_option("--date-union", o.dateUnion)->needs(mariage);
-            verbe.add_option("--fin-union", o.finUnion, "Année de fin")->needs(mariage);
-            verbe.add_option("--lieu-union", o.lieuUnion)->needs(mariage);
-            verbe.add_option("--note-union", o.noteUnion)->needs(mariage);
+            const Option mariage =
+                verbe.Ajouter("--union", o.mariage, "Numéro de l'union à changer");
+            verbe.Ajouter("--date-union", o.dateUnion).Exige(mariage);
+            verbe.Ajouter("--fin-union", o.finUnion, "Année de fin").Exige(mariage);
+            verbe.Ajouter("--lieu-union", o.lieuUnion).Exige(mariage);
+            verbe.Ajouter("--note-union", o.noteUnion).Exige(mariage);
         },
         ModifierPersonne);
     Declarer<OptionsFiche>(
-        app, faire, "supprimer", "Supprime une personne sans famille ni liens",
-        [](CLI::App& verbe, OptionsFiche& o) { DeclarerNumero(verbe, o.numero); },
-        SupprimerPersonne);
-    const auto parente = [](CLI::App& verbe, OptionsLien& o) {
+        racine, "supprimer", "Supprime une personne sans famille ni liens",
+        [](Verbe& verbe, OptionsFiche& o) { DeclarerNumero(verbe, o.numero); }, SupprimerPersonne);
+    const auto parente = [](Verbe& verbe, OptionsLien& o) {
         DeclarerNumero(verbe, o.numero);
-        verbe.add_option("PARENTE", o.parente, "pere, mere, enfant, conjoint ou lien")
-            ->required()
-            ->check(CLI::IsMember({"pere", "mere", "enfant", "conjoint", "lien"}));
+        verbe.Ajouter("PARENTE", o.parente, "pere, mere, enfant, conjoint ou lien")
+            .Requise()
+            .Parmi({"pere", "mere", "enfant", "conjoint", "lien"});
     };
     Declarer<OptionsLien>(
-        app, faire, "lier",
-        "Donne à une personne un père, une mère, un enfant, un conjoint, un lien",
-        [parente](CLI::App& verbe, OptionsLien& o) {
+        racine, "lier", "Donne à une personne un père, une mère, un enfant, un conjoint, un lien",
+        [parente](Verbe& verbe, OptionsLien& o) {
             parente(verbe, o);
-            verbe.add_option("AUTRE", o.autre, "Numéro de l'autre personne")->required();
-            verbe.add_option("--libelle", o.libelle, "Libellé d'un lien");
+            verbe.Ajouter("AUTRE", o.autre, "Numéro de l'autre personne").Requise();
+            verbe.Ajouter("--libelle", o.libelle, "Libellé d'un lien");
         },
         Lier);
     Declarer<OptionsLien>(
-        app, faire, "delier", "Retire un parent, un enfant, une union, un lien",
-        [parente](CLI::App& verbe, OptionsLien& o) {
+        racine, "delier", "Retire un parent, un enfant, une union, un lien",
+        [parente](Verbe& verbe, OptionsLien& o) {
             parente(verbe, o);
-            verbe.add_option("AUTRE", o.autre, "Numéro de l'autre personne, sauf pour un parent");
-            verbe.add_option("--libelle", o.libelle, "Libellé du lien");
-            verbe.add_option("--union", o.mariage, "Numéro de l'union, s'il y en a plusieurs");
+            verbe.Ajouter("AUTRE", o.autre, "Numéro de l'autre personne, sauf pour un parent");
+            verbe.Ajouter("--libelle", o.libelle, "Libellé du lien");
+            verbe.Ajouter("--union", o.mariage, "Numéro de l'union, s'il y en a plusieurs");
         },
         Delier);
 }

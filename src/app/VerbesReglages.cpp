@@ -12,7 +12,7 @@
 
 #include <algorithm>
 #include <iostream>
-#include <memory>
+#include <nlohmann/json.hpp>
 
 namespace dorvane::outil {
 
@@ -105,44 +105,41 @@ int BasculerLigne(Atelier& atelier, const OptionsMotCle& o) {
     return fait ? Fait : Refus;
 }
 
-void DeclarerMotCle(CLI::App& app, std::function<int()>& faire) {
+void DeclarerMotCle(Verbe racine) {
     using O = OptionsMotCle;
-    CLI::App& verbe = *app.add_subcommand("motcle", "Les mots-clés d'une base");
-    verbe.require_subcommand(1);
-    const auto numero = [](CLI::App& v, O& o) {
-        v.add_option("K", o.mot, "Numéro du mot-clé")->required();
+    const Verbe verbe = racine.Groupe("motcle", "Les mots-clés d'une base");
+    const auto numero = [](Verbe& v, O& o) {
+        v.Ajouter("K", o.mot, "Numéro du mot-clé").Requise();
     };
     Declarer<O>(
-        verbe, faire, "lister", "Les mots-clés dans leur ordre",
-        [](CLI::App& v, O& o) { v.add_flag("--json", o.json); }, ListerMotsCles);
+        verbe, "lister", "Les mots-clés dans leur ordre",
+        [](Verbe& v, O& o) { v.Drapeau("--json", o.json); }, ListerMotsCles);
     Declarer<O>(
-        verbe, faire, "ajouter", "Ajoute un mot-clé et écrit son numéro",
-        [](CLI::App& v, O& o) {
-            v.add_option("CODE", o.code, "Un caractère")->required();
-            v.add_option("LIBELLE", o.libelle)->required();
-            v.add_flag("--indexe", o.indexe, "Indexe ses mots");
+        verbe, "ajouter", "Ajoute un mot-clé et écrit son numéro",
+        [](Verbe& v, O& o) {
+            v.Ajouter("CODE", o.code, "Un caractère").Requise();
+            v.Ajouter("LIBELLE", o.libelle).Requise();
+            v.Drapeau("--indexe", o.indexe, "Indexe ses mots");
         },
         AjouterMotCle);
     Declarer<O>(
-        verbe, faire, "modifier", "Change un mot-clé",
-        [numero](CLI::App& v, O& o) {
+        verbe, "modifier", "Change un mot-clé",
+        [numero](Verbe& v, O& o) {
             numero(v, o);
-            v.add_option("--code", o.code);
-            v.add_option("--libelle", o.libelle);
-            CLI::Option* indexe = v.add_flag("--indexe", o.indexe);
-            v.add_flag("--sans-index", o.sansIndex)->excludes(indexe);
+            v.Ajouter("--code", o.code);
+            v.Ajouter("--libelle", o.libelle);
+            const Option indexe = v.Drapeau("--indexe", o.indexe);
+            v.Drapeau("--sans-index", o.sansIndex).Exclut(indexe);
         },
         ModifierMotCle);
-    Declarer<O>(verbe, faire, "supprimer", "Supprime un mot-clé ; les textes restent", numero,
+    Declarer<O>(verbe, "supprimer", "Supprime un mot-clé ; les textes restent", numero,
                 EffacerMotCle);
     Declarer<O>(
-        verbe, faire, "ligne", "Met un mot-clé dans la fiche ou l'union, ou l'en retire",
-        [numero](CLI::App& v, O& o) {
+        verbe, "ligne", "Met un mot-clé dans la fiche ou l'union, ou l'en retire",
+        [numero](Verbe& v, O& o) {
             numero(v, o);
-            v.add_option("TABLE", o.table, "fiche ou union")
-                ->required()
-                ->check(CLI::IsMember({"fiche", "union"}));
-            v.add_flag("--datee", o.datee, "La ligne a une date");
+            v.Ajouter("TABLE", o.table, "fiche ou union").Requise().Parmi({"fiche", "union"});
+            v.Drapeau("--datee", o.datee, "La ligne a une date");
         },
         BasculerLigne);
 }
@@ -208,35 +205,39 @@ int EcrireParametre(const OptionsParametre& o) {
     return RefusSysteme;
 }
 
-void DeclarerParametre(CLI::App& app, std::function<int()>& faire) {
-    auto o = std::make_shared<OptionsParametre>();
-    CLI::App& verbe = *app.add_subcommand("parametre", "Les réglages du programme");
-    verbe.require_subcommand(1);
-    CLI::App* lire = verbe.add_subcommand("lire", "Les sections, les clés d'une, ou une valeur");
-    lire->add_option("SECTION", o->section);
-    lire->add_option("CLE", o->cle);
-    lire->callback([o, &faire] { faire = [o] { return LireParametre(*o); }; });
-    CLI::App* ecrire = verbe.add_subcommand("ecrire", "Change une valeur");
-    ecrire->add_option("SECTION", o->section)->required();
-    ecrire->add_option("CLE", o->cle)->required();
-    ecrire->add_option("VALEUR", o->valeur)->required();
-    ecrire->callback([o, &faire] { faire = [o] { return EcrireParametre(*o); }; });
-    for (CLI::App* sous : {lire, ecrire})
-        sous->alias(sous == lire ? "LIRE" : "ECRIRE");
+void DeclarerParametre(Verbe racine) {
+    const Verbe verbe = racine.Groupe("parametre", "Les réglages du programme");
+    Declarer<OptionsParametre>(
+        verbe, "lire", "Les sections, les clés d'une, ou une valeur",
+        [](Verbe& v, OptionsParametre& o) {
+            v.Ajouter("SECTION", o.section);
+            v.Ajouter("CLE", o.cle);
+            v.Alias("LIRE");
+        },
+        LireParametre);
+    Declarer<OptionsParametre>(
+        verbe, "ecrire", "Change une valeur",
+        [](Verbe& v, OptionsParametre& o) {
+            v.Ajouter("SECTION", o.section).Requise();
+            v.Ajouter("CLE", o.cle).Requise();
+            v.Ajouter("VALEUR", o.valeur).Requise();
+            v.Alias("ECRIRE");
+        },
+        EcrireParametre);
 }
 
 }  // namespace
 
-void DeclarerVerbesReglages(CLI::App& app, std::function<int()>& faire) {
-    DeclarerMotCle(app, faire);
+void DeclarerVerbesReglages(Verbe racine) {
+    DeclarerMotCle(racine);
     Declarer<OptionsRecherche>(
-        app, faire, "rechercher", "Les personnes dont le nom contient un texte",
-        [](CLI::App& v, OptionsRecherche& o) {
-            v.add_option("TEXTE", o.texte)->required();
-            v.add_flag("--json", o.json);
+        racine, "rechercher", "Les personnes dont le nom contient un texte",
+        [](Verbe& v, OptionsRecherche& o) {
+            v.Ajouter("TEXTE", o.texte).Requise();
+            v.Drapeau("--json", o.json);
         },
         ChercherNoms);
-    DeclarerParametre(app, faire);
+    DeclarerParametre(racine);
 }
 
 }  // namespace dorvane::outil

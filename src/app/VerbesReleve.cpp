@@ -7,8 +7,6 @@
 #include "values/Texte1252.h"
 
 #include <iostream>
-#include <map>
-#include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
@@ -76,22 +74,23 @@ int ImporterActes(const OptionsReleve& o) {
 
 }  // namespace
 
-void DeclarerVerbesReleve(CLI::App& app, std::function<int()>& faire) {
-    auto o = std::make_shared<OptionsReleve>();
-    CLI::App* releve =
-        app.add_subcommand("releve", "Fait une base d'un relevé d'actes tapé dans un tableur");
-    releve->add_option("SORTE", o->sorte, "bapteme, mariage, sepulture ou ascendance")
-        ->required()
-        ->transform(CLI::CheckedTransformer(
-            std::map<std::string, SorteReleve>{{"bapteme", SorteReleve::Bapteme},
-                                               {"mariage", SorteReleve::Mariage},
-                                               {"sepulture", SorteReleve::Sepulture},
-                                               {"ascendance", SorteReleve::Ascendance}}));
-    releve->add_option("FICHIER", o->fichier, "Le fichier .txt ou .csv")->required();
-    releve->add_option("--base", o->base, "Le fichier .LGD à écrire");
-    releve->add_flag("--remplacer", o->remplacer, "Remplace la base qui existe");
-    releve->add_flag("--json", o->json);
-    releve->callback([o, &faire] { faire = [o] { return ImporterActes(*o); }; });
+void DeclarerVerbesReleve(Verbe racine) {
+    Declarer<OptionsReleve>(
+        racine, "releve", "Fait une base d'un relevé d'actes tapé dans un tableur",
+        [](Verbe& v, OptionsReleve& o) {
+            v.Choix<SorteReleve>("SORTE", o.sorte,
+                                 {{"bapteme", SorteReleve::Bapteme},
+                                  {"mariage", SorteReleve::Mariage},
+                                  {"sepulture", SorteReleve::Sepulture},
+                                  {"ascendance", SorteReleve::Ascendance}},
+                                 "bapteme, mariage, sepulture ou ascendance")
+                .Requise();
+            v.Ajouter("FICHIER", o.fichier, "Le fichier .txt ou .csv").Requise();
+            v.Ajouter("--base", o.base, "Le fichier .LGD à écrire");
+            v.Drapeau("--remplacer", o.remplacer, "Remplace la base qui existe");
+            v.Drapeau("--json", o.json);
+        },
+        ImporterActes);
 }
 
 }  // namespace dorvane::outil

@@ -1,5 +1,4 @@
 #include "app/CommandeBase.h"
-#include "app/Commandes.h"
 #include "app/DecrirePersonne.h"
 #include "app/Verbes.h"
 #include "messages/Dorvane.h"
@@ -12,6 +11,7 @@
 #include "values/Texte1252.h"
 
 #include <iostream>
+#include <nlohmann/json.hpp>
 
 namespace dorvane::outil {
 
@@ -30,7 +30,7 @@ bool DitDuSysteme(NoMessage message) {
 int Reorganiser(const OptionsSoin& o) {
     const std::filesystem::path chemin = shell::CheminEntier(o.base);
     if (!o.sansSauvegarde)
-        if (const int statut = Sauvegarder(chemin); statut != Fait) return statut;
+        if (const int statut = SauvegarderBase(chemin); statut != Fait) return statut;
     Atelier atelier{{}};
     if (shell::ReecrireBase(atelier.session, chemin) == shell::IssueSoin::Faite) return Fait;
     return DitDuSysteme(atelier.dialogue.dernier) ? RefusSysteme : Refus;
@@ -60,7 +60,7 @@ int Controler(Atelier& atelier, const OptionsSoin& o) {
 /// The copy is made of the closed file, before anything else.
 int Depanner(const OptionsSoin& o) {
     if (!o.sansSauvegarde)
-        if (const int statut = Sauvegarder(o.base); statut != Fait) return statut;
+        if (const int statut = SauvegarderBase(o.base); statut != Fait) return statut;
     records::BilanDepannage bilan;
     const int statut = AvecBase(o, [&bilan](Atelier& atelier) {
         bilan = records::DepannerBase(atelier.session, false);
@@ -73,30 +73,26 @@ int Depanner(const OptionsSoin& o) {
     return Fait;
 }
 
-void DeclarerSeul(CLI::App& app, std::function<int()>& faire, const char* nom, const char* aide,
-                  int (*travail)(const OptionsSoin&)) {
-    auto options = std::make_shared<OptionsSoin>();
-    CLI::App* verbe = app.add_subcommand(nom, aide);
-    DeclarerBase(*verbe, *options);
-    verbe->add_flag("--sans-sauvegarde", options->sansSauvegarde, "Ne copie pas la base en .SAV");
-    verbe->callback(
-        [options, travail, &faire] { faire = [options, travail] { return travail(*options); }; });
+/// A verb that opens the base itself, once it is copied.
+void DeclarerSeul(Verbe& verbe, OptionsSoin& options) {
+    DeclarerBase(verbe, options);
+    verbe.Drapeau("--sans-sauvegarde", options.sansSauvegarde, "Ne copie pas la base en .SAV");
 }
 
 }  // namespace
 
-void DeclarerVerbesSoin(CLI::App& app, std::function<int()>& faire) {
-    DeclarerSeul(app, faire, "reorganiser",
-                 "Réécrit la base sans ce qui n'y sert plus ; la copie d'abord en .SAV",
-                 Reorganiser);
+void DeclarerVerbesSoin(Verbe racine) {
+    Declarer<OptionsSoin>(racine, "reorganiser",
+                          "Réécrit la base sans ce qui n'y sert plus ; la copie d'abord en .SAV",
+                          DeclarerSeul, Reorganiser);
     Declarer<OptionsSoin>(
-        app, faire, "controler",
+        racine, "controler",
         "Dit ce qui paraît faux : numéro, anomalie et nom, un par ligne ; statut 1 s'il y en a",
-        [](CLI::App& v, OptionsSoin& o) { v.add_flag("--json", o.json); }, Controler);
-    DeclarerSeul(app, faire, "depanner",
-                 "Répare les liens de la base ; la copie d'abord en .SAV ; dit combien de "
-                 "réparations, et où est leur compte rendu",
-                 Depanner);
+        [](Verbe& v, OptionsSoin& o) { v.Drapeau("--json", o.json); }, Controler);
+    Declarer<OptionsSoin>(racine, "depanner",
+                          "Répare les liens de la base ; la copie d'abord en .SAV ; dit combien de "
+                          "réparations, et où est leur compte rendu",
+                          DeclarerSeul, Depanner);
 }
 
 }  // namespace dorvane::outil

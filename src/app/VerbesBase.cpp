@@ -1,26 +1,27 @@
-#include "app/Commandes.h"
-
-#include "app/Atelier.h"
-#include "app/Calculer.h"
+#include "app/CommandeBase.h"
 #include "app/DecrirePersonne.h"
+#include "app/Verbes.h"
 #include "messages/Dorvane.h"
 #include "messages/Messages.h"
-#include "shell/CompilerCatalogue.h"
 #include "shell/CycleDeVie.h"
-#include "shell/FichierSur.h"
 #include "storage/Base.h"
 #include "values/Texte1252.h"
 
-#include <array>
 #include <iostream>
-#include <optional>
+#include <nlohmann/json.hpp>
 #include <system_error>
-#include <utility>
 
 namespace dorvane::outil {
 namespace {
 
 namespace fs = std::filesystem;
+
+struct OptionsFichier {
+    std::string base;
+    std::uint32_t numero = 0;
+    bool json = false;
+    bool remplacer = false;
+};
 
 std::string NomAffichable(const fs::path& chemin) {
     return Utf8VersTexte(chemin.string()).octets;
@@ -67,9 +68,8 @@ void Ecrire(const Json& objet, bool json) {
         EcrireEnClair(std::cout, objet);
 }
 
-}  // namespace
-
-int Creer(const fs::path& base) {
+int Creer(const OptionsFichier& o) {
+    const fs::path base = o.base;
     Atelier atelier{{}};
     std::error_code erreur;
     if (fs::exists(base, erreur)) {
@@ -94,62 +94,49 @@ int Creer(const fs::path& base) {
     return RefusSysteme;
 }
 
-int DonnerInfos(const fs::path& base, bool json) {
+int DonnerInfos(const OptionsFichier& o) {
     Atelier atelier{{}};
-    if (const int statut = atelier.Ouvrir(base); statut != Fait) return statut;
-    Ecrire(DecrireBase(*atelier.session.base), json);
+    if (const int statut = atelier.Ouvrir(o.base); statut != Fait) return statut;
+    Ecrire(DecrireBase(*atelier.session.base), o.json);
     return atelier.Fermer();
 }
 
-int Lister(const fs::path& base, bool json) {
+int Lister(const OptionsFichier& o) {
     Atelier atelier{{}};
-    if (const int statut = atelier.Ouvrir(base); statut != Fait) return statut;
+    if (const int statut = atelier.Ouvrir(o.base); statut != Fait) return statut;
     storage::Base& ouverte = *atelier.session.base;
-    if (json) std::cout << '[';
+    if (o.json) std::cout << '[';
     bool premiere = true;
     for (std::uint32_t rang = 1; rang <= ouverte.entete.NbTriIndividus; ++rang) {
         const NoOrdre n = ouverte.R_TRI.IndividuAuRang(rang);
         if (!n) continue;
         const Json ligne = DecrireLigne(ouverte, n);
-        if (json)
+        if (o.json)
             std::cout << (premiere ? "\n" : ",\n") << EnTexte(ligne, -1);
         else
             EcrireLigne(std::cout, ligne);
         premiere = false;
     }
-    if (json) std::cout << "\n]\n";
+    if (o.json) std::cout << "\n]\n";
     return atelier.Fermer();
 }
 
-int MontrerPersonne(const fs::path& base, std::uint32_t numero, bool json) {
+int MontrerPersonne(const OptionsFichier& o) {
     Atelier atelier{{}};
-    if (const int statut = atelier.Ouvrir(base); statut != Fait) return statut;
+    if (const int statut = atelier.Ouvrir(o.base); statut != Fait) return statut;
     storage::Base& ouverte = *atelier.session.base;
-    const NoOrdre n{numero};
-    if (!n || numero > ouverte.entete.DernierIndividu || ouverte.R_TRI.RangIndividu(n) == 0) {
+    const NoOrdre n{o.numero};
+    if (!n || o.numero > ouverte.entete.DernierIndividu || ouverte.R_TRI.RangIndividu(n) == 0) {
         atelier.dialogue.Informer(
-            shell::Msg(message::NumeroDePersonneInexistant, std::to_string(numero)));
+            shell::Msg(message::NumeroDePersonneInexistant, std::to_string(o.numero)));
         return Refus;
     }
-    Ecrire(DecrirePersonne(ouverte, n), json);
+    Ecrire(DecrirePersonne(ouverte, n), o.json);
     return atelier.Fermer();
 }
 
-int Sauvegarder(const fs::path& base) {
-    Atelier atelier{{}};
-    if (const int statut = atelier.Ouvrir(base); statut != Fait) return statut;
-    // Only a whole, closed file is copied: a leftover journal was replayed by the opening.
-    if (const int statut = atelier.Fermer(); statut != Fait) return statut;
-    const fs::path copie = shell::CheminSauvegarde(base);
-    if (!shell::CopierTout(base, copie)) {
-        atelier.dialogue.Informer(shell::Msg(message::SauvegardeNonEcrite, NomAffichable(copie)));
-        return RefusSysteme;
-    }
-    std::cout << copie.string() << '\n';
-    return Fait;
-}
-
-int Restaurer(const fs::path& sauvegarde, bool remplacer) {
+int Restaurer(const OptionsFichier& o) {
+    const fs::path sauvegarde = o.base;
     Atelier atelier{{}};
     std::error_code erreur;
     if (!fs::exists(sauvegarde, erreur)) {
@@ -157,7 +144,7 @@ int Restaurer(const fs::path& sauvegarde, bool remplacer) {
         return RefusSysteme;
     }
     atelier.dialogue.fichier = sauvegarde;
-    if (remplacer) atelier.dialogue.reponse = shell::Reponse::Oui;
+    if (o.remplacer) atelier.dialogue.reponse = shell::Reponse::Oui;
     shell::MnuRestauration(atelier.session);
     if (!atelier.session.BaseOuverte())
         return atelier.dialogue.dernier == message::SauvegardeNonRecopiee ? RefusSysteme : Refus;
@@ -165,51 +152,40 @@ int Restaurer(const fs::path& sauvegarde, bool remplacer) {
     return atelier.Fermer();
 }
 
-int CompilerCatalogues(const std::vector<std::string>& sources, const fs::path& dossier) {
-    std::vector<shell::SourceCatalogue> textes;
-    for (const std::string& source : sources) {
-        const std::optional<std::string> texte = shell::LireTout(source);
-        if (!texte) {
-            std::cerr << source << ": illisible\n";
-            return RefusSysteme;
-        }
-        textes.push_back({source, *texte});
-    }
-    constexpr std::array<std::pair<const char*, const char*>, 2> Langues{
-        {{"fr", "Français.mes"}, {"en", "English.mes"}}};
-    for (const auto& [colonne, fichier] : Langues) {
-        const shell::CatalogueCompile compile = shell::CompilerCatalogue(textes, colonne);
-        for (const shell::ErreurCatalogue& e : compile.erreurs)
-            std::cerr << e.source << ':' << e.ligne << ": " << colonne << ": " << e.texte << '\n';
-        if (!compile.erreurs.empty()) return Refus;
-        if (!shell::EcrireTout(dossier / fichier, compile.octets)) {
-            std::cerr << (dossier / fichier).string() << ": refus\n";
-            return RefusSysteme;
-        }
-    }
-    return Fait;
+void DeclarerFichier(Verbe& v, OptionsFichier& o) {
+    v.Ajouter("BASE", o.base).Requise();
 }
 
-int ListerCatalogue(const fs::path& fichier) {
-    constexpr std::uint32_t DernierMessage = 32000;
-    shell::Catalogue catalogue;
-    if (!catalogue.Ouvrir(fichier)) {
-        std::cerr << fichier.string() << ": illisible\n";
-        return RefusSysteme;
-    }
-    for (std::uint32_t no = 1; no <= DernierMessage; ++no)
-        if (const std::string texte = catalogue.Message(NoMessage{no}); !texte.empty())
-            std::cout << no << '\t' << TexteVersUtf8(texte) << '\n';
-    return Fait;
+void DeclarerLecture(Verbe& v, OptionsFichier& o) {
+    DeclarerFichier(v, o);
+    v.Drapeau("--json", o.json);
 }
 
-int CalculerValeurs(const std::string& operation, const std::vector<std::string>& arguments,
-                    const std::string& langue) {
-    const Atelier atelier{langue};
-    if (operation == "-") return ServirCalculs(std::cin, std::cout, atelier.session.Mots());
-    const Calcul calcul = Calculer(operation, arguments, atelier.session.Mots());
-    (calcul.correct ? std::cout : std::cerr) << calcul.texte << '\n';
-    return calcul.correct ? Fait : MauvaisUsage;
+}  // namespace
+
+void DeclarerVerbesBase(Verbe racine) {
+    using O = OptionsFichier;
+    Declarer<O>(racine, "nouveau", "Crée une base vide", DeclarerFichier, Creer);
+    Declarer<O>(racine, "infos", "Dit ce qu'une base contient", DeclarerLecture, DonnerInfos);
+    Declarer<O>(racine, "lister", "Liste les personnes dans l'ordre de tri", DeclarerLecture,
+                Lister);
+    Declarer<O>(
+        racine, "personne", "Montre tout d'une personne",
+        [](Verbe& v, O& o) {
+            DeclarerFichier(v, o);
+            v.Ajouter("N", o.numero).Requise();
+            v.Drapeau("--json", o.json);
+        },
+        MontrerPersonne);
+    Declarer<O>(racine, "sauvegarder", "Copie une base en .SAV", DeclarerFichier,
+                [](const O& o) { return SauvegarderBase(o.base); });
+    Declarer<O>(
+        racine, "restaurer", "Reprend une base d'un .SAV",
+        [](Verbe& v, O& o) {
+            v.Ajouter("SAV", o.base).Requise();
+            v.Drapeau("--remplacer", o.remplacer, "Remplace la base qui existe");
+        },
+        Restaurer);
 }
 
 }  // namespace dorvane::outil

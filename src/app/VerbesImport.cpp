@@ -1,12 +1,13 @@
 #include "app/Atelier.h"
-#include "app/Commandes.h"
 #include "app/DecrirePersonne.h"
+#include "app/Verbes.h"
 #include "interchange/commandes/Importer.h"
 #include "messages/Dorvane.h"
 #include "values/Texte1252.h"
 
 #include <array>
 #include <iostream>
+#include <nlohmann/json.hpp>
 #include <system_error>
 
 namespace dorvane::outil {
@@ -14,6 +15,15 @@ namespace {
 
 namespace fs = std::filesystem;
 using interchange::Constat;
+
+struct OptionsImport {
+    std::string fichier;
+    std::string base;  ///< empty: the name of the file with ".LGD", beside it
+    bool remplacer = false;
+    bool trier = false;
+    bool json = false;
+    std::string langue;
+};
 
 constexpr std::array<std::pair<Constat, const char*>, 10> NomsDesConstats{
     {{Constat::NonRepris, "nonRepris"},
@@ -62,8 +72,6 @@ int StatutDuRefus(NoMessage dernier) {
                : Refus;
 }
 
-}  // namespace
-
 int Importer(const OptionsImport& options) {
     Atelier atelier{options.langue};
     fs::path base = options.base;
@@ -87,6 +95,22 @@ int Importer(const OptionsImport& options) {
     else
         std::cout << TexteVersUtf8(importation.texte);
     return Fait;
+}
+
+}  // namespace
+
+void DeclarerVerbesImport(Verbe racine) {
+    Declarer<OptionsImport>(
+        racine, "importer", "Fait une base d'un fichier GEDCOM ou d'un fichier d'échange .lgr",
+        [](Verbe& v, OptionsImport& o) {
+            v.Ajouter("FICHIER", o.fichier).Requise();
+            v.Ajouter("--base", o.base, "Le fichier .LGD à écrire");
+            v.Drapeau("--remplacer", o.remplacer, "Remplace la base qui existe");
+            v.Drapeau("--trier", o.trier, "Trie les personnes");
+            v.Ajouter("--langue", o.langue, "Catalogue des textes, Français ou English");
+            v.Drapeau("--json", o.json);
+        },
+        Importer);
 }
 
 }  // namespace dorvane::outil
