@@ -2,6 +2,7 @@
 
 #include "interchange/EssaiImport.h"
 
+#include <nlohmann/json.hpp>
 #include <string>
 
 using namespace dorvane;
