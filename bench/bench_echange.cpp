@@ -18,7 +18,7 @@ namespace {
 using interchange::JeuExport;
 
 std::string Composer(JeuExport jeu) {
-    interchange::OptionsExport options;
+    interchange::OptionsGedcom options;
     options.jeu = jeu;
     std::string octets;
     interchange::ComptesExport comptes;
@@ -42,14 +42,14 @@ BENCHMARK_CAPTURE(Limite, ansi, JeuExport::Ansi)->Unit(benchmark::kMillisecond);
 
 void Exporter(benchmark::State& etat, JeuExport jeu) {
     Banc& banc = LeBanc();
-    interchange::OptionsExport options;
+    interchange::OptionsGedcom options;
     options.jeu = jeu;
     for (auto _ : etat) {
         // As after opening: nothing is read ahead.
         banc.B().InitColonnes();
         const auto resultat =
             interchange::ExporterGedcom(banc.session, banc.dossier / "x.ged", options);
-        if (resultat.issue != interchange::IssueExport::Fait) std::abort();
+        if (resultat.issue.cause != shell::Cause::Fait) std::abort();
         etat.counters["persons"] = resultat.comptes.individus;
     }
 }
@@ -62,9 +62,7 @@ void ExporterTexteDEchange(benchmark::State& etat) {
     Banc& banc = LeBanc();
     for (auto _ : etat) {
         banc.B().InitColonnes();
-        if (interchange::ExporterLgr(banc.session, banc.dossier / "x.lgr", {}).issue !=
-            interchange::IssueExport::Fait)
-            std::abort();
+        if (!interchange::ExporterLgr(banc.session, banc.dossier / "x.lgr", {}).issue) std::abort();
     }
 }
 BENCHMARK(ExporterTexteDEchange)->Unit(benchmark::kMillisecond);

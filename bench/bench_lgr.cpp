@@ -21,7 +21,7 @@ namespace {
 const std::string& Texte() {
     static const std::string Octets = [] {
         std::string octets;
-        interchange::ComptesLgr comptes;
+        interchange::ComptesExport comptes;
         if (!interchange::ComposerLgr(LeBanc().session, {}, octets, comptes)) std::abort();
         return octets;
     }();
@@ -48,8 +48,7 @@ BENCHMARK(LireEtEcrireAutant)->Unit(benchmark::kMillisecond);
 
 void Exporter(benchmark::State& etat) {
     for (auto _ : etat)
-        if (interchange::ExporterLgr(LeBanc().session, LeBanc().dossier / "sortie.lgr", {}).issue !=
-            interchange::IssueExport::Fait)
+        if (!interchange::ExporterLgr(LeBanc().session, LeBanc().dossier / "sortie.lgr", {}).issue)
             std::abort();
 }
 BENCHMARK(Exporter)->Unit(benchmark::kMillisecond);
@@ -70,9 +69,8 @@ BENCHMARK(Lire)->Unit(benchmark::kMillisecond);
 void Importer(benchmark::State& etat) {
     for (auto _ : etat) {
         interchange::RapportImport rapport;
-        if (interchange::ImporterOctetsLgr(LeBanc().session, Texte(),
-                                           LeBanc().dossier / "import.LGD",
-                                           rapport) != interchange::IssueImport::Fait)
+        if (!interchange::ImporterOctetsLgr(LeBanc().session, Texte(), "import.lgr",
+                                            LeBanc().dossier / "import.LGD", rapport))
             std::abort();
     }
 }

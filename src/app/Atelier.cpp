@@ -21,18 +21,8 @@ Atelier::Atelier(const std::string& langue)
 int Atelier::Ouvrir(const std::filesystem::path& chemin) {
     shell::RelaisAvancement avancement{progression, session.catalogue};
     storage::ResultatOuverture resultat = storage::OuvrirBase(session.disque, chemin, avancement);
-    shell::DireOuverture(session, resultat.etat, chemin);
-    switch (resultat.etat) {
-        case storage::Ouverture::Faite:
-            break;
-        case storage::Ouverture::Introuvable:
-        case storage::Ouverture::Refusee:
-            return RefusSysteme;
-        case storage::Ouverture::Occupee:
-        case storage::Ouverture::PasUneBase:
-        case storage::Ouverture::Abimee:
-            return Refus;
-    }
+    const shell::Issue issue = shell::Dire(dialogue, shell::IssueDOuverture(resultat.etat, chemin));
+    if (!issue) return Statut(issue);
     session.CheminBase = shell::CheminEntier(chemin);
     session.NomBase = shell::DeriverChemins(session.CheminBase).nom;
     session.PoserBase(std::move(resultat.base));

@@ -1,7 +1,6 @@
 #include "app/CommandeBase.h"
 
 #include "messages/Dorvane.h"
-#include "messages/Messages.h"
 #include "messages/Outil.h"
 #include "records/Famille.h"
 #include "shell/CycleDeVie.h"

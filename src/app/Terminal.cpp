@@ -13,7 +13,6 @@ std::string DialogueTerminal::EnClair(const shell::Phrase& phrase) const {
 }
 
 void DialogueTerminal::Informer(const shell::Phrase& texte, const shell::Phrase& titre) {
-    dernier = texte.no;
     const std::string tete = titre.EstVide() ? std::string{} : EnClair(titre) + ": ";
     std::cerr << tete << EnClair(texte) << '\n';
 }

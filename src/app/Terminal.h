@@ -23,8 +23,6 @@ public:
     std::optional<shell::Reponse> reponse;
     /// What a command that asks for a file is given.
     std::filesystem::path fichier;
-    /// The message shown last; none for a literal.
-    NoMessage dernier{};
 
     void Informer(const shell::Phrase& texte, const shell::Phrase& titre) override;
     void Annoncer(const shell::Phrase& texte) override;

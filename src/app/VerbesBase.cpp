@@ -80,18 +80,16 @@ int Creer(const OptionsFichier& o) {
     const shell::ReglagesGeneraux& generaux = atelier.session.parametres.generaux;
     storage::ResultatOuverture nouvelle = storage::NouvelleBase(
         atelier.session.disque, base, {'1', generaux.motClePrenom, generaux.motCleNom});
-    if (nouvelle.etat == storage::Ouverture::Faite) {
+    shell::Issue issue = shell::IssueDeCreation(nouvelle.etat, base);
+    if (issue) {
         nouvelle.base->marques.ModifBase = true;
         if (nouvelle.base->Fermer()) return Fait;
+        issue = shell::IssueDeCreation(storage::Ouverture::Refusee, base);
     }
     nouvelle.base.reset();
-    if (nouvelle.etat == storage::Ouverture::Occupee) {
-        atelier.dialogue.Informer(shell::Msg(message::BaseOccupee, NomAffichable(base)));
-        return Refus;
-    }
-    (void)atelier.session.disque.Supprimer(base);
-    atelier.dialogue.Informer(shell::Msg(message::CreationBaseRefusee, NomAffichable(base)));
-    return RefusSysteme;
+    // What could not be written is no base.
+    if (issue.cause == shell::Cause::Systeme) (void)atelier.session.disque.Supprimer(base);
+    return Statut(shell::Dire(atelier.dialogue, issue));
 }
 
 int DonnerInfos(const OptionsFichier& o) {
@@ -145,9 +143,8 @@ int Restaurer(const OptionsFichier& o) {
     }
     atelier.dialogue.fichier = sauvegarde;
     if (o.remplacer) atelier.dialogue.reponse = shell::Reponse::Oui;
-    shell::MnuRestauration(atelier.session);
-    if (!atelier.session.BaseOuverte())
-        return atelier.dialogue.dernier == message::SauvegardeNonRecopiee ? RefusSysteme : Refus;
+    if (const shell::Issue issue = shell::MnuRestauration(atelier.session); !issue)
+        return Statut(issue);
     std::cout << atelier.session.CheminBase.string() << '\n';
     return atelier.Fermer();
 }

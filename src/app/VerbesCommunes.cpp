@@ -32,20 +32,20 @@ std::string EnTexte(const std::string& chemin) {
     return Utf8VersTexte(chemin).octets;
 }
 
-/// The communes of a list; nothing once a message has told why not.
-std::optional<std::vector<storage::Commune>> LireListe(Atelier& atelier, const std::string& nom) {
-    std::optional<interchange::ListeCommunes> liste =
-        interchange::LireListeCommunes(atelier.dialogue, nom);
-    if (!liste) return {};
-    for (const std::size_t ligne : liste->sansNom)
+/// Reads a list, and tells of it what is left out.
+shell::Issue LireListe(Atelier& atelier, const std::string& nom,
+                       interchange::ListeCommunes& liste) {
+    shell::Issue issue = shell::Dire(atelier.dialogue, interchange::LireListeCommunes(nom, liste));
+    if (!issue) return issue;
+    for (const std::size_t ligne : liste.sansNom)
         atelier.dialogue.Informer(shell::Msg(message::LigneDeListeSansNom, std::to_string(ligne)));
-    for (const std::size_t ligne : liste->tropLongues)
+    for (const std::size_t ligne : liste.tropLongues)
         atelier.dialogue.Informer(
             shell::Msg(message::LigneDeListeTropLongue, std::to_string(ligne)));
-    if (liste->remplaces != 0)
-        atelier.dialogue.Informer(shell::Msg(message::ListeCommunesHorsJeuDeCaracteres,
-                                             std::to_string(liste->remplaces)));
-    return std::move(liste->communes);
+    if (liste.remplaces != 0)
+        atelier.dialogue.Informer(
+            shell::Msg(message::ListeCommunesHorsJeuDeCaracteres, std::to_string(liste.remplaces)));
+    return issue;
 }
 
 int CreerCommunes(const OptionsCommunes& o) {
@@ -57,23 +57,18 @@ int CreerCommunes(const OptionsCommunes& o) {
         question.defaut = shell::Reponse::Non;
         if (atelier.dialogue.Demander(question) != shell::Reponse::Oui) return Refus;
     }
-    std::vector<storage::Commune> communes;
-    if (!o.liste.empty()) {
-        std::optional<std::vector<storage::Commune>> lues = LireListe(atelier, o.liste);
-        if (!lues)
-            return atelier.dialogue.dernier == message::ListeCommunesIllisible ? RefusSysteme
-                                                                               : Refus;
-        communes = std::move(*lues);
-    }
+    interchange::ListeCommunes liste;
+    if (!o.liste.empty())
+        if (const shell::Issue lue = LireListe(atelier, o.liste, liste); !lue) return Statut(lue);
     storage::DisqueReel disque;
     storage::AvancementMuet muet;
     std::string octets;
-    if (!storage::ComposerLgx(communes, muet, octets) ||
+    if (!storage::ComposerLgx(liste.communes, muet, octets) ||
         !storage::EcrireLgx(disque, o.fichier, o.fichier + ".nouveau", octets)) {
         atelier.dialogue.Informer(shell::Msg(message::FichierCommunesNonEcrit, EnTexte(o.fichier)));
         return RefusSysteme;
     }
-    std::cout << communes.size() << '\n';
+    std::cout << liste.communes.size() << '\n';
     return Fait;
 }
 

@@ -16,8 +16,7 @@ struct OptionsIntegrer : OptionsBase {
 int Integrer(Atelier& atelier, const OptionsIntegrer& o) {
     const interchange::Integration integration =
         interchange::IntegrerLgr(atelier.session, o.fichier);
-    if (integration.issue == interchange::IssueIntegration::Illisible) return RefusSysteme;
-    if (integration.issue != interchange::IssueIntegration::Faite) return Refus;
+    if (!integration.issue) return Statut(integration.issue);
     std::cout << TexteVersUtf8(integration.texte);
     return Fait;
 }

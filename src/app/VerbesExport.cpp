@@ -1,12 +1,8 @@
 #include "app/CommandeBase.h"
 #include "app/Verbes.h"
-#include "interchange/commun/SelectionExport.h"
-#include "interchange/gedcom/ExportGedcom.h"
-#include "interchange/lgr/EcrireLgr.h"
+#include "interchange/commandes/LancerExport.h"
 #include "messages/Export.h"
-#include "storage/Base.h"
 #include "values/Comparaison.h"
-#include "values/Texte1252.h"
 
 #include <filesystem>
 #include <iostream>
@@ -29,63 +25,36 @@ bool EstLgr(const std::filesystem::path& sortie) {
     return EnMajuscules(sortie.extension().string()) == ".LGR";
 }
 
-/// Who is written, and whether all events and documents are. False when there is no such person.
-bool Selectionner(Atelier& atelier, const OptionsExporter& o, std::vector<bool>& choisis,
-                  bool& complet) {
+interchange::DemandeExport Demander(const Atelier& atelier, const OptionsExporter& o) {
     using interchange::SensExport;
-    interchange::ReglagesSelection reglages = o.reglages;
-    interchange::SelectionExport selection{*atelier.session.base};
+    interchange::DemandeExport demande;
+    if (EstLgr(o.sortie)) demande.format = interchange::FormatExport::Dorvane;
+    demande.jeu =
+        o.jeu.value_or(interchange::JeuDuReglage(atelier.session.parametres.generaux.jeuExport));
+    demande.reduit = o.reduit;
+    demande.reglages = o.reglages;
     const std::uint32_t depart = o.ascendants != 0 ? o.ascendants : o.descendants;
-    if (depart != 0) {
-        if (!PersonneExiste(atelier, depart)) return false;
-        selection.MarquerParente(
-            NoOrdre{depart}, o.ascendants != 0 ? SensExport::Ascendants : SensExport::Descendants,
-            o.generations);
-    } else {
-        selection.MarquerTous();
-        reglages.complet = true;
-    }
-    choisis = selection.Choisis(reglages);
-    complet = interchange::ExportComplet(reglages);
-    return true;
-}
-
-int Rapporter(Atelier& atelier, const OptionsExporter& o, bool fait, std::uint32_t individus,
-              std::uint32_t familles, std::uint32_t evenements, std::uint32_t documents) {
-    if (!fait) {
-        atelier.dialogue.Informer(
-            shell::Msg(message::FichierNonEcrit, Utf8VersTexte(o.sortie).octets));
-        return RefusSysteme;
-    }
-    std::cout << individus << ' ' << familles << ' ' << evenements << ' ' << documents << '\n';
-    return Fait;
+    demande.entiere = depart == 0;
+    demande.parcours = {{NoOrdre{depart},
+                         o.ascendants != 0 ? SensExport::Ascendants : SensExport::Descendants,
+                         o.generations}};
+    return demande;
 }
 
 int Exporter(Atelier& atelier, const OptionsExporter& o) {
-    std::vector<bool> choisis;
-    bool complet = true;
-    if (!Selectionner(atelier, o, choisis, complet)) return Refus;
-    if (EstLgr(o.sortie)) {
-        const interchange::ResultatLgr r =
-            interchange::ExporterLgr(atelier.session, o.sortie, {std::move(choisis), complet});
-        const interchange::ComptesLgr& c = r.comptes;
-        return Rapporter(atelier, o, r.issue == interchange::IssueExport::Fait, c.individus,
-                         c.unions, c.evenements, c.documents);
-    }
-    interchange::OptionsExport options;
-    options.jeu =
-        o.jeu.value_or(interchange::JeuDuReglage(atelier.session.parametres.generaux.jeuExport));
-    options.reduit = o.reduit;
-    options.choisis = std::move(choisis);
-    options.complet = complet;
+    const interchange::DemandeExport demande = Demander(atelier, o);
+    if (!demande.entiere && !PersonneExiste(atelier, demande.parcours.front().depart.valeur))
+        return Refus;
     const interchange::ResultatExport r =
-        interchange::ExporterGedcom(atelier.session, o.sortie, options);
+        interchange::ExporterVers(atelier.session, demande, o.sortie);
     const interchange::ComptesExport& c = r.comptes;
     if (c.perdus > 0)
         atelier.dialogue.Informer(
             shell::Msg(message::CaracteresPerdusALExport, std::to_string(c.perdus)));
-    return Rapporter(atelier, o, r.issue == interchange::IssueExport::Fait, c.individus, c.familles,
-                     c.evenements, c.documents);
+    if (r.issue)
+        std::cout << c.individus << ' ' << c.unions << ' ' << c.evenements << ' ' << c.documents
+                  << '\n';
+    return Statut(shell::Dire(atelier.dialogue, r.issue));
 }
 
 /// Who is written.

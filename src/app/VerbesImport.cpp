@@ -65,13 +65,6 @@ Json DecrireImport(const interchange::Importation& importation, const fs::path& 
             {"constats", DecrireRapport(r)}};
 }
 
-/// The exit status of an import that was not done: only what the system refused is its fault.
-int StatutDuRefus(NoMessage dernier) {
-    return dernier == message::FichierIllisible || dernier == message::BaseImporteeNonEcrite
-               ? RefusSysteme
-               : Refus;
-}
-
 int Importer(const OptionsImport& options) {
     Atelier atelier{options.langue};
     fs::path base = options.base;
@@ -89,7 +82,7 @@ int Importer(const OptionsImport& options) {
     atelier.dialogue.reponse = options.trier ? shell::Reponse::Oui : shell::Reponse::Non;
     const interchange::Importation importation =
         interchange::ImporterVers(atelier.session, options.fichier, base);
-    if (!importation.faite) return StatutDuRefus(atelier.dialogue.dernier);
+    if (!importation.issue) return Statut(importation.issue);
     if (options.json)
         std::cout << EnTexte(DecrireImport(importation, base)) << '\n';
     else

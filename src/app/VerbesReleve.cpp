@@ -63,8 +63,7 @@ int ImporterActes(const OptionsReleve& o) {
     }
     const interchange::Importation importation =
         interchange::ImporterActesVers(atelier.session, releve, o.fichier, base);
-    if (!importation.faite)
-        return atelier.dialogue.dernier == message::BaseImporteeNonEcrite ? RefusSysteme : Refus;
+    if (!importation.issue) return Statut(importation.issue);
     if (o.json)
         std::cout << EnJson(importation.releve, atelier.session).dump(2) << '\n';
     else

@@ -1,9 +1,6 @@
 #include "app/CommandeBase.h"
 #include "app/DecrirePersonne.h"
 #include "app/Verbes.h"
-#include "messages/Dorvane.h"
-#include "messages/Messages.h"
-#include "messages/Soin.h"
 #include "records/ControleBase.h"
 #include "records/Depannage.h"
 #include "shell/CycleDeVie.h"
@@ -21,19 +18,12 @@ struct OptionsSoin : OptionsBase {
     bool sansSauvegarde = false;
 };
 
-/// Messages that tell of the file system, not of the base.
-bool DitDuSysteme(NoMessage message) {
-    return message == message::NouveauFichierNonEcrit || message == message::FichierDisparu ||
-           message == message::AccesBaseRefuse;
-}
-
 int Reorganiser(const OptionsSoin& o) {
     const std::filesystem::path chemin = shell::CheminEntier(o.base);
     if (!o.sansSauvegarde)
         if (const int statut = SauvegarderBase(chemin); statut != Fait) return statut;
     Atelier atelier{{}};
-    if (shell::ReecrireBase(atelier.session, chemin) == shell::IssueSoin::Faite) return Fait;
-    return DitDuSysteme(atelier.dialogue.dernier) ? RefusSysteme : Refus;
+    return Statut(shell::ReecrireBase(atelier.session, chemin));
 }
 
 int Controler(Atelier& atelier, const OptionsSoin& o) {
@@ -64,7 +54,7 @@ int Depanner(const OptionsSoin& o) {
     records::BilanDepannage bilan;
     const int statut = AvecBase(o, [&bilan](Atelier& atelier) {
         bilan = records::DepannerBase(atelier.session, false);
-        return bilan.fait ? Fait : Refus;
+        return Statut(bilan.issue);
     });
     // Nothing is mended before it is committed.
     if (statut != Fait) return statut;

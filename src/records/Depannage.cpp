@@ -9,6 +9,8 @@
 #include "values/Comparaison.h"
 #include "values/Texte1252.h"
 
+#include <utility>
+
 namespace dorvane::records {
 
 namespace {
@@ -66,10 +68,11 @@ bool AtelierDepannage::Continuer(std::uint32_t fait, std::uint32_t total) {
 BilanDepannage DepannerBase(shell::Session& session, bool sauvegarder) {
     BilanDepannage bilan;
     if (!session.base) return bilan;
-    if (sauvegarder && !shell::Sauvegarder(session)) {
-        session.ecran.Actualiser();
-        return bilan;
-    }
+    if (sauvegarder)
+        if (shell::Issue copiee = shell::Sauvegarder(session); !copiee) {
+            session.ecran.Actualiser();
+            return {.issue = std::move(copiee)};
+        }
     AtelierDepannage atelier{session};
     {
         const shell::CadreProgression cadre{session.progression, Msg(message::TitreDepannageBase),
@@ -78,7 +81,7 @@ BilanDepannage DepannerBase(shell::Session& session, bool sauvegarder) {
                         DepannerPersonnes(atelier) && DepannerFaits(atelier) &&
                         DepannerIndex(atelier);
     }
-    bilan.fait = true;
+    bilan.issue = shell::Issue::Faite();
     bilan.reparations = atelier.reparations;
     bilan.journal = EcrireJournal(session, atelier);
     session.dialogue.Annoncer(
@@ -88,7 +91,9 @@ BilanDepannage DepannerBase(shell::Session& session, bool sauvegarder) {
 }
 
 BilanDepannage MnuDepannage(shell::Session& session) {
-    if (!shell::CommandePermise(session) || !session.base) return {};
+    if (shell::Issue permise = shell::CommandePermise(session); !permise)
+        return {.issue = std::move(permise)};
+    if (!session.base) return {};
     switch (session.dialogue.Demander({Msg(message::ProposerCopieAvantDepannage),
                                        Msg(message::ProposerCopieAvantOperation),
                                        shell::Boutons::OuiNonAnnuler})) {
@@ -99,7 +104,7 @@ BilanDepannage MnuDepannage(shell::Session& session) {
         case shell::Reponse::Annuler:
             break;
     }
-    return {};
+    return {.issue = shell::Issue::Arretee()};
 }
 
 }  // namespace dorvane::records

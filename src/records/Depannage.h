@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/Issue.h"
 #include "shell/Session.h"
 
 #include <cstdint>
@@ -8,9 +9,9 @@
 namespace dorvane::records {
 
 struct BilanDepannage {
-    bool fait = false;              ///< false: the user said no, or it was refused, which was told
-    bool complet = false;           ///< false: stopped on the way; what was mended stays mended
-    std::uint32_t reparations = 0;  ///< lines of the journal
+    shell::Issue issue{};             ///< told
+    bool complet = false;             ///< false: stopped on the way; what was mended stays mended
+    std::uint32_t reparations = 0;    ///< lines of the journal
     std::filesystem::path journal{};  ///< where it was written; empty when it could not be
 };
 

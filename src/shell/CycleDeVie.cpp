@@ -72,21 +72,27 @@ void ReprendreReglages(Session& session) {
         EstDansLOrdre(base, memorisee) ? memorisee : base.R_TRI.IndividuAuRang(1);
 }
 
+/// After a commit that was refused the file holds the one before. Told.
+Issue DireEnregistrement(Session& session, bool fait) {
+    if (fait) return Issue::Faite();
+    return Dire(session.dialogue, Issue::ParSysteme(MsgChemin(message::EnregistrementBaseEchoue,
+                                                              session.CheminBase)));
+}
+
 /// The commit of the open base with its bookkeeping, without the tests of a menu command.
-bool Enregistrer(Session& session) {
-    if (!session.base || !session.base->marques.Modifie()) return true;
+Issue Enregistrer(Session& session) {
+    if (!session.base || !session.base->marques.Modifie()) return Issue::Faite();
     const Attente attente{session.progression};
     SauverReglagesBase(session);
     const bool fait = session.base->Enregistrer();
     if (!session.parametres.MemoriserHistorique(session.CheminBase)) DireReglagesRefuses(session);
-    if (!fait) Dire(session, message::EnregistrementBaseEchoue, session.CheminBase);
-    return fait;
+    return DireEnregistrement(session, fait);
 }
 
 }  // namespace
 
-void Dire(Session& session, NoMessage message, const fs::path& chemin) {
-    session.dialogue.Informer(Msg(message, CheminAffiche(chemin)));
+Phrase MsgChemin(NoMessage message, const fs::path& chemin) {
+    return Msg(message, CheminAffiche(chemin));
 }
 
 // The automatic save would tell it every time.
@@ -115,35 +121,38 @@ void Oublier(Session& session) {
     }
 }
 
-bool CommandePermise(Session& session) {
-    if (session.progression.EnCours()) {
-        session.dialogue.Informer(Msg(message::OperationImpossible));
-        return false;
-    }
-    return session.ecran.FermerFiche();
+Issue CommandePermise(Session& session) {
+    if (session.progression.EnCours())
+        return Dire(session.dialogue, Issue::Refusee(Msg(message::OperationImpossible)));
+    return session.ecran.FermerFiche() ? Issue::Faite() : Issue::Arretee();
 }
 
-void DireOuverture(Session& session, storage::Ouverture etat, const fs::path& chemin) {
+Issue IssueDOuverture(storage::Ouverture etat, const fs::path& chemin) {
     switch (etat) {
         case storage::Ouverture::Faite:
-            return;
+            return Issue::Faite();
         case storage::Ouverture::Introuvable:
-            session.dialogue.Informer(Msg(message::FichierDisparu));
-            return;
+            return Issue::ParSysteme(Msg(message::FichierDisparu));
         case storage::Ouverture::Occupee:
-            Dire(session, message::BaseOccupee, chemin);
-            return;
+            return Issue::Refusee(MsgChemin(message::BaseOccupee, chemin));
         case storage::Ouverture::PasUneBase:
-            Dire(session, message::FichierPasUneBase, chemin);
-            return;
+            return Issue::Refusee(MsgChemin(message::FichierPasUneBase, chemin));
         case storage::Ouverture::Refusee:
+            return Issue::ParSysteme(MsgChemin(message::AccesBaseRefuse, chemin));
         case storage::Ouverture::Abimee:
-            Dire(session, message::AccesBaseRefuse, chemin);
-            return;
+            break;
     }
+    return Issue::Refusee(MsgChemin(message::AccesBaseRefuse, chemin));
 }
 
-bool OuvrirBase(Session& session) {
+Issue IssueDeCreation(storage::Ouverture etat, const fs::path& chemin) {
+    if (etat == storage::Ouverture::Faite) return Issue::Faite();
+    if (etat == storage::Ouverture::Occupee)
+        return Issue::Refusee(MsgChemin(message::BaseOccupee, chemin));
+    return Issue::ParSysteme(MsgChemin(message::CreationBaseRefusee, chemin));
+}
+
+Issue OuvrirBase(Session& session) {
     storage::ResultatOuverture resultat;
     {
         const Attente attente{session.progression};
@@ -152,12 +161,11 @@ bool OuvrirBase(Session& session) {
         resultat = storage::OuvrirBase(session.disque, session.CheminBase, avancement);
         if (resultat.base) session.PoserBase(std::move(resultat.base));
     }
-    DireOuverture(session, resultat.etat, session.CheminBase);
-    return session.BaseOuverte();
+    return Dire(session.dialogue, IssueDOuverture(resultat.etat, session.CheminBase));
 }
 
-bool FermerEtMemoriser(Session& session) {
-    if (!session.base) return true;
+Issue FermerEtMemoriser(Session& session) {
+    if (!session.base) return Issue::Faite();
     bool fait = false;
     {
         const Attente attente{session.progression};
@@ -167,30 +175,29 @@ bool FermerEtMemoriser(Session& session) {
         session.PoserBase(nullptr);
     }
     if (!session.parametres.MemoriserHistorique(session.CheminBase)) DireReglagesRefuses(session);
-    if (!fait) Dire(session, message::EnregistrementBaseEchoue, session.CheminBase);
-    return fait;
+    return DireEnregistrement(session, fait);
 }
 
-bool Clore(Session& session) {
-    if (!session.base) return true;
+Issue Clore(Session& session) {
+    if (!session.base) return Issue::Faite();
     session.ecran.FermerFenetres();
-    const bool fait = FermerEtMemoriser(session);
+    Issue issue = FermerEtMemoriser(session);
     Oublier(session);
-    return fait;
+    return issue;
 }
 
-bool OuvrirChemin(Session& session, const fs::path& chemin) {
+Issue OuvrirChemin(Session& session, const fs::path& chemin) {
     Clore(session);
     session.ecran.FermerFenetres();
     PoserChemins(session, CheminEntier(chemin));
     session.PersonneEnCours = NoOrdre{};
-    const bool ouverte = OuvrirBase(session);
-    if (ouverte)
+    Issue issue = OuvrirBase(session);
+    if (issue)
         ReprendreReglages(session);
     else
         Oublier(session);
     session.ecran.Actualiser();
-    return ouverte;
+    return issue;
 }
 
 void ReprendreAvantRemplacement(Session& session, const fs::path& chemin) {
@@ -210,27 +217,21 @@ void Adopter(Session& session, std::unique_ptr<storage::Base> base, const fs::pa
     session.ecran.Actualiser();
 }
 
-void MnuNouveau(Session& session) {
-    if (!CommandePermise(session)) return;
+Issue MnuNouveau(Session& session) {
+    if (Issue permise = CommandePermise(session); !permise) return permise;
     const fs::path depart = session.CheminBase;
-    const bool fermee = Clore(session);
+    Issue fermee = Clore(session);
     session.ecran.Actualiser();
-    if (!fermee) return;
+    if (!fermee) return fermee;
     const std::optional<fs::path> choisi = session.dialogue.ChoisirFichier(
         {DemandeFichier::Sorte::Enregistrer, {}, std::string{FiltreBase}, ".LGD", depart});
-    if (!choisi) return;
+    if (!choisi) return Issue::Arretee();
 
     const fs::path chemin = CheminEntier(*choisi);
     const ReglagesGeneraux& generaux = session.parametres.generaux;
     storage::ResultatOuverture resultat = storage::NouvelleBase(
         session.disque, chemin, {session.TypeTri, generaux.motClePrenom, generaux.motCleNom});
-    if (!resultat.base) {
-        Dire(session,
-             resultat.etat == storage::Ouverture::Occupee ? message::BaseOccupee
-                                                          : message::CreationBaseRefusee,
-             chemin);
-        return;
-    }
+    if (!resultat.base) return Dire(session.dialogue, IssueDeCreation(resultat.etat, chemin));
     PoserChemins(session, chemin);
     session.PoserBase(std::move(resultat.base));
     // An empty file is no base: the close of a base that was left as it was created must write it.
@@ -242,44 +243,45 @@ void MnuNouveau(Session& session) {
     }
     session.PersonneEnCours = NoOrdre{};
     session.ecran.Actualiser();
+    return Issue::Faite();
 }
 
-void MnuOuvrir(Session& session) {
-    if (!CommandePermise(session)) return;
+Issue MnuOuvrir(Session& session) {
+    if (Issue permise = CommandePermise(session); !permise) return permise;
     const std::optional<fs::path> choisi = session.dialogue.ChoisirFichier(
         {DemandeFichier::Sorte::Ouvrir, {}, std::string{FiltreBase}, ".LGD", session.CheminBase});
-    if (choisi) OuvrirChemin(session, *choisi);
+    return choisi ? OuvrirChemin(session, *choisi) : Issue::Arretee();
 }
 
-void MnuOuvrir(Session& session, const fs::path& chemin) {
-    if (CommandePermise(session)) OuvrirChemin(session, chemin);
+Issue MnuOuvrir(Session& session, const fs::path& chemin) {
+    Issue permise = CommandePermise(session);
+    return permise ? OuvrirChemin(session, chemin) : permise;
 }
 
-void MnuHisto(Session& session, int rang) {
-    if (!CommandePermise(session)) return;
+Issue MnuHisto(Session& session, int rang) {
+    if (Issue permise = CommandePermise(session); !permise) return permise;
     const std::vector<fs::path>& historique = session.parametres.generaux.historique;
-    if (rang < 0 || static_cast<std::size_t>(rang) >= historique.size()) return;
+    if (rang < 0 || static_cast<std::size_t>(rang) >= historique.size()) return Issue::Refusee();
     const fs::path chemin = historique[static_cast<std::size_t>(rang)];
-    if (!session.disque.Existe(chemin)) {
-        session.dialogue.Informer(Msg(message::FichierDisparu));
-        return;
-    }
+    if (!session.disque.Existe(chemin))
+        return Dire(session.dialogue, Issue::ParSysteme(Msg(message::FichierDisparu)));
     std::error_code erreur;
     fs::current_path(chemin.parent_path(), erreur);
-    OuvrirChemin(session, chemin);
+    return OuvrirChemin(session, chemin);
 }
 
-void MnuFermer(Session& session) {
-    if (!CommandePermise(session)) return;
-    Clore(session);
+Issue MnuFermer(Session& session) {
+    if (Issue permise = CommandePermise(session); !permise) return permise;
+    Issue issue = Clore(session);
     session.ecran.Actualiser();
+    return issue;
 }
 
-bool MnuEnregistrer(Session& session) {
-    if (!CommandePermise(session)) return false;
-    const bool fait = Enregistrer(session);
+Issue MnuEnregistrer(Session& session) {
+    if (Issue permise = CommandePermise(session); !permise) return permise;
+    Issue issue = Enregistrer(session);
     session.ecran.Actualiser();
-    return fait;
+    return issue;
 }
 
 void Minuterie1(Session& session) {

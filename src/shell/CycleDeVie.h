@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/Issue.h"
 #include "shell/Session.h"
 
 #include <filesystem>
@@ -35,25 +36,24 @@ struct CheminsBase {
 [[nodiscard]] std::filesystem::path FichierTemporaire(const Session& session,
                                                       std::string_view debut);
 
-/// A heavy command may start: no long job runs (the user is told otherwise), and the person sheet
-/// is closed or had nothing unsaved.
-[[nodiscard]] bool CommandePermise(Session& session);
+/// A heavy command may start: no long job runs, and the person sheet is closed or had nothing
+/// unsaved. Tells why not.
+[[nodiscard]] Issue CommandePermise(Session& session);
 
-/// Opens the file at `CheminBase`. False when it cannot be opened: the user has been told and no
-/// base is open.
-bool OuvrirBase(Session& session);
+/// Opens the file at `CheminBase`, and tells why it cannot be opened: then no base is open.
+Issue OuvrirBase(Session& session);
 
 /// Saves the settings of the base, commits, closes and moves the path to the head of the history.
-/// False when the commit was refused: the file holds the previous commit, and the user was told.
-bool FermerEtMemoriser(Session& session);
+/// When the commit is refused, which is told, the file holds the previous one.
+Issue FermerEtMemoriser(Session& session);
 
 /// Closes the base and forgets it: paths, current person, numberings, windows. Nothing when none
-/// is open. False as above.
-bool Clore(Session& session);
+/// is open. Ends as above, forgotten all the same.
+Issue Clore(Session& session);
 
 /// Takes over a base that an import or another command has just made and closed, or opened by hand:
-/// closes what is open, then opens `chemin` and shows its person. False when it cannot be opened.
-bool OuvrirChemin(Session& session, const std::filesystem::path& chemin);
+/// closes what is open, then opens `chemin` and shows its person. Tells why it cannot be opened.
+Issue OuvrirChemin(Session& session, const std::filesystem::path& chemin);
 
 /// Brings a base that is about to be replaced back to its last commit, if a session that died left
 /// a journal beside it: it then stays whole until the new one takes its place. Nothing when it is
@@ -68,26 +68,30 @@ void DireReglagesRefuses(Session& session);
 void Adopter(Session& session, std::unique_ptr<storage::Base> base,
              const std::filesystem::path& chemin);
 
-/// The menu commands. Each begins with `CommandePermise`.
-void MnuNouveau(Session& session);
-void MnuOuvrir(Session& session);
-void MnuOuvrir(Session& session, const std::filesystem::path& chemin);
-void MnuHisto(Session& session, int rang);  ///< `rang` 0 to 4
-void MnuFermer(Session& session);
-void MnuSauvegarde(Session& session);
-void MnuRestauration(Session& session);
+/// The menu commands. Each begins with `CommandePermise`, and tells how it ended.
+Issue MnuNouveau(Session& session);
+Issue MnuOuvrir(Session& session);
+Issue MnuOuvrir(Session& session, const std::filesystem::path& chemin);
+Issue MnuHisto(Session& session, int rang);  ///< `rang` 0 to 4
+Issue MnuFermer(Session& session);
+Issue MnuSauvegarde(Session& session);
+Issue MnuRestauration(Session& session);
 
-/// Commits if anything changed; the base stays open. False when the commit was refused.
-bool MnuEnregistrer(Session& session);
+/// Commits if anything changed; the base stays open.
+Issue MnuEnregistrer(Session& session);
 
-/// Copies the closed base to its backup path and opens it again. True when the copy stands.
-bool Sauvegarder(Session& session);
+/// Copies the closed base to its backup path and opens it again. Done when the copy stands; tells
+/// why it does not, and then the base stays closed.
+Issue Sauvegarder(Session& session);
 
 /// One tick of the timer, every 60 seconds.
 void Minuterie1(Session& session);
 
-/// Tells the user why a base could not be opened; nothing for `Faite`.
-void DireOuverture(Session& session, storage::Ouverture etat, const std::filesystem::path& chemin);
+/// What the opening of the base at `chemin` means for the user. Not told.
+[[nodiscard]] Issue IssueDOuverture(storage::Ouverture etat, const std::filesystem::path& chemin);
+
+/// The same of the making of a new base.
+[[nodiscard]] Issue IssueDeCreation(storage::Ouverture etat, const std::filesystem::path& chemin);
 
 /// The title of the main window, in code page 1252: the title of the document of the base, else
 /// its path, else the name of the program.

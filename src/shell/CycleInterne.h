@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/Dialogue.h"
 #include "shell/Session.h"
 
 #include <cstdint>
@@ -9,8 +10,8 @@
 
 namespace dorvane::shell {
 
-/// Tells a message with a path in it.
-void Dire(Session& session, NoMessage message, const std::filesystem::path& chemin);
+/// A message with a path in it.
+[[nodiscard]] Phrase MsgChemin(NoMessage message, const std::filesystem::path& chemin);
 
 /// Takes the four paths of a base over, or none for an empty path.
 void PoserChemins(Session& session, const std::filesystem::path& chemin);

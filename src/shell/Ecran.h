@@ -1,5 +1,9 @@
 #pragma once
 
+#include "shell/Dialogue.h"
+
+#include <string>
+
 namespace dorvane::shell {
 
 /// What the session asks of the windows around it. The command line has none and answers with
@@ -18,6 +22,9 @@ public:
     /// Reads everything again that the main window shows: title, menus, history, captions of the
     /// `De Cujus`, current person, chart.
     virtual void Actualiser() = 0;
+
+    /// Shows the report of an operation, lines of text in code page 1252, and does not wait.
+    virtual void MontrerRapport(const Phrase& titre, const std::string& texte) = 0;
 };
 
 /// Where there is no window, nothing stands in the way.
@@ -26,6 +33,7 @@ public:
     [[nodiscard]] bool FermerFiche() override { return true; }
     void FermerFenetres() override {}
     void Actualiser() override {}
+    void MontrerRapport(const Phrase& /*titre*/, const std::string& /*texte*/) override {}
 };
 
 }  // namespace dorvane::shell

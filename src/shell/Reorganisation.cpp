@@ -77,7 +77,7 @@ void MettreAJourPaires(Session& session, const fs::path& base,
         const std::string gardees = PairesVivantes(*texte, table);
         if (gardees == *texte || EcrireTout(paires, gardees, ".TMP")) return;
     }
-    Dire(session, message::PairesDePersonnesNonMisesAJour, paires);
+    session.dialogue.Informer(MsgChemin(message::PairesDePersonnesNonMisesAJour, paires));
 }
 
 storage::ConversionsTextes ConversionsDe(const Session& session) {
@@ -124,46 +124,36 @@ bool Remplacer(storage::Disque& disque, const fs::path& nouveau, const fs::path&
 }
 
 /// The whole work on the closed base at `chemin`.
-IssueSoin Reecrire(Session& session, const fs::path& chemin, storage::BilanReorganisation& bilan) {
+Issue Reecrire(Session& session, const fs::path& chemin, storage::BilanReorganisation& bilan) {
     const fs::path nouveau = CheminReorganise(chemin);
     const storage::ResultatVerrou verrou = session.disque.Verrouiller(nouveau);
-    if (verrou.etat != storage::EtatVerrou::Pris) {
-        Dire(session,
-             verrou.etat == storage::EtatVerrou::Occupe ? message::ReorganisationDejaEnCours
-                                                        : message::NouveauFichierNonEcrit,
-             nouveau);
-        return IssueSoin::Refusee;
-    }
+    if (verrou.etat == storage::EtatVerrou::Occupe)
+        return Issue::Refusee(MsgChemin(message::ReorganisationDejaEnCours, nouveau));
+    if (verrou.etat != storage::EtatVerrou::Pris)
+        return Issue::ParSysteme(MsgChemin(message::NouveauFichierNonEcrit, nouveau));
     RelaisAvancement avancement{session.progression, session.catalogue};
     const storage::ResultatOuverture ouverte =
         storage::OuvrirBase(session.disque, chemin, avancement);
-    if (!ouverte.base) {
-        DireOuverture(session, ouverte.etat, chemin);
-        return IssueSoin::Refusee;
-    }
+    if (!ouverte.base) return IssueDOuverture(ouverte.etat, chemin);
     storage::Base& source = *ouverte.base;
     if (!storage::ConvertirAncienne(source, ConversionsDe(session), avancement))
-        return IssueSoin::Abandonnee;
+        return Issue::Arretee();
     bilan = storage::ReorganiserVers(session.disque, source, nouveau, avancement);
-    if (bilan.issue == IssueReorganisation::Abandonnee) return IssueSoin::Abandonnee;
-    if (bilan.issue == IssueReorganisation::TropAbimee) {
-        Dire(session, message::BaseTropAbimeePourReorganiser, chemin);
-        return IssueSoin::Refusee;
-    }
-    if (bilan.issue != IssueReorganisation::Faite || !Remplacer(session.disque, nouveau, chemin)) {
-        Dire(session, message::NouveauFichierNonEcrit, nouveau);
-        return IssueSoin::Refusee;
-    }
+    if (bilan.issue == IssueReorganisation::Abandonnee) return Issue::Arretee();
+    if (bilan.issue == IssueReorganisation::TropAbimee)
+        return Issue::Refusee(MsgChemin(message::BaseTropAbimeePourReorganiser, chemin));
+    if (bilan.issue != IssueReorganisation::Faite || !Remplacer(session.disque, nouveau, chemin))
+        return Issue::ParSysteme(MsgChemin(message::NouveauFichierNonEcrit, nouveau));
     MettreAJourPaires(session, chemin, source.R_TRI.individus.Numeros());
-    return IssueSoin::Faite;
+    return Issue::Faite();
 }
 
 }  // namespace
 
-IssueSoin ReecrireBase(Session& session, const std::filesystem::path& chemin) {
+Issue ReecrireBase(Session& session, const std::filesystem::path& chemin) {
     storage::BilanReorganisation bilan;
-    const IssueSoin issue = Reecrire(session, chemin, bilan);
-    if (issue == IssueSoin::Faite) DireBilan(session, bilan);
+    Issue issue = Dire(session.dialogue, Reecrire(session, chemin, bilan));
+    if (issue) DireBilan(session, bilan);
     return issue;
 }
 
@@ -173,36 +163,38 @@ std::filesystem::path CheminPaires(const std::filesystem::path& base) {
     return base.parent_path() / (nom + "FUS");
 }
 
-IssueSoin ReorganiserBase(Session& session, bool sauvegarder) {
-    if (!session.base) return IssueSoin::Refusee;
+Issue ReorganiserBase(Session& session, bool sauvegarder) {
+    if (!session.base) return Issue::Refusee();
     const fs::path chemin = session.CheminBase;
     session.ecran.FermerFenetres();
-    if (sauvegarder && !Sauvegarder(session)) {
-        session.ecran.Actualiser();
-        return IssueSoin::Refusee;
-    }
+    if (sauvegarder)
+        if (Issue copiee = Sauvegarder(session); !copiee) {
+            session.ecran.Actualiser();
+            return copiee;
+        }
     // The session has no base while the work yields: nobody can change what is being copied.
-    if (!FermerEtMemoriser(session)) {
+    if (Issue fermee = FermerEtMemoriser(session); !fermee) {
         Oublier(session);
         session.ecran.Actualiser();
-        return IssueSoin::Refusee;
+        return fermee;
     }
     storage::BilanReorganisation bilan;
-    IssueSoin issue = IssueSoin::Refusee;
+    Issue issue;
     {
         // The windows know that the base comes back.
         const CadreProgression cadre{session.progression, Msg(message::TitreReorganisationBase),
                                      Msg(message::TitreReorganisationBase)};
         session.ecran.Actualiser();
-        issue = Reecrire(session, chemin, bilan);
+        issue = Dire(session.dialogue, Reecrire(session, chemin, bilan));
     }
     OuvrirChemin(session, chemin);
-    if (issue == IssueSoin::Faite) DireBilan(session, bilan);
+    if (issue) DireBilan(session, bilan);
     return issue;
 }
 
-IssueSoin MnuReorganiser(Session& session) {
-    if (!CommandePermise(session) || !session.base) return IssueSoin::Abandonnee;
+Issue MnuReorganiser(Session& session) {
+    if (Issue permise = CommandePermise(session); !permise) return permise;
+    if (!session.base) return Issue::Refusee();
     switch (session.dialogue.Demander({Msg(message::ProposerCopieAvantOperation),
                                        Msg(message::TitreReorganisationBase),
                                        Boutons::OuiNonAnnuler})) {
@@ -213,7 +205,7 @@ IssueSoin MnuReorganiser(Session& session) {
         case Reponse::Annuler:
             break;
     }
-    return IssueSoin::Abandonnee;
+    return Issue::Arretee();
 }
 
 }  // namespace dorvane::shell

@@ -49,69 +49,70 @@ bool CiblePermise(Session& session, const fs::path& cible) {
     return session.dialogue.Confirmer(question);
 }
 
+/// Puts the backup in the place of the base, which nobody has open.
+Issue Restaurer(Session& session, const fs::path& source, const fs::path& cible) {
+    const Attente attente{session.progression};
+    const storage::ResultatVerrou verrou = session.disque.Verrouiller(cible);
+    if (verrou.etat == storage::EtatVerrou::Occupe)
+        return Issue::Refusee(MsgChemin(message::BaseOccupee, cible));
+    if (CopierSurement(session.disque, source, cible, storage::CheminJournal(cible)))
+        return Issue::Faite();
+    return Issue::ParSysteme(MsgChemin(message::SauvegardeNonRecopiee, source));
+}
+
 }  // namespace
 
-bool Sauvegarder(Session& session) {
-    if (!session.base) return false;
+Issue Sauvegarder(Session& session) {
+    if (!session.base) return Issue::Refusee();
     session.dialogue.Annoncer(Msg(message::EtatSauvegardeEnCours));
     const fs::path cible = CheminSauvegarde(session.CheminBase);
     // After a refused commit the file waits for its journal: a copy of it alone would be no base.
-    const bool fermee = FermerEtMemoriser(session);
+    Issue issue = FermerEtMemoriser(session);
     bool copiee = false;
-    if (fermee && cible != session.CheminBase) {
+    if (issue && cible != session.CheminBase) {
         const Attente attente{session.progression};
         copiee = CopierSurement(session.disque, session.CheminBase, cible, {});
     }
     session.dialogue.Annoncer({});
-    if (fermee && !copiee) Dire(session, message::SauvegardeNonEcriteBaseFermee, cible);
+    if (issue && !copiee)
+        issue = Dire(session.dialogue,
+                     Issue::ParSysteme(MsgChemin(message::SauvegardeNonEcriteBaseFermee, cible)));
     if (!copiee || !OuvrirBase(session)) {
         session.ecran.FermerFenetres();
         Oublier(session);
     }
-    return copiee;
+    return issue;
 }
 
-void MnuSauvegarde(Session& session) {
-    if (!CommandePermise(session) || !session.base) return;
+Issue MnuSauvegarde(Session& session) {
+    if (Issue permise = CommandePermise(session); !permise) return permise;
+    if (!session.base) return Issue::Refusee();
     const fs::path cible = CheminSauvegarde(session.CheminBase);
-    const bool copiee = Sauvegarder(session);
+    Issue issue = Sauvegarder(session);
     session.ecran.Actualiser();
-    if (copiee) session.dialogue.Annoncer(Msg(message::EtatSauvegardeEcrite, CheminAffiche(cible)));
+    if (issue) session.dialogue.Annoncer(MsgChemin(message::EtatSauvegardeEcrite, cible));
+    return issue;
 }
 
-void MnuRestauration(Session& session) {
-    if (!CommandePermise(session)) return;
+Issue MnuRestauration(Session& session) {
+    if (Issue permise = CommandePermise(session); !permise) return permise;
     const std::optional<fs::path> choisi = session.dialogue.ChoisirFichier(
         {DemandeFichier::Sorte::Ouvrir, Msg(message::TitreRestaurationSauvegarde),
          session.Message(message::FiltreSauvegardes), ".SAV", session.CheminBase.parent_path()});
-    if (!choisi) return;
+    if (!choisi) return Issue::Arretee();
     const fs::path source = CheminEntier(*choisi);
     const fs::path cible = CheminRestauration(source);
-    if (!EstUneBase(session.disque, source) || source == cible) {
-        Dire(session, message::FichierPasUneBase, source);
-        return;
-    }
-    if (!CiblePermise(session, cible)) return;
+    if (!EstUneBase(session.disque, source) || source == cible)
+        return Dire(session.dialogue,
+                    Issue::Refusee(MsgChemin(message::FichierPasUneBase, source)));
+    if (!CiblePermise(session, cible)) return Issue::Arretee();
 
     Clore(session);
     ReprendreAvantRemplacement(session, cible);
-    bool copiee = false;
-    {
-        const Attente attente{session.progression};
-        const storage::ResultatVerrou verrou = session.disque.Verrouiller(cible);
-        if (verrou.etat == storage::EtatVerrou::Occupe) {
-            Dire(session, message::BaseOccupee, cible);
-            session.ecran.Actualiser();
-            return;
-        }
-        copiee = CopierSurement(session.disque, source, cible, storage::CheminJournal(cible));
-    }
-    if (copiee) {
-        OuvrirChemin(session, cible);
-    } else {
-        Dire(session, message::SauvegardeNonRecopiee, source);
-        session.ecran.Actualiser();
-    }
+    Issue issue = Dire(session.dialogue, Restaurer(session, source, cible));
+    if (issue) return OuvrirChemin(session, cible);
+    session.ecran.Actualiser();
+    return issue;
 }
 
 }  // namespace dorvane::shell

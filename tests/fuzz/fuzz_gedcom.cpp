@@ -40,7 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     interchange::RapportImport rapport;
     const auto issue =
         interchange::ImporterTexte(session, std::string{fichier}, "/essai.LGD", rapport);
-    if (issue != interchange::IssueImport::Fait) return 0;
+    if (!issue) return 0;
     storage::AvancementMuet avancement;
     storage::ResultatOuverture ouverte =
         storage::OuvrirBase(poste.disque, "/essai.LGD", avancement);

@@ -57,9 +57,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     shell::Session& session = poste.session;
 
     interchange::RapportImport rapport;
-    const auto issue =
-        interchange::ImporterOctetsLgr(session, AvecVersion(octets, taille), "/essai.LGD", rapport);
-    if (issue != interchange::IssueImport::Fait) return 0;
+    const auto issue = interchange::ImporterOctetsLgr(session, AvecVersion(octets, taille),
+                                                      "essai.lgr", "/essai.LGD", rapport);
+    if (!issue) return 0;
     storage::AvancementMuet avancement;
     storage::ResultatOuverture ouverte =
         storage::OuvrirBase(poste.disque, "/essai.LGD", avancement);
@@ -70,12 +70,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     // What was taken over comes back from our own text of it.
     session.PoserBase(std::move(ouverte.base));
     std::string texte;
-    interchange::ComptesLgr comptes;
+    interchange::ComptesExport comptes;
     if (!interchange::ComposerLgr(session, {}, texte, comptes)) std::abort();
     session.PoserBase(nullptr);
     interchange::RapportImport second;
-    if (interchange::ImporterOctetsLgr(session, texte, "/encore.LGD", second) !=
-            interchange::IssueImport::Fait ||
+    if (!interchange::ImporterOctetsLgr(session, texte, "encore.lgr", "/encore.LGD", second) ||
         second.individus != rapport.individus || second.evenements != rapport.evenements ||
         second.documents != rapport.documents || !second.finTrouvee)
         std::abort();

@@ -82,7 +82,7 @@ void Soigner(Poste& poste) {
         if (!records::MessageDe(constat.sorte)) std::abort();
     });
     const std::vector<std::uint16_t> avant = Personnes(*session.base);
-    if (!records::DepannerBase(session, false).fait) std::abort();
+    if (!records::DepannerBase(session, false).issue) std::abort();
     const std::vector<std::uint16_t> apres = Personnes(*session.base);
     if (!std::includes(apres.begin(), apres.end(), avant.begin(), avant.end())) std::abort();
     if (!session.base->Enregistrer() && !session.base->EnDefaut()) std::abort();
@@ -108,13 +108,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* donnees, std::size_t t
     if (!poste.Ouvrir()) return 0;
     Soigner(poste);
     poste.session.PoserBase(nullptr);
-    if (shell::ReecrireBase(poste.session, poste.chemin) != shell::IssueSoin::Faite) return 0;
+    if (shell::ReecrireBase(poste.session, poste.chemin).cause != shell::Cause::Fait) return 0;
     const std::string premiere = poste.disque.Octets(poste.chemin);
     if (!poste.Ouvrir()) std::abort();
     Soigner(poste);
     poste.session.PoserBase(nullptr);
     poste.disque.Poser(poste.chemin, premiere);
-    if (shell::ReecrireBase(poste.session, poste.chemin) != shell::IssueSoin::Faite) std::abort();
+    if (shell::ReecrireBase(poste.session, poste.chemin).cause != shell::Cause::Fait) std::abort();
     if (poste.disque.Octets(poste.chemin) != premiere) std::abort();
     return 0;
 }

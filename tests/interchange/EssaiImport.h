@@ -29,7 +29,7 @@ struct EssaiImport : SessionEssai {
         base.reset();
         EcrireFichier(fichier, octets);
         importation = interchange::ImporterVers(session, fichier, chemin);
-        if (!importation.faite) return;
+        if (!importation.issue) return;
         shell::RelaisAvancement avancement{session.progression, session.catalogue};
         base = storage::OuvrirBase(session.disque, chemin, avancement).base;
         REQUIRE(base != nullptr);

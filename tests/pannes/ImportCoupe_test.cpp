@@ -19,7 +19,6 @@
 
 using namespace dorvane;
 using namespace dorvane::storage;
-using interchange::IssueImport;
 
 namespace {
 
@@ -40,8 +39,8 @@ std::string Gedcom() {
            "0 @S1@ SOUR\n1 DATE 1 JAN 1840\n1 TITL acte\n0 @N1@ NOTE note\n0 TRLR\n";
 }
 
-/// A session on a disk, and one import in it.
-IssueImport Importer(DisqueMemoire& disque) {
+/// A session on a disk, and one import in it; true when it is done.
+bool Importer(DisqueMemoire& disque) {
     const doublures::DossierTemporaire dossier;
     doublures::DialogueScript dialogue;
     dialogue.reponses = {shell::Reponse::Oui};
@@ -51,9 +50,9 @@ IssueImport Importer(DisqueMemoire& disque) {
     shell::Session session{{dossier.chemin, dossier.chemin, dossier.chemin},
                            {dialogue, progression, horloge, ecran, disque}};
     interchange::RapportImport rapport;
-    const IssueImport issue = interchange::ImporterTexte(session, Gedcom(), Chemin, rapport);
+    const shell::Issue issue = interchange::ImporterTexte(session, Gedcom(), Chemin, rapport);
     CHECK(progression.cadres == 0);
-    return issue;
+    return issue.cause == shell::Cause::Fait;
 }
 
 /// What the base says once it is opened; "" when there is none.
@@ -97,7 +96,7 @@ void CouperPartout(bool enSuspens) {
     REQUIRE_FALSE(ancienne.empty());
 
     const auto temoin = depart->Survivre();
-    REQUIRE(Importer(*temoin) == IssueImport::Fait);
+    REQUIRE(Importer(*temoin));
     const int total = temoin->operations;
     const std::string nouvelle = Relire(*temoin);
     REQUIRE(nouvelle != ancienne);
@@ -113,13 +112,13 @@ void CouperPartout(bool enSuspens) {
             const auto disque = depart->Survivre();
             disque->panne = panne;
             disque->panneA = n;
-            const IssueImport issue = Importer(*disque);
+            const bool fait = Importer(*disque);
             const auto apres = disque->Survivre();
             const std::string lu = Relire(*apres);
             const bool estNouvelle = lu == nouvelle;
             CHECK((estNouvelle || lu == ancienne));
-            if (!disque->Mort()) CHECK(estNouvelle == (issue == IssueImport::Fait));
-            if (panne == Panne::Refus && issue != IssueImport::Fait) {
+            if (!disque->Mort()) CHECK(estNouvelle == fait);
+            if (panne == Panne::Refus && !fait) {
                 CHECK_FALSE(apres->Existe(Provisoire));
                 CHECK_FALSE(apres->Existe(CheminJournal(Provisoire)));
             }

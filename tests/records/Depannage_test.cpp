@@ -25,7 +25,7 @@ TEST_CASE_FIXTURE(Bureau, "Repair: asks for a copy first; no goes on, cancel sto
     REQUIRE(shell::MnuEnregistrer(session));
     SUBCASE("cancel") {
         dialogue.reponses = {shell::Reponse::Annuler};
-        CHECK_FALSE(MnuDepannage(session).fait);
+        CHECK_FALSE(MnuDepannage(session).issue);
         CHECK(B().R_PERE.LireCellule(paul) == NoOrdre{999});
     }
     SUBCASE("no") {
@@ -46,7 +46,7 @@ TEST_CASE_FIXTURE(Bureau, "Repair: asks for a copy first; no goes on, cancel sto
 
 TEST_CASE_FIXTURE(Bureau, "Repair: a running job is told, and nothing is asked") {
     progression.Commencer({}, {});
-    CHECK_FALSE(MnuDepannage(session).fait);
+    CHECK_FALSE(MnuDepannage(session).issue);
     CHECK(Dit() == std::vector{message::OperationImpossible});
 }
 
@@ -144,7 +144,7 @@ TEST_CASE_FIXTURE(Bureau, "Repair: a journal that cannot be written is told, the
     Homme("Paul");
     std::filesystem::create_directories(session.Travail() / "Famille.TXT");
     bilan = DepannerBase(session, false);
-    CHECK(bilan.fait);
+    CHECK(bilan.issue);
     CHECK(bilan.journal.empty());
     CHECK(Dit() == std::vector{message::CompteRenduNonEcrit});
 }

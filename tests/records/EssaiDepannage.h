@@ -23,7 +23,7 @@ struct EssaiDepannage : BureauSoin {
     /// Repairs without a copy; the lines of the journal, in code page 1252.
     std::vector<std::string> Depanner() {
         bilan = DepannerBase(session, false);
-        REQUIRE(bilan.fait);
+        REQUIRE(bilan.issue);
         const std::string texte =
             Utf8VersTexte(shell::LireTout(bilan.journal).value_or("illisible")).octets;
         std::vector<std::string> lignes;

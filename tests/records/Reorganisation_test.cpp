@@ -22,7 +22,7 @@ TEST_CASE("Reorganisation: after any day of editing all facts still stand in bot
             bureau.dialogue.reponses.clear();
             REQUIRE(doublures::Ecarts(bureau.B()) == "");
             const std::string contenu = storage::ContenuBase{bureau.B()}.Texte();
-            REQUIRE(shell::ReorganiserBase(bureau.session, false) == shell::IssueSoin::Faite);
+            REQUIRE(shell::ReorganiserBase(bureau.session, false).cause == shell::Cause::Fait);
             CHECK(doublures::Ecarts(bureau.B()) == "");
             CHECK(storage::ContenuBase{bureau.B()}.Texte() == contenu);
             CHECK(records::DepannerBase(bureau.session, false).reparations == 0);

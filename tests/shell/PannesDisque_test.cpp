@@ -79,7 +79,7 @@ TEST_CASE("A commit refused at any operation is told, and the file is as before 
         Fragile f;
         Creer(*f.session.base, "Durand");
         f.Casser(storage::Panne::Plein, n);
-        const bool fait = MnuEnregistrer(f.session);
+        const bool fait{MnuEnregistrer(f.session)};
         if (!fait) CHECK(f.DernierMessage() == message::EnregistrementBaseEchoue);
         refus += fait ? 0 : 1;
         CHECK(f.Relire(f.chemin) == (fait ? "Martin 2" : "Martin 1"));
@@ -132,7 +132,7 @@ TEST_CASE("A backup refused at any operation never leaves a part of one") {
         REQUIRE(f.session.BaseOuverte());
         Creer(*f.session.base, "Durand");
         f.Casser(storage::Panne::Refus, n);
-        const bool copiee = Sauvegarder(f.session);
+        const bool copiee{Sauvegarder(f.session)};
         refus += copiee ? 0 : 1;
         CHECK(f.session.BaseOuverte() == copiee);
         CHECK(f.session.CheminBase.empty() != copiee);
@@ -159,12 +159,13 @@ TEST_CASE("A restoration refused at any operation leaves the base that was there
         f.dialogue.fichiers.emplace_back(f.sauvegarde);
         f.dialogue.reponses = {Reponse::Oui};
         f.Casser(storage::Panne::Refus, n);
-        MnuRestauration(f.session);
+        const Issue issue = MnuRestauration(f.session);
         const std::string base = f.Relire(f.chemin);
         CHECK((base == "Martin 1" || base == "Martin 2"));
         if (base == "Martin 2") {
             ++refus;
             CHECK(f.DernierMessage() == message::SauvegardeNonRecopiee);
+            CHECK(issue.cause == Cause::Systeme);
             CHECK_FALSE(f.session.BaseOuverte());
         }
         CHECK(f.Relire(f.sauvegarde) == "Martin 1");

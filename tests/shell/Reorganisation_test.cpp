@@ -54,19 +54,19 @@ TEST_CASE_FIXTURE(Bureau, "MnuReorganiser: asks for a copy first; no goes on, ca
     const std::string contenu = Contenu();
     SUBCASE("cancel") {
         dialogue.reponses = {Reponse::Annuler};
-        CHECK(MnuReorganiser(session) == IssueSoin::Abandonnee);
+        CHECK(MnuReorganiser(session).cause == Cause::Arrete);
         CHECK(Octets() == avant);
         CHECK(ecran.fermetures == 0);
     }
     SUBCASE("no") {
         dialogue.reponses = {Reponse::Non};
-        CHECK(MnuReorganiser(session) == IssueSoin::Faite);
+        CHECK(MnuReorganiser(session).cause == Cause::Fait);
         CHECK(Octets().size() < avant.size());
         CHECK(Octets("Famille.SAV") == "absent");
     }
     SUBCASE("yes: the copy is the base as it was") {
         dialogue.reponses = {Reponse::Oui};
-        CHECK(MnuReorganiser(session) == IssueSoin::Faite);
+        CHECK(MnuReorganiser(session).cause == Cause::Fait);
         CHECK(Octets().size() < avant.size());
         CHECK(Octets("Famille.SAV") == avant);
         CHECK(ecran.fermetures > 0);
@@ -84,14 +84,14 @@ TEST_CASE_FIXTURE(Bureau, "MnuReorganiser: asks for a copy first; no goes on, ca
 
 TEST_CASE_FIXTURE(Bureau, "MnuReorganiser: a running job is told, and nothing is asked") {
     progression.Commencer({}, {});
-    CHECK(MnuReorganiser(session) == IssueSoin::Abandonnee);
+    CHECK(MnuReorganiser(session).cause == Cause::Refuse);
     CHECK(dialogue.entendu == std::vector{Msg(message::OperationImpossible)});
 }
 
 TEST_CASE_FIXTURE(Bureau, "MnuReorganiser: a sheet that stays open stops it before the question") {
     const std::string avant = Octets();
     ecran.ficheSeFerme = false;
-    CHECK(MnuReorganiser(session) == IssueSoin::Abandonnee);
+    CHECK(MnuReorganiser(session).cause == Cause::Arrete);
     CHECK(dialogue.questions.empty());
     CHECK(ecran.fermetures == 0);
     CHECK(Octets() == avant);
@@ -100,7 +100,7 @@ TEST_CASE_FIXTURE(Bureau, "MnuReorganiser: a sheet that stays open stops it befo
 
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: what was not saved yet is in the new file") {
     const NoOrdre n = doublures::FamilleEssai{*session.base}.Creer('H', "NOUVEAU", "Paul", "1850");
-    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    REQUIRE(ReorganiserBase(session, false).cause == Cause::Fait);
     CHECK(session.base->R_NOM.NomDe(n) == "NOUVEAU");
     CHECK(Octets().find("NOUVEAU;Paul") != std::string::npos);
 }
@@ -109,7 +109,7 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: current person and numberings are tak
     const NoOrdre n = session.base->R_TRI.IndividuAuRang(3);
     session.PersonneEnCours = n;
     session.deCujus[0].individu = n;
-    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    REQUIRE(ReorganiserBase(session, false).cause == Cause::Fait);
     CHECK(session.PersonneEnCours == n);
     CHECK(session.deCujus[0].individu == n);
     CHECK(session.deCujus[0].NumeroDe(n) == "1");
@@ -122,7 +122,7 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: nobody reaches the base while it is c
         ouverte = ouverte || session.BaseOuverte();
         Minuterie1(session);
     };
-    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    REQUIRE(ReorganiserBase(session, false).cause == Cause::Fait);
     CHECK_FALSE(ouverte);
     CHECK(progression.pas > 5);
 }
@@ -130,7 +130,7 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: nobody reaches the base while it is c
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: given up, the base is as it was and open again") {
     const std::string avant = Octets();
     progression.annulerAu = 4;
-    CHECK(ReorganiserBase(session, false) == IssueSoin::Abandonnee);
+    CHECK(ReorganiserBase(session, false).cause == Cause::Arrete);
     CHECK(Octets() == avant);
     CHECK(Octets("Reorg.fic") == "absent");
     CHECK(session.BaseOuverte());
@@ -145,7 +145,7 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: the size before and after is told, by
         return taille.insert(taille.size() - 3, "\xA0");
     };
     const std::string avant = dite();
-    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    REQUIRE(ReorganiserBase(session, false).cause == Cause::Fait);
     CHECK(dialogue.annonces.back() == Msg(message::EtatReorganisationTerminee, dite(), avant));
 }
 
@@ -157,20 +157,20 @@ TEST_CASE("Reorganisation: unions that are left out are told with their number")
     doublures::FamilleEssai famille{*essai.session.base};
     famille.Marier({}, famille.Creer('F', "MARTIN", "Anne"));
     essai.dialogue.entendu.clear();
-    REQUIRE(ReorganiserBase(essai.session, false) == IssueSoin::Faite);
+    REQUIRE(ReorganiserBase(essai.session, false).cause == Cause::Fait);
     CHECK(essai.dialogue.entendu == std::vector{Msg(message::UnionsSansEpouxAbandonnees, "1")});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: a leftover of an earlier one is overwritten") {
     doublures::EcrireFichier(dossier / "Reorg.fic", "un reste");
-    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    REQUIRE(ReorganiserBase(session, false).cause == Cause::Fait);
     CHECK(Octets("Reorg.fic") == "absent");
 }
 
 TEST_CASE_FIXTURE(
     Bureau, "Reorganisation: the journal of a base of that name in the folder is not touched") {
     doublures::EcrireFichier(dossier / "Reorg.LOG", "le journal d'une autre base");
-    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    REQUIRE(ReorganiserBase(session, false).cause == Cause::Fait);
     CHECK(Octets("Reorg.LOG") == "le journal d'une autre base");
 }
 
@@ -181,7 +181,7 @@ TEST_CASE_FIXTURE(Bureau,
     const std::string avant = Octets("Reorg.fic");
     REQUIRE(OuvrirChemin(session, dossier / "Reorg.fic"));
     dialogue.entendu.clear();
-    CHECK(ReorganiserBase(session, false) == IssueSoin::Refusee);
+    CHECK(ReorganiserBase(session, false).cause == Cause::Refuse);
     CHECK(dialogue.entendu.size() == 1);
     CHECK(Octets("Reorg.fic") == avant);
     CHECK(session.BaseOuverte());
@@ -190,7 +190,7 @@ TEST_CASE_FIXTURE(Bureau,
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: two at a time in one folder are refused") {
     const storage::ResultatVerrou verrou = disque.Verrouiller(dossier / "Reorg.fic");
     const std::string avant = Octets();
-    CHECK(ReorganiserBase(session, false) == IssueSoin::Refusee);
+    CHECK(ReorganiserBase(session, false).cause == Cause::Refuse);
     CHECK(dialogue.entendu == std::vector{Msg(message::ReorganisationDejaEnCours,
                                               CheminAffiche(dossier / "Reorg.fic"))});
     CHECK(Octets() == avant);
@@ -200,7 +200,7 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: two at a time in one folder are refus
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: a new file that cannot be written is told") {
     const std::string avant = Octets();
     std::filesystem::create_directories(dossier / "Reorg.fic" / "plein");
-    CHECK(ReorganiserBase(session, false) == IssueSoin::Refusee);
+    CHECK(ReorganiserBase(session, false).cause == Cause::Systeme);
     CHECK(dialogue.entendu ==
           std::vector{Msg(message::NouveauFichierNonEcrit, CheminAffiche(dossier / "Reorg.fic"))});
     CHECK(Octets() == avant);
@@ -218,9 +218,9 @@ TEST_CASE_FIXTURE(Bureau,
     const std::string gardees = paire(a, b.valeur) + "en-tete\r\n" + paire(b, a.valeur);
     doublures::EcrireFichier(dossier / "Famille.FUS", paire(a, 64000) + gardees + paire(b, 99999) +
                                                           "70000000000000000000 1\n");
-    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    REQUIRE(ReorganiserBase(session, false).cause == Cause::Fait);
     CHECK(Octets("Famille.FUS") == gardees);
-    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    REQUIRE(ReorganiserBase(session, false).cause == Cause::Fait);
     CHECK(Octets("Famille.FUS") == gardees);
     CHECK(Octets("Famille.FUS.TMP") == "absent");
 }
@@ -253,7 +253,7 @@ TEST_CASE_FIXTURE(Bureau,
     b.entete.LibellesNeutres = false;
     b.marques.ModifBase = true;
 
-    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    REQUIRE(ReorganiserBase(session, false).cause == Cause::Fait);
     storage::Base& neuve = *session.base;
     CHECK(neuve.entete.LibellesNeutres);
     CHECK(neuve.motsCles.LibelleType(NoMotCle{6}).libelle == "OCCU");
@@ -264,7 +264,7 @@ TEST_CASE_FIXTURE(Bureau,
     CHECK(neuve.R_TXTMAR.LireTexte(NoMariage{neuve.R_MARIAG.ElementListe(jean, 1)}) ==
           "ABT @Lyon\r\nDIV 1/2/1850\n");
     const std::string avant = Octets();
-    REQUIRE(ReorganiserBase(session, false) == IssueSoin::Faite);
+    REQUIRE(ReorganiserBase(session, false).cause == Cause::Fait);
     CHECK(Octets() == avant);
 }
 
@@ -278,7 +278,7 @@ TEST_CASE_FIXTURE(Bureau,
     for (const std::uint32_t arret : {1U, 2U, 5U, 9U}) {
         progression.pas = 0;
         progression.annulerAu = arret;
-        CHECK(ReorganiserBase(session, false) == IssueSoin::Abandonnee);
+        CHECK(ReorganiserBase(session, false).cause == Cause::Arrete);
         CHECK(Octets() == avant);
         CHECK_FALSE(session.base->entete.LibellesNeutres);
     }
@@ -297,7 +297,7 @@ TEST_CASE("Reorganisation: a file of version 3.1 comes out current and neutral")
 
     REQUIRE(OuvrirChemin(essai.session, essai.dossier / "vieille.LGD"));
     REQUIRE_FALSE(essai.session.base->entete.LibellesNeutres);
-    REQUIRE(ReorganiserBase(essai.session, true) == IssueSoin::Faite);
+    REQUIRE(ReorganiserBase(essai.session, true).cause == Cause::Fait);
     storage::Base& neuve = *essai.session.base;
     CHECK(
         LireTout(essai.dossier / "vieille.LGD").value_or("").starts_with(storage::MarqueCourante));
@@ -314,7 +314,7 @@ TEST_CASE_FIXTURE(Bureau,
                   "Reorganisation: without the copy that was asked for nothing is rewritten") {
     const std::string avant = Octets();
     std::filesystem::create_directories(dossier / "Famille.SAV" / "plein");
-    CHECK(ReorganiserBase(session, true) == IssueSoin::Refusee);
+    CHECK(ReorganiserBase(session, true).cause == Cause::Systeme);
     CHECK(dialogue.entendu == std::vector{Msg(message::SauvegardeNonEcriteBaseFermee,
                                               CheminAffiche(dossier / "Famille.SAV"))});
     CHECK(Octets() == avant);
@@ -326,7 +326,7 @@ TEST_CASE_FIXTURE(Bureau,
     MnuFermer(session);
     const storage::ResultatVerrou verrou = disque.Verrouiller(chemin);
     dialogue.entendu.clear();
-    CHECK(ReecrireBase(session, chemin) == IssueSoin::Refusee);
+    CHECK(ReecrireBase(session, chemin).cause == Cause::Refuse);
     CHECK(dialogue.entendu == std::vector{Msg(message::BaseOccupee, CheminAffiche(chemin))});
     CHECK(Octets() == avant);
     CHECK(Octets("Reorg.fic") == "absent");
@@ -375,7 +375,7 @@ TEST_CASE(
     {
         Poste poste{*temoin};
         REQUIRE(OuvrirChemin(poste.session, Chemin));
-        REQUIRE(ReorganiserBase(poste.session, true) == IssueSoin::Faite);
+        REQUIRE(ReorganiserBase(poste.session, true).cause == Cause::Fait);
     }
     const std::string apres = temoin->Octets(Chemin);
     REQUIRE(apres.size() < avant.size());

@@ -3,7 +3,6 @@
 #include "interchange/gedcom/ImportGedcom.h"
 #include "interchange/lgr/ImportLgr.h"
 #include "messages/Dorvane.h"
-#include "messages/Echange.h"
 #include "messages/Messages.h"
 #include "messages/Releve.h"
 #include "shell/CycleDeVie.h"
@@ -11,16 +10,13 @@
 #include "storage/EnTete.h"
 #include "values/Texte1252.h"
 
+#include <functional>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
 namespace dorvane::interchange {
 namespace {
-
-std::string NomAffichable(const std::filesystem::path& chemin) {
-    return Utf8VersTexte(chemin.string()).octets;
-}
 
 /// The extension in small letters, with its dot.
 std::string Extension(const std::filesystem::path& chemin) {
@@ -32,35 +28,6 @@ std::string Extension(const std::filesystem::path& chemin) {
 
 bool EstGedcom(const std::filesystem::path& fichier) {
     return Extension(fichier) == ".ged";
-}
-
-/// Tells what stopped an import; nothing when it was done.
-void Expliquer(shell::Session& session, IssueImport issue, const std::filesystem::path& fichier,
-               const std::filesystem::path& base) {
-    switch (issue) {
-        case IssueImport::Fait:
-            return;
-        case IssueImport::Illisible:
-            session.dialogue.Informer(
-                shell::Msg(message::FichierIllisible, NomAffichable(fichier)));
-            return;
-        case IssueImport::Inexploitable:
-            session.dialogue.Informer(
-                EstGedcom(fichier)
-                    ? shell::Litteral("Fichier GEDCOM inexploitable"_1252)
-                    : shell::Msg(message::FichierPasUnEchange, NomAffichable(fichier.filename())));
-            return;
-        case IssueImport::Abandonne:
-            session.dialogue.Informer(shell::Msg(message::ImportAbandonne));
-            return;
-        case IssueImport::Occupee:
-            session.dialogue.Informer(shell::Msg(message::BaseOccupee, NomAffichable(base)));
-            return;
-        case IssueImport::Refuse:
-            session.dialogue.Informer(
-                shell::Msg(message::BaseImporteeNonEcrite, NomAffichable(base)));
-            return;
-    }
 }
 
 /// Limits that left records out are told at once, not only in the report.
@@ -103,27 +70,27 @@ using ImporterDansBase = std::function<Importation(const std::filesystem::path& 
 
 /// Closes the base that is open, imports into the one named like the file, opens that and shows
 /// the report.
-void ImporterEtOuvrir(shell::Session& session, const std::filesystem::path& fichier,
-                      const ImporterDansBase& importer, const shell::Phrase& titre,
-                      const MontrerRapport& montrer) {
-    if (!shell::CommandePermise(session)) return;
+shell::Issue ImporterEtOuvrir(shell::Session& session, const std::filesystem::path& fichier,
+                              const ImporterDansBase& importer, NoMessage titre) {
+    if (shell::Issue permise = shell::CommandePermise(session); !permise) return permise;
     std::filesystem::path base = fichier;
     base.replace_extension(".LGD");
-    if (!PeutRemplacer(session, base)) return;
-    if (!shell::Clore(session)) {
+    if (!PeutRemplacer(session, base)) return shell::Issue::Arretee();
+    if (shell::Issue close = shell::Clore(session); !close) {
         session.ecran.Actualiser();
-        return;
+        return close;
     }
     session.ecran.FermerFenetres();
-    const Importation importation = importer(base);
-    if (!importation.faite) {
+    Importation importation = importer(base);
+    if (!importation.issue) {
         session.ecran.Actualiser();
-        return;
+        return importation.issue;
     }
-    shell::MnuOuvrir(session, base);
+    shell::Issue ouverte = shell::MnuOuvrir(session, base);
     session.dialogue.Annoncer(
-        shell::Msg(message::EtatImportTermine, NomAffichable(base.filename())));
-    if (montrer) montrer(session.Message(titre.no), importation.texte);
+        shell::Msg(message::EtatImportTermine, shell::CheminAffiche(base.filename())));
+    session.ecran.MontrerRapport(shell::Msg(titre), importation.texte);
+    return ouverte;
 }
 
 }  // namespace
@@ -131,16 +98,15 @@ void ImporterEtOuvrir(shell::Session& session, const std::filesystem::path& fich
 Importation ImporterVers(shell::Session& session, const std::filesystem::path& fichier,
                          const std::filesystem::path& base) {
     Importation importation;
-    const IssueImport issue = EstGedcom(fichier)
-                                  ? ImporterGedcom(session, fichier, base, importation.rapport)
-                                  : ImporterLgr(session, fichier, base, importation.rapport);
-    Expliquer(session, issue, fichier, base);
-    importation.faite = issue == IssueImport::Fait;
-    if (!importation.faite) return importation;
+    importation.issue =
+        shell::Dire(session.dialogue,
+                    EstGedcom(fichier) ? ImporterGedcom(session, fichier, base, importation.rapport)
+                                       : ImporterLgr(session, fichier, base, importation.rapport));
+    if (!importation.issue) return importation;
 
     AvertirLimites(session, importation.rapport);
     importation.texte =
-        ComposerRapport(importation.rapport, session, NomAffichable(fichier.filename()));
+        ComposerRapport(importation.rapport, session, shell::CheminAffiche(fichier.filename()));
     EnregistrerRapport(session, base, importation);
     return importation;
 }
@@ -149,10 +115,9 @@ Importation ImporterActesVers(shell::Session& session, const Releve& releve,
                               const std::filesystem::path& fichier,
                               const std::filesystem::path& base) {
     Importation importation;
-    const IssueImport issue = ImporterReleve(session, releve, fichier, base, importation.releve);
-    Expliquer(session, issue, fichier, base);
-    importation.faite = issue == IssueImport::Fait;
-    if (!importation.faite) return importation;
+    importation.issue = shell::Dire(
+        session.dialogue, ImporterReleve(session, releve, fichier, base, importation.releve));
+    if (!importation.issue) return importation;
     if (releve.ligneSansSeparateur != 0)
         session.dialogue.Informer(shell::Msg(message::ImportReleveArreteSansSeparateur,
                                              std::to_string(releve.ligneSansSeparateur)));
@@ -161,33 +126,32 @@ Importation ImporterActesVers(shell::Session& session, const Releve& releve,
     return importation;
 }
 
-void ImporterFichier(shell::Session& session, const std::filesystem::path& fichier,
-                     const MontrerRapport& montrer) {
+shell::Issue ImporterFichier(shell::Session& session, const std::filesystem::path& fichier) {
     // A base is opened, never read as a text: the new one would take its place.
-    if (Extension(fichier) == ".lgd") return;
+    if (Extension(fichier) == ".lgd") return shell::Issue::Refusee();
     const auto importer = [&](const std::filesystem::path& base) {
         return ImporterVers(session, fichier, base);
     };
-    ImporterEtOuvrir(session, fichier, importer, shell::Msg(message::TitreRapportImport), montrer);
+    return ImporterEtOuvrir(session, fichier, importer, message::TitreRapportImport);
 }
 
-void ImporterActes(shell::Session& session, const Releve& releve,
-                   const std::filesystem::path& fichier, const MontrerRapport& montrer) {
+shell::Issue ImporterActes(shell::Session& session, const Releve& releve,
+                           const std::filesystem::path& fichier) {
     const auto importer = [&](const std::filesystem::path& base) {
         return ImporterActesVers(session, releve, fichier, base);
     };
-    ImporterEtOuvrir(session, fichier, importer, shell::Msg(message::TitreImportReleve), montrer);
+    return ImporterEtOuvrir(session, fichier, importer, message::TitreImportReleve);
 }
 
-void MnuImporter(shell::Session& session, const MontrerRapport& montrer) {
-    if (!shell::CommandePermise(session)) return;
+shell::Issue MnuImporter(shell::Session& session) {
+    if (shell::Issue permise = shell::CommandePermise(session); !permise) return permise;
     shell::DemandeFichier demande;
     demande.titre = shell::Msg(message::TitreImportGedcom);
     demande.filtre = session.Message(message::FiltreFichiersAImporter);
     demande.extension = ".ged";
     demande.depart = session.CheminGedcom;
-    if (const auto fichier = session.dialogue.ChoisirFichier(demande))
-        ImporterFichier(session, *fichier, montrer);
+    const auto fichier = session.dialogue.ChoisirFichier(demande);
+    return fichier ? ImporterFichier(session, *fichier) : shell::Issue::Arretee();
 }
 
 }  // namespace dorvane::interchange

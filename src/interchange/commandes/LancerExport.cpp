@@ -75,18 +75,6 @@ SelectionExport Selectionner(storage::Base& base, const DemandeExport& demande) 
     return selection;
 }
 
-/// A whole base goes with all its events and documents.
-bool Complet(const DemandeExport& demande) {
-    ReglagesSelection reglages = demande.reglages;
-    reglages.complet = reglages.complet || demande.entiere;
-    return ExportComplet(reglages);
-}
-
-/// Near kin is a matter of selections; of a whole base nobody is left to be kin.
-OptionsLgr Options(const SelectionExport& selection, const DemandeExport& demande) {
-    return {selection.Choisis(demande.reglages), Complet(demande)};
-}
-
 template <class Numero>
 std::uint32_t Compter(const RedactionLgr& redaction, std::uint32_t dernier) {
     std::uint32_t nombre = 0;
@@ -123,8 +111,8 @@ bool EstDeLaBase(const shell::Session& session, const fs::path& fichier) {
         });
 }
 
-/// Where to; nothing when the user gives up.
-std::optional<fs::path> ChoisirFichier(shell::Session& session, FormatExport format) {
+/// Asks where to; told when it may not be there.
+shell::Issue ChoisirFichier(shell::Session& session, FormatExport format, fs::path& fichier) {
     const std::string extension = Extension(format);
     shell::DemandeFichier demande;
     demande.sorte = shell::DemandeFichier::Sorte::Enregistrer;
@@ -134,19 +122,18 @@ std::optional<fs::path> ChoisirFichier(shell::Session& session, FormatExport for
     demande.extension = extension;
     demande.depart = DossierPropose(session) / session.CheminBase.stem();
     demande.depart += extension;
-    std::optional<fs::path> choisi = session.dialogue.ChoisirFichier(demande);
-    if (!choisi) return std::nullopt;
-    fs::path fichier = shell::CheminEntier(*choisi);
+    const std::optional<fs::path> choisi = session.dialogue.ChoisirFichier(demande);
+    if (!choisi) return shell::Issue::Arretee();
+    fichier = shell::CheminEntier(*choisi);
     bool autreNom = false;
     if (EnPetites(fichier.extension().string()) != extension) {
         fichier += extension;
         autreNom = true;
     }
-    if (EstDeLaBase(session, fichier)) {
-        session.dialogue.Informer(
-            shell::Msg(message::FichierDeLaBaseOuverte, shell::CheminAffiche(fichier.filename())));
-        return std::nullopt;
-    }
+    if (EstDeLaBase(session, fichier))
+        return shell::Dire(session.dialogue, shell::Issue::Refusee(shell::Msg(
+                                                 message::FichierDeLaBaseOuverte,
+                                                 shell::CheminAffiche(fichier.filename()))));
     // The dialog has asked about the name that it knew.
     std::error_code erreur;
     if (autreNom && fs::exists(fichier, erreur)) {
@@ -155,48 +142,16 @@ std::optional<fs::path> ChoisirFichier(shell::Session& session, FormatExport for
             shell::Msg(message::ConfirmerRemplacerExport, shell::CheminAffiche(fichier.filename()));
         question.defaut = shell::Reponse::Non;
         question.grave = true;
-        if (!session.dialogue.Confirmer(question)) return std::nullopt;
+        if (!session.dialogue.Confirmer(question)) return shell::Issue::Arretee();
     }
-    return fichier;
+    return shell::Issue::Faite();
 }
 
-IssueLancement Traduire(IssueExport issue) {
-    switch (issue) {
-        case IssueExport::Fait:
-            return IssueLancement::Fait;
-        case IssueExport::Abandon:
-            return IssueLancement::Interrompu;
-        case IssueExport::Refus:
-            break;
-    }
-    return IssueLancement::Echec;
-}
-
-Lancement Ecrire(shell::Session& session, const fs::path& fichier, const DemandeExport& demande,
-                 OptionsLgr options) {
-    Lancement lancement;
-    if (demande.format == FormatExport::Dorvane) {
-        const ResultatLgr r = ExporterLgr(session, fichier, options);
-        lancement.issue = Traduire(r.issue);
-        lancement.individus = r.comptes.individus;
-        lancement.unions = r.comptes.unions;
-        lancement.evenements = r.comptes.evenements;
-        lancement.documents = r.comptes.documents;
-        lancement.omis = r.comptes.omis;
-        return lancement;
-    }
-    OptionsExport gedcom;
-    gedcom.jeu = demande.jeu;
-    gedcom.choisis = std::move(options.choisis);
-    gedcom.complet = options.complet;
-    const ResultatExport r = ExporterGedcom(session, fichier, gedcom);
-    lancement.issue = Traduire(r.issue);
-    lancement.individus = r.comptes.individus;
-    lancement.unions = r.comptes.familles;
-    lancement.evenements = r.comptes.evenements;
-    lancement.documents = r.comptes.documents;
-    lancement.perdus = r.comptes.perdus;
-    return lancement;
+ResultatExport Ecrire(shell::Session& session, const fs::path& fichier,
+                      const DemandeExport& demande, ChoixExport choix) {
+    if (demande.format == FormatExport::Dorvane) return ExporterLgr(session, fichier, choix);
+    OptionsGedcom options{std::move(choix), demande.jeu, demande.reduit};
+    return ExporterGedcom(session, fichier, options);
 }
 
 /// What a stopped export leaves is of use to nobody who has not asked for it.
@@ -213,28 +168,14 @@ void ProposerSuppression(shell::Session& session, const fs::path& partiel) {
             shell::Msg(message::FichierNonSupprime, shell::CheminAffiche(partiel)));
 }
 
-void Dire(shell::Session& session, const Lancement& lancement, const fs::path& fichier) {
-    switch (lancement.issue) {
-        case IssueLancement::Fait:
-            session.dialogue.Informer(shell::Msg(message::InfoExportTermine));
-            if (lancement.perdus > 0)
-                session.dialogue.Informer(shell::Msg(message::CaracteresPerdusALExport,
-                                                     std::to_string(lancement.perdus)));
-            if (lancement.omis > 0)
-                session.dialogue.Informer(
-                    shell::Msg(message::UnionsEtEntreesOmises, std::to_string(lancement.omis)));
-            return;
-        case IssueLancement::Interrompu:
-            return ProposerSuppression(session, shell::CheminPartiel(fichier));
-        case IssueLancement::Echec:
-            session.dialogue.Informer(
-                shell::Msg(message::FichierNonEcrit, shell::CheminAffiche(fichier)));
-            return;
-        case IssueLancement::Refuse:
-        case IssueLancement::Vide:
-        case IssueLancement::Renonce:
-            return;
-    }
+void DireFait(shell::Session& session, const ComptesExport& comptes) {
+    session.dialogue.Informer(shell::Msg(message::InfoExportTermine));
+    if (comptes.perdus > 0)
+        session.dialogue.Informer(
+            shell::Msg(message::CaracteresPerdusALExport, std::to_string(comptes.perdus)));
+    if (comptes.omis > 0)
+        session.dialogue.Informer(
+            shell::Msg(message::UnionsEtEntreesOmises, std::to_string(comptes.omis)));
 }
 
 }  // namespace
@@ -284,9 +225,9 @@ ComptesSelection CompterExport(shell::Session& session, const DemandeExport& dem
     ComptesSelection comptes;
     comptes.retenus = selection.NbRetenus();
     comptes.marques = selection.NbMarques();
-    const OptionsLgr options = Options(selection, demande);
+    const ChoixExport choix = selection.Choix(demande.reglages);
     // Both formats take the same records.
-    const RedactionLgr redaction{session, options};
+    const RedactionLgr redaction{session, choix};
     comptes.individus = Compter<NoOrdre>(redaction, base.entete.DernierIndividu);
     comptes.evenements = Compter<NoEvenement>(redaction, base.entete.DernierEvenement);
     comptes.documents = Compter<NoDocument>(redaction, base.entete.DernierDocument);
@@ -294,23 +235,32 @@ ComptesSelection CompterExport(shell::Session& session, const DemandeExport& dem
 }
 
 Lancement LancerExport(shell::Session& session, const DemandeExport& demande) {
-    if (!shell::CommandePermise(session) || !session.base) return {};
-    const SelectionExport selection = Selectionner(*session.base, demande);
-    OptionsLgr options = Options(selection, demande);
-    if (std::ranges::find(options.choisis, true) == options.choisis.end()) {
-        session.dialogue.Informer(shell::Msg(message::ExportSansPersonneChoisie));
-        return {.issue = IssueLancement::Vide};
-    }
-    const std::optional<fs::path> fichier = ChoisirFichier(session, demande.format);
-    if (!fichier) return {.issue = IssueLancement::Renonce};
-    Lancement lancement = Ecrire(session, *fichier, demande, std::move(options));
-    if (lancement.issue == IssueLancement::Fait) {
-        lancement.fichier = *fichier;
+    if (shell::Issue permise = shell::CommandePermise(session); !permise) return {permise};
+    if (!session.base) return {};
+    ChoixExport choix = Selectionner(*session.base, demande).Choix(demande.reglages);
+    if (std::ranges::find(choix.choisis, true) == choix.choisis.end())
+        return {.issue = shell::Dire(session.dialogue, shell::Issue::Refusee(shell::Msg(
+                                                           message::ExportSansPersonneChoisie))),
+                .vide = true};
+    fs::path fichier;
+    if (shell::Issue choisi = ChoisirFichier(session, demande.format, fichier); !choisi)
+        return {choisi};
+    const ResultatExport resultat = Ecrire(session, fichier, demande, std::move(choix));
+    if (resultat.issue) {
         static_cast<void>(session.parametres.SauverValeur(
-            Section, CleDossier, shell::CheminAffiche(fichier->parent_path())));
+            Section, CleDossier, shell::CheminAffiche(fichier.parent_path())));
+        DireFait(session, resultat.comptes);
+        return {.issue = resultat.issue, .fichier = fichier, .comptes = resultat.comptes};
     }
-    Dire(session, lancement, *fichier);
-    return lancement;
+    if (resultat.issue.cause == shell::Cause::Arrete)
+        ProposerSuppression(session, shell::CheminPartiel(fichier));
+    return {.issue = shell::Dire(session.dialogue, resultat.issue), .comptes = resultat.comptes};
+}
+
+ResultatExport ExporterVers(shell::Session& session, const DemandeExport& demande,
+                            const fs::path& fichier) {
+    return Ecrire(session, fichier, demande,
+                  Selectionner(*session.base, demande).Choix(demande.reglages));
 }
 
 }  // namespace dorvane::interchange

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "interchange/commun/Export.h"
 #include "interchange/commun/SelectionExport.h"
 #include "interchange/jeux/EncoderJeu.h"
 #include "values/Numeros.h"
@@ -29,6 +30,7 @@ struct ParcoursExport {
 struct DemandeExport {
     FormatExport format = FormatExport::Gedcom;
     JeuExport jeu = JeuExport::Ansi;  ///< of a GEDCOM file
+    bool reduit = false;              ///< header of a GEDCOM file without its writer
     bool entiere = true;              ///< the whole base; else the list and the walks
     ReglagesSelection reglages{};
     std::vector<NoOrdre> liste{};
@@ -54,28 +56,20 @@ struct ComptesSelection {
 /// A base is open. Linear in the persons selected and in what hangs on them.
 [[nodiscard]] ComptesSelection CompterExport(shell::Session& session, const DemandeExport& demande);
 
-enum class IssueLancement : std::uint8_t {
-    Fait,
-    Refuse,      ///< not now: no base, a long job, an unsaved sheet
-    Vide,        ///< nobody would be written
-    Renonce,     ///< no file was chosen
-    Interrompu,  ///< stopped while it was written
-    Echec,       ///< the system refuses to write
-};
-
 struct Lancement {
-    IssueLancement issue = IssueLancement::Refuse;
-    std::filesystem::path fichier{};  ///< what was written; empty unless `Fait`
-    std::uint32_t individus = 0;
-    std::uint32_t unions = 0;
-    std::uint32_t evenements = 0;
-    std::uint32_t documents = 0;
-    std::size_t perdus = 0;  ///< characters that the set has no form of
-    std::uint32_t omis = 0;  ///< unions and list entries that the format has no place for
+    shell::Issue issue{};
+    bool vide = false;                ///< refused because nobody would be written
+    std::filesystem::path fichier{};  ///< what was written; empty unless it is done
+    ComptesExport comptes{};
 };
 
 /// Asks for the file, writes it and tells how it ended. A name without the extension of the format
 /// gets it; the files of the open base are refused.
 [[nodiscard]] Lancement LancerExport(shell::Session& session, const DemandeExport& demande);
+
+/// Writes a file that is known, without a question; how it ended is not told. Stopped, it leaves
+/// what it has written at `shell::CheminPartiel`.
+[[nodiscard]] ResultatExport ExporterVers(shell::Session& session, const DemandeExport& demande,
+                                          const std::filesystem::path& fichier);
 
 }  // namespace dorvane::interchange

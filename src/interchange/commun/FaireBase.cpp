@@ -1,5 +1,6 @@
 #include "interchange/commun/FaireBase.h"
 
+#include "messages/Dorvane.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Parametres.h"
 #include "storage/Base.h"
@@ -28,20 +29,24 @@ bool Installer(storage::Disque& disque, const std::filesystem::path& provisoire,
 
 }  // namespace
 
-IssueImport FaireBase(shell::Session& session, const std::filesystem::path& base,
-                      const CadreImport& cadre,
-                      const std::function<bool(storage::Base&)>& remplir) {
+shell::Issue FaireBase(shell::Session& session, const std::filesystem::path& base,
+                       const CadreImport& cadre,
+                       const std::function<bool(storage::Base&)>& remplir) {
     shell::ReprendreAvantRemplacement(session, base);
     // Held until the end: nobody opens or replaces the base meanwhile.
     const storage::ResultatVerrou verrou = session.disque.Verrouiller(base);
-    if (verrou.etat == storage::EtatVerrou::Occupe) return IssueImport::Occupee;
+    const std::string nom = shell::CheminAffiche(base);
+    if (verrou.etat == storage::EtatVerrou::Occupe)
+        return shell::Issue::Refusee(shell::Msg(message::BaseOccupee, nom));
+    const shell::Issue refusee =
+        shell::Issue::ParSysteme(shell::Msg(message::BaseImporteeNonEcrite, nom));
 
     const shell::CadreProgression montre{session.progression, cadre.titre, cadre.texte};
     const std::filesystem::path provisoire = CheminProvisoire(base);
     storage::ResultatOuverture ouverture = storage::NouvelleBase(
         session.disque, provisoire,
         {'1', session.parametres.generaux.motClePrenom, session.parametres.generaux.motCleNom});
-    if (ouverture.etat != storage::Ouverture::Faite) return IssueImport::Refuse;
+    if (ouverture.etat != storage::Ouverture::Faite) return refusee;
     ouverture.base->regles.particules = session.parametres.generaux.particules;
     const bool fini = remplir(*ouverture.base);
     const bool ecrite = fini && ouverture.base->Fermer();
@@ -49,9 +54,9 @@ IssueImport FaireBase(shell::Session& session, const std::filesystem::path& base
     if (!ecrite || !Installer(session.disque, provisoire, base)) {
         (void)session.disque.Supprimer(provisoire);
         (void)storage::SupprimerJournal(session.disque, provisoire);
-        return fini ? IssueImport::Refuse : IssueImport::Abandonne;
+        return fini ? refusee : shell::Issue::Arretee(shell::Msg(message::ImportAbandonne));
     }
-    return IssueImport::Fait;
+    return shell::Issue::Faite();
 }
 
 }  // namespace dorvane::interchange

@@ -34,9 +34,11 @@ SelectionExport::SelectionExport(storage::Base& base)
 void SelectionExport::Vider() {
     std::ranges::fill(marques_, Blanc);
     nbRetenus_ = nbMarques_ = 0;
+    entiere_ = false;
 }
 
 void SelectionExport::MarquerTous() {
+    entiere_ = true;
     for (std::uint32_t rang = 1; rang <= base_.entete.NbTriIndividus; ++rang)
         if (const NoOrdre n = base_.R_TRI.IndividuAuRang(rang); Existe(n))
             marques_[n.valeur] = Retenu;
@@ -112,14 +114,16 @@ char SelectionExport::Marque(NoOrdre n) const {
     return Existe(n) ? marques_[n.valeur] : Blanc;
 }
 
-std::vector<bool> SelectionExport::Choisis(const ReglagesSelection& reglages) const {
-    std::vector<bool> choisis(marques_.size());
+ChoixExport SelectionExport::Choix(const ReglagesSelection& reglages) const {
+    ChoixExport choix;
+    choix.choisis.resize(marques_.size());
     for (std::uint32_t n = 1; n < marques_.size(); ++n) {
         const bool marque = marques_[n] == Retenu || (reglages.collateraux && marques_[n] != Blanc);
-        choisis[n] = marque && !(reglages.ecarter1900 &&
-                                 base_.R_NAISS.AnneeTri(NoOrdre{n}) > DerniereNaissance);
+        choix.choisis[n] = marque && !(reglages.ecarter1900 &&
+                                       base_.R_NAISS.AnneeTri(NoOrdre{n}) > DerniereNaissance);
     }
-    return choisis;
+    choix.complet = (reglages.complet || entiere_) && !reglages.ecarter1900;
+    return choix;
 }
 
 }  // namespace dorvane::interchange

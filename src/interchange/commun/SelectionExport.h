@@ -1,11 +1,11 @@
 #pragma once
 
+#include "interchange/commun/Export.h"
 #include "values/Numeros.h"
 
 #include <cstdint>
 #include <span>
 #include <string>
-#include <vector>
 
 namespace dorvane::storage {
 class Base;
@@ -20,7 +20,7 @@ enum class SensExport : std::uint8_t { Ascendants, Descendants };
 struct ReglagesSelection {
     bool collateraux = false;  ///< near kin goes with the persons selected
     bool complet = false;      ///< events and documents of nobody selected as well
-    bool ecarter1900 = false;  ///< persons born after 1900 are left out
+    bool ecarter1900 = false;  ///< persons born after 1900 are left out, and then `complet` is not
 };
 
 /// Generations that a selection goes when nobody says how many: more than any family has.
@@ -53,9 +53,9 @@ public:
     /// Persons that an export with near kin writes.
     [[nodiscard]] std::uint32_t NbMarques() const { return nbMarques_; }
 
-    /// Who is written, by person number, for the two writers. Never empty: number 0 is in it, as
-    /// false.
-    [[nodiscard]] std::vector<bool> Choisis(const ReglagesSelection& reglages) const;
+    /// What is written, for the writers of all formats. Of a whole base that is every event and
+    /// document. `choisis` is never empty: number 0 is in it, as false.
+    [[nodiscard]] ChoixExport Choix(const ReglagesSelection& reglages) const;
 
 private:
     void Parcourir(NoOrdre depart, SensExport sens, std::uint32_t generations);
@@ -63,14 +63,10 @@ private:
     [[nodiscard]] bool Existe(NoOrdre n) const { return n && n.valeur < marques_.size(); }
 
     storage::Base& base_;
-    std::string marques_;  ///< by person number
+    std::string marques_;   ///< by person number
+    bool entiere_ = false;  ///< the whole base was selected
     std::uint32_t nbRetenus_ = 0;
     std::uint32_t nbMarques_ = 0;
 };
-
-/// Whether the events and documents that hang on nobody selected are written too.
-[[nodiscard]] inline bool ExportComplet(const ReglagesSelection& reglages) {
-    return reglages.complet && !reglages.ecarter1900;
-}
 
 }  // namespace dorvane::interchange

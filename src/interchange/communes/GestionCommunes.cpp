@@ -20,6 +20,7 @@ namespace dorvane::interchange {
 
 namespace {
 
+using shell::Issue;
 using storage::BaseCommunes;
 using storage::Commune;
 using storage::NoCommune;
@@ -49,6 +50,19 @@ public:
 private:
     shell::RelaisAvancement relais_;
 };
+
+/// Told.
+Issue RefuserFichier(shell::Session& session, const std::filesystem::path& chemin) {
+    return Dire(session.dialogue, Issue::Refusee(shell::Msg(message::FichierPasUneBaseDeCommunes,
+                                                            shell::CheminAffiche(chemin))));
+}
+
+/// Told.
+Issue RefuserNombre(shell::Session& session) {
+    return Dire(session.dialogue,
+                Issue::Refusee(shell::Msg(message::BaseCommunesPleine,
+                                          std::to_string(BaseCommunes::MaxCommunes))));
+}
 
 /// All that a commune says, to know the same one again.
 std::string CleEntiere(const Commune& c) {
@@ -88,20 +102,17 @@ std::filesystem::path NomLibre(const std::filesystem::path& dossier,
 
 }  // namespace
 
-bool GestionCommunes::Ouvrir() {
+shell::Issue GestionCommunes::Ouvrir() {
     const std::filesystem::path& chemin = session_.parametres.generaux.fichierCommunes;
     storage::ResultatCommunes r = BaseCommunes::OuvrirCommunes(session_.disque, chemin);
-    if (r.etat == storage::OuvertureCommunes::Faite) {
-        chemin_ = chemin;
-        base_ = std::move(r.base);
-        Compter();
-        return true;
-    }
-    session_.dialogue.Informer(
-        r.etat == storage::OuvertureCommunes::Absente
-            ? shell::Msg(message::FichierCommunesIntrouvable)
-            : shell::Msg(message::FichierPasUneBaseDeCommunes, shell::CheminAffiche(chemin)));
-    return false;
+    if (r.etat == storage::OuvertureCommunes::Absente)
+        return Dire(session_.dialogue,
+                    Issue::ParSysteme(shell::Msg(message::FichierCommunesIntrouvable)));
+    if (r.etat != storage::OuvertureCommunes::Faite) return RefuserFichier(session_, chemin);
+    chemin_ = chemin;
+    base_ = std::move(r.base);
+    Compter();
+    return Issue::Faite();
 }
 
 bool GestionCommunes::Perimee() const {
@@ -135,28 +146,23 @@ std::vector<NoCommune> GestionCommunes::Chercher(std::string_view texte, bool pa
     return trouvees;
 }
 
-bool GestionCommunes::Changer(const std::function<Essai()>& essai) {
+Issue GestionCommunes::Changer(const std::function<Issue()>& essai) {
     for (;;) {
         auto avant = std::make_unique<BaseCommunes>(*base_);
-        const Essai issue = essai();
-        if (issue == Essai::Fait) {
+        Issue issue = essai();
+        if (issue) {
             Compter();
-            return true;
+            return issue;
         }
         base_ = std::move(avant);
-        if (issue == Essai::Abandonne) return false;
-        if (issue == Essai::Ailleurs) {
-            static_cast<void>(Relire());
-            session_.dialogue.Informer(
-                shell::Msg(message::FichierCommunesChangeAilleurs, shell::CheminAffiche(chemin_)));
-            return false;
-        }
-        if (!ProposerCopie()) return false;
+        if (issue.cause == shell::Cause::Refuse) static_cast<void>(Relire());
+        if (issue.cause != shell::Cause::Systeme) return Dire(session_.dialogue, std::move(issue));
+        if (Issue copiee = ProposerCopie(); !copiee) return copiee;
     }
 }
 
 /// The program folder of an installation belongs to the system: the user gets a file of their own.
-bool GestionCommunes::ProposerCopie() {
+Issue GestionCommunes::ProposerCopie() {
     const shell::Lieux& lieux = session_.parametres.lieux;
     std::filesystem::path refuse = chemin_;
     if (chemin_.parent_path() == lieux.repertoire) {
@@ -164,7 +170,7 @@ bool GestionCommunes::ProposerCopie() {
         if (!session_.dialogue.Confirmer(shell::Msg(message::ProposerCopieFichierCommunes,
                                                     shell::CheminAffiche(chemin_),
                                                     shell::CheminAffiche(copie))))
-            return false;
+            return Issue::Arretee();
         std::error_code erreur;
         std::filesystem::create_directories(lieux.configuration, erreur);
         if (shell::CopierTout(chemin_, copie)) {
@@ -172,25 +178,25 @@ bool GestionCommunes::ProposerCopie() {
             // A refusal is told when the settings are saved at the end.
             static_cast<void>(session_.parametres.SauverParametres());
             chemin_ = copie;
-            if (Relire()) return true;
+            if (Relire()) return Issue::Faite();
         }
         refuse = copie;
     }
-    session_.dialogue.Informer(
-        shell::Msg(message::FichierCommunesNonEcrit, shell::CheminAffiche(refuse)));
-    return false;
+    return Dire(session_.dialogue, Issue::ParSysteme(shell::Msg(message::FichierCommunesNonEcrit,
+                                                                shell::CheminAffiche(refuse))));
 }
 
-GestionCommunes::Essai GestionCommunes::EcrireBase() {
+Issue GestionCommunes::EcrireBase() {
     switch (base_->EnregistrerCommunes()) {
         case storage::EcritureCommunes::Faite:
-            return Essai::Fait;
+            return Issue::Faite();
         case storage::EcritureCommunes::ChangeeAilleurs:
-            return Essai::Ailleurs;
+            return Issue::Refusee(
+                shell::Msg(message::FichierCommunesChangeAilleurs, shell::CheminAffiche(chemin_)));
         case storage::EcritureCommunes::Refusee:
             break;
     }
-    return Essai::Refuse;
+    return Issue::ParSysteme();
 }
 
 NoCommune GestionCommunes::Enregistrer(NoCommune n, const Commune& commune) {
@@ -203,23 +209,22 @@ NoCommune GestionCommunes::Enregistrer(NoCommune n, const Commune& commune) {
         return {};
     }
     if (!n && base_->Nombre() >= BaseCommunes::MaxCommunes) {
-        session_.dialogue.Informer(
-            shell::Msg(message::BaseCommunesPleine, std::to_string(BaseCommunes::MaxCommunes)));
+        static_cast<void>(RefuserNombre(session_));
         return {};
     }
     NoCommune ecrite;
-    const bool fait = Changer([&] {
+    const Issue issue = Changer([&] {
         ecrite = n;
         // One that has gone meanwhile comes in again.
         if (!n || !base_->MajCommune(n, commune)) ecrite = base_->AjouterCommune(commune);
-        return ecrite ? EcrireBase() : Essai::Abandonne;
+        return ecrite ? EcrireBase() : Issue::Arretee();
     });
-    return fait ? ecrite : NoCommune{};
+    return issue ? ecrite : NoCommune{};
 }
 
-bool GestionCommunes::Supprimer(NoCommune n) {
+Issue GestionCommunes::Supprimer(NoCommune n) {
     const Commune commune = base_->LireCommune(n);
-    if (commune.nom.empty()) return false;
+    if (commune.nom.empty()) return Issue::Refusee();
     const std::string cle = storage::CleCommune(commune.nom);
     std::size_t rattachees = 0;
     // A homonym takes over those that name it.
@@ -235,84 +240,73 @@ bool GestionCommunes::Supprimer(NoCommune n) {
                                                   lieu, std::to_string(rattachees));
     question.defaut = shell::Reponse::Non;
     question.grave = true;
-    if (!session_.dialogue.Confirmer(question)) return false;
+    if (!session_.dialogue.Confirmer(question)) return Issue::Arretee();
     return Changer([&] {
         static_cast<void>(base_->SupprimerCommune(n));
         return EcrireBase();
     });
 }
 
-bool GestionCommunes::Reorganiser() {
+Issue GestionCommunes::Reorganiser() {
     std::string avant;
-    const bool fait = Changer([&] {
+    Issue issue = Changer([&] {
         // What another program has written since is kept.
-        if (!Relire()) return Essai::Refuse;
+        if (!Relire()) return Issue::ParSysteme();
         avant = Kilos(chemin_);
         RelaisAbandon relais{session_};
-        if (base_->ReorganiserCommunes(relais)) return Essai::Fait;
-        return relais.abandon ? Essai::Abandonne : Essai::Refuse;
+        if (base_->ReorganiserCommunes(relais)) return Issue::Faite();
+        return relais.abandon ? Issue::Arretee() : Issue::ParSysteme();
     });
-    if (fait)
+    if (issue)
         session_.dialogue.Informer(
             shell::Msg(message::InfoBaseCommunesReorganisee, avant, Kilos(chemin_)));
-    return fait;
+    return issue;
 }
 
-GestionCommunes::Essai GestionCommunes::Composer(const std::vector<Commune>& communes) {
+Issue GestionCommunes::Composer(const std::vector<Commune>& communes) {
     RelaisAbandon relais{session_};
     std::string octets;
-    if (!storage::ComposerLgx(communes, relais, octets)) return Essai::Abandonne;
+    if (!storage::ComposerLgx(communes, relais, octets)) return Issue::Arretee();
     std::filesystem::path voisin = chemin_;
     voisin += ".nouveau";
-    if (!storage::EcrireLgx(session_.disque, chemin_, voisin, octets)) return Essai::Refuse;
-    return Relire() ? Essai::Fait : Essai::Refuse;
+    if (!storage::EcrireLgx(session_.disque, chemin_, voisin, octets)) return Issue::ParSysteme();
+    return Relire() ? Issue::Faite() : Issue::ParSysteme();
 }
 
-bool GestionCommunes::ChargerListe(bool remplacer) {
+Issue GestionCommunes::ChargerListe(bool remplacer) {
     shell::DemandeFichier demande;
     demande.titre = shell::Msg(message::TitreChoisirListeCommunes);
     demande.filtre = session_.Message(message::FiltreListesCommunes);
     const auto fichier = session_.dialogue.ChoisirFichier(demande);
-    if (!fichier) return false;
-    const std::optional<ListeCommunes> liste = LireListeCommunes(session_.dialogue, *fichier);
-    if (!liste) return false;
+    if (!fichier) return Issue::Arretee();
+    ListeCommunes liste;
+    if (Issue lue = Dire(session_.dialogue, LireListeCommunes(*fichier, liste)); !lue) return lue;
     const std::string nom = shell::CheminAffiche(fichier->filename());
     // The counts are those of the file as it is now.
-    if (!Relire()) {
-        session_.dialogue.Informer(
-            shell::Msg(message::FichierPasUneBaseDeCommunes, shell::CheminAffiche(chemin_)));
-        return false;
-    }
+    if (!Relire()) return RefuserFichier(session_, chemin_);
     if (remplacer && nombre_ != 0) {
         shell::Question question;
         question.texte =
             shell::Msg(message::ConfirmerRemplacerCommunesParListe, std::to_string(nombre_), nom);
         question.defaut = shell::Reponse::Non;
         question.grave = true;
-        if (!session_.dialogue.Confirmer(question)) return false;
+        if (!session_.dialogue.Confirmer(question)) return Issue::Arretee();
     }
     std::vector<Commune> communes;
     std::set<std::string> connues;
     if (!remplacer) {
         std::optional<std::vector<Commune>> toutes = base_->Toutes();
-        if (!toutes) {
-            session_.dialogue.Informer(
-                shell::Msg(message::FichierPasUneBaseDeCommunes, shell::CheminAffiche(chemin_)));
-            return false;
-        }
+        if (!toutes) return RefuserFichier(session_, chemin_);
         communes = std::move(*toutes);
         for (const Commune& commune : communes)
             connues.insert(CleEntiere(commune));
     }
     const std::size_t avant = communes.size();
-    for (const Commune& commune : liste->communes)
+    for (const Commune& commune : liste.communes)
         if (connues.insert(CleEntiere(commune)).second) communes.push_back(commune);
-    if (communes.size() > BaseCommunes::MaxCommunes) {
-        session_.dialogue.Informer(
-            shell::Msg(message::BaseCommunesPleine, std::to_string(BaseCommunes::MaxCommunes)));
-        return false;
-    }
-    if (!Changer([&] { return Composer(communes); })) return false;
+    if (communes.size() > BaseCommunes::MaxCommunes) return RefuserNombre(session_);
+    Issue issue = Changer([&] { return Composer(communes); });
+    if (!issue) return issue;
 
     const std::size_t ajoutees = communes.size() - avant;
     std::string bilan = session_.catalogue.Composer(
@@ -322,12 +316,12 @@ bool GestionCommunes::ChargerListe(bool remplacer) {
         bilan.append(1, '\n').append(
             session_.catalogue.Composer(shell::Msg(no, std::to_string(combien), reste)));
     };
-    dire(message::InfoCommunesDejaPresentes, liste->communes.size() - ajoutees, {});
-    dire(message::InfoLignesSansNom, liste->sansNom.size(), Joindre(liste->sansNom));
-    dire(message::InfoLignesTropLongues, liste->tropLongues.size(), Joindre(liste->tropLongues));
-    dire(message::ListeCommunesHorsJeuDeCaracteres, liste->remplaces, {});
+    dire(message::InfoCommunesDejaPresentes, liste.communes.size() - ajoutees, {});
+    dire(message::InfoLignesSansNom, liste.sansNom.size(), Joindre(liste.sansNom));
+    dire(message::InfoLignesTropLongues, liste.tropLongues.size(), Joindre(liste.tropLongues));
+    dire(message::ListeCommunesHorsJeuDeCaracteres, liste.remplaces, {});
     session_.dialogue.Informer(shell::Litteral(bilan));
-    return true;
+    return issue;
 }
 
 }  // namespace dorvane::interchange

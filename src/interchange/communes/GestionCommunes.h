@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/Issue.h"
 #include "storage/BaseCommunes.h"
 
 #include <cstdint>
@@ -16,17 +17,16 @@ class Session;
 namespace dorvane::interchange {
 
 /// The rules of the window of the communes. Every change is in the file once it is answered as
-/// done; after a refusal, which a message has told, memory and file are as before. A file in the
-/// program folder that cannot be written is copied to the folder of the settings, after a question,
-/// and the settings name the copy from then on.
+/// done; after anything else, which a message has told, memory and file are as before. A file in
+/// the program folder that cannot be written is copied to the folder of the settings, after a
+/// question, and the settings name the copy from then on.
 class GestionCommunes {
 public:
     /// `session` outlives the object.
     explicit GestionCommunes(shell::Session& session) : session_{session} {}
 
-    /// Opens the file of the settings. False once a message has told why not: a base that was open
-    /// stays so.
-    [[nodiscard]] bool Ouvrir();
+    /// Opens the file of the settings. When it cannot, a base that was open stays so.
+    [[nodiscard]] shell::Issue Ouvrir();
     /// The settings name another file than the one that is open.
     [[nodiscard]] bool Perimee() const;
 
@@ -44,22 +44,22 @@ public:
     [[nodiscard]] storage::NoCommune Enregistrer(storage::NoCommune n,
                                                  const storage::Commune& commune);
     /// Asks first, and tells how many communes then name one that is not there.
-    [[nodiscard]] bool Supprimer(storage::NoCommune n);
+    [[nodiscard]] shell::Issue Supprimer(storage::NoCommune n);
     /// Shows its phases, and the sizes before and after. Numbers stay.
-    [[nodiscard]] bool Reorganiser();
+    [[nodiscard]] shell::Issue Reorganiser();
     /// Asks for a list (CSV), and adds its communes or, after a question, replaces all by them.
     /// Tells what came in and what was left out.
-    [[nodiscard]] bool ChargerListe(bool remplacer);
+    [[nodiscard]] shell::Issue ChargerListe(bool remplacer);
 
 private:
-    enum class Essai { Fait, Refuse, Ailleurs, Abandonne };
-
-    /// Tries a change until it is in the file or the user is told why it is not.
-    [[nodiscard]] bool Changer(const std::function<Essai()>& essai);
-    [[nodiscard]] Essai EcrireBase();
-    [[nodiscard]] Essai Composer(const std::vector<storage::Commune>& communes);
+    /// Tries a change until it is in the file or the user is told why it is not. `essai` is refused
+    /// when the file is no longer what was read, and then memory is as the file; by the system when
+    /// it cannot be written here.
+    [[nodiscard]] shell::Issue Changer(const std::function<shell::Issue()>& essai);
+    [[nodiscard]] shell::Issue EcrireBase();
+    [[nodiscard]] shell::Issue Composer(const std::vector<storage::Commune>& communes);
     [[nodiscard]] bool Relire();
-    [[nodiscard]] bool ProposerCopie();
+    [[nodiscard]] shell::Issue ProposerCopie();
     void Compter();
 
     shell::Session& session_;

@@ -1,19 +1,15 @@
 #pragma once
 
 #include "interchange/communes/CsvCommunes.h"
+#include "shell/Issue.h"
 
 #include <filesystem>
-#include <optional>
-
-namespace dorvane::shell {
-class Dialogue;
-}
 
 namespace dorvane::interchange {
 
-/// Reads a list of communes from a file. Nothing once a message has told why not: it cannot be
-/// read, names no communes, or more than a base holds.
-[[nodiscard]] std::optional<ListeCommunes> LireListeCommunes(shell::Dialogue& dialogue,
-                                                             const std::filesystem::path& fichier);
+/// Reads a list of communes from a file. Refused, which is not told, when it names no communes or
+/// more than a base holds.
+[[nodiscard]] shell::Issue LireListeCommunes(const std::filesystem::path& fichier,
+                                             ListeCommunes& liste);
 
 }  // namespace dorvane::interchange

@@ -30,7 +30,7 @@ std::string Titre(const shell::Session& session, int phase, NoMessage message) {
 }  // namespace
 
 bool ComposerGedcom(shell::Session& session, const std::string& nomFichier,
-                    const OptionsExport& options, std::string& octets, ComptesExport& comptes) {
+                    const OptionsGedcom& options, std::string& octets, ComptesExport& comptes) {
     const shell::CadreProgression cadre{session.progression, shell::Msg(message::TitreExportGedcom),
                                         shell::Litteral("Phase 1")};
     storage::Base& base = *session.base;
@@ -64,7 +64,7 @@ bool ComposerGedcom(shell::Session& session, const std::string& nomFichier,
 }
 
 ResultatExport ExporterGedcom(shell::Session& session, const std::filesystem::path& chemin,
-                              const OptionsExport& options) {
+                              const OptionsGedcom& options) {
     ResultatExport resultat;
     std::string octets;
     const bool fait = ComposerGedcom(session, shell::CheminAffiche(chemin.filename()), options,

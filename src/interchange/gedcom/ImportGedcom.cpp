@@ -2,10 +2,12 @@
 
 #include "interchange/commun/FaireBase.h"
 #include "interchange/gedcom/PassesImport.h"
+#include "messages/Dorvane.h"
 #include "messages/Messages.h"
 #include "shell/CycleDeVie.h"
 #include "shell/FichierSur.h"
 #include "shell/Parametres.h"
+#include "values/Texte1252.h"
 
 #include <algorithm>
 #include <optional>
@@ -54,21 +56,23 @@ void EnregistrerAuteur(shell::Session& session, const EnTeteLu& entete,
 
 }  // namespace
 
-IssueImport ImporterGedcom(shell::Session& session, const std::filesystem::path& fichier,
-                           const std::filesystem::path& base, RapportImport& rapport) {
+shell::Issue ImporterGedcom(shell::Session& session, const std::filesystem::path& fichier,
+                            const std::filesystem::path& base, RapportImport& rapport) {
     std::optional<std::string> octets = shell::LireTout(fichier);
-    if (!octets) return IssueImport::Illisible;
+    if (!octets)
+        return shell::Issue::ParSysteme(
+            shell::Msg(message::FichierIllisible, shell::CheminAffiche(fichier)));
     return ImporterTexte(session, std::move(*octets), base, rapport);
 }
 
-IssueImport ImporterTexte(shell::Session& session, std::string octets,
-                          const std::filesystem::path& base, RapportImport& rapport) {
+shell::Issue ImporterTexte(shell::Session& session, std::string octets,
+                           const std::filesystem::path& base, RapportImport& rapport) {
     const std::string_view texte = Preparer(octets, rapport);
     const std::optional<FinDeLigne> fin = ChercherFinDeLigne(texte);
-    if (!fin) return IssueImport::Inexploitable;
+    if (!fin) return shell::Issue::Refusee(shell::Litteral("Fichier GEDCOM inexploitable"_1252));
 
     EnTeteLu entete;
-    const IssueImport issue = FaireBase(
+    shell::Issue issue = FaireBase(
         session, base,
         {shell::Msg(message::TitreImportGedcom), shell::Msg(message::EtatPremiereLecture)},
         [&](storage::Base& nouvelle) {
@@ -77,7 +81,7 @@ IssueImport ImporterTexte(shell::Session& session, std::string octets,
             entete = import.EnTete();
             return fini;
         });
-    if (issue == IssueImport::Fait) EnregistrerAuteur(session, entete, base);
+    if (issue) EnregistrerAuteur(session, entete, base);
     return issue;
 }
 

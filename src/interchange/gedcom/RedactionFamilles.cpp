@@ -26,7 +26,7 @@ void RedactionGedcom::EcrireFamille(std::uint32_t famille) {
     const bool membre = EstEcrit(f.epoux) || EstEcrit(f.epouse) ||
                         std::ranges::any_of(f.enfants, [this](NoOrdre n) { return EstEcrit(n); });
     if (!membre) return;
-    ++comptes_.familles;
+    ++comptes_.unions;
     sortie_.Enregistrement('F', famille, "FAM");
     if (EstEcrit(f.epoux)) sortie_.Renvoi(1, "HUSB", 'I', f.epoux.valeur);
     if (EstEcrit(f.epouse)) sortie_.Renvoi(1, "WIFE", 'I', f.epouse.valeur);

@@ -47,7 +47,7 @@ bool EstVide(const storage::ValeurSlot& valeur) {
 
 }  // namespace
 
-RedactionGedcom::RedactionGedcom(shell::Session& session, const OptionsExport& options)
+RedactionGedcom::RedactionGedcom(shell::Session& session, const OptionsGedcom& options)
     : session_{session},
       base_{*session.base},
       options_{options},

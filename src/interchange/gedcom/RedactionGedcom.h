@@ -23,7 +23,7 @@ namespace dorvane::interchange {
 class RedactionGedcom {
 public:
     /// Both outlive the object.
-    RedactionGedcom(shell::Session& session, const OptionsExport& options);
+    RedactionGedcom(shell::Session& session, const OptionsGedcom& options);
 
     void EcrireEnTete(const std::string& nomFichier);
     void EcrireIndividu(NoOrdre n);
@@ -69,7 +69,7 @@ private:
 
     shell::Session& session_;
     storage::Base& base_;
-    const OptionsExport& options_;
+    const OptionsGedcom& options_;
     EcrivainGedcom sortie_;
     FamillesExport familles_;
     storage::DefinitionSlots definitionIndividu_;

@@ -92,22 +92,22 @@ bool EcrireTout(shell::Session& session, RedactionLgr& redaction, std::string& o
 
 }  // namespace
 
-bool ComposerLgr(shell::Session& session, const OptionsLgr& options, std::string& octets,
-                 ComptesLgr& comptes) {
+bool ComposerLgr(shell::Session& session, const ChoixExport& choix, std::string& octets,
+                 ComptesExport& comptes) {
     const shell::CadreProgression cadre{
         session.progression, shell::Msg(message::TitreExportDorvane),
         shell::Litteral(session.Message(message::EtatPersonnesExportees))};
-    RedactionLgr redaction{session, options};
+    RedactionLgr redaction{session, choix};
     const bool fini = EcrireTout(session, redaction, octets);
     comptes = redaction.Comptes();
     return fini;
 }
 
-ResultatLgr ExporterLgr(shell::Session& session, const std::filesystem::path& chemin,
-                        const OptionsLgr& options) {
-    ResultatLgr resultat;
+ResultatExport ExporterLgr(shell::Session& session, const std::filesystem::path& chemin,
+                           const ChoixExport& choix) {
+    ResultatExport resultat;
     std::string octets;
-    const bool fini = ComposerLgr(session, options, octets, resultat.comptes);
+    const bool fini = ComposerLgr(session, choix, octets, resultat.comptes);
     resultat.issue = EcrireExport(chemin, octets, fini);
     return resultat;
 }

@@ -5,6 +5,7 @@
 #include "interchange/lgr/MotsClesLgr.h"
 #include "interchange/lgr/PoserLgr.h"
 #include "interchange/lgr/ReglagesLgr.h"
+#include "messages/Dorvane.h"
 #include "messages/Echange.h"
 #include "shell/CycleDeVie.h"
 #include "shell/FichierSur.h"
@@ -123,8 +124,8 @@ private:
 
 }  // namespace
 
-IssueImport LireContenuLgr(shell::Session& session, std::string& octets, ContenuLgr& contenu,
-                           RapportImport& rapport) {
+shell::Issue LireContenuLgr(shell::Session& session, std::string& octets, const std::string& nom,
+                            ContenuLgr& contenu, RapportImport& rapport) {
     session.progression.Phase(shell::Msg(message::EtatLectureFichier));
     PreparationLgr preparation;
     const LectureLgr lecture =
@@ -136,36 +137,42 @@ IssueImport LireContenuLgr(shell::Session& session, std::string& octets, Contenu
     rapport.version = contenu.version;
     rapport.lignes = contenu.lignes;
     rapport.finTrouvee = contenu.complet;
-    if (lecture == LectureLgr::PasUnEchange) return IssueImport::Inexploitable;
-    return lecture == LectureLgr::Faite ? IssueImport::Fait : IssueImport::Abandonne;
+    if (lecture == LectureLgr::PasUnEchange)
+        return shell::Issue::Refusee(shell::Msg(message::FichierPasUnEchange, nom));
+    return lecture == LectureLgr::Faite
+               ? shell::Issue::Faite()
+               : shell::Issue::Arretee(shell::Msg(message::ImportAbandonne));
 }
 
-IssueImport ImporterOctetsLgr(shell::Session& session, std::string octets,
-                              const std::filesystem::path& base, RapportImport& rapport) {
+shell::Issue ImporterOctetsLgr(shell::Session& session, std::string octets, const std::string& nom,
+                               const std::filesystem::path& base, RapportImport& rapport) {
     ContenuLgr contenu;
     {
         const shell::CadreProgression cadre{session.progression,
                                             shell::Msg(message::TitreImportDorvane),
                                             shell::Msg(message::EtatLectureFichier)};
-        const IssueImport lecture = LireContenuLgr(session, octets, contenu, rapport);
-        if (lecture != IssueImport::Fait) return lecture;
+        shell::Issue lecture = LireContenuLgr(session, octets, nom, contenu, rapport);
+        if (!lecture) return lecture;
     }
-    const IssueImport issue =
+    shell::Issue issue =
         FaireBase(session, base,
                   {shell::Msg(message::TitreImportDorvane), shell::Msg(message::EtatEcritureBase)},
                   [&](storage::Base& nouvelle) {
                       return ImportNeuf{session, nouvelle, contenu, rapport}.Executer();
                   });
-    if (issue == IssueImport::Fait && !PrendreReglagesLgr(session, base, contenu.reglages))
+    if (issue && !PrendreReglagesLgr(session, base, contenu.reglages))
         shell::DireReglagesRefuses(session);
     return issue;
 }
 
-IssueImport ImporterLgr(shell::Session& session, const std::filesystem::path& fichier,
-                        const std::filesystem::path& base, RapportImport& rapport) {
+shell::Issue ImporterLgr(shell::Session& session, const std::filesystem::path& fichier,
+                         const std::filesystem::path& base, RapportImport& rapport) {
     std::optional<std::string> octets = shell::LireTout(fichier);
-    if (!octets) return IssueImport::Illisible;
-    return ImporterOctetsLgr(session, std::move(*octets), base, rapport);
+    if (!octets)
+        return shell::Issue::ParSysteme(
+            shell::Msg(message::FichierIllisible, shell::CheminAffiche(fichier)));
+    return ImporterOctetsLgr(session, std::move(*octets), shell::CheminAffiche(fichier.filename()),
+                             base, rapport);
 }
 
 }  // namespace dorvane::interchange

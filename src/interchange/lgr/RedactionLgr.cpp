@@ -27,8 +27,8 @@ std::vector<bool> DansLaTable(std::uint32_t dernier, const storage::TableTri& ta
 
 }  // namespace
 
-RedactionLgr::RedactionLgr(shell::Session& session, const OptionsLgr& options)
-    : session_{session}, base_{*session.base}, options_{options} {
+RedactionLgr::RedactionLgr(shell::Session& session, const ChoixExport& choix)
+    : session_{session}, base_{*session.base}, choix_{choix} {
     MarquerIndividus();
     MarquerUnions();
     MarquerAnnexes();
@@ -36,9 +36,9 @@ RedactionLgr::RedactionLgr(shell::Session& session, const OptionsLgr& options)
 
 void RedactionLgr::MarquerIndividus() {
     individus_ = DansLaTable<NoOrdre>(base_.entete.DernierIndividu, base_.R_TRI.individus);
-    if (options_.choisis.empty()) return;
+    if (choix_.choisis.empty()) return;
     for (std::uint32_t n = 0; n < individus_.size(); ++n)
-        individus_[n] = individus_[n] && Dans(options_.choisis, n);
+        individus_[n] = individus_[n] && Dans(choix_.choisis, n);
 }
 
 void RedactionLgr::MarquerUnions() {
@@ -54,7 +54,7 @@ void RedactionLgr::MarquerUnions() {
 void RedactionLgr::MarquerAnnexes() {
     evenements_ = DansLaTable<NoEvenement>(base_.entete.DernierEvenement, base_.R_TRI.evenements);
     documents_ = DansLaTable<NoDocument>(base_.entete.DernierDocument, base_.R_TRI.documents);
-    if (options_.complet) return;
+    if (choix_.complet) return;
     std::vector<bool> evenements(evenements_.size());
     std::vector<bool> documents(documents_.size());
     for (NoOrdre n{1}; n.valeur < individus_.size(); ++n.valeur) {

@@ -20,7 +20,7 @@ namespace dorvane::interchange {
 class RedactionLgr {
 public:
     /// Both outlive the object.
-    RedactionLgr(shell::Session& session, const OptionsLgr& options);
+    RedactionLgr(shell::Session& session, const ChoixExport& choix);
 
     /// Everything in front of the persons.
     void EcrireTete(std::string& sortie);
@@ -39,7 +39,7 @@ public:
     [[nodiscard]] bool EstEcrit(NoDocument d) const { return Dans(documents_, d.valeur); }
     [[nodiscard]] bool EstEcrit(NoEvenement e) const { return Dans(evenements_, e.valeur); }
 
-    [[nodiscard]] const ComptesLgr& Comptes() const { return comptes_; }
+    [[nodiscard]] const ComptesExport& Comptes() const { return comptes_; }
 
 private:
     [[nodiscard]] static bool Dans(const std::vector<bool>& ensemble, std::uint32_t n) {
@@ -59,12 +59,12 @@ private:
 
     shell::Session& session_;
     storage::Base& base_;
-    const OptionsLgr& options_;
+    const ChoixExport& choix_;
     std::vector<bool> individus_;
     std::vector<bool> documents_;
     std::vector<bool> evenements_;
     std::vector<std::uint32_t> rangs_;  ///< of the unions in the file, from 1; 0 for none
-    ComptesLgr comptes_;
+    ComptesExport comptes_;
 };
 
 }  // namespace dorvane::interchange

@@ -66,9 +66,9 @@ bool RemplirReleve(shell::Session& session, storage::Base& base, const Releve& r
     return true;
 }
 
-IssueImport ImporterReleve(shell::Session& session, const Releve& releve,
-                           const std::filesystem::path& fichier, const std::filesystem::path& base,
-                           RapportReleve& rapport) {
+shell::Issue ImporterReleve(shell::Session& session, const Releve& releve,
+                            const std::filesystem::path& fichier, const std::filesystem::path& base,
+                            RapportReleve& rapport) {
     return FaireBase(
         session, base,
         {shell::Msg(message::TitreImportReleve), shell::Msg(message::LignesDuReleveLues)},

@@ -35,9 +35,10 @@ struct RapportReleve {
 
 /// Makes a new base of a survey, which replaces one of that name. The session's own base is closed
 /// or another one.
-[[nodiscard]] IssueImport ImporterReleve(shell::Session& session, const Releve& releve,
-                                         const std::filesystem::path& fichier,
-                                         const std::filesystem::path& base, RapportReleve& rapport);
+[[nodiscard]] shell::Issue ImporterReleve(shell::Session& session, const Releve& releve,
+                                          const std::filesystem::path& fichier,
+                                          const std::filesystem::path& base,
+                                          RapportReleve& rapport);
 
 /// The kind of a survey in the user's language: "Baptême".
 [[nodiscard]] std::string NomReleve(const shell::Session& session, SorteReleve sorte);

@@ -1,7 +1,6 @@
 #include "interchange/releves/RemiseGeneanet.h"
 
 #include "interchange/gedcom/ExportGedcom.h"
-#include "messages/Export.h"
 #include "shell/CycleDeVie.h"
 #include "storage/Base.h"
 #include "values/Texte1252.h"
@@ -14,24 +13,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Writes the file of the tool; false once a message has told why not.
-bool Exporter(shell::Session& session, const fs::path& sortie) {
+/// Writes the file of the tool, and tells why not.
+shell::Issue Exporter(shell::Session& session, const fs::path& sortie) {
     std::error_code erreur;
     fs::create_directories(sortie.parent_path(), erreur);
-    OptionsExport options;
+    OptionsGedcom options;
     options.jeu = JeuDuReglage(session.parametres.generaux.jeuExport);
     options.reduit = true;
-    switch (ExporterGedcom(session, sortie, options).issue) {
-        case IssueExport::Fait:
-            return true;
-        case IssueExport::Abandon:
-            return false;
-        case IssueExport::Refus:
-            break;
-    }
-    session.dialogue.Informer(
-        shell::Msg(message::FichierNonEcrit, Utf8VersTexte(sortie.string()).octets));
-    return false;
+    return shell::Dire(session.dialogue, ExporterGedcom(session, sortie, options).issue);
 }
 
 /// The report bears the name of the file; one of an earlier run must not pass for this one's.

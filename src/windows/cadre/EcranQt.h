@@ -22,6 +22,9 @@ public:
     void Actualiser() override {
         if (fenetre_ != nullptr) fenetre_->Actualiser();
     }
+    void MontrerRapport(const shell::Phrase& titre, const std::string& texte) override {
+        if (fenetre_ != nullptr) fenetre_->MontrerRapport(titre, texte);
+    }
 
 private:
     QPointer<MDIForm1> fenetre_;

@@ -92,10 +92,7 @@ MDIForm1::MDIForm1(shell::Session& session)
     Minuterie1_.start(PeriodeMinuterie1);
     Minuterie2_.start(PeriodeMinuterie2);
     session_.importer = [this](const std::filesystem::path& fichier) {
-        interchange::ImporterFichier(session_, fichier,
-                                     [this](const std::string& titre, const std::string& texte) {
-                                         MontrerRapport(titre, texte);
-                                     });
+        interchange::ImporterFichier(session_, fichier);
     };
 }
 
@@ -181,8 +178,9 @@ void MDIForm1::Annoncer(const QString& texte) {
         statusBar()->showMessage(texte, DureeAnnonce);
 }
 
-void MDIForm1::MontrerRapport(const std::string& titre, const std::string& texte) {
-    auto* rapport = new FrmRapport{session_, TexteVersQt(titre), TexteVersQt(texte), this};
+void MDIForm1::MontrerRapport(const shell::Phrase& titre, const std::string& texte) {
+    auto* rapport = new FrmRapport{session_, TexteVersQt(session_.catalogue.Composer(titre)),
+                                   TexteVersQt(texte), this};
     rapport->show();
 }
 

@@ -19,7 +19,8 @@ class QTranslator;
 
 namespace dorvane::shell {
 class Session;
-}
+struct Phrase;
+}  // namespace dorvane::shell
 
 namespace dorvane::windows {
 
@@ -55,7 +56,7 @@ public:
     void Annoncer(const QString& texte);
 
     /// `texte` in code page 1252.
-    void MontrerRapport(const std::string& titre, const std::string& texte);
+    void MontrerRapport(const shell::Phrase& titre, const std::string& texte);
 
     /// The first start asks for the colours of the chart, once.
     void DemanderPalette();

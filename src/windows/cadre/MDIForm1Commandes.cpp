@@ -68,9 +68,7 @@ void MDIForm1::Restauration() {
 }
 
 void MDIForm1::Importer() {
-    interchange::MnuImporter(session_, [this](const std::string& titre, const std::string& texte) {
-        MontrerRapport(titre, texte);
-    });
+    interchange::MnuImporter(session_);
 }
 
 void MDIForm1::Quitter() {

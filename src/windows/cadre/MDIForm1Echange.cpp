@@ -53,9 +53,7 @@ void MDIForm1::ExporterSelectif() {
 }
 
 void MDIForm1::Integrer() {
-    interchange::MnuIntegrer(session_, [this](const std::string& titre, const std::string& texte) {
-        MontrerRapport(titre, texte);
-    });
+    interchange::MnuIntegrer(session_);
     RelireTout(nullptr);
 }
 

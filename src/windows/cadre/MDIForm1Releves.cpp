@@ -55,10 +55,7 @@ void MDIForm1::ImporterActes(interchange::SorteReleve sorte) {
     FrmReleve apercu{session_, sorte, std::move(*octets),
                      QString::fromStdString(fichier->filename().string()), this};
     if (apercu.exec() != QDialog::Accepted) return;
-    interchange::ImporterActes(session_, apercu.Lu(), *fichier,
-                               [this](const std::string& titre, const std::string& texte) {
-                                   MontrerRapport(titre, texte);
-                               });
+    interchange::ImporterActes(session_, apercu.Lu(), *fichier);
 }
 
 void MDIForm1::Geneanet() {

@@ -20,7 +20,7 @@ void MDIForm1::FaireSoin(QMenu* menu) {
 
 void MDIForm1::Depannage() {
     const records::BilanDepannage bilan = records::MnuDepannage(session_);
-    if (!bilan.fait) return;
+    if (!bilan.issue) return;
     RelireTout(nullptr);
     if (!bilan.journal.empty())
         OuvrirTexte(session_, bilan.journal,

@@ -123,7 +123,7 @@ std::array<QLineEdit*, 5> FrmCommune::Champs() const {
 
 bool FrmCommune::Ouvrir() {
     if (ouverte_) return true;
-    ouverte_ = communes_.Ouvrir();
+    ouverte_ = static_cast<bool>(communes_.Ouvrir());
     if (ouverte_) Chercher({});
     return ouverte_;
 }
@@ -217,7 +217,7 @@ void FrmCommune::AllerA(NoCommune n) {
 }
 
 /// A job during which the windows live: this one keeps still.
-void FrmCommune::Travailler(const std::function<bool()>& travail) {
+void FrmCommune::Travailler(const std::function<shell::Issue()>& travail) {
     if (S().progression.EnCours() || !ConfirmerFermeture()) return;
     const NoCommune ici = numero_;
     travaille_ = true;

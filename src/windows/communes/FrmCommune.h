@@ -75,7 +75,7 @@ private:
     void Nouvelle();
     void Supprimer();
     void AllerAuRattachement();
-    void Travailler(const std::function<bool()>& travail);
+    void Travailler(const std::function<shell::Issue()>& travail);
     void Utiliser(const storage::Commune& commune);
 
     std::unique_ptr<Ui::FrmCommune> ui_;

@@ -352,10 +352,10 @@ void FrmExporter::Lancer() {
     dernier_ = interchange::LancerExport(S(), Demande());
     Occuper(false);
     Compter();
-    if (dernier_.issue == interchange::IssueLancement::Fait) {
+    if (dernier_.issue) {
         MontrerResultat(dernier_);
         ui_->CmdDossier->setFocus();
-    } else if (dernier_.issue == interchange::IssueLancement::Vide) {
+    } else if (dernier_.vide) {
         (ui_->CmdSélection->isEnabled() ? ui_->CmdSélection : ui_->CmdListe)->setFocus();
     } else {
         ui_->CmdLancer->setFocus();
@@ -363,18 +363,18 @@ void FrmExporter::Lancer() {
 }
 
 void FrmExporter::MontrerResultat(const Lancement& lancement) {
+    const interchange::ComptesExport& comptes = lancement.comptes;
     QStringList lignes;
     lignes << TexteEcran(S(), message::InfoExportTermine)
-           << QStringList{Remplir(S(), message::NombrePersonnes, lancement.individus),
-                          Remplir(S(), message::NombreUnionsExport, lancement.unions),
-                          Remplir(S(), message::NombreEvenementsExport, lancement.evenements),
-                          Remplir(S(), message::NombreDocumentsExport, lancement.documents)}
+           << QStringList{Remplir(S(), message::NombrePersonnes, comptes.individus),
+                          Remplir(S(), message::NombreUnionsExport, comptes.unions),
+                          Remplir(S(), message::NombreEvenementsExport, comptes.evenements),
+                          Remplir(S(), message::NombreDocumentsExport, comptes.documents)}
                   .join(Separateur)
            << Remplir(S(), message::FichierExporte, CheminVersQt(lancement.fichier));
-    if (lancement.perdus > 0)
-        lignes << Remplir(S(), message::CaracteresPerdusALExport,
-                          QString::number(lancement.perdus));
-    if (lancement.omis > 0) lignes << Remplir(S(), message::UnionsEtEntreesOmises, lancement.omis);
+    if (comptes.perdus > 0)
+        lignes << Remplir(S(), message::CaracteresPerdusALExport, QString::number(comptes.perdus));
+    if (comptes.omis > 0) lignes << Remplir(S(), message::UnionsEtEntreesOmises, comptes.omis);
     ui_->LblResultat->setText(lignes.join(u'\n'));
     ui_->PnlResultat->show();
     BornerHauteur();

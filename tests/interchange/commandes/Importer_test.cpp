@@ -1,6 +1,7 @@
 #include "interchange/commandes/Importer.h"
 
 #include "interchange/EssaiImport.h"
+#include "messages/Dorvane.h"
 #include "messages/Messages.h"
 #include "shell/CycleDeVie.h"
 
@@ -15,9 +16,7 @@ namespace {
 struct Menu : EssaiImport {
     Menu() {
         EcrireFichier(fichier, "0 HEAD\n0 @I1@ INDI\n1 NAME Jean /Dupont/\n0 TRLR\n");
-        session.importer = [this](const std::filesystem::path& f) {
-            ImporterFichier(session, f, {});
-        };
+        session.importer = [this](const std::filesystem::path& f) { ImporterFichier(session, f); };
     }
 };
 
@@ -25,8 +24,7 @@ struct Menu : EssaiImport {
 
 TEST_CASE_FIXTURE(Menu, "MnuImporter: asks for the file, opens the base and shows the report") {
     dialogue.fichiers.emplace_back(fichier);
-    std::string montre;
-    MnuImporter(session, [&](const std::string&, const std::string& texte) { montre = texte; });
+    CHECK(MnuImporter(session));
     CHECK(dialogue.demandesFichier.back().filtre ==
           "Export (*.ged;*.lgr)|*.ged;*.lgr|Export GEDCOM (*.ged) |*.ged|"
           "Export Dorvane (*.lgr) |*.lgr|");
@@ -34,13 +32,14 @@ TEST_CASE_FIXTURE(Menu, "MnuImporter: asks for the file, opens the base and show
     REQUIRE(session.BaseOuverte());
     CHECK(session.CheminBase == chemin);
     CHECK(session.PersonneEnCours == NoOrdre{1});
-    CHECK(montre.find("Personnes : 1") != std::string::npos);
-    CHECK(LireFichier(session.Travail() / "essai.IMPORT.TXT") == TexteVersUtf8(montre));
+    CHECK(ecran.titres == std::vector{shell::Msg(message::TitreRapportImport)});
+    CHECK(ecran.rapport.find("Personnes : 1") != std::string::npos);
+    CHECK(LireFichier(session.Travail() / "essai.IMPORT.TXT") == TexteVersUtf8(ecran.rapport));
 }
 
 TEST_CASE_FIXTURE(Menu, "MnuImporter: giving up in the dialog changes nothing") {
     dialogue.fichiers.emplace_back(std::nullopt);
-    MnuImporter(session, {});
+    CHECK(MnuImporter(session) == shell::Issue::Arretee());
     CHECK_FALSE(session.BaseOuverte());
     CHECK_FALSE(std::filesystem::exists(chemin));
 }
@@ -48,19 +47,19 @@ TEST_CASE_FIXTURE(Menu, "MnuImporter: giving up in the dialog changes nothing") 
 TEST_CASE_FIXTURE(Menu, "An existing base is replaced only after a yes; no is the default") {
     EcrireFichier(chemin, "ancienne");
     dialogue.reponses.clear();
-    ImporterFichier(session, fichier, {});
+    CHECK(ImporterFichier(session, fichier) == shell::Issue::Arretee());
     CHECK(dialogue.questions.back().texte.no == message::ConfirmerRemplacerBaseParImport);
     CHECK(dialogue.questions.back().titre.no == message::TitreRemplacementBase);
     CHECK(dialogue.questions.back().defaut == shell::Reponse::Non);
     CHECK(LireFichier(chemin) == "ancienne");
     dialogue.reponses = {shell::Reponse::Oui, shell::Reponse::Oui};
-    ImporterFichier(session, fichier, {});
+    ImporterFichier(session, fichier);
     CHECK(session.BaseOuverte());
 }
 
 TEST_CASE_FIXTURE(Menu, "While a long job runs an import is told to be impossible") {
     progression.cadres = 1;
-    ImporterFichier(session, fichier, {});
+    CHECK(ImporterFichier(session, fichier).cause == shell::Cause::Refuse);
     CHECK(dialogue.entendu.back().no == message::OperationImpossible);
     CHECK_FALSE(std::filesystem::exists(chemin));
 }

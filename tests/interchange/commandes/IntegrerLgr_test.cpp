@@ -59,9 +59,9 @@ struct Fusion : EssaiLgr {
 
 TEST_CASE_FIXTURE(Fusion, "The same file merged in twice gives two more copies of every person") {
     Importer(texte);
-    REQUIRE(importation.faite);
-    CHECK(Integrer(texte).issue == IssueIntegration::Faite);
-    CHECK(Integrer(texte).issue == IssueIntegration::Faite);
+    REQUIRE(importation.issue);
+    CHECK(Integrer(texte).issue.cause == shell::Cause::Fait);
+    CHECK(Integrer(texte).issue.cause == shell::Cause::Fait);
     CHECK(B().entete.NbTriIndividus == 9);
     CHECK(B().entete.DernierIndividu == 9);
     CHECK(B().entete.DernierMariage == 3);
@@ -80,7 +80,7 @@ TEST_CASE_FIXTURE(Fusion, "The same file merged in twice gives two more copies o
 
 TEST_CASE_FIXTURE(Fusion, "Merging keeps the order of the base, and what it has") {
     const std::string avant = texte;
-    CHECK(Integrer(Personne("|Abel", {}, "Abel;Max;")).issue == IssueIntegration::Faite);
+    CHECK(Integrer(Personne("|Abel", {}, "Abel;Max;")).issue.cause == shell::Cause::Fait);
     CHECK(B().R_TRI.individus.Numeros() == std::vector<std::uint16_t>{4, 1, 2, 3});
     CHECK(B().R_TRI.RangIndividu(NoOrdre{4}) == 1);
     CHECK(Lu(1) == "|Dupont \xB6Jean $Brest\r\nNote.");
@@ -101,7 +101,7 @@ TEST_CASE_FIXTURE(Fusion, "A cancel while the file is read leaves the base as it
         progression.pas = 0;
         progression.annulerAu = pas;
         dialogue.entendu.clear();
-        CHECK(Integrer(octets).issue == IssueIntegration::Abandonnee);
+        CHECK(Integrer(octets).issue.cause == shell::Cause::Arrete);
         CHECK(dialogue.entendu == std::vector{shell::Msg(message::InfoIntegrationAbandonnee)});
         CHECK(Etat() == avant);
         CHECK_FALSE(B().marques.Modifie());
@@ -110,16 +110,16 @@ TEST_CASE_FIXTURE(Fusion, "A cancel while the file is read leaves the base as it
     // What is being written is written whole.
     progression.pas = 0;
     progression.annulerAu = 4;
-    CHECK(Integrer(octets).issue == IssueIntegration::Faite);
+    CHECK(Integrer(octets).issue.cause == shell::Cause::Fait);
     CHECK(B().entete.NbTriIndividus == 253);
     CHECK(Coherence{B()}.Ecarts() == "");
 }
 
 TEST_CASE_FIXTURE(Fusion, "A file that is none, or cannot be read, changes nothing and is told") {
     const std::string avant = Etat();
-    CHECK(Integrer("0 HEAD\r\n0 TRLR\r\n").issue == IssueIntegration::PasUnEchange);
+    CHECK(Integrer("0 HEAD\r\n0 TRLR\r\n").issue.cause == shell::Cause::Refuse);
     CHECK(dialogue.entendu.back() == shell::Msg(message::FichierPasUnEchange, "essai.lgr"));
-    CHECK(IntegrerLgr(session, dossier / "absent.lgr").issue == IssueIntegration::Illisible);
+    CHECK(IntegrerLgr(session, dossier / "absent.lgr").issue.cause == shell::Cause::Systeme);
     CHECK(dialogue.entendu.back() == shell::Msg(message::FichierIllisible, "absent.lgr"));
     CHECK(Etat() == avant);
 }
@@ -128,13 +128,13 @@ TEST_CASE_FIXTURE(Fusion,
                   "A file without its end is merged in only after a yes; no is the default") {
     const std::string coupe = texte.substr(0, texte.size() - 7);
     const std::string avant = Etat();
-    CHECK(Integrer(coupe).issue == IssueIntegration::Abandonnee);
+    CHECK(Integrer(coupe).issue.cause == shell::Cause::Arrete);
     CHECK(dialogue.questions.back().texte ==
           shell::Msg(message::ConfirmerIntegrerFichierIncomplet, "essai.lgr"));
     CHECK(dialogue.questions.back().defaut == shell::Reponse::Non);
     CHECK(Etat() == avant);
     dialogue.reponses = {shell::Reponse::Oui};
-    CHECK(Integrer(coupe).issue == IssueIntegration::Faite);
+    CHECK(Integrer(coupe).issue.cause == shell::Cause::Fait);
     CHECK(B().entete.NbTriIndividus == 6);
 }
 
@@ -144,7 +144,7 @@ TEST_CASE_FIXTURE(Fusion,
         CAPTURE(section);
         const std::string avant = Etat();
         const std::string octets = EnLignes("[Dorvane Version 99.0]\n" + section + "[FIN]\n");
-        CHECK(Integrer(octets).issue == IssueIntegration::TropGrande);
+        CHECK(Integrer(octets).issue.cause == shell::Cause::Refuse);
         CHECK(dialogue.entendu.back() == shell::Msg(message, "essai.lgr", limite));
         CHECK(Etat() == avant);
     };
@@ -165,20 +165,20 @@ TEST_CASE_FIXTURE(Fusion,
     const std::string octets = EnLignes(
         "[Dorvane Version 99.0]\n[INDIVIDUS]\n 63997 \nA;;;;\nH\n\n\n 0 \n 0 \n|A\n#\n#\n#\n"
         "[FIN INDIVIDUS]\n[FIN]\n");
-    CHECK(Integrer(octets).issue == IssueIntegration::Faite);
+    CHECK(Integrer(octets).issue.cause == shell::Cause::Fait);
     CHECK(B().entete.DernierIndividu == 64000);
     CHECK(B().entete.PosSuiteIndividus);
     CHECK(Lu(64000) == "|A");
     CHECK(Coherence{B()}.Ecarts() == "");
     dialogue.entendu.clear();
-    CHECK(Integrer(texte).issue == IssueIntegration::TropGrande);
+    CHECK(Integrer(texte).issue.cause == shell::Cause::Refuse);
 }
 
 TEST_CASE_FIXTURE(Fusion, "A keyword of the same tag takes the marker that the base has for it") {
     B().motsCles.CreerType(NoMotCle{12}, {'\xB5', "Sobriquet", false, {}});
     const std::string octets = Personne("|A \xA3Petit $Brest\nn\xA3 5",
                                         "[MOTS CLES]\n\xA3\nSobriquet\n$\nBIRT\n[FIN MOTS CLES]\n");
-    CHECK(Integrer(octets).issue == IssueIntegration::Faite);
+    CHECK(Integrer(octets).issue.cause == shell::Cause::Fait);
     CHECK(Lu(4) == "|A \xB5Petit $Brest\r\nn\xB5 5");
     CHECK(B().motsCles.Nombre() == 12);
 }
@@ -187,7 +187,7 @@ TEST_CASE_FIXTURE(Fusion,
                   "A keyword that the base lacks is entered, with its marker when that is free") {
     const std::string octets = Personne(
         "|A \xA3Petit \\Drapier", "[MOTS CLES]\n\xA3\nSobriquet\n\\\nPassion\n[FIN MOTS CLES]\n");
-    CHECK(Integrer(octets).issue == IssueIntegration::Faite);
+    CHECK(Integrer(octets).issue.cause == shell::Cause::Fait);
     CHECK(B().motsCles.LibelleType(NoMotCle{12}).libelle == "Sobriquet");
     CHECK(B().motsCles.LibelleType(NoMotCle{12}).symbole == '\xA3');
     CHECK(B().motsCles.LibelleType(NoMotCle{13}).libelle == "Passion");
@@ -202,7 +202,7 @@ TEST_CASE_FIXTURE(Fusion, "Markers change inside rich text, its commands do not"
     const std::string octets =
         Personne("|A \\Drapier\n{\\rtf1\\ansi \\b \\\\Tisserand\\b0\\par}\n\\fin",
                  "[MOTS CLES]\n\\\nPassion\n[FIN MOTS CLES]\n");
-    CHECK(Integrer(octets).issue == IssueIntegration::Faite);
+    CHECK(Integrer(octets).issue.cause == shell::Cause::Fait);
     CHECK(Lu(4) ==
           "|A \xB5"
           "Drapier\r\n{\\rtf1\\ansi \\b \\'b5Tisserand\\b0\\par}\r\n\xB5"
@@ -212,7 +212,7 @@ TEST_CASE_FIXTURE(Fusion, "Markers change inside rich text, its commands do not"
 TEST_CASE_FIXTURE(Fusion, "\"|\" and \"\xC2\xB6\" are the names whatever the file calls them") {
     const std::string octets =
         Personne("|A \xB6Jean", "[MOTS CLES]\n|\nSobriquet\n\xB6\nDiminutif\n[FIN MOTS CLES]\n");
-    CHECK(Integrer(octets).issue == IssueIntegration::Faite);
+    CHECK(Integrer(octets).issue.cause == shell::Cause::Fait);
     CHECK(Lu(4) == "|A \xB6Jean");
     CHECK(B().motsCles.Nombre() == 11);
 }
@@ -226,7 +226,7 @@ TEST_CASE_FIXTURE(Fusion, "More than 50 keywords: the further ones are left out 
                           "\xB5\xB7\xB8\xB9"})
         mots += std::string(1, c) + "\nMot de " + std::to_string(mots.size()) + "\n";
     const Integration fait = Integrer(Personne("|A", mots + "[FIN MOTS CLES]\n"));
-    CHECK(fait.issue == IssueIntegration::Faite);
+    CHECK(fait.issue.cause == shell::Cause::Fait);
     CHECK(B().motsCles.Nombre() == 50);
     CHECK(fait.rapport.Nombre(Constat::Limite, "MOTS CLES") > 0);
     CHECK(fait.texte.find("MOTS CLES") != std::string::npos);
@@ -239,27 +239,27 @@ TEST_CASE_FIXTURE(Fusion,
         B().entete.OptPrenomUnique = true;
         const std::string octets = Personne("|Tour.(de.La) \xB6Jean.Marie $Brest\nNote | \xB6.",
                                             "[PARAMETRES]\n1\n0\n[FIN PARAMETRES]\n", nom);
-        CHECK(Integrer(octets).issue == IssueIntegration::Faite);
+        CHECK(Integrer(octets).issue.cause == shell::Cause::Fait);
         CHECK(Lu(4) == "|de.La.Tour \xB6Jean Marie $Brest\r\nNote | \xB6.");
     }
     SUBCASE("the other way") {
         B().entete.OptParticules = true;
         const std::string octets = Personne("|de.La.Tour \xB6Jean Marie $Brest",
                                             "[PARAMETRES]\n0\n1\n[FIN PARAMETRES]\n", nom);
-        CHECK(Integrer(octets).issue == IssueIntegration::Faite);
+        CHECK(Integrer(octets).issue.cause == shell::Cause::Fait);
         CHECK(Lu(4) == "|Tour.(de.la) \xB6Jean.Marie $Brest");
     }
     SUBCASE("a text without them gets them at the start") {
         B().entete.OptParticules = true;
         const std::string octets =
             Personne("$Brest", "[PARAMETRES]\n0\n1\n[FIN PARAMETRES]\n", nom);
-        CHECK(Integrer(octets).issue == IssueIntegration::Faite);
+        CHECK(Integrer(octets).issue.cause == shell::Cause::Fait);
         CHECK(Lu(4) == "|Tour.(de.la) \xB6Jean.Marie $Brest");
     }
     SUBCASE("equal settings change nothing") {
         const std::string octets =
             Personne("|Autre", "[PARAMETRES]\n0\n0\n[FIN PARAMETRES]\n", nom);
-        CHECK(Integrer(octets).issue == IssueIntegration::Faite);
+        CHECK(Integrer(octets).issue.cause == shell::Cause::Fait);
         CHECK(Lu(4) == "|Autre");
     }
 }
@@ -269,7 +269,7 @@ TEST_CASE_FIXTURE(Fusion, "Settings and description of the base stay") {
     const std::string octets = EnLignes(
         "[Dorvane Version 99.0]\n[INI]\nAuteur=Autre\n[FIN INI]\n[DESCRIPTION]\n 1 \n"
         "[FIN DESCRIPTION]\n[IMAGES]\n 1 \nLa leur\n\n#\n[FIN IMAGES]\n[FIN]\n");
-    CHECK(Integrer(octets).issue == IssueIntegration::Faite);
+    CHECK(Integrer(octets).issue.cause == shell::Cause::Fait);
     CHECK(B().entete.DocBase == NoDocument{1});
     CHECK(session.parametres.base.auteur.empty());
     CHECK(B().R_IMAGE.TitreDoc(NoDocument{3}) == "La leur");
@@ -280,7 +280,7 @@ TEST_CASE_FIXTURE(Fusion, "Rows of the file that the base lacks come behind its 
         Personne("|A\nRESI 1850 %Lyon",
                  "[MOTS CLES]\n%\nRESI\n[FIN MOTS CLES]\n"
                  "[DONNEES INDIVIDUS]\n%\n1\n\\\n \n[FIN DONNEES INDIVIDUS]\n");
-    CHECK(Integrer(octets).issue == IssueIntegration::Faite);
+    CHECK(Integrer(octets).issue.cause == shell::Cause::Fait);
     CHECK(B().entete.SlotsIndividu[0].symbole == '\\');
     CHECK(B().entete.SlotsIndividu[3].symbole == '%');
     CHECK(storage::SlotsDe(B(), NoOrdre{4})[3].lieu == "Lyon");
@@ -289,7 +289,7 @@ TEST_CASE_FIXTURE(Fusion, "Rows of the file that the base lacks come behind its 
 TEST_CASE_FIXTURE(Fusion, "When entries of the index run short, new words are entered one by one") {
     Importer(texte);
     B().entete.NbIndex = storage::MaxIndex - 5;
-    CHECK(Integrer(Personne("|Dupont \xB6Nouveau")).issue == IssueIntegration::Faite);
+    CHECK(Integrer(Personne("|Dupont \xB6Nouveau")).issue.cause == shell::Cause::Fait);
     CHECK(B().entete.NbIndex == storage::MaxIndex - 4);
     CHECK(B().R_INDEX.PersonnesIndex(B().R_INDEX.ChercherMot(NoMotCle{1}, "DUPONT")).size() == 3);
     CHECK(B().R_INDEX.ChercherMot(NoMotCle{2}, "NOUVEAU"));
@@ -299,14 +299,14 @@ TEST_CASE_FIXTURE(Fusion, "The menu asks for the file, merges it in and shows th
     dialogue.fichiers.emplace_back(fichier);
     dialogue.reponses = {shell::Reponse::Non};
     doublures::EcrireFichier(fichier, texte);
-    std::string montre;
-    MnuIntegrer(session, [&](const std::string&, const std::string& rapport) { montre = rapport; });
+    CHECK(MnuIntegrer(session));
     CHECK(dialogue.demandesFichier.back().filtre == "Export Dorvane (*.lgr) |*.lgr|");
     CHECK(B().entete.NbTriIndividus == 6);
-    CHECK(montre.find("Personnes : 3") != std::string::npos);
+    CHECK(ecran.titres == std::vector{shell::Msg(message::TitreIntegration)});
+    CHECK(ecran.rapport.find("Personnes : 3") != std::string::npos);
     CHECK_FALSE(std::filesystem::exists(shell::CheminSauvegarde(session.CheminBase)));
     progression.cadres = 1;
-    MnuIntegrer(session, {});
+    CHECK(MnuIntegrer(session).cause == shell::Cause::Refuse);
     CHECK(dialogue.entendu.back().no == message::OperationImpossible);
     progression.cadres = 0;
     CHECK(B().entete.NbTriIndividus == 6);
@@ -315,7 +315,7 @@ TEST_CASE_FIXTURE(Fusion, "The menu asks for the file, merges it in and shows th
 TEST_CASE_FIXTURE(Fusion, "Before it is merged in, the question says what the file holds") {
     doublures::EcrireFichier(fichier, texte);
     const std::string avant = Etat();
-    IntegrerFichier(session, fichier, {});
+    IntegrerFichier(session, fichier);
     REQUIRE(dialogue.questions.size() == 1);
     const shell::Question& question = dialogue.questions.back();
     CHECK(question.texte.no == message::ConfirmerIntegration);
@@ -333,7 +333,7 @@ TEST_CASE_FIXTURE(Fusion, "The backup is the base as it was before, what was not
     doublures::EcrireFichier(fichier, texte);
     const std::string avant = Etat();
     dialogue.reponses = {shell::Reponse::Oui};
-    IntegrerFichier(session, fichier, {});
+    IntegrerFichier(session, fichier);
     CHECK(B().entete.NbTriIndividus == 6);
     const std::filesystem::path copie = shell::CheminSauvegarde(session.CheminBase);
     REQUIRE(std::filesystem::exists(copie));
@@ -349,7 +349,7 @@ TEST_CASE_FIXTURE(Fusion, "Without the backup that was asked for nothing is merg
     std::filesystem::create_directories(shell::CheminSauvegarde(session.CheminBase) / "plein");
     const std::filesystem::path ouverte = session.CheminBase;
     dialogue.reponses = {shell::Reponse::Oui};
-    IntegrerFichier(session, fichier, {});
+    IntegrerFichier(session, fichier);
     CHECK(dialogue.entendu.back().no == message::SauvegardeNonEcriteBaseFermee);
     CHECK_FALSE(session.BaseOuverte());
     storage::AvancementMuet muet;
@@ -360,7 +360,7 @@ TEST_CASE_FIXTURE(Fusion, "Without the backup that was asked for nothing is merg
 
 TEST_CASE_FIXTURE(Fusion, "What is no exchange file is told, and no question is asked") {
     doublures::EcrireFichier(fichier, "0 HEAD\r\n");
-    IntegrerFichier(session, fichier, {});
+    IntegrerFichier(session, fichier);
     CHECK(dialogue.questions.empty());
     CHECK(dialogue.entendu.back().no == message::FichierPasUnEchange);
 }

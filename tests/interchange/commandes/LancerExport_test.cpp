@@ -82,10 +82,10 @@ std::size_t Nombre(const std::string& texte, std::string_view morceau) {
 TEST_CASE_FIXTURE(Depart, "LancerExport: the whole base goes to a file of the name of the base") {
     Vers("Famille.ged");
     const Lancement l = LancerExport(session, {});
-    CHECK(l.issue == IssueLancement::Fait);
+    CHECK(l.issue.cause == shell::Cause::Fait);
     CHECK(l.fichier == dossier / "Famille.ged");
-    CHECK(l.individus == 6);
-    CHECK(l.unions == 2);
+    CHECK(l.comptes.individus == 6);
+    CHECK(l.comptes.unions == 2);
     CHECK(dialogue.entendu == std::vector{shell::Msg(message::InfoExportTermine)});
     const shell::DemandeFichier& demande = dialogue.demandesFichier.back();
     CHECK(demande.sorte == shell::DemandeFichier::Sorte::Enregistrer);
@@ -99,7 +99,7 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: the format decides the writer and the p
     Vers("Famille.lgr");
     DemandeExport demande;
     demande.format = FormatExport::Dorvane;
-    CHECK(LancerExport(session, demande).issue == IssueLancement::Fait);
+    CHECK(LancerExport(session, demande).issue.cause == shell::Cause::Fait);
     CHECK(dialogue.demandesFichier.back().depart == dossier / "Famille.lgr");
     CHECK(dialogue.demandesFichier.back().filtre == "Export Dorvane (*.lgr) |*.lgr|");
     CHECK(Lu("Famille.lgr").starts_with("[Dorvane Version 99.0]\r\n"));
@@ -108,7 +108,7 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: the format decides the writer and the p
 TEST_CASE_FIXTURE(
     Depart, "LancerExport: while a long job runs it is told to be impossible, and nothing asked") {
     progression.cadres = 1;
-    CHECK(LancerExport(session, {}).issue == IssueLancement::Refuse);
+    CHECK(LancerExport(session, {}).issue.cause == shell::Cause::Refuse);
     progression.cadres = 0;
     CHECK(dialogue.entendu == std::vector{shell::Msg(message::OperationImpossible)});
     CHECK(dialogue.demandesFichier.size() == 1);  // that of the base
@@ -126,7 +126,7 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: nobody selected is told before a file i
         demande.liste = {NoOrdre{6}};
         demande.reglages.ecarter1900 = true;
     }
-    CHECK(LancerExport(session, demande).issue == IssueLancement::Vide);
+    CHECK(LancerExport(session, demande).vide);
     CHECK(dialogue.entendu == std::vector{shell::Msg(message::ExportSansPersonneChoisie)});
     CHECK(dialogue.demandesFichier.size() == 1);
 }
@@ -137,7 +137,7 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: a list and walks add up, each person on
     demande.liste = {NoOrdre{4}, Paul};
     CHECK(CompterExport(session, demande).individus == 5);
     Vers("partie.ged");
-    CHECK(LancerExport(session, demande).individus == 5);
+    CHECK(LancerExport(session, demande).comptes.individus == 5);
     const std::string ged = Lu("partie.ged");
     CHECK(Nombre(ged, " INDI\r\n") == 5);
     CHECK(ged.find("/Jean/") == std::string::npos);
@@ -154,7 +154,7 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: depth 1 is the person and the spouse, k
     CHECK(CompterExport(session, demande).individus == 5);
     Vers("proches.lgr");
     demande.format = FormatExport::Dorvane;
-    CHECK(LancerExport(session, demande).individus == 5);
+    CHECK(LancerExport(session, demande).comptes.individus == 5);
 }
 
 TEST_CASE_FIXTURE(Depart, "LancerExport: a person born in 1901 stays out of both formats") {
@@ -164,7 +164,7 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: a person born in 1901 stays out of both
         demande.format = format;
         const char* nom = format == FormatExport::Gedcom ? "x.ged" : "x.lgr";
         Vers(nom);
-        CHECK(LancerExport(session, demande).individus == 5);
+        CHECK(LancerExport(session, demande).comptes.individus == 5);
         CHECK(Lu(nom).find("Jean") == std::string::npos);
     }
 }
@@ -186,9 +186,9 @@ TEST_CASE_FIXTURE(Depart, "CompterExport: what it counts is what both writers wr
             const ComptesSelection prevus = CompterExport(session, demande);
             Vers(format == FormatExport::Gedcom ? "c.ged" : "c.lgr");
             const Lancement l = LancerExport(session, demande);
-            CHECK(l.individus == prevus.individus);
-            CHECK(l.evenements == prevus.evenements);
-            CHECK(l.documents == prevus.documents);
+            CHECK(l.comptes.individus == prevus.individus);
+            CHECK(l.comptes.evenements == prevus.evenements);
+            CHECK(l.comptes.documents == prevus.documents);
             // Whole; Paul alone; his ancestors too; all of the base; births left out.
             const std::uint32_t evenements[] = {2, 1, 1, 2, 1};
             const std::uint32_t documents[] = {3, 1, 2, 3, 2};
@@ -202,7 +202,7 @@ TEST_CASE_FIXTURE(Depart,
     doublures::EcrireFichier(dossier / "Essai.v2.ged", "old");
     SUBCASE("no: the file stays") {
         Vers("Essai.v2");
-        CHECK(LancerExport(session, {}).issue == IssueLancement::Renonce);
+        CHECK(LancerExport(session, {}).issue.cause == shell::Cause::Arrete);
         CHECK(dialogue.entendu ==
               std::vector{shell::Msg(message::ConfirmerRemplacerExport, "Essai.v2.ged")});
         CHECK(dialogue.questions.back().defaut == shell::Reponse::Non);
@@ -228,14 +228,14 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: the open base is never written over") {
     std::filesystem::create_symlink(session.CheminBase, dossier / "lien.ged");
     Vers("lien.ged");
     dialogue.entendu.clear();
-    CHECK(LancerExport(session, {}).issue == IssueLancement::Renonce);
+    CHECK(LancerExport(session, {}).issue.cause == shell::Cause::Refuse);
     CHECK(dialogue.entendu == std::vector{shell::Msg(message::FichierDeLaBaseOuverte, "lien.ged")});
     CHECK(std::filesystem::is_symlink(dossier / "lien.ged"));
 }
 
 TEST_CASE_FIXTURE(Depart, "LancerExport: giving up the file dialog writes and says nothing") {
     dialogue.fichiers.emplace_back(std::nullopt);
-    CHECK(LancerExport(session, {}).issue == IssueLancement::Renonce);
+    CHECK(LancerExport(session, {}).issue.cause == shell::Cause::Arrete);
     CHECK(dialogue.entendu.empty());
     CHECK_FALSE(std::filesystem::exists(dossier / "Famille.ged"));
 }
@@ -248,12 +248,12 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: a stopped export leaves the former file
     progression.annulerAu = progression.pas + 2;
     Vers("Famille.ged");
     SUBCASE("kept unless the user wants it deleted") {
-        CHECK(LancerExport(session, {}).issue == IssueLancement::Interrompu);
+        CHECK(LancerExport(session, {}).issue.cause == shell::Cause::Arrete);
         CHECK(std::filesystem::exists(partiel));
     }
     SUBCASE("deleted on a yes") {
         dialogue.reponses = {shell::Reponse::Oui};
-        CHECK(LancerExport(session, {}).issue == IssueLancement::Interrompu);
+        CHECK(LancerExport(session, {}).issue.cause == shell::Cause::Arrete);
         CHECK_FALSE(std::filesystem::exists(partiel));
     }
     CHECK(Lu("Famille.ged") == "former");
@@ -264,7 +264,7 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: a stopped export leaves the former file
 
 TEST_CASE_FIXTURE(Depart, "LancerExport: a folder that cannot be written to is named") {
     dialogue.fichiers.emplace_back(dossier / "absent/Famille.ged");
-    CHECK(LancerExport(session, {}).issue == IssueLancement::Echec);
+    CHECK(LancerExport(session, {}).issue.cause == shell::Cause::Systeme);
     CHECK(dialogue.entendu ==
           std::vector{shell::Msg(message::FichierNonEcrit,
                                  shell::CheminAffiche(dossier / "absent/Famille.ged"))});
@@ -276,12 +276,12 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: what the set lacks is counted and told 
     demande.jeu = JeuExport::Ascii;
     Vers("a.ged");
     const Lancement l = LancerExport(session, demande);
-    CHECK(l.perdus == 1);
+    CHECK(l.comptes.perdus == 1);
     CHECK(dialogue.entendu == std::vector{shell::Msg(message::InfoExportTermine),
                                           shell::Msg(message::CaracteresPerdusALExport, "1")});
     Vers("u.ged");
     demande.jeu = JeuExport::Utf8;
-    CHECK(LancerExport(session, demande).perdus == 0);
+    CHECK(LancerExport(session, demande).comptes.perdus == 0);
     CHECK(Lu("u.ged").find("Lou\xE2\x82\xACs") != std::string::npos);
 }
 
@@ -291,8 +291,8 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: a union that the format has no place fo
     demande.format = FormatExport::Dorvane;
     Vers("a.lgr");
     const Lancement l = LancerExport(session, demande);
-    CHECK(l.unions == 2);
-    CHECK(l.omis == 1);
+    CHECK(l.comptes.unions == 2);
+    CHECK(l.comptes.omis == 1);
     CHECK(dialogue.entendu == std::vector{shell::Msg(message::InfoExportTermine),
                                           shell::Msg(message::UnionsEtEntreesOmises, "1")});
 }
@@ -301,13 +301,13 @@ TEST_CASE_FIXTURE(Depart,
                   "LancerExport: the next file is proposed where the last one was written") {
     std::filesystem::create_directory(dossier / "envois");
     Vers("envois/a.ged");
-    CHECK(LancerExport(session, {}).issue == IssueLancement::Fait);
+    CHECK(LancerExport(session, {}).issue.cause == shell::Cause::Fait);
     Vers("b.ged");
-    CHECK(LancerExport(session, {}).issue == IssueLancement::Fait);
+    CHECK(LancerExport(session, {}).issue.cause == shell::Cause::Fait);
     CHECK(dialogue.demandesFichier.back().depart == dossier / "envois/Famille.ged");
     std::filesystem::remove_all(dossier / "envois");
     Vers("c.ged");
-    CHECK(LancerExport(session, {}).issue == IssueLancement::Fait);
+    CHECK(LancerExport(session, {}).issue.cause == shell::Cause::Fait);
     CHECK(dialogue.demandesFichier.back().depart.parent_path() == dossier.chemin);
 }
 

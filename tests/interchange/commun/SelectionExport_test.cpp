@@ -85,8 +85,8 @@ TEST_CASE_FIXTURE(Bureau,
     CHECK(Marques(selection) == "333343333344");
     CHECK(selection.NbRetenus() == 9);
     CHECK(selection.NbMarques() == 12);
-    CHECK(Ecrits(selection.Choisis({})) == "xxxx.xxxxx..");
-    CHECK(Ecrits(selection.Choisis({.collateraux = true})) == "xxxxxxxxxxxx");
+    CHECK(Ecrits(selection.Choix({}).choisis) == "xxxx.xxxxx..");
+    CHECK(Ecrits(selection.Choix({.collateraux = true}).choisis) == "xxxxxxxxxxxx");
 }
 
 TEST_CASE_FIXTURE(Bureau, "SelectionExport: where the walk up stops, the parents are near kin") {
@@ -192,11 +192,29 @@ TEST_CASE_FIXTURE(Bureau, "SelectionExport: who was born after 1900 is left out,
     SelectionExport selection{B()};
     selection.MarquerTous();
     // "190?" stands behind "1900": in doubt somebody is left out.
-    CHECK(Ecrits(selection.Choisis({.ecarter1900 = true})) == "xx.xxx.");
-    CHECK(Ecrits(selection.Choisis({})) == "xxxxxxx");
-    CHECK(ExportComplet({.complet = true}));
-    CHECK_FALSE(ExportComplet({.complet = true, .ecarter1900 = true}));
-    CHECK_FALSE(ExportComplet({}));
+    CHECK(Ecrits(selection.Choix({.ecarter1900 = true}).choisis) == "xx.xxx.");
+    CHECK(Ecrits(selection.Choix({}).choisis) == "xxxxxxx");
+}
+
+TEST_CASE_FIXTURE(Bureau, "SelectionExport: a whole base goes with all its events and documents") {
+    const NoOrdre n = F().Creer('H', "Nom", "P");
+    SelectionExport selection{B()};
+    SUBCASE("unless somebody is left out") {
+        selection.MarquerTous();
+        CHECK(selection.Choix({}).complet);
+        CHECK_FALSE(selection.Choix({.complet = true, .ecarter1900 = true}).complet);
+    }
+    SUBCASE("a part of it only when that is asked for") {
+        selection.MarquerListe(std::vector{n});
+        CHECK_FALSE(selection.Choix({}).complet);
+        CHECK(selection.Choix({.complet = true}).complet);
+        CHECK_FALSE(selection.Choix({.complet = true, .ecarter1900 = true}).complet);
+    }
+    SUBCASE("and is none any more once it is emptied") {
+        selection.MarquerTous();
+        selection.Vider();
+        CHECK_FALSE(selection.Choix({}).complet);
+    }
 }
 
 TEST_CASE_FIXTURE(Bureau, "SelectionExport: links to a person born after 1900 are left out") {
@@ -207,10 +225,7 @@ TEST_CASE_FIXTURE(Bureau, "SelectionExport: links to a person born after 1900 ar
     SelectionExport selection{B()};
     selection.MarquerTous();
     const ReglagesSelection reglages{.ecarter1900 = true};
-    OptionsExport options;
-    options.reduit = true;
-    options.choisis = selection.Choisis(reglages);
-    options.complet = ExportComplet(reglages);
+    const OptionsGedcom options{selection.Choix(reglages), JeuExport::Ansi, true};
     std::string octets;
     ComptesExport comptes;
     REQUIRE(ComposerGedcom(session, "x.ged", options, octets, comptes));

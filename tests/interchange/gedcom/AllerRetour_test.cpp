@@ -23,7 +23,7 @@ struct Bureau : EssaiImport {
     /// The file that an export of the imported base is; checked against the grammar.
     std::string Exporter(JeuExport jeu = JeuExport::Ansi) {
         session.base = std::move(base);
-        OptionsExport options;
+        OptionsGedcom options;
         options.jeu = jeu;
         std::string octets;
         ComptesExport comptes;
@@ -47,7 +47,7 @@ void Montrer(const AllerRetour& compte) {
 TEST_CASE_FIXTURE(Bureau, "Round trip: 10000 persons come back with their values") {
     const FichierEssai village{10000, 7};
     ImporterOctets(village.Octets());
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     const std::string apres = Exporter();
     const AllerRetour compte{village.Octets(), apres, importation.rapport};
     CHECK(compte.Texte() == "");
@@ -76,7 +76,7 @@ TEST_CASE_FIXTURE(Bureau, "Round trip: the files of other programs, none lost wi
         CAPTURE(nom);
         const std::string avant = doublures::LireFichierOuGz(corpus / nom, dossier / "brouillon");
         ImporterOctets(avant);
-        if (!importation.faite) continue;
+        if (!importation.issue) continue;
         const std::string apres = Exporter();
         const AllerRetour compte{avant, apres, importation.rapport};
         CHECK(compte.Texte() == "");
@@ -98,7 +98,7 @@ TEST_CASE_FIXTURE(Bureau, "Round trip: the file that DORVANE_ALLER_RETOUR names"
     if (nom == nullptr) return;
     const std::string avant = doublures::LireFichierOuGz(nom, dossier / "brouillon");
     ImporterOctets(avant);
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     const AllerRetour compte{avant, Exporter(), importation.rapport};
     CHECK(compte.Texte() == "");
     Montrer(compte);

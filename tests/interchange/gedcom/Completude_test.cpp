@@ -362,6 +362,6 @@ TEST_CASE_FIXTURE(EssaiImport,
         dialogue.reponses = {shell::Reponse::Oui};
         const std::string octets = doublures::LireFichierOuGz(corpus / nom, dossier / "brouillon");
         ImporterOctets(octets);
-        if (importation.faite) CHECK(Verificateur{*this, octets}.Verifier() == "");
+        if (importation.issue) CHECK(Verificateur{*this, octets}.Verifier() == "");
     }
 }

@@ -36,7 +36,7 @@ TEST_CASE_FIXTURE(EssaiImport,
         CAPTURE(nom);
         dialogue.reponses = {shell::Reponse::Oui};
         ImporterOctets(LireFichierOuGz(corpus / nom, dossier / "brouillon"));
-        if (!importation.faite) {
+        if (!importation.issue) {
             // No line end among the first 1000 characters.
             CHECK((rang.at("line_ends") == "none" || Entier(rang.at("longest_line")) > 900 ||
                    rang.at("bytes") == "0"));

@@ -98,10 +98,10 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: the whole file, byte for byte, in eac
                                    {JeuExport::Html, "html.ged"},
                                    {JeuExport::Utf8, "utf8.ged"}}) {
         CAPTURE(nom);
-        OptionsExport options;
+        OptionsGedcom options;
         options.jeu = jeu;
         const ResultatExport resultat = ExporterGedcom(session, dossier / "famille.ged", options);
-        REQUIRE(resultat.issue == IssueExport::Fait);
+        REQUIRE(resultat.issue.cause == shell::Cause::Fait);
         // Only these two sets lack any character.
         CHECK((resultat.comptes.perdus > 0) ==
               (jeu == JeuExport::Ascii || jeu == JeuExport::Ansel));
@@ -112,11 +112,12 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: the whole file, byte for byte, in eac
 }
 
 TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: the whole file of a selection, byte for byte") {
-    OptionsExport options;
+    OptionsGedcom options;
     options.reduit = true;
     options.complet = false;
     options.choisis = {false, true, false, true, false, false, true};
-    REQUIRE(ExporterGedcom(session, dossier / "famille.ged", options).issue == IssueExport::Fait);
+    REQUIRE(ExporterGedcom(session, dossier / "famille.ged", options).issue.cause ==
+            shell::Cause::Fait);
     const std::string octets = doublures::LireFichier(dossier / "famille.ged");
     CHECK(doublures::VerificateurGedcom(octets, true).Texte() == "");
     CHECK(octets ==

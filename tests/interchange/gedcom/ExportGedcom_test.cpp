@@ -38,7 +38,7 @@ struct Bureau : doublures::SessionEssai {
     storage::Base& B() { return *session.base; }
     doublures::FamilleEssai F() { return doublures::FamilleEssai{B()}; }
     /// The file without its header, line feeds alone.
-    std::string Exporter(OptionsExport options = {}) {
+    std::string Exporter(OptionsGedcom options = {}) {
         options.reduit = true;
         std::string octets;
         ComptesExport comptes;
@@ -193,7 +193,7 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: only the persons chosen, and no point
     const NoOrdre mere = F().Creer('F', "Blanc", "Rose", "1825");
     F().Marier(pere, mere, "1849");
     F().Lier(pere, mere, "WITN");
-    OptionsExport options;
+    OptionsGedcom options;
     options.choisis = {false, true, false};
     const std::string fichier = Exporter(options);
     CHECK(fichier.find("@I2@") == std::string::npos);
@@ -205,17 +205,17 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: a cancel leaves what it got beside th
         F().Creer('H', "Martin", "Paul", "1820");
     doublures::EcrireFichier(dossier / "x.ged", "avant");
     progression.annulerAu = progression.pas + 1;
-    CHECK(ExporterGedcom(session, dossier / "x.ged", {}).issue == IssueExport::Abandon);
+    CHECK(ExporterGedcom(session, dossier / "x.ged", {}).issue.cause == shell::Cause::Arrete);
     CHECK(doublures::LireFichier(dossier / "x.ged") == "avant");
     const std::string partiel = doublures::LireFichier(dossier / "x.ged.partiel");
     progression.annulerAu = 0;
-    CHECK(ExporterGedcom(session, dossier / "x.ged", {}).issue == IssueExport::Fait);
+    CHECK(ExporterGedcom(session, dossier / "x.ged", {}).issue.cause == shell::Cause::Fait);
     const std::string entier = doublures::LireFichier(dossier / "x.ged");
     CHECK(entier.starts_with(partiel));
     // Whole records, and no end.
     CHECK(partiel.ends_with("1 SEX M\r\n1 BIRT\r\n2 DATE 1820\r\n"));
     CHECK(partiel.size() < entier.size());
-    CHECK(ExporterGedcom(session, dossier / "rien/x.ged", {}).issue == IssueExport::Refus);
+    CHECK(ExporterGedcom(session, dossier / "rien/x.ged", {}).issue.cause == shell::Cause::Systeme);
 }
 
 TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: the header in full has file, language and submitter") {

@@ -39,7 +39,7 @@ struct Bureau : doublures::EssaiImport {
         session.base.reset();
         dialogue.reponses = {shell::Reponse::Oui};
         ImporterOctets(octets);
-        REQUIRE(importation.faite);
+        REQUIRE(importation.issue);
         session.base = std::move(base);
     }
     /// The two files, without their headers and with line feeds alone.
@@ -243,7 +243,7 @@ TEST_CASE_FIXTURE(Bureau,
             histoire.Agir();
         for (const JeuExport jeu : {JeuExport::Ascii, JeuExport::Ansi, JeuExport::Ansel,
                                     JeuExport::Html, JeuExport::Utf8}) {
-            OptionsExport options;
+            OptionsGedcom options;
             options.jeu = jeu;
             std::string octets;
             ComptesExport comptes;

@@ -27,14 +27,14 @@ std::size_t FichiersDe(const std::filesystem::path& dossier) {
 
 TEST_CASE_FIXTURE(EssaiImport, "Import: a file without line ends is refused with its own words") {
     ImporterOctets("0 HEAD 1 CHAR ANSI 0 TRLR");
-    CHECK_FALSE(importation.faite);
+    CHECK_FALSE(importation.issue);
     CHECK(dialogue.entendu.back() == shell::Litteral("Fichier GEDCOM inexploitable"));
     CHECK_FALSE(std::filesystem::exists(chemin));
 }
 
 TEST_CASE_FIXTURE(EssaiImport, "Import: a missing file is told, nothing is made") {
     importation = ImporterVers(session, dossier / "absent.ged", chemin);
-    CHECK_FALSE(importation.faite);
+    CHECK_FALSE(importation.issue);
     CHECK(dialogue.entendu.back().no == message::FichierIllisible);
     CHECK_FALSE(std::filesystem::exists(chemin));
 }
@@ -121,7 +121,7 @@ TEST_CASE_FIXTURE(EssaiImport, "Import: given up in the middle, an existing base
     EcrireFichier(fichier, lignes);
     progression.annulerAu = 3;
     importation = ImporterVers(session, fichier, chemin);
-    CHECK_FALSE(importation.faite);
+    CHECK_FALSE(importation.issue);
     CHECK(dialogue.entendu.back().no == message::ImportAbandonne);
     CHECK(LireFichier(chemin) == "ancienne");
     CHECK(FichiersDe(dossier.chemin) == 2);
@@ -139,7 +139,7 @@ TEST_CASE_FIXTURE(EssaiImport, "Import: a base open elsewhere is not replaced") 
     Importer("0 @I1@ INDI\n1 NAME Jean /Dupont/\n");
     const std::string avant = LireFichier(chemin);
     importation = ImporterVers(session, fichier, chemin);
-    CHECK_FALSE(importation.faite);
+    CHECK_FALSE(importation.issue);
     CHECK(dialogue.entendu.back().no == message::BaseOccupee);
     CHECK(LireFichier(chemin) == avant);
 }
@@ -181,7 +181,7 @@ TEST_CASE_FIXTURE(EssaiImport, "Import: a file cut at any byte is read to its en
     for (std::size_t n = 8; n < entier.size(); n += 3) {
         CAPTURE(n);
         ImporterOctets(std::string_view{entier}.substr(0, n));
-        CHECK(importation.faite);
+        CHECK(importation.issue);
         CHECK(base->entete.DernierIndividu <= 2);
     }
 }
@@ -217,7 +217,7 @@ TEST_CASE_FIXTURE(EssaiImport,
     Importer("0 @I1@ INDI\n1 NAME Jean /Dupont/\n");
     base.reset();
     REQUIRE(shell::OuvrirChemin(session, chemin));
-    ImporterFichier(session, dossier / "absent.ged", {});
+    ImporterFichier(session, dossier / "absent.ged");
     CHECK(dialogue.entendu.back().no == message::FichierIllisible);
     CHECK_FALSE(session.BaseOuverte());
     CHECK(session.CheminBase.empty());

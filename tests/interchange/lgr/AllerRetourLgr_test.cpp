@@ -17,7 +17,7 @@ bool OuvrirGedcom(EssaiLgr& essai, const std::string& octets) {
     const std::filesystem::path base = essai.dossier / "source.LGD";
     doublures::EcrireFichier(fichier, octets);
     essai.dialogue.reponses = {shell::Reponse::Oui};
-    if (!ImporterVers(essai.session, fichier, base).faite) return false;
+    if (!ImporterVers(essai.session, fichier, base).issue) return false;
     storage::AvancementMuet muet;
     std::unique_ptr<storage::Base> ouverte = storage::OuvrirBase(essai.disque, base, muet).base;
     REQUIRE(ouverte != nullptr);
@@ -87,9 +87,9 @@ TEST_CASE_FIXTURE(EssaiLgr, "Merging in: both bases are there whole, with any st
             }
         }
         essai.Importer(essai.Exporter());
-        REQUIRE(essai.importation.faite);
+        REQUIRE(essai.importation.issue);
         const storage::EnTete avant = essai.B().entete;
-        REQUIRE(essai.Integrer(autre.Exporter()).issue == IssueIntegration::Faite);
+        REQUIRE(essai.Integrer(autre.Exporter()).issue.cause == shell::Cause::Fait);
         CHECK(doublures::ComparerBases{*essai.neuve, essai.B(), {0, 0, 0, true}}.Ecarts() == "");
         CHECK(doublures::Coherence{essai.B(), {false}}.Ecarts() == "");
         // Where the keywords are the same no text changes.

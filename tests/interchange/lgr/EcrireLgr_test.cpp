@@ -124,7 +124,7 @@ TEST_CASE_FIXTURE(Foyer,
     session.deCujus[1].individu = anne;
     session.parametres.base.auteur = "Moi";
     session.parametres.base.typeDocument = "Photo/Acte/";
-    OptionsLgr options;
+    ChoixExport options;
     options.choisis = {false, true, true, false};
     const std::string ini = Section(Exporter(options), "[INI]", "[FIN INI]");
     CHECK(ini.starts_with("Couleur Fond=16711808\nD\xE9grad\xE9=1\n"));
@@ -137,7 +137,7 @@ TEST_CASE_FIXTURE(Foyer,
 TEST_CASE_FIXTURE(Foyer,
                   "A selection: others are neither parents, partners, links nor participants") {
     Participer(bapteme, anne, "MOTH");
-    OptionsLgr options;
+    ChoixExport options;
     options.choisis = {false, true, false, true};
     const std::string octets = Exporter(options);
     CHECK(comptes.individus == 2);
@@ -150,7 +150,7 @@ TEST_CASE_FIXTURE(Foyer,
 }
 
 TEST_CASE_FIXTURE(Foyer, "A selection without a husband leaves his union out") {
-    OptionsLgr options;
+    ChoixExport options;
     options.choisis = {false, false, true, false};
     const std::string octets = Exporter(options);
     CHECK(Section(octets, "[MARIAGES]", "[FIN MARIAGES]") == "");
@@ -160,7 +160,7 @@ TEST_CASE_FIXTURE(Foyer, "A selection without a husband leaves his union out") {
 TEST_CASE_FIXTURE(Foyer, "A selection takes its own events and documents, a complete one all") {
     Document("Autre");
     Evenement(0, "BIRT");
-    OptionsLgr options;
+    ChoixExport options;
     options.choisis = {false, false, true, true};
     Exporter(options);
     CHECK(comptes.evenements == 2);
@@ -185,7 +185,7 @@ TEST_CASE_FIXTURE(EssaiLgr, "A person with 201 unions is written with 200") {
     }
     B().R_MARIAG.EcrireListe(jean, liste);
     Importer(Exporter());
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(neuve->R_MARIAG.NbElements(jean) == 200);
     // The 201st has its record; the husband, whose list is full, is not one of it any more.
     CHECK(neuve->entete.DernierMariage == 201);
@@ -204,7 +204,7 @@ TEST_CASE_FIXTURE(EssaiLgr, "The export shows its counts every 100 persons and e
         F().Creer('H', "Dupont", std::to_string(i), "1820");
     progression.textes.clear();
     const std::filesystem::path sortie = dossier / "sortie.lgr";
-    CHECK(ExporterLgr(session, sortie, {}).issue == IssueExport::Fait);
+    CHECK(ExporterLgr(session, sortie, {}).issue.cause == shell::Cause::Fait);
     std::vector<std::string> textes;
     for (const shell::Phrase& texte : progression.textes)
         textes.push_back(texte.valeur);
@@ -218,7 +218,7 @@ TEST_CASE_FIXTURE(EssaiLgr, "The export shows its counts every 100 persons and e
 
     progression.pas = 0;
     progression.annulerAu = 2;
-    CHECK(ExporterLgr(session, sortie, {}).issue == IssueExport::Abandon);
+    CHECK(ExporterLgr(session, sortie, {}).issue.cause == shell::Cause::Arrete);
     CHECK(doublures::LireFichier(sortie).ends_with("[FIN]\r\n"));
     const std::string octets = doublures::LireFichier(shell::CheminPartiel(sortie));
     CHECK(octets.find("\r\n 199 \r\n") != std::string::npos);
@@ -228,6 +228,6 @@ TEST_CASE_FIXTURE(EssaiLgr, "The export shows its counts every 100 persons and e
 
 TEST_CASE_FIXTURE(Foyer, "An export that the system refuses leaves the former file") {
     const std::filesystem::path absent = dossier / "absent" / "sortie.lgr";
-    CHECK(ExporterLgr(session, absent, {}).issue == IssueExport::Refus);
+    CHECK(ExporterLgr(session, absent, {}).issue.cause == shell::Cause::Systeme);
     CHECK_FALSE(std::filesystem::exists(absent));
 }

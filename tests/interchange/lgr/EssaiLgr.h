@@ -20,7 +20,7 @@ namespace dorvane::doublures {
 /// A session with an empty base, whose exchange text is made, changed and read again.
 struct EssaiLgr : FicheEssai {
     /// The bytes of the open base as an exchange text.
-    std::string Exporter(const interchange::OptionsLgr& options = {}) {
+    std::string Exporter(const interchange::ChoixExport& options = {}) {
         std::string octets;
         REQUIRE(interchange::ComposerLgr(session, options, octets, comptes));
         return octets;
@@ -31,7 +31,7 @@ struct EssaiLgr : FicheEssai {
         neuve.reset();
         EcrireFichier(fichier, octets);
         importation = interchange::ImporterVers(session, fichier, chemin);
-        if (!importation.faite) return;
+        if (!importation.issue) return;
         storage::AvancementMuet muet;
         neuve = storage::OuvrirBase(disque, chemin, muet).base;
         REQUIRE(neuve != nullptr);
@@ -42,7 +42,7 @@ struct EssaiLgr : FicheEssai {
     /// What differs between the open base and the one that its exchange text gives.
     std::string AllerRetour() {
         Importer(Exporter());
-        REQUIRE(importation.faite);
+        REQUIRE(importation.issue);
         std::string ecarts = ComparerBases{B(), *neuve}.Ecarts();
         // What was wrong before stays so.
         if (Coherence{B(), {false}}.Ecarts().empty()) ecarts += Coherence{*neuve, {false}}.Ecarts();
@@ -102,7 +102,7 @@ struct EssaiLgr : FicheEssai {
 
     std::filesystem::path fichier = dossier / "essai.lgr";
     std::filesystem::path chemin = dossier / "essai.LGD";
-    interchange::ComptesLgr comptes;
+    interchange::ComptesExport comptes;
     interchange::Importation importation;
     std::unique_ptr<storage::Base> neuve;
 };

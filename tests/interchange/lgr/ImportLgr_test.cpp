@@ -46,7 +46,7 @@ using Marie = std::vector<NoMariage>;
 
 TEST_CASE_FIXTURE(Lecture, "A new base: persons, parents, children and unions of a file") {
     Lire(Famille);
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(Nom(1) == "Dupont;Jean;");
     CHECK(neuve->R_NAISS.LireCellule(NoOrdre{1}) == "1820");
     CHECK(neuve->R_SEXE.LireCellule(NoOrdre{2}) == 'F');
@@ -65,7 +65,7 @@ TEST_CASE_FIXTURE(Lecture, "A new base: persons, parents, children and unions of
 TEST_CASE_FIXTURE(Lecture,
                   "A new base: numbers stay, also with gaps; a person without a text has none") {
     Lire("[INDIVIDUS]\n 7 \nDupont;Jean;;;\n \n\n\n 0 \n 0 \n#\n#\n#\n[FIN INDIVIDUS]\n");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(neuve->entete.DernierIndividu == 7);
     CHECK(neuve->entete.NbTriIndividus == 1);
     CHECK(Nom(7) == "Dupont;Jean;");
@@ -81,7 +81,7 @@ TEST_CASE_FIXTURE(Lecture, "A new base: dates of every form, and years in the pl
         " 3 \nC;;;12/3;\nH\n1820\n18??\n 0 \n 0 \n#\n#\n#\n"
         " 4 \nD;;;1820;\nH\n1900\n75\n 0 \n 0 \n|D ~75\n#\n#\n#\n"
         "[FIN INDIVIDUS]\n");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(Nom(1) == "A;;;12/3;ABT");
     CHECK(neuve->R_DECES.LireCellule(NoOrdre{1}) == "1890");
     CHECK(neuve->R_NAISS.AnneeTri(NoOrdre{2}) == "-044");
@@ -101,7 +101,7 @@ TEST_CASE_FIXTURE(Lecture, "Below 3.0 a person ends with the text, and a union h
         " 2 \nLe Goff;Anne;;;\nF\n\n\n 0 \n 0 \n#\n[FIN INDIVIDUS]\n"
         "[MARIAGES]\n 1 \n 2 \n1/5/1848\nBrest\n[FIN MARIAGES]\n",
         "2.1");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(neuve->entete.NbTriIndividus == 2);
     CHECK(Texte(1) == "Texte.");
     CHECK(Unions(2) == Marie{NoMariage{1}});
@@ -118,7 +118,7 @@ TEST_CASE_FIXTURE(Lecture, "From 3.0 on the documents of a person follow the tex
             "[IMAGES]\n 1 \nUn\na.jpg\n#\n 2 \nDeux\nb.jpg\nNote.\n#\n[FIN IMAGES]\n"
             "[MARIAGES]\n 1 \n 2 \n1848\nBrest\n[FIN MARIAGES]\n",
             version);
-        REQUIRE(importation.faite);
+        REQUIRE(importation.issue);
         CHECK(neuve->entete.NbTriIndividus == 2);
         CHECK(neuve->R_LSTIMG.Elements(NoOrdre{1}) == std::vector{NoDocument{1}, NoDocument{2}});
         CHECK(neuve->R_IMAGE.NoteDoc(NoDocument{2}) == "Note.");
@@ -132,7 +132,7 @@ TEST_CASE_FIXTURE(Lecture, "A file of 97.0 has its unions from the section of un
     lignes.replace(lignes.find("{Mariages}\n 1 \n"), 15, "{Mariages}\n 9 \n");
     lignes.erase(lignes.rfind("{Mariages}\n 1 \n"), 15);
     Lire(lignes, "97.0");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(Unions(1) == Marie{NoMariage{1}});
     CHECK(Unions(2) == Marie{NoMariage{1}});
     CHECK(importation.rapport.Nombre(Constat::Reference) == 0);
@@ -145,7 +145,7 @@ TEST_CASE_FIXTURE(Lecture, "From 97.1 on the lists of unions give the order") {
         " 2 \nB;;;;\nF\n\n\n 0 \n 0 \n#\n#\n{Mariages}\n 1 \n 2 \n#\n[FIN INDIVIDUS]\n"
         "[MARIAGES]\n 1 \n 2 \n\n\n#\n 1 \n 2 \n\n\n#\n[FIN MARIAGES]\n",
         "97.1");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(Unions(1) == Marie{NoMariage{2}, NoMariage{1}});
     CHECK(Unions(2) == Marie{NoMariage{1}, NoMariage{2}});
 }
@@ -156,7 +156,7 @@ TEST_CASE_FIXTURE(Lecture, "Below 97.0 labels are those of the language, from th
         "[INDIVIDUS]\n 1 \nA;;;;\nH\n\n\n 0 \n 0 \n|A\nProfession meunier\n#\n#\n"
         "[FIN INDIVIDUS]\n";
     Lire(lignes, "3.1");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(Texte(1) == "|A\r\nOCCU meunier");
     CHECK(storage::SlotsDe(*neuve, NoOrdre{1})[0].lieu == "meunier");
     CHECK(neuve->entete.LibellesNeutres);
@@ -169,7 +169,7 @@ TEST_CASE_FIXTURE(Lecture, "Below 97.0 roles and links are in words as well") {
         " 2 \nB;;;;\nF\n\n\n 0 \n 0 \n#\n#\n#\n[FIN INDIVIDUS]\n"
         "[EVENEMENTS]\n 1 \n0\n\nCHR\n\n 1 ;\n\n#\n[FIN EVENEMENTS]\n";
     const auto textes = [this](const std::string& lien, const std::string& role) {
-        REQUIRE(importation.faite);
+        REQUIRE(importation.issue);
         CHECK(neuve->R_LIEN.TexteElement(NoOrdre{1}, 1) == lien);
         CHECK(neuve->R_LIEN.TexteElement(NoOrdre{2}, 1) == lien);
         CHECK(neuve->R_LSTEVT.TexteElement(NoOrdre{1}, 1) == role);
@@ -186,7 +186,7 @@ TEST_CASE_FIXTURE(
     const std::size_t unions = Famille.find("[MARIAGES]");
     Lire("[INDEX]\n|\n[FIN INDEX]\n[AUTRE]\nx\n[FIN AUTRE]\n" + Famille.substr(unions) +
          Famille.substr(0, unions) + "[FIN]\n[IMAGES]\n 1 \nUn\na\n#\n[FIN IMAGES]\n");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(Unions(1) == Marie{NoMariage{1}});
     CHECK(neuve->entete.NbTriIndividus == 3);
     CHECK(neuve->entete.DernierDocument == 0);
@@ -197,7 +197,7 @@ TEST_CASE_FIXTURE(Lecture,
     Lire(
         "[INDIVIDUS]\nun\nA;;;;\nH\n\n\n 0 \n 0 \n#\n#\n#\n"
         " 2 \nB;;;;\nH\n\n\nun\n 1 \n#\n#\n#\n[FIN INDIVIDUS]\n");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(neuve->entete.NbTriIndividus == 1);
     CHECK(Nom(2) == "B;;");
     CHECK(importation.rapport.Nombre(Constat::Illisible, "INDIVIDUS") == 1);
@@ -210,7 +210,7 @@ TEST_CASE_FIXTURE(Lecture,
                   "Texts keep lines that look like sections, and returns that stand alone") {
     const std::string texte = "|A\n[FIN INDIVIDUS]\n{Mariages}\n 1 \n[FIN]\na\rb\n\n fin ";
     Lire("[INDIVIDUS]\n 1 \nA;;;;\nH\n\n\n 0 \n 0 \n" + texte + "\n#\n#\n#\n[FIN INDIVIDUS]\n");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(Texte(1) == EnLignes(texte));
     CHECK(neuve->entete.NbTriIndividus == 1);
 }
@@ -221,7 +221,7 @@ TEST_CASE_FIXTURE(Lecture, "A file whose lines end otherwise is read all the sam
         for (const char c : Version("99.0", Famille))
             octets += c == '\n' ? std::string{fin} : std::string(1, c);
         Importer(octets);
-        REQUIRE(importation.faite);
+        REQUIRE(importation.issue);
         CHECK(neuve->entete.NbTriIndividus == 3);
         CHECK(Texte(1) == "|Dupont \xB6Jean $Brest\r\nUne note.");
     }
@@ -235,7 +235,7 @@ TEST_CASE_FIXTURE(Lecture,
                                             " 0 \n\n#\n#\n{Ev\xE9nements}\n 1 ;X\n#\n"
                                             "[FIN INDIVIDUS]\n[EVENEMENTS]\n 1 \n0\n\n\n\n"
                                             "\n\n#\n[FIN EVENEMENTS]\n"))));
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(Nom(1) == "H\xE9lias;;");
     CHECK(neuve->R_EVT.LienEvt(NoEvenement{1}, 1) == NoOrdre{1});
 }
@@ -246,7 +246,7 @@ TEST_CASE_FIXTURE(Lecture,
         "[INDIVIDUS]\n 1 \nA;;;;\nH\n\n\n 0 \n 0 \n#\n#\n 2 \nparrain\n 3 \nami\n 3 \nami\n#\n"
         " 2 \nB;;;;\nH\n\n\n 0 \n 0 \n#\n#\n 1 \nfilleul\n#\n"
         " 3 \nC;;;;\nH\n\n\n 0 \n 0 \n#\n#\n#\n[FIN INDIVIDUS]\n");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     storage::ListeLiens& liens = neuve->R_LIEN;
     CHECK(liens.NbElements(NoOrdre{1}) == 2);
     CHECK(liens.TexteElement(NoOrdre{1}, 1) == "parrain");
@@ -264,7 +264,7 @@ TEST_CASE_FIXTURE(Lecture,
          " 1 ;GODF\n 1 ;WITN\n#\n 3 \nC;;;;\nH\n\n\n 0 \n 0 \n#\n#\n#\n[FIN INDIVIDUS]\n"
          "[EVENEMENTS]\n 1 \n-100\nBrest\nBapt\xEAme\nLe sien\n 3 ; 1 ; 1 ;9;\n\n\n#\n"
          "[FIN EVENEMENTS]\n");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     const std::vector<storage::LienEvenement> attendus{
         {NoOrdre{3}, ""}, {NoOrdre{1}, "CHIL"}, {NoOrdre{2}, "GODF"}, {NoOrdre{2}, "WITN"}};
     CHECK(neuve->R_EVT.Liens(NoEvenement{1}) == attendus);
@@ -281,7 +281,7 @@ TEST_CASE_FIXTURE(Lecture,
     for (int n = 2; n <= 202; ++n)
         lignes += ' ' + std::to_string(n) + " \nB;;;1800;\nH\n\n\n 1 \n 0 \n#\n#\n#\n";
     Lire(lignes + "[FIN INDIVIDUS]\n");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(neuve->R_ENFANT.NbElements(NoOrdre{1}) == 200);
     CHECK(neuve->R_PERE.LireCellule(NoOrdre{201}) == NoOrdre{1});
     CHECK(neuve->R_PERE.LireCellule(NoOrdre{202}) == NoOrdre{});
@@ -294,7 +294,7 @@ TEST_CASE_FIXTURE(Lecture,
     Lire("[INDIVIDUS]\n 64000" + reste + " 64001" + reste + " 64000" + reste +
          "[FIN INDIVIDUS]\n[IMAGES]\n 32001 \nUn\na\n#\n[FIN IMAGES]\n"
          "[EVENEMENTS]\n 32001 \n0\n\n\n\n\n\n#\n[FIN EVENEMENTS]\n");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(neuve->entete.NbTriIndividus == 1);
     CHECK(neuve->entete.DernierIndividu == 64000);
     CHECK(importation.rapport.Nombre(Constat::Doublon, "INDIVIDUS") == 1);
@@ -328,7 +328,7 @@ TEST_CASE_FIXTURE(Lecture,
         "[MOTS CLES]\n|\nBIRN\n\xB6\nFNAM\n$\nBIRT\n\xB5\nSurnom\n[FIN MOTS CLES]\n"
         "[INDIVIDUS]\n 1 \nA;;;;\nH\n\n\n 0 \n 0 \n|A \xB6Jean $Brest \xB5Petit\n#\n#\n#\n"
         "[FIN INDIVIDUS]\n[INDEX]\n$\n\xB5\n[FIN INDEX]\n");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     const auto indexe = [&](char symbole) {
         return neuve->motsCles.LibelleType(neuve->motsCles.TypeDuSymbole(symbole)).indexe;
     };
@@ -347,7 +347,7 @@ TEST_CASE_FIXTURE(Lecture, "The settings of the file are those of the new base o
                            "Type Document 1=Photo\nType Document 2=Acte\nInconnu=1\nsans\n"
                            "[FIN INI]\n" +
                                Famille));
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     REQUIRE(session.parametres.LireParametresBase(shell::CheminEntier(chemin)));
     const shell::ReglagesBase& b = session.parametres.base;
     CHECK(b.affichage.couleurFond == 255);
@@ -366,7 +366,7 @@ TEST_CASE_FIXTURE(Lecture, "A file that is no exchange text makes no base and sa
         CAPTURE(octets);
         dialogue.entendu.clear();
         Importer(octets);
-        CHECK_FALSE(importation.faite);
+        CHECK_FALSE(importation.issue);
         CHECK(dialogue.entendu ==
               std::vector{shell::Msg(message::FichierPasUnEchange, "essai.lgr")});
         CHECK_FALSE(std::filesystem::exists(chemin));
@@ -378,7 +378,7 @@ TEST_CASE_FIXTURE(Lecture, "A file that is cut off gives what it holds, and the 
     for (std::size_t taille = 30; taille < octets.size(); ++taille) {
         CAPTURE(taille);
         Importer(octets.substr(0, taille));
-        REQUIRE(importation.faite);
+        REQUIRE(importation.issue);
         const bool entier = taille == octets.size() - 2;
         CHECK(importation.rapport.finTrouvee == entier);
         CHECK(Coherence{*neuve}.Ecarts() == "");
@@ -395,7 +395,7 @@ TEST_CASE_FIXTURE(Lecture, "A cancel at any step leaves no base, or the former o
         lignes += ' ' + std::to_string(n) + " \nB;;;1800;\nH\n\n\n 0 \n 0 \n|B\n#\n#\n#\n";
     lignes += "[FIN INDIVIDUS]\n";
     Lire(lignes);
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     const std::uint32_t pas = progression.pas;
     REQUIRE(pas > 4);
     neuve.reset();
@@ -406,7 +406,7 @@ TEST_CASE_FIXTURE(Lecture, "A cancel at any step leaves no base, or the former o
         progression.annulerAu = n;
         dialogue.entendu.clear();
         Lire(lignes);
-        CHECK_FALSE(importation.faite);
+        CHECK_FALSE(importation.issue);
         CHECK(dialogue.entendu == std::vector{shell::Msg(message::ImportAbandonne)});
         CHECK(doublures::LireFichier(chemin) == avant);
         CHECK_FALSE(std::filesystem::exists(dossier / "essai.LGD~imp"));
@@ -419,7 +419,7 @@ TEST_CASE_FIXTURE(Lecture, "A text or a name that a record cannot hold is fitted
          ";B#C;;1820;\nH\nBrest#\n\n 0 \n 0 \n"
          "un#deux\n#\n#\n#\n[FIN INDIVIDUS]\n[IMAGES]\n 1 \nT\nf\n" +
          std::string(40000, 'n') + "\n#\n[FIN IMAGES]\n");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(Nom(1).size() == 1000);
     CHECK(Texte(1) == "un-deux $Brest-");
     CHECK(neuve->R_IMAGE.NoteDoc(NoDocument{1}).size() == 32000);
@@ -429,11 +429,11 @@ TEST_CASE_FIXTURE(Lecture, "A text or a name that a record cannot hold is fitted
 TEST_CASE_FIXTURE(Lecture, "From the menu a file of another extension is read, a base is not") {
     session.PoserBase(nullptr);
     doublures::EcrireFichier(fichier, EnLignes(Version("99.0", Famille)));
-    ImporterFichier(session, fichier, {});
+    ImporterFichier(session, fichier);
     REQUIRE(session.BaseOuverte());
     CHECK(session.base->entete.NbTriIndividus == 3);
     const std::string avant = doublures::LireFichier(chemin);
-    ImporterFichier(session, chemin, {});
+    ImporterFichier(session, chemin);
     CHECK(doublures::LireFichier(chemin) == avant);
 }
 
@@ -442,7 +442,7 @@ TEST_CASE_FIXTURE(Lecture,
     Lire(
         "[MOTS CLES]\n^\nSobriquet\n\\\nOCCU\n[FIN MOTS CLES]\n"
         "[INDIVIDUS]\n 1 \nA;;;;\nH\n\n\n 0 \n 0 \n|A ^Petit\n2^3\n#\n#\n#\n[FIN INDIVIDUS]\n");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(Texte(1) == "|A ^Petit\r\n2^3");
     CHECK(neuve->motsCles.LibelleType(NoMotCle{1}).libelle == "Sobriquet");
     CHECK(neuve->motsCles.LibelleType(NoMotCle{2}).libelle == "OCCU");
@@ -455,7 +455,7 @@ TEST_CASE_FIXTURE(
     Lire(
         "[MOTS CLES]\n$\nSobriquet\n[FIN MOTS CLES]\n"
         "[INDIVIDUS]\n 1 \nA;;;;\nH\n\n\n 0 \n 0 \n|A $Petit\n#\n#\n#\n[FIN INDIVIDUS]\n");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(Texte(1) == "|A \xB5Petit");
 }
 
@@ -466,7 +466,7 @@ TEST_CASE_FIXTURE(Lecture,
         "[DONNEES INDIVIDUS]\n%\n1\n?\n1\n[FIN DONNEES INDIVIDUS]\n"
         "[DONNEES MARIAGES]\n[FIN DONNEES MARIAGES]\n"
         "[IMAGES]\n 2 \nMa famille\n\n#\n[FIN IMAGES]\n");
-    REQUIRE(importation.faite);
+    REQUIRE(importation.issue);
     CHECK(neuve->entete.OptParticules);
     CHECK(neuve->entete.OptPrenomUnique);
     CHECK(neuve->entete.DocBase == NoDocument{2});

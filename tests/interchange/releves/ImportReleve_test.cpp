@@ -2,6 +2,7 @@
 
 #include "doublures/Coherence.h"
 #include "doublures/SessionEssai.h"
+#include "messages/Dorvane.h"
 #include "messages/Releve.h"
 #include "shell/Demarrage.h"
 #include "storage/Base.h"
@@ -28,7 +29,7 @@ struct EssaiReleve : doublures::SessionEssai {
         base.reset();
         rapport = {};
         const Releve releve = LireReleve(fichier, sorte);
-        REQUIRE(ImporterReleve(session, releve, "actes.csv", chemin, rapport) == IssueImport::Fait);
+        REQUIRE(ImporterReleve(session, releve, "actes.csv", chemin, rapport));
         texteRapport = ComposerRapport(rapport, releve, session);
         // What the preview tells is what the import does.
         CHECK(ComposerRapport(ExaminerReleve(session, releve), releve, session) == texteRapport);
@@ -261,7 +262,7 @@ TEST_CASE_FIXTURE(EssaiReleve, "a cancel leaves no base") {
         lignes += "1780;1;1;Mer;Dupont;Jean;M\n";
     progression.annulerAu = 2;
     CHECK(ImporterReleve(session, LireReleve(lignes, Sorte::Bapteme), "a.csv", chemin, rapport) ==
-          IssueImport::Abandonne);
+          shell::Issue::Arretee(shell::Msg(message::ImportAbandonne)));
     CHECK_FALSE(std::filesystem::exists(chemin));
 }
 

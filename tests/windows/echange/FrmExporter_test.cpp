@@ -445,9 +445,9 @@ TEST_CASE_FIXTURE(Export,
 TEST_CASE_FIXTURE(Export,
                   "MnuIntégrer: the file, the question, the backup, the report, the display") {
     DemarrerFamille();
-    const interchange::ResultatLgr ecrit =
+    const interchange::ResultatExport ecrit =
         interchange::ExporterLgr(S(), dossier / "autres.lgr", {});
-    REQUIRE(ecrit.issue == interchange::IssueExport::Fait);
+    REQUIRE(ecrit.issue.cause == shell::Cause::Fait);
     Ouvrir();
     CHECK(Fiche().startsWith(QStringLiteral("Personnes\u00A0: 8 ")));
     {
