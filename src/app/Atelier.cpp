@@ -35,8 +35,8 @@ int Atelier::Fermer() {
     const bool fermee = session.base->Fermer();
     session.PoserBase(nullptr);
     if (fermee) return Fait;
-    dialogue.Informer(shell::Msg(message::EnregistrementBaseEchoue,
-                                 Utf8VersTexte(session.CheminBase.string()).octets));
+    dialogue.Informer(
+        shell::Msg(message::EnregistrementBaseEchoue, shell::CheminAffiche(session.CheminBase)));
     return RefusSysteme;
 }
 

@@ -38,7 +38,7 @@ int SauvegarderBase(const std::filesystem::path& base) {
     const std::filesystem::path copie = shell::CheminSauvegarde(base);
     if (!shell::CopierTout(base, copie)) {
         atelier.dialogue.Informer(
-            shell::Msg(message::SauvegardeNonEcrite, Utf8VersTexte(copie.string()).octets));
+            shell::Msg(message::SauvegardeNonEcrite, shell::CheminAffiche(copie)));
         return RefusSysteme;
     }
     std::cout << copie.string() << '\n';

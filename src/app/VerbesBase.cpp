@@ -5,7 +5,6 @@
 #include "messages/Messages.h"
 #include "shell/CycleDeVie.h"
 #include "storage/Base.h"
-#include "values/Texte1252.h"
 
 #include <iostream>
 #include <nlohmann/json.hpp>
@@ -22,10 +21,6 @@ struct OptionsFichier {
     bool json = false;
     bool remplacer = false;
 };
-
-std::string NomAffichable(const fs::path& chemin) {
-    return Utf8VersTexte(chemin.string()).octets;
-}
 
 /// A row of `lister` for people: number, name, dates, parted by tabs.
 void EcrireLigne(std::ostream& sortie, const Json& ligne) {
@@ -74,7 +69,7 @@ int Creer(const OptionsFichier& o) {
     std::error_code erreur;
     if (fs::exists(base, erreur)) {
         atelier.dialogue.Informer(
-            shell::Msg(message::FichierExisteSansRemplacer, NomAffichable(base)));
+            shell::Msg(message::FichierExisteSansRemplacer, shell::CheminAffiche(base)));
         return Refus;
     }
     const shell::ReglagesGeneraux& generaux = atelier.session.parametres.generaux;

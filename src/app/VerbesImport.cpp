@@ -76,7 +76,7 @@ int Importer(const OptionsImport& options) {
     }
     if (fs::exists(base, erreur) && !options.remplacer) {
         atelier.dialogue.Informer(
-            shell::Msg(message::FichierExisteSansRemplacer, Utf8VersTexte(base.string()).octets));
+            shell::Msg(message::FichierExisteSansRemplacer, shell::CheminAffiche(base)));
         return Refus;
     }
     atelier.dialogue.reponse = options.trier ? shell::Reponse::Oui : shell::Reponse::Non;

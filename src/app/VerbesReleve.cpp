@@ -53,7 +53,7 @@ int ImporterActes(const OptionsReleve& o) {
     std::error_code erreur;
     if (fs::exists(base, erreur) && !o.remplacer) {
         atelier.dialogue.Informer(
-            shell::Msg(message::FichierExisteSansRemplacer, Utf8VersTexte(base.string()).octets));
+            shell::Msg(message::FichierExisteSansRemplacer, shell::CheminAffiche(base)));
         return Refus;
     }
     const interchange::Releve releve = interchange::LireReleve(*octets, o.sorte);

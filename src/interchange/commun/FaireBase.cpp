@@ -38,7 +38,7 @@ shell::Issue FaireBase(shell::Session& session, const std::filesystem::path& bas
     const std::string nom = shell::CheminAffiche(base);
     if (verrou.etat == storage::EtatVerrou::Occupe)
         return shell::Issue::Refusee(shell::Msg(message::BaseOccupee, nom));
-    const shell::Issue refusee =
+    shell::Issue refusee =
         shell::Issue::ParSysteme(shell::Msg(message::BaseImporteeNonEcrite, nom));
 
     const shell::CadreProgression montre{session.progression, cadre.titre, cadre.texte};

@@ -192,9 +192,9 @@ private:
 /// Everything up to the first change of the base.
 shell::Issue Preparer(shell::Session& session, std::string& octets, const std::string& nom,
                       ContenuLgr& contenu, RapportImport& rapport) {
-    const shell::Issue abandon =
+    shell::Issue abandon =
         shell::Issue::Arretee(shell::Msg(message::InfoIntegrationAbandonnee));
-    const shell::Issue lecture = LireContenuLgr(session, octets, nom, contenu, rapport);
+    shell::Issue lecture = LireContenuLgr(session, octets, nom, contenu, rapport);
     if (lecture.cause == shell::Cause::Arrete) return abandon;
     if (!lecture) return lecture;
     if (shell::Issue place = VerifierPlace(session, contenu, nom); !place) return place;
