@@ -97,8 +97,4 @@ void Minuterie1(Session& session);
 /// its path, else the name of the program.
 [[nodiscard]] std::string TitrePrincipal(const Session& session);
 
-/// Whether a menu entry is enabled. `nom` is the name of the entry, UTF-8, with or without the
-/// index of an array in parentheses.
-[[nodiscard]] bool EtatMenu(bool baseOuverte, std::string_view nom);
-
 }  // namespace dorvane::shell

@@ -494,23 +494,6 @@ TEST_CASE_FIXTURE(Bureau, "TitrePrincipal: the path, or the title of the documen
     CHECK(TitrePrincipal(session) == "La famille Martin");
 }
 
-TEST_CASE("EtatMenu: without a base only these stay enabled") {
-    for (const char* nom : {"MnuNouveau", "MnuOuvrir", "MnuRestauration", "MnuHisto", "MnuHisto(3)",
-                            "MnuImporter", "MnuBaptème", "MnuSépulture", "MnuRelevéMariage",
-                            "MnuRelevéAscendance", "MnuLng(1)", "MnuParametres", "MnuUsuels",
-                            "MnuGraphisme", "MnuCalendrier", "MnuCommunes", "MnuQuitter"}) {
-        CAPTURE(nom);
-        CHECK(EtatMenu(false, nom));
-        CHECK(EtatMenu(true, nom));
-    }
-    for (const char* nom : {"MnuFermer", "MnuEnregistrer", "MnuSauvegarde", "MnuExporter",
-                            "MnuDeCujus1", "MnuMotsClés", "MnuStats", ""}) {
-        CAPTURE(nom);
-        CHECK_FALSE(EtatMenu(false, nom));
-        CHECK(EtatMenu(true, nom));
-    }
-}
-
 TEST_CASE_FIXTURE(Bureau,
                   "Session: settings that cannot be saved are told once, and the base is saved") {
     Nouveau(famille);

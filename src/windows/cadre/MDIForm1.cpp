@@ -23,7 +23,6 @@
 #include "shell/Numerotation.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
-#include "windows/cadre/FrmCalendrier.h"
 #include "windows/controles/CadreAvancement.h"
 #include "windows/controles/FenetreFille.h"
 #include "windows/controles/FrmRapport.h"
@@ -66,11 +65,8 @@ MDIForm1::MDIForm1(shell::Session& session)
     FaireMenus();
     FaireBarres();
 
-    connect(accueil_, &Accueil::ouvrirDemande, this, &MDIForm1::Ouvrir);
-    connect(accueil_, &Accueil::nouveauDemande, this, &MDIForm1::Nouveau);
-    connect(accueil_, &Accueil::importerDemande, this, &MDIForm1::Importer);
-    connect(accueil_, &Accueil::histoDemande, this, &MDIForm1::Histo);
-    connect(accueil_, &Accueil::personneDemandee, this, &MDIForm1::NouvelIndividu);
+    connect(accueil_, &Accueil::commandeDemandee, this,
+            [this](const QString& nom) { ActionNommee(nom)->trigger(); });
     connect(graphe_, &FrmDebut::personneDemandee, this,
             [this](quint32 individu) { AllerA(NoOrdre{individu}); });
     connect(graphe_, &FrmDebut::menuDemande, this, [this](quint32 individu, const QPoint& point) {
@@ -125,21 +121,14 @@ void MDIForm1::Actualiser() {
     PoserLangues();
     Traduire();
     icones_->setVisible(generaux.barreMenus);
-    ActionNommee(QStringLiteral("MnuBarreIcones"))->setChecked(generaux.barreMenus);
-    ActionNommee(QStringLiteral("MnuBarreFenetres"))->setChecked(generaux.barreFenetres);
     PoserHistorique();
     PoserEtats();
-
-    const int presentation = session_.parametres.base.affichage.typePresentation;
-    if (presentation >= 1 && presentation <= 4)
-        presentations_->actions()[presentation - 1]->setChecked(true);
-    const Palette palette = PaletteChoisie(session_).value_or(PaletteDuBureau());
-    palettes_->actions()[static_cast<int>(palette)]->setChecked(true);
+    PoserCoches();
 
     // Another base starts with its own presentation.
     if (baseMontree_ != session_.base.get()) {
         baseMontree_ = session_.base.get();
-        graphe_->PoserPalette(palette);
+        graphe_->PoserPalette(PaletteEnCours(session_));
         graphe_->AppliquerPresentation();
     }
     ActualiserEtat();
@@ -262,6 +251,10 @@ void MDIForm1::ChangerLangue(const QString& nom) {
 void MDIForm1::Traduire() {
     TraduireQt();
     TraduireFenetre(*this, session_);
+    for (const Commande& rangee : Commandes())
+        if (rangee.legende)
+            PoserTexte(*findChild<QObject*>(QString::fromUtf8(rangee.nom)),
+                       TexteEcran(session_, rangee.legende));
     for (int k = 1; k <= 2; ++k) {
         // The caption of a reference person is its name.
         QAction* choix = ActionNommee(QStringLiteral("MnuDeCujus%1").arg(k));

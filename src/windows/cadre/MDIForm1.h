@@ -5,12 +5,12 @@
 
 #include "interchange/releves/Releve.h"
 #include "records/ModeleFamille.h"
+#include "windows/cadre/Commandes.h"
 #include "windows/graphe/PaletteGraphe.h"
 
-#include <array>
+#include <span>
 #include <vector>
 
-class QActionGroup;
 class QLabel;
 class QMenu;
 class QStackedWidget;
@@ -68,6 +68,9 @@ public:
     /// Opens the export window with the persons of a list as what is selected.
     void ExporterListe(const std::vector<NoOrdre>& liste);
 
+    /// The table of the commands: menus, lines and entries in their order.
+    [[nodiscard]] static std::span<const Commande> Commandes();
+
     [[nodiscard]] CadreAvancement& Cadre() { return *cadre_; }
     [[nodiscard]] FrmDebut& Graphe() { return *graphe_; }
 
@@ -77,27 +80,35 @@ protected:
     void dropEvent(QDropEvent* evenement) override;
 
 private:
-    using Action = void (MDIForm1::*)();
-
-    // The menus.
+    // The menus, made of the table.
     void FaireMenus();
     void FaireBarres();
-    QMenu* FaireMenu(QWidget* parent, const char* nom);
-    QAction* FaireAction(QMenu* menu, const char* nom, const char* touches, Action action);
-    void FaireFichier();
-    void FaireEchange(QMenu* menu);
-    void FaireReleves(QMenu* menu);
-    void FairePersonne();
-    void FaireAffichage();
-    void FaireOutils();
-    void FaireSoin(QMenu* menu);
+    [[nodiscard]] QMenu* FaireMenu(const Commande& rangee);
+    [[nodiscard]] QAction* FaireAction(QMenu& menu, const Commande& rangee);
     void PoserLangues();
     void PoserHistorique();
     void PoserIcones();
     void PoserEtats();
+    void PoserCoches();
+    void Executer(const Commande& commande);
     [[nodiscard]] QAction* ActionNommee(const QString& nom) const;
 
     // What the entries do.
+    static const Commande Table[];
+    template <auto action, auto... arguments>
+    static void Appel(MDIForm1& fenetre) {
+        (fenetre.*action)(arguments...);
+    }
+    template <class Fenetre>
+    static void MontrerFenetre(MDIForm1& fenetre) {
+        fenetre.Montrer<Fenetre>();
+    }
+    template <int presentation>
+    [[nodiscard]] static bool Presentee(const MDIForm1& fenetre);
+    template <Palette palette>
+    [[nodiscard]] static bool Coloree(const MDIForm1& fenetre);
+    [[nodiscard]] static bool IconesMontrees(const MDIForm1& fenetre);
+    [[nodiscard]] static bool FenetresMontrees(const MDIForm1& fenetre);
     void Nouveau();
     void Ouvrir();
     void Fermer();
@@ -115,24 +126,17 @@ private:
     void Precedent();
     void Suivant();
     void Noms();
-    void Liste();
     void Modifier();
     void NouvelIndividu();
     void SupprimerIndividu();
-    void Evenements();
-    void Documents();
-    void MotsCles();
-    void Usuels();
     void Reglages();
     void OuvrirFiche(NoOrdre individu);
     void MenuParent(NoOrdre enfant, char cote, const QPoint& point);
     void CreerParent(NoOrdre enfant, char cote);
     void ChercherParent(NoOrdre enfant, char cote);
     void DeposerParent(NoOrdre enfant, char cote, NoOrdre parent);
-    void AllerDeCujus1();
-    void AllerDeCujus2();
-    void ChoisirDeCujus1();
-    void ChoisirDeCujus2();
+    void AllerDeCujus(int k);
+    void ChoisirDeCujus(int k);
     void Agrandir();
     void Diminuer();
     void Ajuster();
@@ -140,7 +144,6 @@ private:
     void Droite();
     void BarreIcones();
     void BarreFenetres();
-    void Calendrier();
     void Communes();
     void Controle();
     void Depannage();
@@ -174,12 +177,6 @@ private:
     QLabel* etatPersonne_;
     QLabel* etatDeCujus_;
     CadreAvancement* cadre_;
-    QMenu* menuFichier_ = nullptr;
-    QMenu* menuLangues_ = nullptr;
-    QAction* traitHistorique_ = nullptr;
-    QActionGroup* presentations_ = nullptr;
-    QActionGroup* palettes_ = nullptr;
-    std::array<QAction*, 5> historique_{};
     QString numerosIcones_;
     QTimer Minuterie1_;
     QTimer Minuterie2_;

@@ -1,4 +1,4 @@
-#include <QActionGroup>
+#include <QAction>
 #include <QMenu>
 #include <QScreen>
 #include <QToolBar>
@@ -98,24 +98,15 @@ void MDIForm1::Suivant() {
 }
 
 void MDIForm1::Noms() {
-    if (!shell::CommandePermise(session_) || !session_.base) return;
     AllerA(session_.dialogue.ChoisirPersonne({session_.PersonneEnCours, {}, {}}));
 }
 
-void MDIForm1::AllerDeCujus1() {
-    AllerA(session_.deCujus[0].individu);
+void MDIForm1::AllerDeCujus(int k) {
+    AllerA(session_.deCujus[static_cast<std::size_t>(k - 1)].individu);
 }
 
-void MDIForm1::AllerDeCujus2() {
-    AllerA(session_.deCujus[1].individu);
-}
-
-void MDIForm1::ChoisirDeCujus1() {
-    if (shell::CommandePermise(session_)) shell::MnuDeCujus(session_, 1);
-}
-
-void MDIForm1::ChoisirDeCujus2() {
-    if (shell::CommandePermise(session_)) shell::MnuDeCujus(session_, 2);
+void MDIForm1::ChoisirDeCujus(int k) {
+    shell::MnuDeCujus(session_, k);
 }
 
 void MDIForm1::PasVers(records::Parente parente) {
@@ -166,7 +157,7 @@ void MDIForm1::Presentation(int presentation) {
 
 void MDIForm1::PoserPalette(Palette palette) {
     MemoriserPalette(session_, palette);
-    palettes_->actions()[static_cast<int>(palette)]->setChecked(true);
+    PoserCoches();
     graphe_->PoserPalette(palette);
 }
 

@@ -1,7 +1,4 @@
 // The entries of the main window that export the base and merge a file into it.
-#include <QAction>
-#include <QMenu>
-
 #include "interchange/commandes/IntegrerLgr.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Session.h"
@@ -14,13 +11,6 @@
 #include <string>
 
 namespace dorvane::windows {
-
-void MDIForm1::FaireEchange(QMenu* menu) {
-    FaireAction(menu, "MnuIntégrer", nullptr, &MDIForm1::Integrer);
-    menu->addSeparator();
-    FaireAction(menu, "MnuExporter", "Ctrl+Shift+E", &MDIForm1::Exporter);
-    FaireAction(menu, "MnuExporterSélectif", nullptr, &MDIForm1::ExporterSelectif);
-}
 
 /// Null when no export can be prepared now.
 FrmExporter* MDIForm1::FenetreExport() {

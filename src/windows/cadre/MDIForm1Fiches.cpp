@@ -9,23 +9,16 @@
 #include "shell/CycleDeVie.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
-#include "windows/cadre/FrmCalendrier.h"
 #include "windows/cadre/MDIForm1.h"
 #include "windows/communes/FrmCommune.h"
 #include "windows/controles/Icones.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/Unicode.h"
-#include "windows/faits/FrmLstEvt.h"
-#include "windows/faits/FrmLstImage.h"
 #include "windows/fiche/FrmMisajour.h"
 #include "windows/graphe/FrmDebut.h"
-#include "windows/mots/FrmMotCle.h"
-#include "windows/mots/FrmUsuels.h"
 #include "windows/personnes/FrmCreation.h"
 #include "windows/personnes/FrmPere.h"
-#include "windows/personnes/FrmRecherche.h"
 #include "windows/reglages/FrmParametre.h"
-#include "windows/soin/FrmControle.h"
 
 namespace dorvane::windows {
 
@@ -54,7 +47,6 @@ void MDIForm1::Modifier() {
 }
 
 void MDIForm1::NouvelIndividu() {
-    if (!shell::CommandePermise(session_) || !session_.base) return;
     const NoOrdre nouveau = FrmCreation::Creer(session_, {}, this);
     if (!nouveau) return;
     AllerA(nouveau);
@@ -62,36 +54,7 @@ void MDIForm1::NouvelIndividu() {
 }
 
 void MDIForm1::SupprimerIndividu() {
-    if (!shell::CommandePermise(session_) || !session_.base) return;
     if (records::SupprimerIndividu(session_, session_.PersonneEnCours)) RelireTout(nullptr);
-}
-
-void MDIForm1::Liste() {
-    if (session_.base) Montrer<FrmRecherche>();
-}
-
-void MDIForm1::Evenements() {
-    if (session_.base) Montrer<FrmLstEvt>();
-}
-
-void MDIForm1::Documents() {
-    if (session_.base) Montrer<FrmLstImage>();
-}
-
-void MDIForm1::MotsCles() {
-    if (session_.base) Montrer<FrmMotCle>();
-}
-
-void MDIForm1::Usuels() {
-    Montrer<FrmUsuels>();
-}
-
-void MDIForm1::Calendrier() {
-    Montrer<FrmCalendrier>();
-}
-
-void MDIForm1::Controle() {
-    if (shell::CommandePermise(session_) && session_.base) Montrer<FrmControle>().Controler();
 }
 
 void MDIForm1::Communes() {
@@ -101,8 +64,7 @@ void MDIForm1::Communes() {
 }
 
 void MDIForm1::Reglages() {
-    if (!shell::CommandePermise(session_)) return;
-    FrmParametre reglages{session_, this};
+    FrmParametre reglages{session_, BoutonsIcones(), this};
     if (reglages.exec() != QDialog::Accepted) return;
     graphe_->AppliquerPresentation();
     icones_->setVisible(session_.parametres.generaux.barreMenus);

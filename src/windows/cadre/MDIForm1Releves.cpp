@@ -1,7 +1,4 @@
 // The entries of the main window that import surveys and hand the base over to another tool.
-#include <QAction>
-#include <QMenu>
-
 #include "interchange/commandes/Importer.h"
 #include "interchange/releves/RemiseGeneanet.h"
 #include "messages/Dorvane.h"
@@ -22,24 +19,8 @@
 
 namespace dorvane::windows {
 
-void MDIForm1::FaireReleves(QMenu* menu) {
-    using interchange::SorteReleve;
-    QMenu* releves = FaireMenu(menu, "MnuRelevés");
-    const std::pair<const char*, SorteReleve> entrees[] = {
-        {"MnuBaptème", SorteReleve::Bapteme},
-        {"MnuRelevéMariage", SorteReleve::Mariage},
-        {"MnuSépulture", SorteReleve::Sepulture},
-        {"MnuRelevéAscendance", SorteReleve::Ascendance},
-    };
-    for (const auto& [nom, sorte] : entrees) {
-        QAction* action = FaireAction(releves, nom, nullptr, nullptr);
-        connect(action, &QAction::triggered, this, [this, sorte = sorte] { ImporterActes(sorte); });
-    }
-}
-
 /// The file is chosen, shown with what would come of it, and imported.
 void MDIForm1::ImporterActes(interchange::SorteReleve sorte) {
-    if (!shell::CommandePermise(session_)) return;
     shell::DemandeFichier demande;
     demande.titre = shell::Msg(message::TitreChoisirFichierReleve);
     demande.filtre = "Texte (*.txt, *.csv)|*.txt;*.csv";

@@ -1,6 +1,4 @@
-// The entries of the main window that look after a base: repair and reorganisation.
-#include <QMenu>
-
+// The entries of the main window that look after a base: check, repair and reorganisation.
 #include "messages/Controle.h"
 #include "records/Depannage.h"
 #include "shell/Reorganisation.h"
@@ -8,14 +6,12 @@
 #include "windows/cadre/MDIForm1.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/OuvrirTexte.h"
+#include "windows/soin/FrmControle.h"
 
 namespace dorvane::windows {
 
-void MDIForm1::FaireSoin(QMenu* menu) {
-    QMenu* soin = FaireMenu(menu, "MnuSoin");
-    FaireAction(soin, "MnuControle", nullptr, &MDIForm1::Controle);
-    FaireAction(soin, "MnuDépannage", nullptr, &MDIForm1::Depannage);
-    FaireAction(soin, "MnuRéorganiser", nullptr, &MDIForm1::Reorganiser);
+void MDIForm1::Controle() {
+    Montrer<FrmControle>().Controler();
 }
 
 void MDIForm1::Depannage() {

@@ -23,26 +23,6 @@ namespace {
 
 using enum Propriete;
 
-void PoserTexte(QObject& controle, const QString& texte) {
-    if (auto* action = qobject_cast<QAction*>(&controle)) {
-        action->setText(texte);
-        // No tip without its shortcut.
-        const QString touches = action->shortcut().toString(QKeySequence::NativeText);
-        const QString seul = SansMnemonique(texte);
-        action->setToolTip(touches.isEmpty() ? seul : seul + QStringLiteral(" (") + touches + u')');
-    } else if (auto* menu = qobject_cast<QMenu*>(&controle)) {
-        menu->setTitle(texte);
-    } else if (auto* bouton = qobject_cast<QAbstractButton*>(&controle)) {
-        bouton->setText(texte);
-    } else if (auto* etiquette = qobject_cast<QLabel*>(&controle)) {
-        etiquette->setText(texte);
-    } else if (auto* groupe = qobject_cast<QGroupBox*>(&controle)) {
-        groupe->setTitle(texte);
-    } else if (auto* fenetre = qobject_cast<QWidget*>(&controle)) {
-        fenetre->setWindowTitle(texte);
-    }
-}
-
 void Poser(QObject& controle, const Legende& legende, const QString& texte) {
     auto* widget = qobject_cast<QWidget*>(&controle);
     switch (legende.propriete) {
@@ -94,6 +74,26 @@ void TraduireFenetre(QWidget& fenetre, const shell::Session& session) {
                                 ? &fenetre
                                 : fenetre.findChild<QObject*>(QString::fromUtf8(legende.controle));
         if (controle != nullptr) Poser(*controle, legende, TexteEcran(session, legende.message));
+    }
+}
+
+void PoserTexte(QObject& controle, const QString& texte) {
+    if (auto* action = qobject_cast<QAction*>(&controle)) {
+        action->setText(texte);
+        // No tip without its shortcut.
+        const QString touches = action->shortcut().toString(QKeySequence::NativeText);
+        const QString seul = SansMnemonique(texte);
+        action->setToolTip(touches.isEmpty() ? seul : seul + QStringLiteral(" (") + touches + u')');
+    } else if (auto* menu = qobject_cast<QMenu*>(&controle)) {
+        menu->setTitle(texte);
+    } else if (auto* bouton = qobject_cast<QAbstractButton*>(&controle)) {
+        bouton->setText(texte);
+    } else if (auto* etiquette = qobject_cast<QLabel*>(&controle)) {
+        etiquette->setText(texte);
+    } else if (auto* groupe = qobject_cast<QGroupBox*>(&controle)) {
+        groupe->setTitle(texte);
+    } else if (auto* fenetre = qobject_cast<QWidget*>(&controle)) {
+        fenetre->setWindowTitle(texte);
     }
 }
 

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+class QObject;
 class QWidget;
 
 namespace dorvane::shell {
@@ -41,6 +42,9 @@ struct Legende {
 /// Pours the catalogue into the controls of a window, by their names. Columns of tables are asked
 /// for by their models instead.
 void TraduireFenetre(QWidget& fenetre, const shell::Session& session);
+
+/// Gives a control its text: a menu its title, an entry its tip with its shortcut besides.
+void PoserTexte(QObject& controle, const QString& texte);
 
 /// The header of a column of a table; empty when the table has none.
 [[nodiscard]] QString TitreColonne(const shell::Session& session, const char* fenetre,

@@ -8,7 +8,6 @@ namespace {
 using enum Propriete;
 
 constexpr Legende Table[] = {
-    {"MDIForm1", "MnuCommunes", Texte, message::MenuCommunes},
 
     {"FrmCommune", "", Texte, message::TitreCommunes},
     {"FrmCommune", "LblCherche", Texte, message::ChercherCommune},

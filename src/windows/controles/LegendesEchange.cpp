@@ -9,9 +9,6 @@ namespace {
 using enum Propriete;
 
 constexpr Legende Table[] = {
-    {"MDIForm1", "MnuExporter", Texte, message::MenuExporter},
-    {"MDIForm1", "MnuExporterSélectif", Texte, message::MenuExporterSelection},
-    {"MDIForm1", "MnuIntégrer", Texte, message::MenuIntegrerFichierDorvane},
 
     {"FrmExporter", "", Texte, message::TitreExporter},
     {"FrmExporter", "LblPersonnes", Texte, message::ColonnePersonnes},

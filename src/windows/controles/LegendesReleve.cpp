@@ -8,13 +8,6 @@ namespace {
 using enum Propriete;
 
 constexpr Legende Table[] = {
-    {"MDIForm1", "MnuRelevés", Texte, message::MenuReleves},
-    {"MDIForm1", "MnuBaptème", Texte, message::MenuReleveBaptemes},
-    {"MDIForm1", "MnuRelevéMariage", Texte, message::MenuReleveMariages},
-    {"MDIForm1", "MnuSépulture", Texte, message::MenuReleveSepultures},
-    {"MDIForm1", "MnuRelevéAscendance", Texte, message::MenuReleveAscendance},
-    {"MDIForm1", "MnuGénéanet", Texte, message::MenuRemettreAGeneanet},
-
     {"FrmRelevé", "", Texte, message::TitreReleveAImporter},
     {"FrmRelevé", "LblSorte", Texte, message::SorteDeReleve},
     {"FrmRelevé", "GrdLignes", Acces, message::LignesDuReleve},

@@ -10,10 +10,6 @@ namespace {
 using enum Propriete;
 
 constexpr Legende Table[] = {
-    {"MDIForm1", "MnuSoin", Texte, message::MenuEntretienBase},
-    {"MDIForm1", "MnuControle", Texte, message::MenuControlerBase},
-    {"MDIForm1", "MnuDépannage", Texte, message::MenuDepannerBase},
-    {"MDIForm1", "MnuRéorganiser", Texte, message::MenuReorganiserBase},
 
     {"FrmControle", "", Texte, message::TitreControleBase},
     {"FrmControle", "LblFiltre", Texte, message::FiltrerListe},

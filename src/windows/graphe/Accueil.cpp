@@ -16,9 +16,13 @@ namespace {
 
 constexpr int LargeurColonne = 460;
 
-QPushButton* Bouton(QWidget* parent, const char* nom, const char* icone) {
-    auto* bouton = new QPushButton{Icone(icone), {}, parent};
+/// A button that asks for a command and bears its drawing.
+QPushButton* Bouton(Accueil* parent, const char* nom, const char* commande) {
+    auto* bouton = new QPushButton{Icone(commande), {}, parent};
     bouton->setObjectName(QString::fromUtf8(nom));
+    QObject::connect(bouton, &QPushButton::clicked, parent, [parent, commande] {
+        Q_EMIT parent->commandeDemandee(QString::fromUtf8(commande));
+    });
     bouton->setMinimumHeight(bouton->sizeHint().height() + 8);
     return bouton;
 }
@@ -71,10 +75,6 @@ Accueil::Accueil(const shell::Session& session, QWidget* parent)
     liste_->setSpacing(0);
     colonne_->addLayout(liste_);
     texte_->setAlignment(Qt::AlignHCenter);
-    connect(personne_, &QPushButton::clicked, this, &Accueil::personneDemandee);
-    connect(ouvrir_, &QPushButton::clicked, this, &Accueil::ouvrirDemande);
-    connect(nouveau_, &QPushButton::clicked, this, &Accueil::nouveauDemande);
-    connect(importer_, &QPushButton::clicked, this, &Accueil::importerDemande);
 }
 
 void Accueil::Actualiser() {
@@ -105,8 +105,9 @@ void Accueil::PoserRecentes() {
         bouton->setToolTip(CheminVersQt(historique[i]));
         bouton->setFlat(true);
         bouton->setFixedWidth(LargeurColonne * 2 / 3);
-        const int rang = static_cast<int>(i);
-        connect(bouton, &QPushButton::clicked, this, [this, rang] { Q_EMIT histoDemande(rang); });
+        const QString commande = QStringLiteral("MnuHisto(%1)").arg(i);
+        connect(bouton, &QPushButton::clicked, this,
+                [this, commande] { Q_EMIT commandeDemandee(commande); });
         liste_->addWidget(bouton, 0, Qt::AlignHCenter);
     }
 }

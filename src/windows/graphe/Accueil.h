@@ -25,12 +25,8 @@ public:
     void Actualiser();
 
 Q_SIGNALS:
-    void ouvrirDemande();
-    void nouveauDemande();
-    void importerDemande();
-    void histoDemande(int rang);
-    /// Of an empty base.
-    void personneDemandee();
+    /// A command of the main window, by its name.
+    void commandeDemandee(const QString& nom);
 
 private:
     void PoserRecentes();

@@ -57,7 +57,7 @@ FrmDebut::FrmDebut(shell::Session& session, QWidget* parent)
     glissement_.setEndValue(1.0);
     connect(&glissement_, &QVariantAnimation::valueChanged, this,
             [this](const QVariant& part) { Placer(part.toDouble()); });
-    PoserPalette(PaletteChoisie(session_).value_or(PaletteDuBureau()));
+    PoserPalette(PaletteEnCours(session_));
 }
 
 FrmDebut::~FrmDebut() {

@@ -131,4 +131,8 @@ double Contraste(const QColor& a, const QColor& b) {
     return std::max(un, deux) / std::min(un, deux);
 }
 
+Palette PaletteEnCours(const shell::Session& session) {
+    return PaletteChoisie(session).value_or(PaletteDuBureau());
+}
+
 }  // namespace dorvane::windows

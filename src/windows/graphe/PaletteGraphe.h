@@ -58,6 +58,9 @@ void MemoriserPalette(shell::Session& session, Palette palette);
 /// `Sombre` on a dark desktop, else `Claire`.
 [[nodiscard]] Palette PaletteDuBureau();
 
+/// The palette that the user has chosen; before the first choice, that of the desktop.
+[[nodiscard]] Palette PaletteEnCours(const shell::Session& session);
+
 /// Contrast of two colours, 1 (none) to 21 (black on white).
 [[nodiscard]] double Contraste(const QColor& a, const QColor& b);
 

@@ -32,7 +32,8 @@ constexpr int PageDuProgramme = 5;
 
 }  // namespace
 
-FrmParametre::FrmParametre(shell::Session& session, QWidget* parent)
+FrmParametre::FrmParametre(shell::Session& session, const std::vector<BoutonIcone>& boutons,
+                           QWidget* parent)
     : FenetreFille{session, QStringLiteral("FrmParametre"), parent},
       liste_{new QListWidget{this}},
       pages_{new QStackedWidget{this}},
@@ -51,22 +52,22 @@ FrmParametre::FrmParametre(shell::Session& session, QWidget* parent)
     corps->setSpacing(Marge);
     corps->addWidget(liste_);
     corps->addWidget(pages_, 1);
-    auto* boutons = new QHBoxLayout;
-    boutons->setSpacing(Espace);
-    boutons->addStretch();
-    boutons->addWidget(valider_);
-    boutons->addWidget(annuler_);
+    auto* pied = new QHBoxLayout;
+    pied->setSpacing(Espace);
+    pied->addStretch();
+    pied->addWidget(valider_);
+    pied->addWidget(annuler_);
     auto* colonne = new QVBoxLayout{this};
     colonne->setContentsMargins(Marge, Marge, Marge, Marge);
     colonne->setSpacing(Marge);
     colonne->addLayout(corps, 1);
-    colonne->addLayout(boutons);
+    colonne->addLayout(pied);
     Ajouter(new ParametreNoms{session, this});
     Ajouter(new ParametreParticules{session, this});
     Ajouter(new ParametreGraphe{session, this});
     Ajouter(new ParametreEvenements{session, this});
     Ajouter(new ParametreBase{session, this});
-    Ajouter(new ParametreProgramme{session, this});
+    Ajouter(new ParametreProgramme{session, boutons, this});
     connect(liste_, &QListWidget::currentRowChanged, pages_, &QStackedWidget::setCurrentIndex);
     connect(valider_, &QPushButton::clicked, this, &FrmParametre::Valider);
     connect(annuler_, &QPushButton::clicked, this, &FrmParametre::reject);

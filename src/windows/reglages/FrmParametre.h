@@ -4,6 +4,9 @@
 
 #include "shell/Reglages.h"
 #include "windows/controles/FenetreFille.h"
+#include "windows/reglages/BoutonIcone.h"
+
+#include <vector>
 
 class QDialogButtonBox;
 class QListWidget;
@@ -19,7 +22,8 @@ class FrmParametre final : public FenetreFille {
     Q_OBJECT
 
 public:
-    FrmParametre(shell::Session& session, QWidget* parent);
+    /// `boutons`: what may stand in the icon bar.
+    FrmParametre(shell::Session& session, const std::vector<BoutonIcone>& boutons, QWidget* parent);
 
     void Traduire() override;
 

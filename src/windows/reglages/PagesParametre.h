@@ -3,8 +3,10 @@
 #include <QWidget>
 
 #include "shell/Reglages.h"
+#include "windows/reglages/BoutonIcone.h"
 
 #include <array>
+#include <vector>
 
 class QCheckBox;
 class QComboBox;
@@ -164,7 +166,8 @@ class ParametreProgramme final : public PageParametre {
     Q_OBJECT
 
 public:
-    ParametreProgramme(shell::Session& session, QWidget* parent);
+    ParametreProgramme(shell::Session& session, const std::vector<BoutonIcone>& offerts,
+                       QWidget* parent);
     void Charger(const shell::Reglages& reglages) override;
     std::size_t Lire(shell::Reglages& reglages) override;
     void Traduire() override;
@@ -186,6 +189,7 @@ private:
     QCheckBox* barreFenetres_;
     ListeOrdonnee* icones_;
     QComboBox* boutons_;
+    std::vector<BoutonIcone> offerts_;  ///< what may stand in the icon bar
 };
 
 }  // namespace dorvane::windows

@@ -11,7 +11,6 @@
 
 #include "messages/Reglages.h"
 #include "shell/Session.h"
-#include "windows/controles/BoutonsIcones.h"
 #include "windows/controles/Icones.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/ListeOrdonnee.h"
@@ -37,7 +36,8 @@ constexpr int FrequenceAuPlus = 1440;
 
 }  // namespace
 
-ParametreProgramme::ParametreProgramme(shell::Session& session, QWidget* parent)
+ParametreProgramme::ParametreProgramme(shell::Session& session,
+                                       const std::vector<BoutonIcone>& offerts, QWidget* parent)
     : PageParametre{session, parent},
       frequence_{new QSpinBox{this}},
       ordre_{new QComboBox{this}},
@@ -46,7 +46,8 @@ ParametreProgramme::ParametreProgramme(shell::Session& session, QWidget* parent)
       barreIcones_{new QCheckBox{this}},
       barreFenetres_{new QCheckBox{this}},
       icones_{new ListeOrdonnee{QStringLiteral("LstIcones"), this}},
-      boutons_{new QComboBox{this}} {
+      boutons_{new QComboBox{this}},
+      offerts_{offerts} {
     auto* colonne = new QVBoxLayout{this};
     auto* dossiers = new QGroupBox{this};
     dossiers->setObjectName(QStringLiteral("GrpDossiers"));
@@ -124,19 +125,12 @@ QLineEdit* ParametreProgramme::FaireChemin(QWidget* ligne, const char* nom, cons
 }
 
 void ParametreProgramme::FaireBoutons() {
-    const auto texte = [this](const char* action) {
-        const auto& legendes = TableLegendes();
-        const auto ici = std::ranges::find_if(legendes, [action](const Legende& l) {
-            return std::string_view{l.fenetre} == "MDIForm1" &&
-                   std::string_view{l.controle} == action && l.propriete == Propriete::Texte;
-        });
-        return ici == legendes.end() ? QString{} : SansMnemonique(TexteEcran(S(), ici->message));
-    };
     const int rang = boutons_->currentIndex();
     boutons_->clear();
     boutons_->addItem(TexteEcran(S(), message::TraitDeSeparation), SeparateurIcones);
-    for (const BoutonIcone& bouton : BoutonsIcones())
-        boutons_->addItem(Icone(bouton.action), texte(bouton.action), bouton.no);
+    for (const BoutonIcone& bouton : offerts_)
+        boutons_->addItem(Icone(bouton.commande), SansMnemonique(TexteEcran(S(), bouton.legende)),
+                          bouton.no);
     boutons_->setCurrentIndex(std::max(0, rang));
 }
 

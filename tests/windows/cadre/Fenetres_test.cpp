@@ -122,7 +122,7 @@ struct Toutes : FenetreEssai {
         fenetres.emplace_back(new FrmMotCle{S(), &Fenetre()});
         fenetres.emplace_back(new FrmUsuels{S(), &Fenetre()});
         fenetres.emplace_back(new FrmExporter{S(), &Fenetre()});
-        fenetres.emplace_back(new FrmParametre{S(), &Fenetre()});
+        fenetres.emplace_back(new FrmParametre{S(), BoutonsIcones(), &Fenetre()});
         fenetres.emplace_back(new FrmReleve{S(),
                                             interchange::SorteReleve::Bapteme,
                                             "1780;1;1;Mer;Dupont;Jean;?\n",

@@ -11,6 +11,7 @@
 
 #include "shell/Reglages.h"
 #include "windows/Essai.h"
+#include "windows/cadre/Commandes.h"
 #include "windows/faits/FrmDesEvt.h"
 
 using namespace dorvane;
@@ -22,7 +23,7 @@ namespace {
 struct Bureau : FenetreEssai {
     Bureau() {
         DemarrerFamille();
-        forme = std::make_unique<FrmParametre>(S(), &Fenetre());
+        forme = std::make_unique<FrmParametre>(S(), BoutonsIcones(), &Fenetre());
         forme->show();
         REQUIRE(QTest::qWaitForWindowExposed(forme.get()));
     }
