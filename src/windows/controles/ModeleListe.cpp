@@ -6,7 +6,6 @@
 #include "windows/controles/Unicode.h"
 
 #include <algorithm>
-#include <unordered_map>
 #include <utility>
 
 namespace dorvane::windows {
@@ -49,12 +48,8 @@ void ModeleListe::Composer() {
     } else {
         if (replies_.size() != tous_.size()) {
             replies_.clear();
-            for (const std::uint32_t numero : tous_) {
-                std::string texte;
-                for (int colonne = 0; colonne < colonnes_; ++colonne)
-                    texte += Texte(numero, colonne) + '\n';
-                replies_.push_back(Replie(texte));
-            }
+            for (const std::uint32_t numero : tous_)
+                replies_.push_back(Replie(TexteFiltre(numero)));
         }
         for (std::size_t i = 0; i < tous_.size(); ++i)
             if (std::all_of(mots_.begin(), mots_.end(), [&](const std::string& mot) {
@@ -67,13 +62,16 @@ void ModeleListe::Composer() {
 
 void ModeleListe::Ranger() {
     if (colonneTri_ < 0) return;
-    std::unordered_map<std::uint32_t, std::string> cles;
+    std::vector<std::pair<std::string, std::uint32_t>> cles;
+    cles.reserve(montres_.size());
     for (const std::uint32_t numero : montres_)
-        cles.emplace(numero, Cle(numero, colonneTri_));
+        cles.emplace_back(Cle(numero, colonneTri_), numero);
     const bool croissant = ordreTri_ == Qt::AscendingOrder;
-    std::stable_sort(montres_.begin(), montres_.end(), [&](std::uint32_t a, std::uint32_t b) {
-        return croissant ? cles[a] < cles[b] : cles[b] < cles[a];
+    std::stable_sort(cles.begin(), cles.end(), [croissant](const auto& a, const auto& b) {
+        return croissant ? a.first < b.first : b.first < a.first;
     });
+    std::transform(cles.begin(), cles.end(), montres_.begin(),
+                   [](const auto& cle) { return cle.second; });
 }
 
 void ModeleListe::sort(int colonne, Qt::SortOrder ordre) {
@@ -115,6 +113,13 @@ QVariant ModeleListe::data(const QModelIndex& index, int role) const {
     if (numero == 0 || !session_.base) return {};
     if (role == Qt::DisplayRole) return TexteVersQt(Texte(numero, index.column()));
     return Autre(numero, index.column(), role);
+}
+
+std::string ModeleListe::TexteFiltre(std::uint32_t numero) const {
+    std::string texte;
+    for (int colonne = 0; colonne < colonnes_; ++colonne)
+        texte += Texte(numero, colonne) + '\n';
+    return texte;
 }
 
 std::string ModeleListe::Cle(std::uint32_t numero, int colonne) const {

@@ -46,6 +46,8 @@ public:
 
 protected:
     [[nodiscard]] virtual std::string Texte(std::uint32_t numero, int colonne) const = 0;
+    /// What the filter looks at: all columns, unless a list says otherwise.
+    [[nodiscard]] virtual std::string TexteFiltre(std::uint32_t numero) const;
     /// What a column sorts by; bytes compare as unsigned.
     [[nodiscard]] virtual std::string Cle(std::uint32_t numero, int colonne) const;
     /// Other roles than the text.

@@ -1,7 +1,6 @@
 #include "windows/fiche/FrmMisajour.h"
 
 #include "ui_FrmMisajour.h"
-#include <QApplication>
 #include <QShortcut>
 #include <QTabBar>
 
@@ -11,6 +10,7 @@
 #include "records/Fiche.h"
 #include "records/Individus.h"
 #include "records/NomsAffiches.h"
+#include "shell/Progression.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "windows/controles/Icones.h"
@@ -36,15 +36,6 @@ constexpr QSize TailleInitiale{1240, 640};
 constexpr NoMessage TitresPages[] = {message::TitrePageFaits,     message::TitrePageUnions,
                                      message::TitrePageLiens,     message::TitrePageEvenements,
                                      message::TitrePageDocuments, message::TitrePageFratrie};
-
-/// The pointer of waiting for as long as it lives.
-class Sablier {
-public:
-    Sablier() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Sablier() { QApplication::restoreOverrideCursor(); }
-    Sablier(const Sablier&) = delete;
-    Sablier& operator=(const Sablier&) = delete;
-};
 
 }  // namespace
 
@@ -244,7 +235,7 @@ bool FrmMisajour::Valider() {
     if (!AccepterRemplaces(S(), remplaces)) return false;
     records::IssueFiche issue;
     {
-        const Sablier sablier;
+        const shell::Attente attente{S().progression};
         issue = records::ValiderFiche(S(), fiche);
     }
     if (issue.EstRefusee()) {

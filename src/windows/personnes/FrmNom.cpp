@@ -64,7 +64,7 @@ void FrmNom::PreparerListe(NoOrdre depart) {
     for (QWidget* champ :
          {static_cast<QWidget*>(ui_->LblPosition), static_cast<QWidget*>(ui_->TxPosition)})
         champ->setVisible(modele_->Positionnable());
-    Choisir(std::max(0, modele_->Rangee(depart)));
+    Choisir(std::max(0, modele_->Rangee(depart.valeur)));
 }
 
 void FrmNom::Traduire() {
@@ -92,7 +92,7 @@ void FrmNom::Choisir(int rangee) {
 void FrmNom::Filtrer() {
     const NoOrdre choisie = Choisie();
     modele_->Filtrer(ui_->TxtFiltre->text());
-    Choisir(std::max(0, modele_->Rangee(choisie)));
+    Choisir(std::max(0, modele_->Rangee(choisie.valeur)));
     Compter();
 }
 

@@ -3,18 +3,15 @@
 #include <QAbstractTableModel>
 
 #include "values/Numeros.h"
+#include "windows/controles/ModeleListe.h"
 
 #include <string>
 #include <vector>
 
-namespace dorvane::shell {
-class Session;
-}
-
 namespace dorvane::windows {
 
-/// Persons in rows: names are read when a row is painted, so that a whole base opens at once.
-class ModeleNoms final : public QAbstractTableModel {
+/// Persons in rows. A filter looks at name and dates.
+class ModeleNoms final : public ModeleListe {
     Q_OBJECT
 
 public:
@@ -24,53 +21,33 @@ public:
     /// base in sort order.
     ModeleNoms(shell::Session& session, const std::vector<NoOrdre>& parmi, QObject* parent);
 
-    /// Keeps the rows in whose name and dates all words of `filtre` occur, whatever their case
-    /// and accents. Empty: all rows.
-    void Filtrer(const QString& filtre);
-
-    /// Orders the rows by a column, equal ones as the base has them; -1: as the base has all. Who
-    /// is selected stays so.
-    void sort(int colonne, Qt::SortOrder ordre) override;
-
     /// A place by name or year can be asked for: the rows are those of a base in order.
     [[nodiscard]] bool Positionnable() const;
     /// The row of the first person at or after a name or year in the order of the base, in which
     /// the rows must stand; -1 without rows.
     [[nodiscard]] int Position(const QString& texte) const;
 
-    [[nodiscard]] NoOrdre Individu(int rangee) const;
-    /// The row of a person, -1 when the filter hides it.
-    [[nodiscard]] int Rangee(NoOrdre individu) const;
-    [[nodiscard]] int Total() const { return static_cast<int>(tous_.size()); }
+    [[nodiscard]] NoOrdre Individu(int rangee) const { return NoOrdre{Numero(rangee)}; }
 
-    [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
-    [[nodiscard]] int columnCount(const QModelIndex& parent) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     /// The person of the first of these rows, for dragging.
     [[nodiscard]] QMimeData* mimeData(const QModelIndexList& lignes) const override;
-    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
-                                      int role) const override;
+    void sort(int colonne, Qt::SortOrder ordre) override;
+
+protected:
+    [[nodiscard]] std::string Texte(std::uint32_t numero, int colonne) const override;
+    [[nodiscard]] std::string TexteFiltre(std::uint32_t numero) const override;
+    [[nodiscard]] std::string Cle(std::uint32_t numero, int colonne) const override;
+    [[nodiscard]] QVariant Autre(std::uint32_t numero, int colonne, int role) const override;
 
 private:
-    [[nodiscard]] QVariant Texte(NoOrdre individu, int colonne) const;
     [[nodiscard]] QString Bulle(NoOrdre individu, int colonne) const;
     [[nodiscard]] QVariant Image(NoOrdre individu, int colonne) const;
     /// Unions and children of a person, in the order in which the column sorts.
     enum class EtatFamille { Aucune, UnionsEtEnfants, UnionSansEnfant, EnfantsSansUnion };
-    /// Fills `montres_` by filter and order.
-    void Retenir();
-    [[nodiscard]] std::string Cle(NoOrdre individu) const;
     [[nodiscard]] EtatFamille FamilleDe(NoOrdre individu) const;
 
-    shell::Session& session_;
-    std::vector<NoOrdre> tous_;
-    std::vector<NoOrdre> montres_;
-    std::vector<std::string> replies_;  ///< what the filter looks at; made by the first filter
-    std::vector<std::string> mots_;     ///< of the filter, folded
-    bool choix_;                        ///< only some persons are offered
-    int colonne_ = -1;                  ///< ordered by it; -1: as the base
-    Qt::SortOrder ordre_ = Qt::AscendingOrder;
+    bool choix_;  ///< only some persons are offered
 };
 
 }  // namespace dorvane::windows
