@@ -3,7 +3,6 @@
 #include "ui_FrmLstEvt.h"
 #include <QContextMenuEvent>
 #include <QDropEvent>
-#include <QHeaderView>
 #include <QMenu>
 
 #include "messages/Faits.h"
@@ -14,7 +13,6 @@
 #include "values/Comparaison.h"
 #include "windows/controles/GlisserPersonne.h"
 #include "windows/controles/Legendes.h"
-#include "windows/controles/ListeFiltree.h"
 #include "windows/controles/Unicode.h"
 #include "windows/faits/FrmDesEvt.h"
 #include "windows/faits/ModeleEvenements.h"
@@ -22,101 +20,60 @@
 namespace dorvane::windows {
 
 FrmLstEvt::FrmLstEvt(shell::Session& session, QWidget* parent)
-    : FenetreFille{session, QStringLiteral("FrmLstEvt"), parent},
+    : FenetreListe{session, QStringLiteral("FrmLstEvt"), parent},
       ui_{std::make_unique<Ui::FrmLstEvt>()},
       modele_{new ModeleEvenements{session, this}} {
     ui_->setupUi(this);
-    QHeaderView& entete = *ui_->GrdEvts->horizontalHeader();
     ui_->GrdEvts->setModel(modele_);
     const int cadratin = fontMetrics().averageCharWidth();
     ui_->GrdEvts->setColumnWidth(ModeleEvenements::Date, 22 * cadratin);
     ui_->GrdEvts->setColumnWidth(ModeleEvenements::Type, 18 * cadratin);
     ui_->GrdEvts->setColumnWidth(ModeleEvenements::Libelle, 22 * cadratin);
     ui_->GrdEvts->setColumnWidth(ModeleEvenements::Lieu, 22 * cadratin);
-    entete.setStretchLastSection(true);
-    liste_ =
-        new ListeFiltree{session,
-                         {ui_->TxtFiltre, ui_->GrdEvts, ui_->LblNombre, ui_->Pages, ui_->LblVide},
-                         {message::NombreEvenements, message::NombreEvenementsFiltres,
-                          message::AucunEvenementNeContient, message::BaseSansEvenement},
-                         *modele_,
-                         QStringLiteral("FrmLstEvt"),
-                         this};
-    connect(liste_, &ListeFiltree::choisi, this, &FrmLstEvt::PoserBoutons);
-    connect(liste_, &ListeFiltree::ouvert, this, [this](quint32 numero) {
-        if (choix_)
-            accept();
-        else
-            Ouvrir(NoEvenement{numero}, {});
-    });
-    connect(ui_->CmdAjout, &QPushButton::clicked, this,
-            [this] { Ouvrir({}, choix_ ? NoOrdre{} : S().PersonneEnCours); });
-    connect(ui_->CmdMaj, &QPushButton::clicked, this, [this] { Ouvrir(Choisi(), {}); });
-    connect(ui_->CmdSupp, &QPushButton::clicked, this, &FrmLstEvt::Supprimer);
-    connect(ui_->CmdChoisir, &QPushButton::clicked, this, &QDialog::accept);
-    connect(ui_->CmdFermer, &QPushButton::clicked, this, &QDialog::reject);
-    connect(liste_, &ListeFiltree::retire, this, &FrmLstEvt::Supprimer);
-    for (QWidget* cible : {static_cast<QWidget*>(this), ui_->GrdEvts->viewport()}) {
-        cible->setAcceptDrops(true);
-        cible->installEventFilter(this);
-    }
-    ui_->CmdChoisir->hide();
-    Traduire();
-    Recharger();
-    ui_->TxtFiltre->setFocus();
+    Monter({ui_->TxtFiltre, ui_->GrdEvts, ui_->LblNombre, ui_->Pages, ui_->LblVide},
+           {message::NombreEvenements, message::NombreEvenementsFiltres,
+            message::AucunEvenementNeContient, message::BaseSansEvenement},
+           *modele_, {ui_->CmdAjout, ui_->CmdMaj, ui_->CmdSupp, ui_->CmdChoisir, ui_->CmdFermer});
 }
 
 FrmLstEvt::~FrmLstEvt() = default;
 
 NoEvenement FrmLstEvt::Choisir(shell::Session& session, QWidget* parent) {
     FrmLstEvt fenetre{session, parent};
-    fenetre.choix_ = true;
-    fenetre.ui_->CmdChoisir->show();
-    fenetre.ui_->CmdChoisir->setDefault(true);
-    fenetre.ui_->CmdSupp->hide();
-    return fenetre.exec() == QDialog::Accepted ? fenetre.Choisi() : NoEvenement{};
+    return NoEvenement{fenetre.FenetreListe::Choisir({fenetre.ui_->CmdSupp})};
 }
 
 NoEvenement FrmLstEvt::Choisi() const {
-    return NoEvenement{liste_->Choisi()};
+    return NoEvenement{NumeroChoisi()};
 }
 
-void FrmLstEvt::Traduire() {
-    FenetreFille::Traduire();
-    liste_->Traduire();
+std::vector<std::uint32_t> FrmLstEvt::Numeros() const {
+    return ModeleEvenements::Numeros(S());
 }
 
-void FrmLstEvt::Recharger() {
-    liste_->Poser(ModeleEvenements::Numeros(S()));
-    PoserBoutons();
+void FrmLstEvt::OuvrirChoisi() {
+    Ouvrir(Choisi(), {});
 }
 
-void FrmLstEvt::PoserBoutons() {
-    const bool choisi{Choisi()};
-    for (QPushButton* bouton : {ui_->CmdMaj, ui_->CmdSupp, ui_->CmdChoisir})
-        bouton->setEnabled(choisi);
-    ui_->CmdAjout->setEnabled(S().BaseOuverte());
+/// In a chooser the new event is nobody's.
+void FrmLstEvt::Ajouter() {
+    Ouvrir({}, PourChoisir() ? NoOrdre{} : S().PersonneEnCours);
+}
+
+bool FrmLstEvt::SupprimerChoisi() {
+    return records::SupprimerEvenement(S(), Choisi());
 }
 
 void FrmLstEvt::Ouvrir(NoEvenement evenement, NoOrdre pour) {
     if (!S().base) return;
     FrmDesEvt fenetre{S(), evenement, pour, {}, this};
     fenetre.exec();
-    if (!fenetre.Ecrit()) return;
-    Recharger();
-    liste_->Choisir(fenetre.Evenement().valeur);
-    Q_EMIT baseChangee();
-}
-
-void FrmLstEvt::Supprimer() {
-    if (choix_ || !records::SupprimerEvenement(S(), Choisi())) return;
-    Recharger();
-    Q_EMIT baseChangee();
+    if (fenetre.Ecrit()) Ecrite(fenetre.Evenement().valeur);
 }
 
 /// From an event to its persons.
 void FrmLstEvt::contextMenuEvent(QContextMenuEvent* evenement) {
-    if (choix_ || !S().base || !Choisi()) return;
+    if (PourChoisir() || !S().base || !Choisi()) return;
     auto* menu = new QMenu{this};
     menu->setObjectName(QStringLiteral("MnuPersonnes"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -145,10 +102,7 @@ bool FrmLstEvt::eventFilter(QObject* objet, QEvent* evenement) {
     if (type == QEvent::Drop) {
         auto* depose = static_cast<QDropEvent*>(evenement);
         const NoOrdre individu = PersonneDeMime(S(), depose->mimeData());
-        const QModelIndex index = objet == ui_->GrdEvts->viewport()
-                                      ? ui_->GrdEvts->indexAt(depose->position().toPoint())
-                                      : QModelIndex{};
-        const NoEvenement sur{modele_->Numero(index.isValid() ? index.row() : -1)};
+        const NoEvenement sur{Sous(objet, *depose)};
         depose->acceptProposedAction();
         // The list that the person comes from waits until the drop has ended.
         if (individu)
@@ -156,12 +110,7 @@ bool FrmLstEvt::eventFilter(QObject* objet, QEvent* evenement) {
                 this, [this, sur, individu] { Ouvrir(sur, individu); }, Qt::QueuedConnection);
         return true;
     }
-    return FenetreFille::eventFilter(objet, evenement);
-}
-
-void FrmLstEvt::done(int resultat) {
-    liste_->Memoriser();
-    FenetreFille::done(resultat);
+    return FenetreListe::eventFilter(objet, evenement);
 }
 
 }  // namespace dorvane::windows

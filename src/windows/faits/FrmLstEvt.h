@@ -3,7 +3,7 @@
 #include <QDialog>
 
 #include "values/Numeros.h"
-#include "windows/controles/FenetreFille.h"
+#include "windows/faits/FenetreListe.h"
 
 #include <memory>
 
@@ -13,12 +13,11 @@ class FrmLstEvt;
 
 namespace dorvane::windows {
 
-class ListeFiltree;
 class ModeleEvenements;
 
 /// All events of the base by date. A person that is dropped on a row joins that event; beside the
 /// rows, it begins a new one.
-class FrmLstEvt final : public FenetreFille {
+class FrmLstEvt final : public FenetreListe {
     Q_OBJECT
 
 public:
@@ -30,23 +29,19 @@ public:
 
     [[nodiscard]] NoEvenement Choisi() const;
 
-    void Traduire() override;
-    void Recharger() override;
-
 protected:
+    [[nodiscard]] std::vector<std::uint32_t> Numeros() const override;
+    void OuvrirChoisi() override;
+    void Ajouter() override;
+    [[nodiscard]] bool SupprimerChoisi() override;
     bool eventFilter(QObject* objet, QEvent* evenement) override;
     void contextMenuEvent(QContextMenuEvent* evenement) override;
-    void done(int resultat) override;
 
 private:
     void Ouvrir(NoEvenement evenement, NoOrdre pour);
-    void Supprimer();
-    void PoserBoutons();
 
     std::unique_ptr<Ui::FrmLstEvt> ui_;
     ModeleEvenements* modele_;
-    ListeFiltree* liste_;
-    bool choix_ = false;  ///< runs as a chooser
 };
 
 }  // namespace dorvane::windows

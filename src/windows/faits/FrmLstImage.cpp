@@ -15,7 +15,6 @@
 #include "storage/Base.h"
 #include "windows/controles/GlisserPersonne.h"
 #include "windows/controles/Legendes.h"
-#include "windows/controles/ListeFiltree.h"
 #include "windows/controles/OuvrirDocument.h"
 #include "windows/controles/Unicode.h"
 #include "windows/faits/FrmDesImage.h"
@@ -25,7 +24,7 @@
 namespace dorvane::windows {
 
 FrmLstImage::FrmLstImage(shell::Session& session, QWidget* parent)
-    : FenetreFille{session, QStringLiteral("FrmLstImage"), parent},
+    : FenetreListe{session, QStringLiteral("FrmLstImage"), parent},
       ui_{std::make_unique<Ui::FrmLstImage>()},
       modele_{new ModeleDocuments{session, "FrmLstImage", "LstImage", this}} {
     ui_->setupUi(this);
@@ -36,80 +35,50 @@ FrmLstImage::FrmLstImage(shell::Session& session, QWidget* parent)
     table.setColumnWidth(ModeleDocuments::Titre, 58 * cadratin);
     table.setColumnWidth(ModeleDocuments::Type, 18 * cadratin);
     table.setColumnWidth(ModeleDocuments::Fichier, 36 * cadratin);
-    table.horizontalHeader()->setStretchLastSection(true);
-    liste_ =
-        new ListeFiltree{session,
-                         {ui_->TxtFiltre, ui_->LstImage, ui_->LblNombre, ui_->Pages, ui_->LblVide},
-                         {message::NombreDocuments, message::NombreDocumentsFiltres,
-                          message::AucunDocumentNeContient, message::BaseSansDocument},
-                         *modele_,
-                         QStringLiteral("FrmLstImage"),
-                         this};
-    table.verticalHeader()->setDefaultSectionSize(ModeleDocuments::CoteVignette + 6);
-    connect(liste_, &ListeFiltree::choisi, this, &FrmLstImage::PoserBoutons);
-    connect(liste_, &ListeFiltree::ouvert, this, [this] {
-        if (choix_)
-            accept();
-        else
-            MettreAJour();
-    });
-    connect(ui_->CmdAjout, &QPushButton::clicked, this,
-            [this] { Ajouter({std::filesystem::path{}}); });
-    connect(ui_->CmdMaj, &QPushButton::clicked, this, &FrmLstImage::MettreAJour);
     connect(ui_->CmdOuvrir, &QPushButton::clicked, this, [this] { OuvrirDocument(S(), Choisi()); });
-    connect(ui_->CmdSupp, &QPushButton::clicked, this, &FrmLstImage::Supprimer);
     connect(ui_->CmdUtil, &QPushButton::clicked, this, &FrmLstImage::MontrerUsages);
     connect(ui_->DocBase, &QPushButton::clicked, this, &FrmLstImage::PoserTitre);
-    connect(ui_->CmdChoisir, &QPushButton::clicked, this, &QDialog::accept);
-    connect(ui_->CmdFermer, &QPushButton::clicked, this, &QDialog::reject);
-    connect(liste_, &ListeFiltree::retire, this, &FrmLstImage::Supprimer);
-    for (QWidget* cible : {static_cast<QWidget*>(this), table.viewport()}) {
-        cible->setAcceptDrops(true);
-        cible->installEventFilter(this);
-    }
-    ui_->CmdChoisir->hide();
-    Traduire();
-    Recharger();
-    ui_->TxtFiltre->setFocus();
+    Monter({ui_->TxtFiltre, ui_->LstImage, ui_->LblNombre, ui_->Pages, ui_->LblVide},
+           {message::NombreDocuments, message::NombreDocumentsFiltres,
+            message::AucunDocumentNeContient, message::BaseSansDocument},
+           *modele_, {ui_->CmdAjout, ui_->CmdMaj, ui_->CmdSupp, ui_->CmdChoisir, ui_->CmdFermer});
+    table.verticalHeader()->setDefaultSectionSize(ModeleDocuments::CoteVignette + 6);
 }
 
 FrmLstImage::~FrmLstImage() = default;
 
 NoDocument FrmLstImage::Choisir(shell::Session& session, QWidget* parent) {
     FrmLstImage fenetre{session, parent};
-    fenetre.choix_ = true;
-    fenetre.ui_->CmdChoisir->show();
-    fenetre.ui_->CmdChoisir->setDefault(true);
-    for (QPushButton* bouton : {fenetre.ui_->CmdSupp, fenetre.ui_->CmdUtil, fenetre.ui_->DocBase})
-        bouton->hide();
-    return fenetre.exec() == QDialog::Accepted ? fenetre.Choisi() : NoDocument{};
+    const Ui::FrmLstImage& ui = *fenetre.ui_;
+    return NoDocument{fenetre.FenetreListe::Choisir({ui.CmdSupp, ui.CmdUtil, ui.DocBase})};
 }
 
 NoDocument FrmLstImage::Choisi() const {
-    return NoDocument{liste_->Choisi()};
+    return NoDocument{NumeroChoisi()};
 }
 
-void FrmLstImage::Traduire() {
-    FenetreFille::Traduire();
-    liste_->Traduire();
-}
-
-void FrmLstImage::Recharger() {
-    liste_->Poser(ModeleDocuments::Numeros(S()));
-    PoserBoutons();
+std::vector<std::uint32_t> FrmLstImage::Numeros() const {
+    return ModeleDocuments::Numeros(S());
 }
 
 void FrmLstImage::PoserBoutons() {
+    FenetreListe::PoserBoutons();
     const NoDocument choisi = Choisi();
-    for (QPushButton* bouton :
-         {ui_->CmdMaj, ui_->CmdOuvrir, ui_->CmdSupp, ui_->CmdUtil, ui_->DocBase, ui_->CmdChoisir})
+    for (QPushButton* bouton : {ui_->CmdOuvrir, ui_->CmdUtil, ui_->DocBase})
         bouton->setEnabled(bool{choisi});
-    ui_->CmdAjout->setEnabled(S().BaseOuverte());
     ui_->DocBase->setChecked(S().base && choisi && S().base->entete.DocBase == choisi);
 }
 
+void FrmLstImage::Ajouter() {
+    AjouterFichiers({std::filesystem::path{}});
+}
+
+bool FrmLstImage::SupprimerChoisi() {
+    return records::SupprimerDocument(S(), Choisi());
+}
+
 /// One new document for each file; an empty path is a document without a file as yet.
-void FrmLstImage::Ajouter(const std::vector<std::filesystem::path>& fichiers) {
+void FrmLstImage::AjouterFichiers(const std::vector<std::filesystem::path>& fichiers) {
     if (!S().base) return;
     NoDocument dernier{};
     for (const std::filesystem::path& fichier : fichiers) {
@@ -119,13 +88,10 @@ void FrmLstImage::Ajouter(const std::vector<std::filesystem::path>& fichiers) {
         if (fenetre.exec() != QDialog::Accepted) break;
         dernier = fenetre.Document();
     }
-    if (!dernier) return;
-    Recharger();
-    liste_->Choisir(dernier.valeur);
-    Q_EMIT baseChangee();
+    if (dernier) Ecrite(dernier.valeur);
 }
 
-void FrmLstImage::MettreAJour() {
+void FrmLstImage::OuvrirChoisi() {
     const NoDocument choisi = Choisi();
     if (!choisi || !S().base) return;
     if (records::NatureDe(S().base->R_IMAGE.LireDoc(choisi)) == records::NatureDocument::Courriel)
@@ -137,16 +103,7 @@ void FrmLstImage::MettreAJour() {
 void FrmLstImage::Modifier(NoDocument document) {
     if (!document || !S().base) return;
     FrmDesImage fenetre{S(), document, this};
-    if (fenetre.exec() != QDialog::Accepted) return;
-    Recharger();
-    liste_->Choisir(document.valeur);
-    Q_EMIT baseChangee();
-}
-
-void FrmLstImage::Supprimer() {
-    if (choix_ || !records::SupprimerDocument(S(), Choisi())) return;
-    Recharger();
-    Q_EMIT baseChangee();
+    if (fenetre.exec() == QDialog::Accepted) Ecrite(document.valeur);
 }
 
 void FrmLstImage::MontrerUsages() {
@@ -168,7 +125,7 @@ void FrmLstImage::keyPressEvent(QKeyEvent* evenement) {
     if (evenement->key() == Qt::Key_F2)
         Modifier(Choisi());
     else
-        FenetreFille::keyPressEvent(evenement);
+        FenetreListe::keyPressEvent(evenement);
 }
 
 void FrmLstImage::contextMenuEvent(QContextMenuEvent* evenement) {
@@ -189,7 +146,7 @@ void FrmLstImage::Deposer(const QMimeData* donnees, NoDocument sur) {
     if (!individu) {
         // The program that the files come from waits until the drop has ended.
         QMetaObject::invokeMethod(
-            this, [this, fichiers = FichiersDeMime(donnees)] { Ajouter(fichiers); },
+            this, [this, fichiers = FichiersDeMime(donnees)] { AjouterFichiers(fichiers); },
             Qt::QueuedConnection);
         return;
     }
@@ -208,12 +165,9 @@ void FrmLstImage::Deposer(const QMimeData* donnees, NoDocument sur) {
 bool FrmLstImage::eventFilter(QObject* objet, QEvent* evenement) {
     const QEvent::Type type = evenement->type();
     if (type != QEvent::DragEnter && type != QEvent::DragMove && type != QEvent::Drop)
-        return FenetreFille::eventFilter(objet, evenement);
+        return FenetreListe::eventFilter(objet, evenement);
     auto* depose = static_cast<QDropEvent*>(evenement);
-    const QModelIndex index = objet == ui_->LstImage->viewport()
-                                  ? ui_->LstImage->indexAt(depose->position().toPoint())
-                                  : QModelIndex{};
-    const NoDocument sur{modele_->Numero(index.isValid() ? index.row() : -1)};
+    const NoDocument sur{Sous(objet, *depose)};
     const bool personne{PersonneDeMime(S(), depose->mimeData())};
     const bool accepte =
         S().BaseOuverte() &&
@@ -221,11 +175,6 @@ bool FrmLstImage::eventFilter(QObject* objet, QEvent* evenement) {
     depose->setAccepted(accepte);
     if (accepte && type == QEvent::Drop) Deposer(depose->mimeData(), sur);
     return true;
-}
-
-void FrmLstImage::done(int resultat) {
-    liste_->Memoriser();
-    FenetreFille::done(resultat);
 }
 
 }  // namespace dorvane::windows

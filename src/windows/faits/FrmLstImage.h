@@ -4,7 +4,7 @@
 
 #include "storage/Documents.h"
 #include "values/Numeros.h"
-#include "windows/controles/FenetreFille.h"
+#include "windows/faits/FenetreListe.h"
 
 #include <filesystem>
 #include <memory>
@@ -18,12 +18,11 @@ class FrmLstImage;
 
 namespace dorvane::windows {
 
-class ListeFiltree;
 class ModeleDocuments;
 
 /// All documents of the base by title. Files that are dropped become documents; a person that is
 /// dropped on a row gets that document.
-class FrmLstImage final : public FenetreFille {
+class FrmLstImage final : public FenetreListe {
     Q_OBJECT
 
 public:
@@ -35,29 +34,25 @@ public:
 
     [[nodiscard]] NoDocument Choisi() const;
 
-    void Traduire() override;
-    void Recharger() override;
-
 protected:
+    [[nodiscard]] std::vector<std::uint32_t> Numeros() const override;
+    void OuvrirChoisi() override;
+    void Ajouter() override;
+    [[nodiscard]] bool SupprimerChoisi() override;
+    void PoserBoutons() override;
     bool eventFilter(QObject* objet, QEvent* evenement) override;
     void keyPressEvent(QKeyEvent* evenement) override;
     void contextMenuEvent(QContextMenuEvent* evenement) override;
-    void done(int resultat) override;
 
 private:
-    void Ajouter(const std::vector<std::filesystem::path>& fichiers);
-    void MettreAJour();
+    void AjouterFichiers(const std::vector<std::filesystem::path>& fichiers);
     void Modifier(NoDocument document);
-    void Supprimer();
     void MontrerUsages();
     void PoserTitre(bool pose);
-    void PoserBoutons();
     void Deposer(const QMimeData* donnees, NoDocument sur);
 
     std::unique_ptr<Ui::FrmLstImage> ui_;
     ModeleDocuments* modele_;
-    ListeFiltree* liste_;
-    bool choix_ = false;  ///< runs as a chooser
 };
 
 }  // namespace dorvane::windows
