@@ -5,10 +5,10 @@
 
 #include "messages/Faits.h"
 #include "records/FicheDocument.h"
+#include "records/FichierDeDocument.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "windows/controles/Unicode.h"
-#include "windows/controles/Vignettes.h"
 
 #include <system_error>
 
@@ -26,7 +26,8 @@ void OuvrirDocument(shell::Session& session, const storage::Document& valeurs) {
     if (!adresse.empty()) {
         url = QUrl{TexteVersQt(adresse)};
     } else {
-        std::filesystem::path chemin = FichierDeDocument(session.CheminBase, valeurs.fichier);
+        std::filesystem::path chemin =
+            records::FichierDeDocument(session.CheminBase, valeurs.fichier);
         if (!chemin.empty() && records::NatureDe(valeurs) == records::NatureDocument::Lien)
             chemin = records::LireLien(chemin);
         std::error_code erreur;

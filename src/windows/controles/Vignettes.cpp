@@ -3,40 +3,14 @@
 #include <QImageReader>
 #include <QPixmapCache>
 
+#include "records/FichierDeDocument.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
-#include "values/Texte1252.h"
 #include "windows/controles/Unicode.h"
 
-#include <algorithm>
 #include <system_error>
 
 namespace dorvane::windows {
-
-namespace {
-
-bool EstFichier(const std::filesystem::path& chemin) {
-    std::error_code erreur;
-    return std::filesystem::is_regular_file(chemin, erreur);
-}
-
-}  // namespace
-
-std::filesystem::path FichierDeDocument(const std::filesystem::path& base,
-                                        const std::string& fichier) {
-    std::string nom = TexteVersUtf8(fichier);
-    if (nom.empty()) return {};
-    const std::filesystem::path dossier = base.parent_path();
-    if (EstFichier(dossier / nom)) return dossier / nom;
-    std::replace(nom.begin(), nom.end(), '\\', '/');
-    if (EstFichier(dossier / nom)) return dossier / nom;
-    const std::filesystem::path aCote = dossier / std::filesystem::path{nom}.filename();
-    return EstFichier(aCote) ? aCote : std::filesystem::path{};
-}
-
-std::filesystem::path FichierDeDocument(const shell::Session& session, NoDocument document) {
-    return FichierDeDocument(session.CheminBase, session.base->R_IMAGE.FichierDoc(document));
-}
 
 QPixmap VignetteDeFichier(const std::filesystem::path& chemin, int cote) {
     if (chemin.empty()) return {};
@@ -60,7 +34,8 @@ QPixmap VignetteDeFichier(const std::filesystem::path& chemin, int cote) {
 
 QPixmap VignetteDe(const shell::Session& session, NoOrdre individu, int cote) {
     const NoDocument document = session.base->R_LSTIMG.ElementListe(individu, 1);
-    return document ? VignetteDeFichier(FichierDeDocument(session, document), cote) : QPixmap{};
+    return document ? VignetteDeFichier(records::FichierDeDocument(session, document), cote)
+                    : QPixmap{};
 }
 
 }  // namespace dorvane::windows

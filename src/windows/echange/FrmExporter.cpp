@@ -121,8 +121,7 @@ void FrmExporter::Proposer() {
 
 void FrmExporter::Selectionner(const std::vector<NoOrdre>& liste) {
     if (enCours_) return;
-    parcours_.clear();
-    liste_ = liste;
+    preparation_.Prendre(liste);
     ui_->OptBase_1->setChecked(true);
     ui_->PnlResultat->hide();
     Recharger();
@@ -142,11 +141,7 @@ void FrmExporter::Traduire() {
 /// Persons may have gone since, or changed their names.
 void FrmExporter::Recharger() {
     if (enCours_ || !S().base) return;
-    storage::Base& base = *S().base;
-    std::erase_if(liste_, [&base](NoOrdre n) { return !records::Existe(base, n); });
-    std::erase_if(parcours_, [&base](const ParcoursExport& parcours) {
-        return !records::Existe(base, parcours.depart);
-    });
+    preparation_.Epurer(*S().base);
     PoserDepart(ui_->EtiNom->Individu());
     MontrerSelection();
     Compter();
@@ -181,8 +176,7 @@ void FrmExporter::reject() {
 /// The next time begins without a selection.
 void FrmExporter::done(int resultat) {
     Retenir();
-    liste_.clear();
-    parcours_.clear();
+    preparation_.Vider();
     ui_->PnlResultat->hide();
     FenetreFille::done(resultat);
 }
@@ -235,15 +229,15 @@ DemandeExport FrmExporter::Demande() const {
     demande.entiere = ui_->OptBase_0->isChecked();
     demande.reglages = {ui_->ChkCollateraux->isChecked(), ui_->ChkComplet->isChecked(),
                         ui_->Chk1900->isChecked()};
-    demande.liste = liste_;
-    demande.parcours = parcours_;
+    demande.liste = preparation_.Liste();
+    demande.parcours = preparation_.Parcours();
     return demande;
 }
 
 void FrmExporter::AjouterParcours() {
     const ParcoursExport parcours = ParcoursMontre();
     if (!parcours.depart) return ChoisirDepart();
-    if (std::ranges::find(parcours_, parcours) == parcours_.end()) parcours_.push_back(parcours);
+    preparation_.Ajouter(parcours);
     MontrerSelection();
     ui_->LstSélection->setCurrentRow(ui_->LstSélection->count() - 1);
     Compter();
@@ -252,19 +246,14 @@ void FrmExporter::AjouterParcours() {
 void FrmExporter::RetirerLigne() {
     const int rangee = ui_->LstSélection->currentRow();
     if (rangee < 0) return;
-    // The list, when there is one, is the first row.
-    if (rangee == 0 && !liste_.empty())
-        liste_.clear();
-    else
-        parcours_.erase(parcours_.begin() + rangee - (liste_.empty() ? 0 : 1));
+    preparation_.Retirer(static_cast<std::size_t>(rangee));
     MontrerSelection();
     ui_->LstSélection->setCurrentRow(std::min(rangee, ui_->LstSélection->count() - 1));
     Compter();
 }
 
 void FrmExporter::Vider() {
-    liste_.clear();
-    parcours_.clear();
+    preparation_.Vider();
     MontrerSelection();
     Compter();
     ui_->CmdSélection->setFocus();
@@ -273,10 +262,9 @@ void FrmExporter::Vider() {
 void FrmExporter::MontrerSelection() {
     ui_->LstSélection->clear();
     if (!S().base) return;
-    if (!liste_.empty())
-        ui_->LstSélection->addItem(Remplir(S(), message::NombrePersonnesDUneListe,
-                                           static_cast<std::uint32_t>(liste_.size())));
-    for (const ParcoursExport& parcours : parcours_)
+    if (const auto nombre = static_cast<std::uint32_t>(preparation_.Liste().size()); nombre != 0)
+        ui_->LstSélection->addItem(Remplir(S(), message::NombrePersonnesDUneListe, nombre));
+    for (const ParcoursExport& parcours : preparation_.Parcours())
         ui_->LstSélection->addItem(DireParcours(S(), parcours));
 }
 
@@ -317,7 +305,7 @@ void FrmExporter::PoserEtats() {
     ui_->PnlFormat->setEnabled(!vide && !enCours_);
     ui_->PnlSelect->setEnabled(partie);
     ui_->CmdSélection->setEnabled(bool{ui_->EtiNom->Individu()});
-    ui_->CmdVider->setEnabled(!liste_.empty() || !parcours_.empty());
+    ui_->CmdVider->setEnabled(!preparation_.EstVide());
     // Whoever leaves births out does not want the rest of the base.
     ui_->ChkComplet->setEnabled(!ui_->Chk1900->isChecked());
     ui_->LblJeu->setEnabled(gedcom);

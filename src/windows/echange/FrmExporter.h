@@ -3,6 +3,7 @@
 #include <QDialog>
 
 #include "interchange/commandes/LancerExport.h"
+#include "interchange/commandes/PreparationExport.h"
 #include "values/Numeros.h"
 #include "windows/controles/FenetreFille.h"
 
@@ -69,8 +70,7 @@ private:
     [[nodiscard]] interchange::DemandeExport Demande() const;
 
     std::unique_ptr<Ui::FrmExporter> ui_;
-    std::vector<NoOrdre> liste_;
-    std::vector<interchange::ParcoursExport> parcours_;
+    interchange::PreparationExport preparation_;
     interchange::Lancement dernier_;  ///< what `PnlResultat` shows
     bool enCours_ = false;
 };

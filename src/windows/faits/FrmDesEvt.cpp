@@ -9,6 +9,7 @@
 #include "records/FicheEvenement.h"
 #include "records/MotsUsuels.h"
 #include "records/NomsAffiches.h"
+#include "records/RolesProposes.h"
 #include "shell/Libelles.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
@@ -27,6 +28,8 @@
 #include "windows/faits/ModeleLiens.h"
 
 #include <algorithm>
+#include <optional>
+#include <vector>
 
 namespace dorvane::windows {
 
@@ -182,30 +185,20 @@ void FrmDesEvt::RemplirTypes() {
     ui_->CboTypeEvt->setEditText(saisi);
 }
 
-/// The role for the next person: the first compulsory one that nobody has, else the first that
-/// nobody has.
 void FrmDesEvt::RemplirRoles() {
     const QSignalBlocker muet{ui_->CboRole};
     ui_->CboRole->clear();
-    int propose = -1;
-    const std::vector<shell::RoleEvenement> manquants = records::RolesManquants(S(), saisie_);
-    for (const shell::RoleEvenement& role : records::RolesDe(S(), saisie_)) {
+    for (const shell::RoleEvenement& role : records::RolesDe(S(), saisie_))
         ui_->CboRole->addItem(TexteVersQt(shell::LibelleDeTag(S().catalogue, role.label)),
                               QByteArray::fromStdString(role.label));
-        const bool tenu =
-            std::any_of(saisie_.liens.begin(), saisie_.liens.end(),
-                        [&role](const storage::LienEvenement& l) { return l.role == role.label; });
-        const bool premier = manquants.empty() ? !tenu : role.label == manquants.front().label;
-        if (propose < 0 && premier) propose = ui_->CboRole->count() - 1;
-    }
-    const int derniere = ui_->CboRole->count() - 1;
     // Behind the roles of the kind, the usual words of relations: witness, godfather, guardian...
     for (const std::string& mot :
          records::ListerMotsUsuels(S(), shell::LibelleDeTag(S().catalogue, "RELA")))
         if (ui_->CboRole->findText(TexteVersQt(mot)) < 0)
             ui_->CboRole->addItem(TexteVersQt(mot), QByteArray::fromStdString(
                                                         shell::TagDeLibelle(S().catalogue, mot)));
-    ui_->CboRole->setCurrentIndex(propose < 0 ? derniere : propose);
+    const std::optional<std::size_t> propose = records::ProchainRole(S(), saisie_);
+    ui_->CboRole->setCurrentIndex(propose ? static_cast<int>(*propose) : -1);
 }
 
 void FrmDesEvt::Montrer() {
@@ -235,14 +228,14 @@ std::size_t FrmDesEvt::Lire() {
     return remplaces;
 }
 
-/// The stored form of what stands in a list: an entry whatever its case and accents, or the user's
-/// own word.
+/// The stored form of what stands in a list.
 std::string FrmDesEvt::TagDe(const QComboBox& liste) const {
-    const std::string texte{SansBlancs(QtVersTexte(liste.currentText()).octets)};
+    std::vector<records::TagOffert> offerts;
+    offerts.reserve(static_cast<std::size_t>(liste.count()));
     for (int i = 0; i < liste.count(); ++i)
-        if (Replie(QtVersTexte(liste.itemText(i)).octets) == Replie(texte))
-            return liste.itemData(i).toByteArray().toStdString();
-    return shell::TagDeLibelle(S().catalogue, texte);
+        offerts.push_back(
+            {QtVersTexte(liste.itemText(i)).octets, liste.itemData(i).toByteArray().toStdString()});
+    return records::TagSaisi(S(), offerts, QtVersTexte(liste.currentText()).octets);
 }
 
 /// The weekday beside a date, or what it lacks.

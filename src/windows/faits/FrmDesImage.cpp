@@ -6,6 +6,7 @@
 #include <QUrl>
 
 #include "messages/Faits.h"
+#include "records/FichierDeDocument.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "windows/controles/ChampSuivi.h"
@@ -98,7 +99,8 @@ std::size_t FrmDesImage::Lire() {
 
 void FrmDesImage::CmdFichierClique() {
     static_cast<void>(Lire());
-    std::filesystem::path depart = FichierDeDocument(S().CheminBase, saisie_.valeurs.fichier);
+    std::filesystem::path depart =
+        records::FichierDeDocument(S().CheminBase, saisie_.valeurs.fichier);
     if (depart.empty()) depart = S().CheminBase.parent_path();
     const auto choisi =
         S().dialogue.ChoisirFichier({shell::DemandeFichier::Sorte::Ouvrir,
@@ -135,7 +137,7 @@ void FrmDesImage::NommerFichier(const std::filesystem::path& chemin) {
 void FrmDesImage::BasculerLien(bool lien) {
     static_cast<void>(Lire());
     const std::filesystem::path fichier =
-        FichierDeDocument(S().CheminBase, saisie_.valeurs.fichier);
+        records::FichierDeDocument(S().CheminBase, saisie_.valeurs.fichier);
     const bool estLien = records::NatureDe(saisie_.valeurs) == NatureDocument::Lien;
     if (lien && !estLien && !fichier.empty()) {
         ProposerFichier(fichier);
@@ -172,7 +174,7 @@ void FrmDesImage::MontrerApercu() {
         case NatureDocument::Lien:
         case NatureDocument::Fichier: {
             std::filesystem::path fichier =
-                FichierDeDocument(S().CheminBase, saisie_.valeurs.fichier);
+                records::FichierDeDocument(S().CheminBase, saisie_.valeurs.fichier);
             if (fichier.empty()) {
                 message = message::FichierAbsent;
                 break;

@@ -5,6 +5,7 @@
 
 #include "messages/Faits.h"
 #include "records/FicheDocument.h"
+#include "records/FichierDeDocument.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "windows/controles/Icones.h"
@@ -50,7 +51,7 @@ NoMessage ModeleDocuments::MessageEtat(NoDocument document) const {
         case NatureDocument::Fichier:
             break;
     }
-    return FichierDeDocument(S(), document).empty() ? message::FichierAbsent : NoMessage{};
+    return records::FichierDeDocument(S(), document).empty() ? message::FichierAbsent : NoMessage{};
 }
 
 std::string ModeleDocuments::Texte(std::uint32_t numero, int colonne) const {
@@ -75,7 +76,8 @@ std::string ModeleDocuments::Texte(std::uint32_t numero, int colonne) const {
 QVariant ModeleDocuments::Autre(std::uint32_t numero, int colonne, int role) const {
     const NoDocument document{numero};
     if (role == Qt::DecorationRole && colonne == Titre) {
-        const QPixmap vignette = VignetteDeFichier(FichierDeDocument(S(), document), CoteVignette);
+        const QPixmap vignette =
+            VignetteDeFichier(records::FichierDeDocument(S(), document), CoteVignette);
         if (!vignette.isNull()) return vignette;
         return Icone(NomIcone(MessageEtat(document)));
     }

@@ -6,6 +6,7 @@
 #include "messages/Faits.h"
 #include "messages/Fiche.h"
 #include "records/FicheDocument.h"
+#include "records/FichierDeDocument.h"
 #include "shell/Libelles.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
@@ -60,7 +61,7 @@ void PageDocuments::Charger(NoOrdre individu, bool /*garder*/) {
             ligne.textes << TexteVersQt(records::TitreAffiche(lu))
                          << TexteVersQt(shell::LibelleDeTag(S().catalogue, lu.type))
                          << TexteVersQt(lu.fichier);
-            const std::filesystem::path fichier = FichierDeDocument(S(), document);
+            const std::filesystem::path fichier = records::FichierDeDocument(S(), document);
             const records::NatureDocument nature = records::NatureDe(lu);
             if (fichier.empty() && (nature == records::NatureDocument::Fichier ||
                                     nature == records::NatureDocument::Lien)) {

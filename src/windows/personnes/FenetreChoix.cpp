@@ -6,7 +6,7 @@
 
 #include "messages/Famille.h"
 #include "records/Apercu.h"
-#include "records/NomsAffiches.h"
+#include "records/TextesChoix.h"
 #include "shell/Session.h"
 #include "windows/controles/ChampReplie.h"
 #include "windows/controles/EnTeteListe.h"
@@ -18,18 +18,10 @@ namespace dorvane::windows {
 
 namespace {
 
-using records::SorteChoix;
 using shell::Msg;
 
 constexpr int LargeurMarque = 70;
 constexpr int LargeurDates = 130;
-
-/// A bound of years as one reads it: without the zeros that fill it up.
-std::string AnneeLisible(std::string_view borne) {
-    while (borne.size() > 1 && borne.front() == '0')
-        borne.remove_prefix(1);
-    return std::string{borne};
-}
 
 }  // namespace
 
@@ -135,9 +127,9 @@ void FenetreChoix::Dire() {
     const auto texte = [this](const shell::Phrase& phrase) {
         return TexteEcran(S().catalogue.Composer(phrase));
     };
-    setWindowTitle(texte(TexteTitre()));
-    ui_->LblFenetre->setText(texte(TexteFenetre()));
-    ui_->LblVide->setText(texte(TexteVide()));
+    setWindowTitle(texte(records::TexteTitre(S(), choix_)));
+    ui_->LblFenetre->setText(texte(records::TexteFenetre(S(), choix_)));
+    ui_->LblVide->setText(texte(records::TexteVide(choix_)));
     ui_->LblPage->setText(
         texte(Msg(message::NombrePersonnesEtPage, std::to_string(choix_.Nombre()),
                   std::to_string(choix_.NoPage()) + '/' + std::to_string(choix_.NbPages()))));
@@ -150,47 +142,6 @@ void FenetreChoix::Dire() {
     ui_->C_Préc->setEnabled(choix_.APrecedente());
     ui_->C_Suiv->setEnabled(choix_.ASuivante());
     MontrerApercu();
-}
-
-shell::Phrase FenetreChoix::TexteTitre() const {
-    const std::string nom = records::NomAffiche(S(), choix_.Demande().reference);
-    switch (choix_.Demande().sorte) {
-        case SorteChoix::Parent:
-            return Msg(choix_.Demande().sexe == 'H' ? message::TitreChercherPere
-                                                    : message::TitreChercherMere,
-                       nom);
-        case SorteChoix::Enfant:
-            return Msg(message::TitreChercherEnfant, nom);
-        case SorteChoix::Conjoint:
-            return Msg(message::TitreChercherConjoint, nom);
-        case SorteChoix::Lien:
-            break;
-    }
-    return Msg(message::TitreChoisirPersonneALier, nom);
-}
-
-shell::Phrase FenetreChoix::TexteFenetre() const {
-    if (choix_.FenetreLevee()) return Msg(message::ProchesSansEgardAuxDates);
-    const std::string nom = records::NomAffiche(S(), choix_.Demande().reference);
-    if (choix_.Demande().sorte == SorteChoix::Lien) return Msg(message::ProchesContemporains, nom);
-    if (choix_.SansAnnee())
-        return Msg(choix_.Demande().sorte == SorteChoix::Enfant
-                       ? message::ProchesNaissanceInconnueCocherAnnees
-                       : message::ProchesSansAnneeDeNaissance,
-                   nom);
-    const records::FenetreAnnees& annees = choix_.Fenetre();
-    if (annees.de == "-") return Msg(message::ProchesNesJusquEn, AnneeLisible(annees.a));
-    return Msg(message::ProchesNesDeA, AnneeLisible(annees.de), AnneeLisible(annees.a));
-}
-
-shell::Phrase FenetreChoix::TexteVide() const {
-    const std::string& filtre = choix_.Filtre();
-    if (choix_.ParNumero()) return Msg(message::AucunProcheDeCeNumero, filtre);
-    if (choix_.FenetreLevee())
-        return filtre.empty() ? Msg(message::AucunAutreProche)
-                              : Msg(message::AucunProcheDeCeNom, filtre);
-    return filtre.empty() ? Msg(message::AucunProcheSelonDates)
-                          : Msg(message::AucunProcheSelonDatesEtNom, filtre);
 }
 
 /// The arrows go on to the neighbour page at the ends of the list, the page keys at once.

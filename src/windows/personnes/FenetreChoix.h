@@ -49,9 +49,6 @@ private:
     void MontrerApercu();
     void Tourner(int pas);
     void Dire();
-    [[nodiscard]] shell::Phrase TexteTitre() const;
-    [[nodiscard]] shell::Phrase TexteFenetre() const;
-    [[nodiscard]] shell::Phrase TexteVide() const;
     [[nodiscard]] bool ToucheListe(int touche, bool dansListe);
 
     std::unique_ptr<Ui::FenetreChoix> ui_;

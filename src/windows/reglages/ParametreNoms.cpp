@@ -11,6 +11,7 @@
 #include <QToolButton>
 
 #include "messages/Reglages.h"
+#include "records/ExempleNom.h"
 #include "records/FicheMotsCles.h"
 #include "records/NomsAffiches.h"
 #include "shell/Libelles.h"
@@ -150,22 +151,7 @@ std::string ParametreNoms::Modele() const {
 
 void ParametreNoms::MontrerExemple() {
     const ModeleNom modele = LireModeleNom(Modele());
-    const std::string nom =
-        ComposerNom(modele, [this](std::string_view jeton, const SortieValeur& sortie) {
-            // The sample is a person whom everybody knows, with a number.
-            const NoMessage exemple = jeton == "FNAM"   ? message::ExemplePrenom
-                                      : jeton == "BIRN" ? message::ExempleNom
-                                      : jeton == "OFNM" ? message::ExempleAutrePrenom
-                                      : jeton == "FATN" ? message::ExempleNom
-                                      : jeton == "MOTN" ? message::ExempleNomDeLaMere
-                                                        : NoMessage{};
-            if (jeton == "NUMB")
-                sortie("[5]");
-            else if (exemple)
-                sortie(S().Message(exemple));
-            else
-                sortie(shell::LibelleDeTag(S().catalogue, jeton));
-        });
+    const std::string nom = records::ExempleDeNom(S(), modele);
     exemple_->setText(TexteEcran(S().catalogue.Composer(
         shell::Msg(nom.empty() ? message::AucunElementDuNom : message::ExempleDeNom, nom))));
 }

@@ -20,7 +20,6 @@
 #include "windows/controles/FrmTexte.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/Unicode.h"
-#include "windows/controles/Vignettes.h"
 #include "windows/echange/FrmExporter.h"
 #include "windows/echange/FrmReleve.h"
 #include "windows/faits/FrmDesEvt.h"
@@ -389,17 +388,6 @@ TEST_CASE("FiltresFichiers: pairs become filters that take both cases") {
 TEST_CASE("DialogueQt: a path that is not UTF-8 goes to the toolkit and comes back") {
     const std::filesystem::path accent{"/d/été.LGD"};
     CHECK(QtVersChemin(CheminVersQt(accent)) == accent);
-}
-
-TEST_CASE_FIXTURE(FenetreEssai,
-                  "Vignettes: a document is found as written, with slashes, by its name") {
-    doublures::EcrireFichier(dossier / "images/a.png", "x");
-    doublures::EcrireFichier(dossier / "b.png", "x");
-    CHECK(FichierDeDocument(base, "images/a.png") == dossier / "images/a.png");
-    CHECK(FichierDeDocument(base, "images\\a.png") == dossier / "images/a.png");
-    CHECK(FichierDeDocument(base, "c:\\photos\\b.png") == dossier / "b.png");
-    CHECK(FichierDeDocument(base, "c:\\photos\\c.png").empty());
-    CHECK(FichierDeDocument(base, "").empty());
 }
 
 TEST_CASE_FIXTURE(FenetreEssai,
