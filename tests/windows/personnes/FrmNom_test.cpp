@@ -142,3 +142,51 @@ TEST_CASE_FIXTURE(Noms, "FrmNom: a row that is dragged carries its person") {
         liste.model()->mimeData({liste.model()->index(0, ModeleNoms::Nom)})};
     CHECK(PersonneDeMime(S(), donnees.get()) == NoOrdre{2});
 }
+
+TEST_CASE_FIXTURE(FenetreEssai,
+                  "FrmNom: typing narrows the list, and the count says what is hidden") {
+    DemarrerFamille();
+    FrmNom fenetre{S(), {NoOrdre{3}, {}, {}}, &Fenetre()};
+    fenetre.show();
+    auto* filtre = fenetre.findChild<QLineEdit*>(QStringLiteral("TxtFiltre"));
+    auto* nombre = fenetre.findChild<QLabel*>(QStringLiteral("LblNombre"));
+    auto* vide = fenetre.findChild<QLabel*>(QStringLiteral("LblVide"));
+    auto* choisir = fenetre.findChild<QPushButton*>(QStringLiteral("CmdChoisir"));
+    CHECK(fenetre.Choisie() == NoOrdre{3});
+    CHECK(nombre->text() == QStringLiteral("Personnes\u00A0: 8"));
+    QTest::keyClicks(filtre, QStringLiteral("EVRARD"));
+    CHECK(nombre->text() == QStringLiteral("Personnes\u00A0: 1 sur 8"));
+    CHECK(fenetre.Choisie() == NoOrdre{4});
+    QTest::keyClicks(filtre, QStringLiteral(" 1825"));
+    CHECK(fenetre.Choisie() == NoOrdre{4});
+    QTest::keyClicks(filtre, QStringLiteral(" zz"));
+    CHECK(fenetre.Choisie() == NoOrdre{});
+    CHECK(vide->isVisible());
+    CHECK(vide->text().contains(QStringLiteral("EVRARD 1825 zz")));
+    CHECK_FALSE(choisir->isEnabled());
+    filtre->clear();
+    CHECK(nombre->text() == QStringLiteral("Personnes\u00A0: 8"));
+    // The arrows walk in the list while the filter has the focus.
+    QTest::keyClick(filtre, Qt::Key_PageUp);
+    QTest::keyClick(filtre, Qt::Key_Down);
+    CHECK(fenetre.Choisie() == NoOrdre{4});
+    QTest::keyClick(filtre, Qt::Key_Return);
+    CHECK(fenetre.result() == QDialog::Accepted);
+}
+
+TEST_CASE_FIXTURE(FenetreEssai, "FrmNom: columns tell parents, sex and family in words as well") {
+    DemarrerFamille();
+    const ModeleNoms modele{S(), {NoOrdre{1}, NoOrdre{3}, NoOrdre{6}, NoOrdre{4}}, nullptr};
+    const auto texte = [&](int rangee, int colonne, int role = Qt::DisplayRole) {
+        return modele.data(modele.index(rangee, colonne), role).toString();
+    };
+    CHECK(modele.rowCount({}) == 4);
+    CHECK(texte(0, ModeleNoms::Parents) == "xx");
+    CHECK(texte(1, ModeleNoms::Parents).isEmpty());
+    CHECK(texte(1, ModeleNoms::Parents, Qt::ToolTipRole) == QStringLiteral("Père et mère connus"));
+    CHECK(texte(1, ModeleNoms::Sexe, Qt::ToolTipRole) == "Sexe masculin");
+    CHECK(texte(1, ModeleNoms::Famille, Qt::ToolTipRole) == "Unions et enfants");
+    CHECK(texte(2, ModeleNoms::Famille, Qt::ToolTipRole).isEmpty());
+    CHECK(modele.headerData(0, Qt::Horizontal, Qt::DisplayRole).toString() == "Nom");
+    CHECK(modele.data(modele.index(9, 0), Qt::DisplayRole).isNull());
+}
