@@ -8,6 +8,7 @@
 #include "windows/cadre/ProgressionQt.h"
 
 #include <filesystem>
+#include <utility>
 
 namespace dorvane::windows {
 
@@ -20,6 +21,11 @@ public:
 
     /// Starts the session, shows the window, opens the file of the command line if there is one.
     void Demarrer(const std::filesystem::path& fichier);
+
+    /// Long jobs read their time from `chronometre` instead of the machine.
+    void Chronometrer(ProgressionQt::Chronometre chronometre) {
+        progression_.Chronometrer(std::move(chronometre));
+    }
 
 private:
     DialogueQt dialogueQt_;

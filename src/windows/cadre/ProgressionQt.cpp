@@ -8,14 +8,23 @@
 #include "windows/controles/CadreAvancement.h"
 #include "windows/controles/Legendes.h"
 
+#include <chrono>
+
 namespace dorvane::windows {
 
 namespace {
 
-constexpr qint64 AvantMontrer = 300;  ///< ms: a shorter job would only flash the frame
-constexpr qint64 EntreCessions = 40;  ///< ms between two passes of the event loop
+constexpr std::int64_t AvantMontrer = 300;  ///< ms: a shorter job would only flash the frame
+constexpr std::int64_t EntreCessions = 40;  ///< ms between two passes of the event loop
+
+std::int64_t Millisecondes() {
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
 
 }  // namespace
+
+ProgressionQt::ProgressionQt() : chronometre_{Millisecondes} {}
 
 void ProgressionQt::Attacher(const shell::Session& session, CadreAvancement& cadre) {
     session_ = &session;
@@ -31,8 +40,8 @@ void ProgressionQt::Commencer(const shell::Phrase& titre, const shell::Phrase& t
     if (cadres_++ == 0) {
         abandon_ = false;
         montre_ = false;
-        depuisDebut_.start();
-        depuisCession_.start();
+        debut_ = chronometre_();
+        cession_ = debut_;
     }
     texte_ = Composer(texte.EstVide() ? titre : texte);
     if (montre_ && cadre_ != nullptr) cadre_->Texte(texte_);
@@ -44,14 +53,15 @@ void ProgressionQt::Phase(const shell::Phrase& texte) {
 }
 
 bool ProgressionQt::Avancer(std::uint32_t fait, std::uint32_t total) {
-    if (depuisCession_.isValid() && depuisCession_.elapsed() < EntreCessions) return !abandon_;
-    if (!montre_ && cadre_ != nullptr && depuisDebut_.elapsed() >= AvantMontrer) {
+    const std::int64_t maintenant = chronometre_();
+    if (cession_ && maintenant - *cession_ < EntreCessions) return !abandon_;
+    if (!montre_ && cadre_ != nullptr && maintenant - debut_ >= AvantMontrer) {
         montre_ = true;
         cadre_->Montrer(texte_);
     }
     if (montre_ && cadre_ != nullptr) cadre_->Avancer(fait, total);
     QCoreApplication::processEvents();
-    depuisCession_.start();
+    cession_ = chronometre_();
     return !abandon_;
 }
 

@@ -1,10 +1,14 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
 
 #include "shell/Progression.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <utility>
 
 namespace dorvane::shell {
 class Session;
@@ -20,10 +24,16 @@ class ProgressionQt final : public QObject, public shell::Progression {
     Q_OBJECT
 
 public:
-    ProgressionQt() = default;
+    /// Milliseconds since some moment; never goes back.
+    using Chronometre = std::function<std::int64_t()>;
+
+    ProgressionQt();
 
     /// Before the first job; both outlive it.
     void Attacher(const shell::Session& session, CadreAvancement& cadre);
+
+    /// From now on time is told by `chronometre`, and not by the machine.
+    void Chronometrer(Chronometre chronometre) { chronometre_ = std::move(chronometre); }
 
     void Commencer(const shell::Phrase& titre, const shell::Phrase& texte) override;
     void Phase(const shell::Phrase& texte) override;
@@ -39,8 +49,10 @@ private:
     const shell::Session* session_ = nullptr;
     QPointer<CadreAvancement> cadre_;
     QString texte_;
-    QElapsedTimer depuisDebut_;
-    QElapsedTimer depuisCession_;
+    Chronometre chronometre_;
+    std::int64_t debut_ = 0;
+    std::optional<std::int64_t>
+        cession_;  ///< when the event loop last ran; none before the first job
     int cadres_ = 0;
     bool abandon_ = false;
     bool montre_ = false;

@@ -138,7 +138,7 @@ private:
     NoOrdre montree_{};
     NoOrdre saisie_{};    ///< person under the pressed button
     QPoint pointSaisie_;  ///< where it was pressed
-    QVariantAnimation glissement_;
+    QVariantAnimation glissement_{this};
     Vue depuis_;
     Vue vers_;
     bool glisse_ = true;

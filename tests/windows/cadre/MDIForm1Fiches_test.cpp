@@ -51,7 +51,7 @@ struct Bureau : FenetreEssai {
         CHECK(entre.isAccepted());
         QDropEvent depot{point, Qt::CopyAction, &donnees, Qt::LeftButton, Qt::NoModifier};
         QApplication::sendEvent(Graphe().viewport(), &depot);
-        QTest::qWait(20);
+        QCoreApplication::processEvents();
     }
     void DoubleCliquer(std::size_t indice) const {
         QTest::mouseDClick(Graphe().viewport(), Qt::LeftButton, {},
@@ -190,7 +190,7 @@ TEST_CASE_FIXTURE(Bureau, "A move with an unsaved sheet asks: yes saves, no drop
     }
     CHECK(dit->contains(QStringLiteral("La fiche a été modifiée")));
     CHECK(EnCours() != 3);
-    QTest::qWait(10);
+    QCoreApplication::processEvents();
     CHECK(QApplication::activeModalWidget() == nullptr);
 }
 

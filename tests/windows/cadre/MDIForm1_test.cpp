@@ -16,6 +16,9 @@
 #include "windows/Essai.h"
 #include "windows/cadre/FrmCalendrier.h"
 
+#include <memory>
+#include <optional>
+
 using namespace dorvane;
 using namespace dorvane::windows;
 
@@ -30,7 +33,7 @@ void Deposer(QWidget& fenetre, const std::filesystem::path& chemin) {
     CHECK(entree.isAccepted());
     QDropEvent depot{fenetre.rect().center(), Qt::CopyAction, &donnees, Qt::LeftButton, {}};
     QApplication::sendEvent(&fenetre, &depot);
-    QTest::qWait(20);
+    QCoreApplication::processEvents();
 }
 
 bool Attendre(const std::function<bool()>& condition) {
@@ -235,7 +238,7 @@ TEST_CASE_FIXTURE(FenetreEssai, "MDIForm1: a language whose file has gone leaves
     Demarrer({});
     std::filesystem::remove(dossier / "partage/English.mes");
     Action("MnuLng(English)").trigger();
-    QTest::qWait(30);
+    QCoreApplication::processEvents();
     CHECK(Action("MnuOuvrir").text() == "&Ouvrir...");
 }
 
@@ -279,23 +282,25 @@ TEST_CASE_FIXTURE(FenetreEssai,
     DemarrerFamille();
     auto& bouton = Trouver<QToolButton>("CmdAnnuler");
     auto& barre = Trouver<QProgressBar>("Progression");
+    const auto heure = std::make_shared<std::int64_t>(0);
+    programme->Chronometrer([heure] { return *heure; });
     const shell::CadreProgression cadre{S().progression, shell::Msg(message::TitreImportGedcom),
                                         shell::Msg(message::EtatPremiereLecture)};
-    QElapsedTimer clic;
+    std::optional<std::int64_t> clic;
     std::uint32_t fait = 0;
     int valeur = 0;
     while (S().progression.Avancer(++fait, 100000) && fait < 5000) {
-        QTest::qSleep(2);
-        if (bouton.isVisible() && fait > 300 && !clic.isValid()) {
+        *heure += 2;
+        if (bouton.isVisible() && fait > 300 && !clic) {
             valeur = barre.value();
             CHECK(barre.text().endsWith(QStringLiteral("/100000")));
-            clic.start();
+            clic = *heure;
             // As from outside: the event waits for the next pass of the loop.
             QTimer::singleShot(0, &bouton, &QToolButton::click);
         }
     }
-    REQUIRE(clic.isValid());
-    CHECK(clic.elapsed() < 100);
+    REQUIRE(clic.has_value());
+    CHECK(*heure - *clic < 100);
     CHECK(fait < 5000);
     CHECK(valeur > 0);
     CHECK(Trouver<QLabel>("LblProgression").text() == "Annulation...");
@@ -368,7 +373,7 @@ TEST_CASE_FIXTURE(FenetreEssai,
 TEST_CASE_FIXTURE(FenetreEssai, "MDIForm1: size and place are kept for the next start") {
     Demarrer({});
     Fenetre().resize(900, 610);
-    QTest::qWait(20);
+    QCoreApplication::processEvents();
     RepondreBoite(QMessageBox::Yes);
     Fenetre().close();
     Programme suite{shell::Lieux{dossier / "partage", dossier / "config", dossier / "cache"}};

@@ -73,7 +73,7 @@ struct Export : FenetreEssai {
         CHECK(entree.isAccepted());
         QDropEvent depot{{5, 5}, Qt::CopyAction, donnees.get(), Qt::LeftButton, {}};
         QApplication::sendEvent(&cible, &depot);
-        QTest::qWait(20);
+        QCoreApplication::processEvents();
     }
 };
 
@@ -404,15 +404,8 @@ TEST_CASE_FIXTURE(Export,
     doublures::EcrireFichier(dossier / "gros.ged", "former");
     Ouvrir();
     C<QComboBox>("CboJeu").setCurrentText(QStringLiteral("HTML"));
-    // A short job shows no frame: this one is held up once.
-    QTimer retard;
-    QObject::connect(&retard, &QTimer::timeout, &F(), [&] {
-        if (C<QWidget>("CmdLancer").isEnabled() || QApplication::activeModalWidget() != nullptr)
-            return;
-        retard.stop();
-        QTest::qSleep(400);
-    });
-    retard.start(1);
+    // A short job shows no frame: in this one each look at the time finds it 50 ms later.
+    programme->Chronometrer([heure = std::int64_t{0}]() mutable { return heure += 50; });
     int vus = 0;
     bool barre = false;
     QObject::connect(&Fenetre().Cadre(), &CadreAvancement::montre, &F(),
@@ -482,7 +475,7 @@ TEST_CASE_FIXTURE(Export,
         QApplication::sendEvent(&Fenetre(), &entree);
         QDropEvent depot{{50, 50}, Qt::CopyAction, &donnees, Qt::LeftButton, {}};
         QApplication::sendEvent(&Fenetre(), &depot);
-        QTest::qWait(50);
+        QCoreApplication::processEvents();
     }
     REQUIRE(S().BaseOuverte());
     CHECK(S().CheminBase == dossier / "envoi.LGD");

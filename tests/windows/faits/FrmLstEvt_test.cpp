@@ -1,12 +1,12 @@
 #include "windows/faits/FrmLstEvt.h"
 
 #include <QContextMenuEvent>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QMenu>
 #include <QSignalSpy>
 
 #include "windows/FaitsEssai.h"
+#include "windows/TempsProcesseur.h"
 #include "windows/controles/GlisserPersonne.h"
 #include "windows/faits/FrmDesEvt.h"
 
@@ -184,12 +184,11 @@ TEST_CASE("FrmLstEvt: 32000 events open and filter without a wait") {
         base.R_TRI.evenements.Fixer(static_cast<std::uint32_t>(i) + 1, e.valeur);
     }
     base.entete.NbTriEvenements = base.R_TRI.evenements.Taille();
-    QElapsedTimer temps;
-    temps.start();
+    TempsProcesseur temps;
     essai.Montrer();
-    const qint64 ouvert = temps.restart();
+    const long ouvert = temps.Relever();
     essai.C<QLineEdit>("TxtFiltre").setText("brest 1987");
-    const qint64 filtre = temps.elapsed();
+    const long filtre = temps.Relever();
     MESSAGE("opened in " << ouvert << " ms, filtered in " << filtre << " ms");
     CHECK(essai.Rangees("GrdEvts") > 200);
     CHECK(ouvert < 1000);

@@ -94,14 +94,20 @@ TEST_CASE_FIXTURE(FenetreEssai, "FrmDébut: the current person is in view after 
 TEST_CASE_FIXTURE(FenetreEssai, "FrmDébut: a move glides in 200 ms and ends where it should") {
     DemarrerFamille();
     Graphe().Glisser(true);
+    auto& glissement =
+        *Graphe().findChild<QVariantAnimation*>(QString{}, Qt::FindDirectChildrenOnly);
+    CHECK(glissement.duration() == 200);
     AllerA(1);
-    QTest::qWait(350);
+    CHECK(glissement.state() == QAbstractAnimation::Running);
+    glissement.setCurrentTime(200);
+    CHECK(glissement.state() == QAbstractAnimation::Stopped);
     CHECK(Graphe().viewport()->rect().contains(Graphe().CaseEcran(0)));
     const QRect fin = Graphe().CaseEcran(0);
     // A move that overtakes another one.
     AllerA(6);
+    glissement.setCurrentTime(100);
     AllerA(1);
-    QTest::qWait(350);
+    glissement.setCurrentTime(200);
     CHECK(Graphe().CaseEcran(0) == fin);
 }
 

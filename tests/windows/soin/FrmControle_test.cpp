@@ -1,7 +1,6 @@
 #include "windows/soin/FrmControle.h"
 
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QMenu>
 #include <QProgressBar>
@@ -10,6 +9,7 @@
 #include "records/Individus.h"
 #include "shell/FichierSur.h"
 #include "windows/FaitsEssai.h"
+#include "windows/TempsProcesseur.h"
 #include "windows/controles/FrmRapport.h"
 #include "windows/controles/TableFiche.h"
 #include "windows/fiche/FrmMisajour.h"
@@ -398,14 +398,13 @@ TEST_CASE_FIXTURE(Controle, "FrmControle: findings follow the language") {
 TEST_CASE_FIXTURE(Controle, "FrmControle: 110000 findings show, sort and filter without a wait") {
     Peupler(55000);
     Montrer();
-    QElapsedTimer temps;
-    temps.start();
+    TempsProcesseur temps;
     fenetre->Controler();
-    const qint64 trouve = temps.restart();
+    const long trouve = temps.Relever();
     C<QTableView>("GrdAno").horizontalHeader()->setSortIndicator(2, Qt::DescendingOrder);
-    const qint64 trie = temps.restart();
+    const long trie = temps.Relever();
     Champ("TxtFiltre").setText(QStringLiteral("jean15432 isolee"));
-    const qint64 filtre = temps.restart();
+    const long filtre = temps.Relever();
     ChoisirSorte(1);
     MESSAGE("found in " << trouve << " ms, sorted in " << trie << " ms, filtered in " << filtre
                         << " ms");
