@@ -13,7 +13,7 @@ using namespace dorvane;
 
 namespace dorvane {
 
-static std::ostream& operator<<(std::ostream& flux, const DateDeListe& date) {
+[[maybe_unused]] static std::ostream& operator<<(std::ostream& flux, const DateDeListe& date) {
     return flux << date.jour << ' ' << date.mois << ' ' << date.annee;
 }
 

@@ -261,7 +261,7 @@ void RedactionGedcom::EcrireTexteLibre(std::string_view premiereLigne, std::stri
         if (!pris) reste += mot;
         i = fin;
         // The blank behind a word that went out goes with it.
-        if (i < simple.size() && !(pris && simple[i] == ' ')) reste += simple[i];
+        if (i < simple.size() && (!pris || simple[i] != ' ')) reste += simple[i];
         ++i;
     }
     static_cast<void>(sortie_.Texte("1 NOTE ", 2, reste));

@@ -92,6 +92,7 @@ void FrmUtilImage::Traduire() {
 void FrmUtilImage::Recharger() {
     const records::UsagesDocument usages = records::ChercherUsages(S(), document_);
     std::vector<std::uint32_t> numeros;
+    numeros.reserve(usages.individus.size() + usages.evenements.size());
     for (const NoOrdre individu : usages.individus)
         numeros.push_back(individu.valeur);
     for (const NoEvenement evenement : usages.evenements)

@@ -87,7 +87,8 @@ struct Gazette : doublures::SessionEssai {
             lues.push_back(r.base->LireCommune(NoCommune{n}));
         return lues;
     }
-    std::vector<std::uint32_t> Numeros(std::string_view texte, bool parSon = false) {
+    [[nodiscard]] std::vector<std::uint32_t> Numeros(std::string_view texte,
+                                                     bool parSon = false) const {
         std::vector<std::uint32_t> numeros;
         for (const NoCommune n : communes.Chercher(texte, parSon))
             numeros.push_back(n.valeur);
@@ -99,7 +100,7 @@ struct Gazette : doublures::SessionEssai {
         dialogue.fichiers.emplace_back(dossier / "liste.csv");
     }
     std::string Bilan() { return dialogue.entendu.empty() ? "" : dialogue.entendu.back().valeur; }
-    std::string Chemin() { return shell::CheminAffiche(fichier); }
+    [[nodiscard]] std::string Chemin() const { return shell::CheminAffiche(fichier); }
 
     DisqueFerme disqueFerme;
     shell::Session seance{Lieux(), {dialogue, progression, horloge, ecran, disqueFerme}};
