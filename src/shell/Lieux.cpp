@@ -33,26 +33,6 @@ bool TientUnCatalogue(const fs::path& dossier) {
     return false;
 }
 
-/// The length of the UTF-8 character at the head of `octets`, 0 when there is none.
-std::size_t LongueurUtf8(std::string_view octets) {
-    const auto premier = static_cast<unsigned char>(octets[0]);
-    if (premier < 0x80) return 1;
-    const std::size_t longueur = premier < 0xC2   ? 0
-                                 : premier < 0xE0 ? 2
-                                 : premier < 0xF0 ? 3
-                                 : premier < 0xF5 ? 4
-                                                  : 0;
-    if (longueur == 0 || longueur > octets.size()) return 0;
-    for (std::size_t i = 1; i < longueur; ++i)
-        if ((static_cast<unsigned char>(octets[i]) & 0xC0U) != 0x80) return 0;
-    // Spelt too long, a surrogate, or past the last character.
-    const auto second = static_cast<unsigned char>(octets[1]);
-    if ((premier == 0xE0 && second < 0xA0) || (premier == 0xED && second > 0x9F) ||
-        (premier == 0xF0 && second < 0x90) || (premier == 0xF4 && second > 0x8F))
-        return 0;
-    return longueur;
-}
-
 }  // namespace
 
 Lieux LieuxDuSysteme() {
@@ -98,16 +78,16 @@ std::string CheminVersUtf8(const fs::path& chemin) {
     const std::string& octets = chemin.native();
     std::string utf8;
     for (std::size_t i = 0; i < octets.size();) {
-        const std::size_t longueur = LongueurUtf8(std::string_view{octets}.substr(i));
-        if (longueur == 0) {
+        const CodeLu lu = LireUtf8(std::string_view{octets}.substr(i));
+        if (lu.rompu) {
             const char32_t code = Prive + static_cast<unsigned char>(octets[i]);
             utf8 += static_cast<char>(0xE0U | (code >> 12U));
             utf8 += static_cast<char>(0x80U | ((code >> 6U) & 0x3FU));
             utf8 += static_cast<char>(0x80U | (code & 0x3FU));
             ++i;
         } else {
-            utf8.append(octets, i, longueur);
-            i += longueur;
+            utf8.append(octets, i, lu.longueur);
+            i += lu.longueur;
         }
     }
     return utf8;
@@ -116,19 +96,12 @@ std::string CheminVersUtf8(const fs::path& chemin) {
 fs::path Utf8VersChemin(std::string_view utf8) {
     std::string octets;
     for (std::size_t i = 0; i < utf8.size();) {
-        const std::size_t longueur = LongueurUtf8(utf8.substr(i));
-        const auto a = [&](std::size_t k) {
-            return static_cast<unsigned>(static_cast<unsigned char>(utf8[i + k]));
-        };
-        // U+F700 to U+F7FF: EF 9C 80 to EF 9F BF.
-        if (longueur == 3 && a(0) == 0xEF && a(1) >= 0x9C && a(1) <= 0x9F) {
-            octets += static_cast<char>((((a(1) & 0x3FU) << 6U) | (a(2) & 0x3FU)) & 0xFFU);
-            i += 3;
-        } else {
-            const std::size_t n = longueur == 0 ? 1 : longueur;
-            octets.append(utf8, i, n);
-            i += n;
-        }
+        const CodeLu lu = LireUtf8(utf8.substr(i));
+        if (lu.code >= Prive && lu.code <= Prive + 0xFF)
+            octets += static_cast<char>(lu.code & 0xFFU);
+        else
+            octets.append(utf8, i, lu.longueur);
+        i += lu.longueur;
     }
     return fs::path{octets};
 }

@@ -34,29 +34,6 @@ std::size_t PrefixeAscii(std::string_view texte) {
     return i;
 }
 
-struct CodeLu {
-    char32_t code;         ///< 0xFFFD when the bytes are no UTF-8
-    std::size_t longueur;  ///< at least 1
-};
-
-CodeLu LireUtf8(std::string_view texte) {
-    constexpr CodeLu Faux{0xFFFD, 1};
-    const unsigned char premier = Octet(texte[0]);
-    if (premier < 0x80) return {premier, 1};
-    if (premier < 0xC2 || premier > 0xF4) return Faux;
-    const std::size_t longueur = premier < 0xE0 ? 2 : premier < 0xF0 ? 3 : 4;
-    if (longueur > texte.size()) return Faux;
-    char32_t code = premier & (0x7FU >> longueur);
-    for (std::size_t i = 1; i < longueur; ++i) {
-        if ((Octet(texte[i]) & 0xC0U) != 0x80) return Faux;
-        code = (code << 6U) | (Octet(texte[i]) & 0x3FU);
-    }
-    constexpr std::array<char32_t, 5> PlusPetit{0, 0, 0x80, 0x800, 0x10000};
-    if (code < PlusPetit[longueur] || code > 0x10FFFF || (code >= 0xD800 && code < 0xE000))
-        return Faux;
-    return {code, longueur};
-}
-
 /// Valid UTF-8 with at least one byte above 127.
 bool EstUtf8(std::string_view texte) {
     bool haut = false;
@@ -64,7 +41,7 @@ bool EstUtf8(std::string_view texte) {
         texte.remove_prefix(PrefixeAscii(texte));
         if (texte.empty()) return haut;
         const CodeLu lu = LireUtf8(texte);
-        if (lu.code == 0xFFFD && lu.longueur == 1) return false;
+        if (lu.rompu) return false;
         haut = true;
         texte.remove_prefix(lu.longueur);
     }
@@ -78,8 +55,7 @@ bool EstSurtoutUtf8(std::string_view texte) {
         texte.remove_prefix(PrefixeAscii(texte));
         if (texte.empty()) return justes > faux;
         const CodeLu lu = LireUtf8(texte);
-        const bool rompu = lu.code == 0xFFFD && lu.longueur == 1;
-        (rompu ? faux : justes) += 1;
+        (lu.rompu ? faux : justes) += 1;
         texte.remove_prefix(lu.longueur);
     }
 }
@@ -207,7 +183,7 @@ TexteDecode DecoderUtf8(std::string_view texte) {
         texte.remove_prefix(ascii);
         if (texte.empty()) break;
         const CodeLu lu = LireUtf8(texte);
-        sortie.Poser(lu.code);
+        sortie.Poser(lu.rompu ? 0xFFFD : lu.code);
         texte.remove_prefix(lu.longueur);
     }
     return sortie.Rendre();
