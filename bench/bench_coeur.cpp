@@ -4,7 +4,6 @@
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
 #include "shell/Numerotation.h"
-#include "shell/RelaisAvancement.h"
 #include "storage/Base.h"
 
 #include <benchmark/benchmark.h>
@@ -24,7 +23,7 @@ void OuvrirEtPremierePage(benchmark::State& etat) {
     const std::filesystem::path chemin = banc.dossier / "page.LGD";
     std::filesystem::copy_file(std::getenv("DORVANE_BENCH_LGD"), chemin,
                                std::filesystem::copy_options::overwrite_existing);
-    storage::AvancementMuet muet;
+    storage::ProgressionMuette muet;
     for (auto _ : etat) {
         const storage::ResultatOuverture ouverte = storage::OuvrirBase(banc.disque, chemin, muet);
         std::size_t octets = 0;

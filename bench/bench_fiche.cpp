@@ -24,7 +24,8 @@ NoOrdre Reference() {
 void Page(benchmark::State& etat, const char* filtre) {
     const NoOrdre reference = Reference();
     for (auto _ : etat) {
-        records::Choix choix{LeBanc().session, {records::SorteChoix::Parent, reference, 'H'}};
+        records::Choix choix{LeBanc().session,
+                             {records::SorteChoix::Parent, reference, Sexe::Homme}};
         choix.Filtrer(filtre);
         benchmark::DoNotOptimize(choix.Page().size());
     }
@@ -36,7 +37,7 @@ BENCHMARK_CAPTURE(Page, sansReponse, "ZZZZ")->Unit(benchmark::kMillisecond);
 void ChoixDeLien(benchmark::State& etat) {
     const NoOrdre reference = Reference();
     for (auto _ : etat) {
-        records::Choix choix{LeBanc().session, {records::SorteChoix::Lien, reference, ' '}};
+        records::Choix choix{LeBanc().session, {records::SorteChoix::Lien, reference, Sexe::Vide}};
         choix.LeverFenetre(true);
         choix.Filtrer("ZZZZ");
         benchmark::DoNotOptimize(choix.Page().size());

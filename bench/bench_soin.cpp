@@ -23,7 +23,7 @@ void Reorganiser(benchmark::State& etat) {
     Banc& banc = LeBanc();
     storage::BilanReorganisation bilan;
     for (auto _ : etat) {
-        storage::AvancementMuet muet;
+        storage::ProgressionMuette muet;
         bilan = storage::ReorganiserVers(banc.disque, banc.B(), banc.dossier / "Reorg.fic", muet);
         if (bilan.issue != storage::IssueReorganisation::Faite) std::abort();
     }

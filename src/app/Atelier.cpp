@@ -3,7 +3,6 @@
 #include "messages/Dorvane.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
-#include "shell/RelaisAvancement.h"
 #include "storage/Base.h"
 #include "values/Texte1252.h"
 
@@ -19,8 +18,7 @@ Atelier::Atelier(const std::string& langue)
 }
 
 int Atelier::Ouvrir(const std::filesystem::path& chemin) {
-    shell::RelaisAvancement avancement{progression, session.catalogue};
-    storage::ResultatOuverture resultat = storage::OuvrirBase(session.disque, chemin, avancement);
+    storage::ResultatOuverture resultat = storage::OuvrirBase(session.disque, chemin, progression);
     const shell::Issue issue = shell::Dire(dialogue, shell::IssueDOuverture(resultat.etat, chemin));
     if (!issue) return Statut(issue);
     session.CheminBase = shell::CheminEntier(chemin);

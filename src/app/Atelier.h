@@ -6,6 +6,7 @@
 #include "shell/Horloge.h"
 #include "shell/Session.h"
 #include "storage/DisqueReel.h"
+#include "storage/Progression.h"
 
 #include <filesystem>
 #include <string>
@@ -24,7 +25,7 @@ public:
     [[nodiscard]] int Fermer();
 
     DialogueTerminal dialogue;
-    ProgressionMuette progression;
+    storage::ProgressionMuette progression;
 
 private:
     shell::HorlogeSysteme horloge_;

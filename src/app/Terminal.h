@@ -2,7 +2,6 @@
 
 #include "shell/Catalogue.h"
 #include "shell/Dialogue.h"
-#include "shell/Progression.h"
 
 #include <filesystem>
 #include <optional>
@@ -33,24 +32,6 @@ public:
 
 private:
     [[nodiscard]] std::string EnClair(const shell::Phrase& phrase) const;
-};
-
-/// Long jobs run in silence, and nobody cancels them.
-class ProgressionMuette final : public shell::Progression {
-public:
-    void Commencer(const shell::Phrase& /*titre*/, const shell::Phrase& /*texte*/) override {
-        enCours_ = true;
-    }
-    void Phase(const shell::Phrase& /*texte*/) override {}
-    [[nodiscard]] bool Avancer(std::uint32_t /*fait*/, std::uint32_t /*total*/) override {
-        return true;
-    }
-    void Terminer() override { enCours_ = false; }
-    [[nodiscard]] bool EnCours() const override { return enCours_; }
-    void Sablier(bool /*attente*/) override {}
-
-private:
-    bool enCours_ = false;
 };
 
 }  // namespace dorvane::outil

@@ -73,8 +73,9 @@ int Creer(const OptionsFichier& o) {
         return Refus;
     }
     const shell::ReglagesGeneraux& generaux = atelier.session.parametres.generaux;
-    storage::ResultatOuverture nouvelle = storage::NouvelleBase(
-        atelier.session.disque, base, {'1', generaux.motClePrenom, generaux.motCleNom});
+    storage::ResultatOuverture nouvelle =
+        storage::NouvelleBase(atelier.session.disque, base,
+                              {TypeTri::Naissance, generaux.motClePrenom, generaux.motCleNom});
     shell::Issue issue = shell::IssueDeCreation(nouvelle.etat, base);
     if (issue) {
         nouvelle.base->marques.ModifBase = true;

@@ -3,7 +3,6 @@
 #include "interchange/communes/LireListeCommunes.h"
 #include "messages/Communes.h"
 #include "messages/Messages.h"
-#include "shell/RelaisAvancement.h"
 #include "storage/BaseCommunes.h"
 #include "values/Phonetique.h"
 #include "values/Texte1252.h"
@@ -61,7 +60,7 @@ int CreerCommunes(const OptionsCommunes& o) {
     if (!o.liste.empty())
         if (const shell::Issue lue = LireListe(atelier, o.liste, liste); !lue) return Statut(lue);
     storage::DisqueReel disque;
-    storage::AvancementMuet muet;
+    storage::ProgressionMuette muet;
     std::string octets;
     if (!storage::ComposerLgx(liste.communes, muet, octets) ||
         !storage::EcrireLgx(disque, o.fichier, o.fichier + ".nouveau", octets)) {
@@ -116,8 +115,8 @@ int ChercherCommunes(Atelier& /*atelier*/, storage::BaseCommunes& base, const Op
 }
 
 int ReorganiserCommunes(Atelier& atelier, storage::BaseCommunes& base, const OptionsCommunes& o) {
-    shell::RelaisAvancement relais{atelier.progression, atelier.session.catalogue};
-    if (base.ReorganiserCommunes(relais)) return Fait;
+    if (base.ReorganiserCommunes(atelier.progression) == storage::EcritureCommunes::Faite)
+        return Fait;
     atelier.dialogue.Informer(shell::Msg(message::FichierCommunesNonEcrit, EnTexte(o.fichier)));
     return RefusSysteme;
 }

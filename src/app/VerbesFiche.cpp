@@ -101,7 +101,7 @@ bool PoserUnion(Atelier& atelier, const OptionsFiche& o, records::SaisieFiche& s
 }
 
 bool PoserChamps(Atelier& atelier, const OptionsFiche& o, records::SaisieFiche& saisie) {
-    if (o.sexe) saisie.sexe = o.sexe->front();
+    if (o.sexe) saisie.sexe = static_cast<Sexe>(o.sexe->front());
     return Prendre(atelier, o.nom, saisie.nom) && Prendre(atelier, o.prenom, saisie.prenom) &&
            Prendre(atelier, o.autres, saisie.autrePrenom) &&
            PoserDate(atelier, o.naissance, saisie.jourMoisNaissance, saisie.anneeNaissance) &&
@@ -147,8 +147,10 @@ int Lier(Atelier& atelier, const OptionsLien& o) {
     const NoOrdre ici{o.numero};
     const NoOrdre autre{o.autre};
     if (o.parente == "pere" || o.parente == "mere")
-        return records::DonnerParent(session, ici, o.parente == "pere" ? 'H' : 'F', autre) ? Fait
-                                                                                           : Refus;
+        return records::DonnerParent(session, ici, o.parente == "pere" ? Cote::Pere : Cote::Mere,
+                                     autre)
+                   ? Fait
+                   : Refus;
     if (o.parente == "enfant") return records::AttacherEnfant(session, ici, autre) ? Fait : Refus;
     if (o.parente == "conjoint") {
         if (!records::PeutAvoirConjoint(session, ici, records::Provenance::Cherche)) return Refus;
@@ -187,7 +189,7 @@ int Delier(Atelier& atelier, const OptionsLien& o) {
     bool fait = false;
     bool trouve = true;
     if (o.parente == "pere" || o.parente == "mere") {
-        const char cote = o.parente == "pere" ? 'H' : 'F';
+        const Cote cote = o.parente == "pere" ? Cote::Pere : Cote::Mere;
         trouve = static_cast<bool>(records::LireParent(*session.base, ici, cote));
         fait = trouve && records::RetirerParent(session, ici, cote);
     } else if (o.parente == "enfant") {

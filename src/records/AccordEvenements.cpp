@@ -10,7 +10,9 @@
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
+#include "values/Marqueurs.h"
 #include "values/MotsDates.h"
+#include "values/SortesEvenement.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -52,7 +54,8 @@ std::string Joindre(std::string_view jourMois, std::string_view annee) {
 std::string LieuDeFiche(std::string_view lieu) {
     std::string rendu = PointsEnBlancs(BlancsEnPoints(lieu));
     std::replace_if(
-        rendu.begin(), rendu.end(), [](char c) { return c == '$' || c == '~'; }, '-');
+        rendu.begin(), rendu.end(),
+        [](char c) { return c == marqueur::LieuNaissance || c == marqueur::LieuDeces; }, '-');
     return rendu;
 }
 
@@ -69,7 +72,7 @@ std::optional<std::size_t> RangeeDe(storage::Base& base, std::string_view tag) {
 }
 
 std::optional<std::size_t> RangeeDe(storage::Base& base, MiroirFiche miroir) {
-    return RangeeDe(base, miroir == MiroirFiche::Bapteme ? "CHR" : "BURI");
+    return RangeeDe(base, miroir == MiroirFiche::Bapteme ? tag::Bapteme : tag::Inhumation);
 }
 
 /// One of the two day-month fields of a name line; the names stay, byte for byte.
@@ -162,8 +165,8 @@ DateEtLieu LireEvenement(shell::Session& session, NoEvenement e) {
 
 NoMariage UnionRacontee(storage::Base& base, const std::vector<storage::LienEvenement>& liens,
                         NoOrdre individu, std::string_view annee) {
-    const NoOrdre epoux = TenantDuRole(liens, "HUSB");
-    const NoOrdre epouse = TenantDuRole(liens, "WIFE");
+    const NoOrdre epoux = TenantDuRole(liens, role::Epoux);
+    const NoOrdre epouse = TenantDuRole(liens, role::Epouse);
     if (epoux && epouse) {
         for (const NoMariage m : base.R_MARIAG.Elements(epoux))
             if (PartenaireDe(base, epoux, m) == epouse &&
@@ -176,15 +179,16 @@ NoMariage UnionRacontee(storage::Base& base, const std::vector<storage::LienEven
 }
 
 MiroirFiche MiroirDe(std::string_view type, std::string_view role) {
-    if (role == "CHIL") {
-        if (type == "BIRT") return MiroirFiche::Naissance;
-        if (type == "CHR") return MiroirFiche::Bapteme;
+    if (role == role::Enfant) {
+        if (type == tag::Naissance) return MiroirFiche::Naissance;
+        if (type == tag::Bapteme) return MiroirFiche::Bapteme;
     }
-    if (role == "DEAD") {
-        if (type == "DEAT") return MiroirFiche::Deces;
-        if (type == "BURI") return MiroirFiche::Inhumation;
+    if (role == role::Defunt) {
+        if (type == tag::Deces) return MiroirFiche::Deces;
+        if (type == tag::Inhumation) return MiroirFiche::Inhumation;
     }
-    if (type == "MARR" && (role == "HUSB" || role == "WIFE")) return MiroirFiche::Mariage;
+    if (type == tag::Mariage && (role == role::Epoux || role == role::Epouse))
+        return MiroirFiche::Mariage;
     return MiroirFiche::Aucun;
 }
 

@@ -5,6 +5,7 @@
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
+#include "values/SortesEvenement.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -127,7 +128,7 @@ void Choix::Recommencer() {
         return;
     }
     // In a table by years of birth nobody behind the upper bound can fit.
-    const bool arret = base.entete.TypeTri == '1' && !levee_ && !fenetre_.a.empty();
+    const bool arret = base.entete.TypeTri == TypeTri::Naissance && !levee_ && !fenetre_.a.empty();
     for (std::uint32_t rang = 1; rang <= base.entete.NbTriIndividus; ++rang) {
         const NoOrdre n = base.R_TRI.IndividuAuRang(rang);
         if (!n || n == demande_.reference) continue;
@@ -162,7 +163,7 @@ bool Choix::Suivante() {
 }
 
 bool Choix::SexeConvient(NoOrdre n) const {
-    const char sexe = session_.base->R_SEXE.LireCellule(n);
+    const Sexe sexe = session_.base->R_SEXE.LireCellule(n);
     switch (demande_.sorte) {
         case SorteChoix::Parent:
             return sexe == demande_.sexe;
@@ -202,7 +203,7 @@ bool Choix::NomConvient(NoOrdre n) {
     if (ContientTout(tampon_, mots_)) return true;
     const ModeleNom& modele = session_.Modele();
     const bool autres = std::any_of(modele.begin(), modele.end(), [](const std::string& jeton) {
-        return jeton != "FNAM" && jeton != "BIRN" && jeton != "OFNM";
+        return jeton != tag::Prenom && jeton != tag::Nom && jeton != tag::AutresPrenoms;
     });
     if (!autres) return false;
     ReplieDans(tampon_, NomAffiche(session_, n));

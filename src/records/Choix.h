@@ -1,6 +1,7 @@
 #pragma once
 
 #include "values/Numeros.h"
+#include "values/Sexe.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -28,8 +29,8 @@ enum class SorteChoix {
 
 struct DemandeChoix {
     SorteChoix sorte = SorteChoix::Lien;
-    NoOrdre reference{};  ///< the person of the sheet, who is never offered
-    char sexe = ' ';      ///< of a parent: 'H' or 'F'; not looked at otherwise
+    NoOrdre reference{};     ///< the person of the sheet, who is never offered
+    Sexe sexe = Sexe::Vide;  ///< of a parent; not looked at otherwise
 };
 
 /// Years of birth that are offered, compared as texts with the sort form of a year.
@@ -90,7 +91,7 @@ private:
     FenetreAnnees fenetre_;
     std::string naissance_;  ///< sort form, of the reference
     std::string deces_;
-    char sexe_;
+    Sexe sexe_;
     std::string filtre_;
     std::vector<std::string> mots_;
     NoOrdre numero_{};  ///< the filter is a number

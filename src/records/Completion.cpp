@@ -4,6 +4,7 @@
 #include "storage/Base.h"
 #include "storage/BaseCommunes.h"
 #include "values/Comparaison.h"
+#include "values/Marqueurs.h"
 #include "values/Noms.h"
 #include "values/Texte1252.h"
 
@@ -24,14 +25,14 @@ constexpr std::size_t MaxHomonymes = 1000;
 
 /// What a person has written behind a symbol, in whole words.
 std::vector<std::string> EcrituresDe(storage::Base& base, NoOrdre n, char symbole) {
-    if (symbole == '|') return {base.R_NOM.NomDe(n)};
-    if (symbole == u'¶'_1252) {
+    if (symbole == marqueur::Nom) return {base.R_NOM.NomDe(n)};
+    if (symbole == marqueur::Prenom) {
         std::string prenom = base.R_NOM.PrenomDe(n);
         std::string premier = prenom.substr(0, prenom.find(' '));
         return {std::move(prenom), std::move(premier)};
     }
     std::vector<std::string> lieux{storage::LireLieu(base.R_TEXTE.LireTexte(n), symbole)};
-    if (symbole == '@')
+    if (symbole == marqueur::LieuMariage)
         for (const NoMariage m : base.R_MARIAG.Elements(n))
             lieux.push_back(storage::LieuMariage(base, m));
     for (const storage::ValeurSlot& slot : storage::SlotsDe(base, n))
@@ -101,7 +102,8 @@ std::string Completion::Ecriture(NoIndex e, const std::string& mot, char symbole
     for (std::size_t i = 0; i < std::min(porteurs.size(), MaxPorteurs); ++i)
         for (const std::string& ecriture : EcrituresDe(base, porteurs[i], symbole))
             if (SansBlancs(Replie(ecriture)) == mot ||
-                (symbole == '|' && SansBlancs(Replie(CleNom(ecriture, session_.Regles()))) == mot))
+                (symbole == marqueur::Nom &&
+                 SansBlancs(Replie(CleNom(ecriture, session_.Regles()))) == mot))
                 return std::string{SansBlancs(ecriture)};
     return CapitaliseNom(EnMinuscules(mot), "N", session_.Regles());
 }

@@ -2,6 +2,7 @@
 
 #include "shell/Session.h"
 #include "storage/R_INDEX.h"
+#include "values/Marqueurs.h"
 #include "values/Numeros.h"
 
 #include <cstddef>
@@ -13,9 +14,11 @@ namespace dorvane::records {
 
 /// The words that fields complete, by the symbols of their keywords, in code page 1252.
 namespace mots {
-inline constexpr std::string_view Noms = "|";
-inline constexpr std::string_view Prenoms = "\xB6";
-inline constexpr std::string_view Lieux = "$~@";
+inline constexpr std::string_view Noms{&marqueur::Nom, 1};
+inline constexpr std::string_view Prenoms{&marqueur::Prenom, 1};
+inline constexpr char MarqueursLieux[] = {marqueur::LieuNaissance, marqueur::LieuDeces,
+                                          marqueur::LieuMariage};
+inline constexpr std::string_view Lieux{MarqueursLieux, sizeof MarqueursLieux};
 }  // namespace mots
 
 /// Proposes known words while one is typed, from the word index of the base; places also from the

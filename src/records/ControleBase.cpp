@@ -26,7 +26,7 @@ constexpr std::int32_t MargeDeces = 10;
 
 /// The findings on one side of the parents.
 struct ConstatsParent {
-    char sexe;
+    Sexe sexe;
     SorteConstat mauvaisSexe;
     SorteConstat pasEnfant;
     SorteConstat pasAvant;
@@ -37,7 +37,7 @@ struct ConstatsParent {
     std::optional<SorteConstat> apresDeces;
     SorteConstat decennie;
 };
-constexpr ConstatsParent Pere{'H',
+constexpr ConstatsParent Pere{Sexe::Homme,
                               SorteConstat::PereNonMasculin,
                               SorteConstat::AbsentDesEnfantsDuPere,
                               SorteConstat::PerePasNeAvantEnfant,
@@ -47,7 +47,7 @@ constexpr ConstatsParent Pere{'H',
                               SorteConstat::NaissancePlusDe10AnsApresDecesPere,
                               SorteConstat::NaissancePlusDUnAnApresDecesPere,
                               SorteConstat::NaissanceAvantCelleDuPere};
-constexpr ConstatsParent Mere{'F',
+constexpr ConstatsParent Mere{Sexe::Femme,
                               SorteConstat::MereNonFeminine,
                               SorteConstat::AbsentDesEnfantsDeLaMere,
                               SorteConstat::MerePasNeeAvantEnfant,
@@ -103,11 +103,11 @@ private:
     /// By the form in which the table sorts; an empty year sorts too.
     void ControlerRang() {
         bool bas = false;
-        if (base_.entete.TypeTri == '1') {
+        if (base_.entete.TypeTri == TypeTri::Naissance) {
             std::string cle = Replie(base_.R_NAISS.AnneeTri(n_));
             bas = precedente_ && cle < cle_;
             cle_ = std::move(cle);
-        } else if (base_.entete.TypeTri == '2') {
+        } else if (base_.entete.TypeTri == TypeTri::Nom) {
             std::string cle = base_.R_TRI.CleDe(n_);
             bas = precedente_ && cle < cle_;
             cle_ = std::move(cle);
@@ -116,8 +116,8 @@ private:
     }
 
     void ControlerPersonne() {
-        const char sexe = famille_.Sexe(n_);
-        if (sexe != 'H' && sexe != 'F') Dire(SorteConstat::SexeIndetermine);
+        const Sexe sexe = famille_.SexeDe(n_);
+        if (!EstConnu(sexe)) Dire(SorteConstat::SexeIndetermine);
         if (!famille_.Naissance(n_).pleine) Dire(SorteConstat::AnneeNaissanceAbsente);
         const storage::LigneNom nom = base_.R_NOM.LireNom(n_);
         const bool sansPrenom = SansBlancs(nom.prenom).empty();
@@ -144,7 +144,7 @@ private:
 
     void ControlerParent(NoOrdre parent, const ConstatsParent& m) {
         if (!parent) return;
-        if (famille_.Sexe(parent) != m.sexe) Dire(m.mauvaisSexe);
+        if (famille_.SexeDe(parent) != m.sexe) Dire(m.mauvaisSexe);
         if (!famille_.enfants.Contient(parent, n_.valeur)) Dire(m.pasEnfant);
         const AnneeLue& naissance = famille_.Naissance(n_);
         if (!naissance.pleine) return;
@@ -200,19 +200,22 @@ private:
     }
 
     void ControlerEnfants() {
-        const char sexe = famille_.Sexe(n_);
+        const Sexe sexe = famille_.SexeDe(n_);
         for (const std::uint16_t numero : famille_.enfants.De(n_)) {
             const NoOrdre enfant{numero};
-            if (sexe == 'H' && famille_.Pere(enfant) != n_) Dire(SorteConstat::EnfantAvecAutrePere);
-            if (sexe == 'F' && famille_.Mere(enfant) != n_) Dire(SorteConstat::EnfantAvecAutreMere);
-            if (sexe != 'H' && sexe != 'F') Dire(SorteConstat::ParentDeSexeIndetermine);
+            if (sexe == Sexe::Homme && famille_.Pere(enfant) != n_)
+                Dire(SorteConstat::EnfantAvecAutrePere);
+            if (sexe == Sexe::Femme && famille_.Mere(enfant) != n_)
+                Dire(SorteConstat::EnfantAvecAutreMere);
+            if (!EstConnu(sexe)) Dire(SorteConstat::ParentDeSexeIndetermine);
         }
     }
 
     void ControlerMariage(NoMariage m) {
-        const char sexe = famille_.Sexe(n_);
-        if (sexe == 'H' && famille_.Epoux(m) != n_) Dire(SorteConstat::UnionAvecAutreEpoux);
-        if (sexe == 'F' && famille_.Epouse(m) != n_) Dire(SorteConstat::UnionAvecAutreEpouse);
+        const Sexe sexe = famille_.SexeDe(n_);
+        if (sexe == Sexe::Homme && famille_.Epoux(m) != n_) Dire(SorteConstat::UnionAvecAutreEpoux);
+        if (sexe == Sexe::Femme && famille_.Epouse(m) != n_)
+            Dire(SorteConstat::UnionAvecAutreEpouse);
         const AnneeLue& debut = famille_.Debut(m);
         const AnneeLue& fin = famille_.Fin(m);
         const AnneeLue& naissance = famille_.Naissance(n_);

@@ -96,7 +96,7 @@ void DepannerLiens(AtelierDepannage& a, NoOrdre n) {
             a.Regretter(message::EtatListePleine, a.Nommer(autre));
             continue;
         }
-        liens.ModifierListe(autre, n, 'A', libelle);
+        liens.ModifierListe(autre, n, storage::ActionListe::Ajouter, libelle);
         a.Noter("Ajout Lien " + a.Nommer(autre), "Ajout lien avec " + a.Nommer(n));
     }
 }
@@ -160,7 +160,7 @@ void DepannerEvenement(AtelierDepannage& a, const Presents& presents, NoEvenemen
             a.Regretter(message::EtatListePleine, a.Nommer(lien.individu));
             continue;
         }
-        b.R_LSTEVT.ModifierListe(lien.individu, e, 'A', lien.role);
+        b.R_LSTEVT.ModifierListe(lien.individu, e, storage::ActionListe::Ajouter, lien.role);
         a.Noter(std::string{"Ajout Evénement "_1252} + numero,
                 std::string{"Ajout lien événement de "_1252} + a.Nommer(lien.individu));
     }
@@ -270,7 +270,7 @@ bool DepannerIndex(AtelierDepannage& a) {
         a.Regretter(message::EtatIndexPlein, {});
         return true;
     }
-    storage::AvancementMuet muet;
+    storage::ProgressionMuette muet;
     static_cast<void>(storage::ConstruireIndex(b, types, muet));
     for (const NoMotCle k : types)
         a.Noter("Index",

@@ -88,7 +88,7 @@ void AjouterUnion(AtelierDepannage& a, NoMariage m, NoOrdre n, NoOrdre autre) {
     if (unions.NbElements(n) >= storage::MaxElements) NettoyerUnions(a, n);
     if (unions.NbElements(n) >= storage::MaxElements)
         return a.Regretter(message::EtatListePleine, a.Nommer(n));
-    MajMariage(a.session, n, m, ActionListe::Ajouter);
+    MajMariage(a.session, n, m, storage::ActionListe::Ajouter);
     a.Noter("Ajout Mariage " + a.Nommer(n), "Lien mariage de " + a.Nommer(n) + " avec " +
                                                 a.Nommer(autre) + std::string{" créé"_1252});
 }
@@ -115,7 +115,7 @@ void DepannerMariage(AtelierDepannage& a, NoMariage m) {
         return EffacerUnion(a, m);
     RetirerPartenaire(a, m, b.R_EPOUX);
     RetirerPartenaire(a, m, b.R_EPOUSE);
-    if (b.R_SEXE.LireCellule(epoux) == 'F' && b.R_SEXE.LireCellule(epouse) == 'H' &&
+    if (b.R_SEXE.LireCellule(epoux) == Sexe::Femme && b.R_SEXE.LireCellule(epouse) == Sexe::Homme &&
         a.Vivant(epoux) && a.Vivant(epouse)) {
         b.R_EPOUX.EcrireCellule(m, epouse);
         b.R_EPOUSE.EcrireCellule(m, epoux);
@@ -143,7 +143,7 @@ void DepannerParent(AtelierDepannage& a, NoOrdre n, storage::ColonneParents& col
     if (b.R_ENFANT.NbElements(parent) >= storage::MaxElements) NettoyerEnfants(a, parent);
     if (b.R_ENFANT.NbElements(parent) >= storage::MaxElements)
         return a.Regretter(message::EtatListePleine, a.Nommer(parent));
-    MajEnfant(a.session, parent, n, ActionListe::Ajouter);
+    MajEnfant(a.session, parent, n, storage::ActionListe::Ajouter);
     a.Noter("Ajout Enfant " + a.Nommer(n),
             "Ajout lien enfant de " + a.Nommer(parent) + " avec " + a.Nommer(n));
 }

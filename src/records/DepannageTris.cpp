@@ -10,8 +10,8 @@ namespace {
 
 /// Who has a sex or a name has not been deleted.
 bool EstUnePersonne(storage::Base& base, NoOrdre n) {
-    const char sexe = base.R_SEXE.LireCellule(n);
-    return (sexe != ' ' && sexe != '\0') || !base.R_NOM.LireTexte(n).empty();
+    const Sexe sexe = base.R_SEXE.LireCellule(n);
+    return (sexe != Sexe::Vide && sexe != Sexe{'\0'}) || !base.R_NOM.LireTexte(n).empty();
 }
 
 /// The entries of a table that stand for a record, each once.
@@ -82,7 +82,7 @@ std::vector<bool> DocumentsCites(AtelierDepannage& a,
 }
 
 bool EstTriee(AtelierDepannage& a) {
-    if (a.base.entete.TypeTri != '1' && a.base.entete.TypeTri != '2') return true;
+    if (!AUneCle(a.base.entete.TypeTri)) return true;
     std::string avant;
     for (const std::uint16_t n : a.base.R_TRI.individus.Numeros()) {
         std::string cle = a.base.R_TRI.CleDe(NoOrdre{n});
@@ -112,7 +112,7 @@ void DepannerIndividus(AtelierDepannage& a) {
         b.marques.ModifTriIndividus = true;
     }
     if (EstTriee(a)) return;
-    storage::AvancementMuet muet;
+    storage::ProgressionMuette muet;
     b.R_TRI.TrierIndividus(muet);
     b.marques.ModifTriIndividus = true;
     a.Noter("Tri", "Ordre des personnes rétabli"_1252);

@@ -8,6 +8,7 @@
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "storage/Textes.h"
+#include "values/SortesEvenement.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -76,10 +77,10 @@ bool Contient(const LiensEvenement& liens, const LienEvenement& lien) {
     return std::find(liens.begin(), liens.end(), lien) != liens.end();
 }
 
-void LierFamille(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent, bool cree) {
+void LierFamille(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent, bool cree) {
     storage::Base& base = *session.base;
     const NoOrdre present = LireParent(base, enfant, cote);
-    if (present == parent || base.R_SEXE.LireCellule(parent) != cote) return;
+    if (present == parent || base.R_SEXE.LireCellule(parent) != SexeDuCote(cote)) return;
     if (present) {
         shell::Phrase question =
             shell::Msg(message::ConfirmerRemplacerParent, NomAffiche(session, enfant));
@@ -146,11 +147,11 @@ void LierFamilles(shell::Session& session, NoEvenement evenement, const LiensEve
                   const std::vector<NoOrdre>& crees) {
     const LiensEvenement liens = session.base->R_EVT.Liens(evenement);
     for (const LienEvenement& parent : liens) {
-        const char cote = parent.role == "FATH" ? 'H' : parent.role == "MOTH" ? 'F' : ' ';
-        if (cote == ' ') continue;
+        if (parent.role != role::Pere && parent.role != role::Mere) continue;
+        const Cote cote = parent.role == role::Pere ? Cote::Pere : Cote::Mere;
         const bool cree = std::find(crees.begin(), crees.end(), parent.individu) != crees.end();
         for (const LienEvenement& enfant : liens) {
-            if (enfant.role != "CHIL") continue;
+            if (enfant.role != role::Enfant) continue;
             // Old pairs were settled when they were made.
             if (Contient(anciens, parent) && Contient(anciens, enfant)) continue;
             LierFamille(session, enfant.individu, cote, parent.individu, cree);

@@ -80,7 +80,7 @@ bool ListesEnMemoire::Contient(NoOrdre n, std::uint32_t element) const {
 FamilleEnMemoire::FamilleEnMemoire(storage::Base& base) {
     const NoOrdre individus{base.entete.DernierIndividu};
     const NoMariage mariages{base.entete.DernierMariage};
-    sexe_.assign(individus.valeur + 1ULL, ' ');
+    sexe_.assign(individus.valeur + 1ULL, Sexe::Vide);
     for (NoOrdre n{1}; n.valeur <= individus.valeur; ++n.valeur)
         sexe_[n.valeur] = base.R_SEXE.LireCellule(n);
     pere_ = Numeros(base.R_PERE, individus);

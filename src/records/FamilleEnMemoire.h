@@ -3,6 +3,7 @@
 #include "storage/Base.h"
 #include "values/Annees.h"
 #include "values/Numeros.h"
+#include "values/Sexe.h"
 
 #include <cstdint>
 #include <optional>
@@ -46,8 +47,8 @@ class FamilleEnMemoire {
 public:
     explicit FamilleEnMemoire(storage::Base& base);
 
-    [[nodiscard]] char Sexe(NoOrdre n) const {
-        return n.valeur < sexe_.size() ? sexe_[n.valeur] : ' ';
+    [[nodiscard]] Sexe SexeDe(NoOrdre n) const {
+        return n.valeur < sexe_.size() ? sexe_[n.valeur] : Sexe::Vide;
     }
     [[nodiscard]] NoOrdre Pere(NoOrdre n) const { return Lire<NoOrdre>(pere_, n.valeur); }
     [[nodiscard]] NoOrdre Mere(NoOrdre n) const { return Lire<NoOrdre>(mere_, n.valeur); }
@@ -71,7 +72,7 @@ private:
         return n < colonne.size() ? colonne[n] : vide_;
     }
 
-    std::vector<char> sexe_;
+    std::vector<Sexe> sexe_;
     std::vector<std::uint16_t> pere_;
     std::vector<std::uint16_t> mere_;
     std::vector<std::uint16_t> epoux_;

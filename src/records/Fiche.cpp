@@ -11,6 +11,7 @@
 #include "shell/Numerotation.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
+#include "values/Marqueurs.h"
 
 #include <algorithm>
 
@@ -123,14 +124,14 @@ private:
     }
 
     [[nodiscard]] bool ChangerSexe() {
-        const char ancien = base_.R_SEXE.LireCellule(n_);
-        const char nouveau = saisie_.sexe == 'H' || saisie_.sexe == 'F' ? saisie_.sexe : 'I';
+        const Sexe ancien = base_.R_SEXE.LireCellule(n_);
+        const Sexe nouveau = SexeLu(saisie_.sexe);
         if (ancien == nouveau) return true;
         // A cell left blank at the creation says the same as "I".
-        const bool meme = ancien != 'H' && ancien != 'F' && nouveau == 'I';
+        const bool meme = SexeLu(ancien) == nouveau;
         if (!meme && (base_.R_ENFANT.NbElements(n_) != 0 || base_.R_MARIAG.NbElements(n_) != 0)) {
             session_.dialogue.Informer(shell::Msg(message::SexeNonModifiable));
-            saisie_.sexe = ancien == 'H' || ancien == 'F' ? ancien : 'I';
+            saisie_.sexe = SexeLu(ancien);
             return false;
         }
         base_.R_SEXE.EcrireCellule(n_, nouveau);
@@ -152,7 +153,7 @@ private:
         base_.R_NOM.EcrireNom(n_, ComposerLigneNom(session_, saisie_));
         ecrit_ = true;
         if (!memes) RelegenderDeCujus();
-        if (base_.entete.TypeTri == '2') ReplacerDansTri(base_, n_, place_);
+        if (base_.entete.TypeTri == TypeTri::Nom) ReplacerDansTri(base_, n_, place_);
     }
 
     /// The menu shows the names of the two reference persons.
@@ -174,7 +175,7 @@ private:
             base_.R_NAISS.EcrireCellule(n_, annee);
             ecrit_ = true;
         }
-        if (base_.entete.TypeTri == '1') ReplacerDansTri(base_, n_, place_);
+        if (base_.entete.TypeTri == TypeTri::Naissance) ReplacerDansTri(base_, n_, place_);
     }
 
     void ChangerTexte() {
@@ -248,12 +249,11 @@ SaisieFiche ChargerFiche(shell::Session& session, NoOrdre individu) {
     fiche.jourMoisDeces = MontrerJourMois(session, ligne.jourMoisDeces);
     fiche.anneeNaissance = SansBlancs(base.R_NAISS.LireCellule(individu));
     fiche.anneeDeces = SansBlancs(base.R_DECES.LireCellule(individu));
-    const char sexe = base.R_SEXE.LireCellule(individu);
-    fiche.sexe = sexe == 'H' || sexe == 'F' ? sexe : 'I';
+    fiche.sexe = SexeLu(base.R_SEXE.LireCellule(individu));
     const std::string texte{base.R_TEXTE.LireTexte(individu)};
     const std::string_view premiere = std::string_view{texte}.substr(0, texte.find('\r'));
-    fiche.lieuNaissance = SansBlancs(storage::LireLieu(premiere, '$'));
-    fiche.lieuDeces = SansBlancs(storage::LireLieu(premiere, '~'));
+    fiche.lieuNaissance = SansBlancs(storage::LireLieu(premiere, marqueur::LieuNaissance));
+    fiche.lieuDeces = SansBlancs(storage::LireLieu(premiere, marqueur::LieuDeces));
     storage::TexteDecoupe decoupe = storage::DecouperTexte(texte, base.DefinitionIndividu());
     fiche.slots = Rangees(session, decoupe.slots);
     fiche.note = std::move(decoupe.note);
@@ -270,8 +270,9 @@ SaisieUnion ChargerUnion(shell::Session& session, NoMariage mariage) {
     fiche.fin = SansBlancs(base.R_FINMAR.LireCellule(mariage));
     const std::string texte{base.R_TXTMAR.LireTexte(mariage)};
     const std::string_view premiere = std::string_view{texte}.substr(0, texte.find('\r'));
-    fiche.jourMois = MontrerJourMois(session, premiere.substr(0, premiere.find('@')));
-    fiche.lieu = SansBlancs(storage::LireLieu(premiere, '@'));
+    fiche.jourMois =
+        MontrerJourMois(session, premiere.substr(0, premiere.find(marqueur::LieuMariage)));
+    fiche.lieu = SansBlancs(storage::LireLieu(premiere, marqueur::LieuMariage));
     storage::TexteDecoupe decoupe = storage::DecouperTexte(texte, base.DefinitionMariage());
     fiche.slots = Rangees(session, decoupe.slots);
     fiche.note = std::move(decoupe.note);

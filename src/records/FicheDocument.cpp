@@ -142,7 +142,7 @@ bool SupprimerDocument(shell::Session& session, NoDocument document) {
     for (const NoOrdre individu : usages.individus) {
         const std::vector<NoDocument> liste = base.R_LSTIMG.Elements(individu);
         for (auto fois = std::count(liste.begin(), liste.end(), document); fois > 0; --fois)
-            base.R_LSTIMG.ModifierListe(individu, document, 'S');
+            base.R_LSTIMG.ModifierListe(individu, document, storage::ActionListe::Supprimer);
     }
     for (const NoEvenement evenement : usages.evenements) {
         storage::PartiesEvt parties;

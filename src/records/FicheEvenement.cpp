@@ -96,7 +96,7 @@ bool RolesEnOrdre(shell::Session& session, const SaisieEvenement& saisie) {
 /// only; nothing more is looked for.
 void RetirerDesFiches(storage::Base& base, NoEvenement e) {
     for (const LienEvenement& lien : base.R_EVT.Liens(e))
-        base.R_LSTEVT.ModifierListe(lien.individu, e, 'S');
+        base.R_LSTEVT.ModifierListe(lien.individu, e, storage::ActionListe::Supprimer);
 }
 
 SaisieEvenement Lire(shell::Session& session, NoEvenement evenement) {

@@ -3,10 +3,11 @@
 #include "messages/Messages.h"
 #include "messages/Mots.h"
 #include "shell/Libelles.h"
-#include "shell/RelaisAvancement.h"
 #include "storage/Base.h"
 #include "storage/ConstruireIndex.h"
 #include "values/Comparaison.h"
+#include "values/Marqueurs.h"
+#include "values/SortesEvenement.h"
 #include "values/Texte1252.h"
 
 #include <algorithm>
@@ -21,18 +22,9 @@ namespace {
 constexpr std::size_t LibelleAuPlus = 34;
 /// What cannot be a code: it would be read as a word, a blank or an end of record.
 constexpr std::string_view Interdits = "-#0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ \xFF";
-constexpr std::string_view CodesFixes = "|¶$~@"_1252;
-
-constexpr std::array<std::string_view, 9> TagsReserves{"BIRN", "FNAM", "NAIS", "DEAT", "MARR",
-                                                       "BIRP", "DEAP", "NAIP", "MARP"};
-constexpr std::array<std::string_view, 27> TagsEvenements{
-    "ADOP", "BARM", "BASM", "BURI", "BURP", "CHR",  "CHRP", "CONF", "EMIG",
-    "IMMI", "NATU", "ORDN", "WILL", "MARL", "MARC", "ENGA", "DIV",  "DIVF",
-    "ANUL", "BLES", "CENS", "CREM", "ENDL", "FCOM", "MARB", "RETI", "LEGA"};
-
-bool EstFixe(char code) {
-    return CodesFixes.find(code) != std::string_view::npos;
-}
+/// Tags of names, dates and places that are no kind of event.
+constexpr std::array<std::string_view, 9> TagsReserves{
+    tag::Nom, tag::Prenom, "NAIS", tag::Deces, tag::Mariage, "BIRP", "DEAP", "NAIP", "MARP"};
 
 std::string Neutre(const shell::Session& session, std::string_view libelle) {
     libelle = SansBlancs(libelle);
@@ -42,7 +34,7 @@ std::string Neutre(const shell::Session& session, std::string_view libelle) {
 
 bool EstReserve(std::string_view tag) {
     return std::ranges::find(TagsReserves, tag) != TagsReserves.end() ||
-           std::ranges::find(TagsEvenements, tag) != TagsEvenements.end();
+           EstSorte(tag, UsageSorte::MotCle);
 }
 
 /// The lines of one label begin with it and a blank: the other must not begin so.
@@ -94,9 +86,12 @@ NoMotCle PlaceLibre(shell::Session& session) {
 
 /// Gives the keyword a word list of what the texts hold now. False when the user gave up.
 bool Indexer(shell::Session& session, NoMotCle mot) {
-    shell::RelaisAvancement avancement{session.progression, session.catalogue};
+    const std::string& tag = session.base->motsCles.LibelleType(mot).libelle;
+    const shell::CadreProgression cadre{
+        session.progression, shell::Litteral(shell::LibelleDeTag(session.catalogue, tag)),
+        shell::Msg(message::EtatIndexation)};
     const std::array types{mot};
-    return storage::ConstruireIndex(*session.base, types, avancement);
+    return storage::ConstruireIndex(*session.base, types, session.progression);
 }
 
 storage::Slots& TableDe(shell::Session& session, TableLignes table) {
@@ -127,8 +122,8 @@ LigneMotCle LigneDe(const shell::Session& session, NoMotCle k, const storage::Mo
             type.symbole,
             shell::LibelleDeTag(session.catalogue, type.libelle),
             type.indexe,
-            EstFixe(type.symbole),
-            std::ranges::find(TagsEvenements, type.libelle) != TagsEvenements.end()};
+            EstMarqueurFixe(type.symbole),
+            EstSorte(type.libelle, UsageSorte::MotCle)};
 }
 
 }  // namespace
@@ -175,10 +170,10 @@ bool ModifierMotCle(shell::Session& session, NoMotCle mot, const SaisieMotCle& s
         return Refuser(session, shell::Msg(message::CodePrisParAutreMotCle));
     const std::string libelle = Neutre(session, saisie.libelle);
     const std::string montre = shell::LibelleDeTag(session.catalogue, avant.libelle);
-    if (code != avant.symbole && EstFixe(avant.symbole))
+    if (code != avant.symbole && EstMarqueurFixe(avant.symbole))
         return Refuser(session, shell::Msg(message::MotCleReserve, montre));
     const bool orphelines = code != avant.symbole || libelle != avant.libelle;
-    if (orphelines && !EstFixe(avant.symbole) &&
+    if (orphelines && !EstMarqueurFixe(avant.symbole) &&
         !session.dialogue.Confirmer({.texte = shell::Msg(message::ConfirmerChangerMotCle, montre),
                                      .defaut = shell::Reponse::Non,
                                      .grave = true}))
@@ -199,7 +194,8 @@ bool SupprimerMotCle(shell::Session& session, NoMotCle mot) {
     const storage::MotCle type = session.base->motsCles.LibelleType(mot);
     if (type.libelle.empty()) return false;
     const std::string libelle = shell::LibelleDeTag(session.catalogue, type.libelle);
-    if (EstFixe(type.symbole)) return Refuser(session, shell::Msg(message::MotCleReserve, libelle));
+    if (EstMarqueurFixe(type.symbole))
+        return Refuser(session, shell::Msg(message::MotCleReserve, libelle));
     if (!session.dialogue.Confirmer(
             {.texte = shell::Msg(message::ConfirmerSupprimerMotCle, libelle),
              .titre = shell::Msg(message::TitreSuppression),
@@ -244,7 +240,7 @@ bool AjouterLigne(shell::Session& session, TableLignes table, NoMotCle mot, bool
     const storage::MotCle type = session.base->motsCles.LibelleType(mot);
     storage::Slots& slots = TableDe(session, table);
     const std::size_t nombre = storage::NbSlots(slots);
-    if (type.libelle.empty() || EstFixe(type.symbole) || nombre >= slots.size() ||
+    if (type.libelle.empty() || EstMarqueurFixe(type.symbole) || nombre >= slots.size() ||
         std::ranges::find(slots, type.symbole, &storage::Slot::symbole) != slots.end())
         return false;
     slots[nombre] = {type.symbole, datee ? '1' : ' '};

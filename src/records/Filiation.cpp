@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <unordered_set>
 #include <vector>
 
@@ -20,12 +21,12 @@ namespace {
 
 using shell::Msg;
 
-char SexeDe(storage::Base& base, NoOrdre n) {
+Sexe SexeDe(storage::Base& base, NoOrdre n) {
     return base.R_SEXE.LireCellule(n);
 }
 
-void EcrireParent(storage::Base& base, NoOrdre enfant, char cote, NoOrdre parent) {
-    (cote == 'H' ? base.R_PERE : base.R_MERE).EcrireCellule(enfant, parent);
+void EcrireParent(storage::Base& base, NoOrdre enfant, Cote cote, NoOrdre parent) {
+    (cote == Cote::Pere ? base.R_PERE : base.R_MERE).EcrireCellule(enfant, parent);
 }
 
 bool ListeALEnfant(storage::Base& base, NoOrdre parent, NoOrdre enfant) {
@@ -34,10 +35,10 @@ bool ListeALEnfant(storage::Base& base, NoOrdre parent, NoOrdre enfant) {
 }
 
 /// Why the person cannot become the parent; none when nothing stands in the way.
-NoMessage MotifContre(storage::Base& base, NoOrdre enfant, char cote, NoOrdre parent) {
+NoMessage MotifContre(storage::Base& base, NoOrdre enfant, Cote cote, NoOrdre parent) {
     if (!Existe(base, enfant) || !Existe(base, parent)) return message::PersonneAbsenteDeLaBase;
     if (enfant == parent) return message::PropreParent;
-    if (SexeDe(base, parent) == AutreCote(cote)) return message::SexeParentInadapte;
+    if (SexeDe(base, parent) == SexeDuCote(AutreCote(cote))) return message::SexeParentInadapte;
     if (EstAscendant(base, enfant, parent)) return message::ParentDescendDeLEnfant;
     if (base.R_ENFANT.NbElements(parent) >= storage::MaxElements &&
         !ListeALEnfant(base, parent, enfant))
@@ -47,13 +48,13 @@ NoMessage MotifContre(storage::Base& base, NoOrdre enfant, char cote, NoOrdre pa
 
 /// Asks whether `parent` is the parent of the child on a side where nobody stands, and makes the
 /// link. A question that could only have no for an answer is not asked.
-bool ProposerParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
+bool ProposerParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent) {
     const NoMessage motif = MotifContre(*session.base, enfant, cote, parent);
     if (motif && motif != message::MaximumEnfantsPersonneAtteint) return false;
-    if (!session.dialogue.Confirmer(Nommer(
-            session,
-            cote == 'H' ? message::DemanderSiEpouxEstLePere : message::DemanderSiEpouseEstLaMere,
-            enfant, parent)))
+    if (!session.dialogue.Confirmer(Nommer(session,
+                                           cote == Cote::Pere ? message::DemanderSiEpouxEstLePere
+                                                              : message::DemanderSiEpouseEstLaMere,
+                                           enfant, parent)))
         return false;
     if (!PeutEtreParent(session, enfant, cote, parent)) return false;
     LierParent(session, enfant, cote, parent);
@@ -61,16 +62,16 @@ bool ProposerParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre 
 }
 
 /// Who stands beside the person on the other side of a union; 0 for none.
-NoOrdre PartenaireDuCote(storage::Base& base, NoOrdre individu, char cote, NoMariage mariage) {
+NoOrdre PartenaireDuCote(storage::Base& base, NoOrdre individu, Cote cote, NoMariage mariage) {
     const NoOrdre epoux = base.R_EPOUX.LireCellule(mariage);
     const NoOrdre epouse = base.R_EPOUSE.LireCellule(mariage);
-    if (cote == 'H') return epoux == individu ? epouse : NoOrdre{};
+    if (cote == Cote::Pere) return epoux == individu ? epouse : NoOrdre{};
     return epouse == individu ? epoux : NoOrdre{};
 }
 
 /// For a child without a parent on the other side: the partners of `parent`, union by union, each
 /// asked for once.
-void ProposerPartenaires(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
+void ProposerPartenaires(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent) {
     storage::Base& base = *session.base;
     std::vector<NoOrdre> demandes;
     for (const NoMariage mariage : base.R_MARIAG.Elements(parent)) {
@@ -83,34 +84,31 @@ void ProposerPartenaires(shell::Session& session, NoOrdre enfant, char cote, NoO
 }
 
 /// Offers a union of both parents, who have none.
-void ProposerUnion(shell::Session& session, char cote, NoOrdre parent, NoOrdre autre) {
+void ProposerUnion(shell::Session& session, Cote cote, NoOrdre parent, NoOrdre autre) {
     if (!session.dialogue.Confirmer(Nommer(session, message::ProposerCreerUnion, autre))) return;
     if (!PeutUnir(session, parent, autre)) return;
-    if (cote == 'H')
+    if (cote == Cote::Pere)
         EcrireUnion(session, parent, autre);
     else
         EcrireUnion(session, autre, parent);
 }
 
-bool ConfirmerRetraitParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
-    return ConfirmerRetrait(
-        session,
-        Nommer(session, cote == 'H' ? message::ConfirmerRetirerPere : message::ConfirmerRetirerMere,
-               parent, enfant));
+bool ConfirmerRetraitParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent) {
+    return ConfirmerRetrait(session, Nommer(session,
+                                            cote == Cote::Pere ? message::ConfirmerRetirerPere
+                                                               : message::ConfirmerRetirerMere,
+                                            parent, enfant));
 }
 
 }  // namespace
 
-void MajEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant, ActionListe action) {
-    session.base->R_ENFANT.ModifierListe(parent, enfant, static_cast<char>(action));
+void MajEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant,
+               storage::ActionListe action) {
+    session.base->R_ENFANT.ModifierListe(parent, enfant, action);
 }
 
-NoOrdre LireParent(storage::Base& base, NoOrdre enfant, char cote) {
-    return (cote == 'H' ? base.R_PERE : base.R_MERE).LireCellule(enfant);
-}
-
-char AutreCote(char cote) {
-    return cote == 'H' ? 'F' : cote == 'F' ? 'H' : ' ';
+NoOrdre LireParent(storage::Base& base, NoOrdre enfant, Cote cote) {
+    return (cote == Cote::Pere ? base.R_PERE : base.R_MERE).LireCellule(enfant);
 }
 
 bool EstAscendant(storage::Base& base, NoOrdre ancetre, NoOrdre individu) {
@@ -119,7 +117,7 @@ bool EstAscendant(storage::Base& base, NoOrdre ancetre, NoOrdre individu) {
     while (!restants.empty()) {
         const NoOrdre n = restants.back();
         restants.pop_back();
-        for (const char cote : {'H', 'F'}) {
+        for (const Cote cote : Cotes) {
             const NoOrdre parent = LireParent(base, n, cote);
             if (!parent) continue;
             if (parent == ancetre) return true;
@@ -129,26 +127,26 @@ bool EstAscendant(storage::Base& base, NoOrdre ancetre, NoOrdre individu) {
     return false;
 }
 
-bool PeutEtreParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
+bool PeutEtreParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent) {
     const NoMessage motif = MotifContre(*session.base, enfant, cote, parent);
     return !motif || Refuser(session, Nommer(session, motif, parent, enfant));
 }
 
-void LierParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
+void LierParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent) {
     storage::Base& base = *session.base;
     const NoOrdre ancien = LireParent(base, enfant, cote);
-    if (ancien) MajEnfant(session, ancien, enfant, ActionListe::Supprimer);
+    if (ancien) MajEnfant(session, ancien, enfant, storage::ActionListe::Supprimer);
     // A damaged base may hold the child in the list without the cell: it must not stand there
     // twice.
-    MajEnfant(session, parent, enfant, ActionListe::Supprimer);
+    MajEnfant(session, parent, enfant, storage::ActionListe::Supprimer);
     EcrireParent(base, enfant, cote, parent);
-    MajEnfant(session, parent, enfant, ActionListe::Ajouter);
+    MajEnfant(session, parent, enfant, storage::ActionListe::Ajouter);
 }
 
-bool DonnerParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
+bool DonnerParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent) {
     storage::Base& base = *session.base;
     if (!PeutEtreParent(session, enfant, cote, parent)) return false;
-    if (SexeDe(base, parent) != cote)
+    if (SexeDe(base, parent) != SexeDuCote(cote))
         return Refuser(session, Nommer(session, message::SexeParentInadapte, parent));
     LierParent(session, enfant, cote, parent);
     const NoOrdre autre = LireParent(base, enfant, AutreCote(cote));
@@ -160,7 +158,7 @@ bool DonnerParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre pa
     return true;
 }
 
-bool ParentCree(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
+bool ParentCree(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent) {
     if (!PeutEtreParent(session, enfant, cote, parent)) return false;
     LierParent(session, enfant, cote, parent);
     const NoOrdre autre = LireParent(*session.base, enfant, AutreCote(cote));
@@ -170,17 +168,17 @@ bool ParentCree(shell::Session& session, NoOrdre enfant, char cote, NoOrdre pare
     return true;
 }
 
-bool RetirerParent(shell::Session& session, NoOrdre enfant, char cote) {
+bool RetirerParent(shell::Session& session, NoOrdre enfant, Cote cote) {
     const NoOrdre parent = LireParent(*session.base, enfant, cote);
     if (!parent || !ConfirmerRetraitParent(session, enfant, cote, parent)) return false;
-    MajEnfant(session, parent, enfant, ActionListe::Supprimer);
+    MajEnfant(session, parent, enfant, storage::ActionListe::Supprimer);
     EcrireParent(*session.base, enfant, cote, {});
     return true;
 }
 
 bool PeutAvoirEnfant(shell::Session& session, NoOrdre parent, NoMariage mariage) {
     storage::Base& base = *session.base;
-    if (AutreCote(SexeDe(base, parent)) == ' ')
+    if (!EstConnu(SexeDe(base, parent)))
         return Refuser(session, Msg(message::SexeRequisPourRattacherEnfant));
     const NoOrdre partenaire = mariage ? PartenaireDe(base, parent, mariage) : NoOrdre{};
     for (const NoOrdre n : {parent, partenaire})
@@ -189,7 +187,7 @@ bool PeutAvoirEnfant(shell::Session& session, NoOrdre parent, NoMariage mariage)
     return true;
 }
 
-bool ConfirmerRemplacement(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent) {
+bool ConfirmerRemplacement(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent) {
     const NoOrdre ancien = LireParent(*session.base, enfant, cote);
     if (!ancien || ancien == parent) return true;
     shell::Phrase texte = Nommer(session, message::ConfirmerRemplacerParent, enfant);
@@ -200,9 +198,9 @@ bool ConfirmerRemplacement(shell::Session& session, NoOrdre enfant, char cote, N
 
 bool AttacherEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant) {
     storage::Base& base = *session.base;
-    const char cote = SexeDe(base, parent);
-    if (AutreCote(cote) == ' ')
-        return Refuser(session, Msg(message::SexeRequisPourRattacherEnfant));
+    const std::optional<Cote> sien = CoteDuSexe(SexeDe(base, parent));
+    if (!sien) return Refuser(session, Msg(message::SexeRequisPourRattacherEnfant));
+    const Cote cote = *sien;
     const NoOrdre ancien = LireParent(base, enfant, cote);
     if (ancien == parent && ListeALEnfant(base, parent, enfant))
         return Refuser(session, Nommer(session, message::InfoDejaEnfant, enfant, parent));
@@ -216,29 +214,28 @@ bool AttacherEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant) {
 bool EnfantCree(shell::Session& session, NoOrdre parent, NoOrdre enfant, NoMariage mariage) {
     storage::Base& base = *session.base;
     if (!PeutAvoirEnfant(session, parent, mariage)) return false;
-    const char cote = SexeDe(base, parent);
+    const Cote cote = CoteDuSexe(SexeDe(base, parent)).value();
     if (!PeutEtreParent(session, enfant, cote, parent)) return false;
     const NoOrdre autre = mariage ? PartenaireDuCote(base, parent, cote, mariage) : NoOrdre{};
     LierParent(session, enfant, cote, parent);
     if (autre && PeutEtreParent(session, enfant, AutreCote(cote), autre))
         LierParent(session, enfant, AutreCote(cote), autre);
-    for (const char c : {'H', 'F'})
+    for (const Cote c : Cotes)
         if (const NoOrdre n = LireParent(base, enfant, c)) AvertirDeces(session, n, enfant);
     return true;
 }
 
 bool RetirerEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant) {
     storage::Base& base = *session.base;
-    const bool pere = LireParent(base, enfant, 'H') == parent;
-    const bool mere = LireParent(base, enfant, 'F') == parent;
+    const bool pere = LireParent(base, enfant, Cote::Pere) == parent;
+    const bool mere = LireParent(base, enfant, Cote::Mere) == parent;
     // Whose cell names no such parent is taken out of the list all the same.
     if (!pere && !mere && !ListeALEnfant(base, parent, enfant)) return false;
-    const char cote = pere && (SexeDe(base, parent) == 'H' || !mere) ? 'H'
-                      : mere                                         ? 'F'
-                                                                     : SexeDe(base, parent);
+    const bool homme = SexeDe(base, parent) == Sexe::Homme;
+    const Cote cote = (pere && !mere) || (pere == mere && homme) ? Cote::Pere : Cote::Mere;
     if (!ConfirmerRetraitParent(session, enfant, cote, parent)) return false;
     if (pere || mere) EcrireParent(base, enfant, cote, {});
-    MajEnfant(session, parent, enfant, ActionListe::Supprimer);
+    MajEnfant(session, parent, enfant, storage::ActionListe::Supprimer);
     return true;
 }
 
@@ -249,7 +246,7 @@ void AvertirDeces(shell::Session& session, NoOrdre parent, NoOrdre enfant) {
         session.dialogue.Informer(Msg(message::DecesParentAvantNaissanceEnfant));
 }
 
-void ProposerEnfants(shell::Session& session, NoOrdre autre, char cote, NoOrdre parent,
+void ProposerEnfants(shell::Session& session, NoOrdre autre, Cote cote, NoOrdre parent,
                      bool avertir) {
     if (!autre) return;
     storage::Base& base = *session.base;

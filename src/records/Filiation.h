@@ -1,6 +1,8 @@
 #pragma once
 
+#include "storage/ActionListe.h"
 #include "values/Numeros.h"
+#include "values/Sexe.h"
 
 namespace dorvane::shell {
 class Session;
@@ -16,23 +18,16 @@ namespace dorvane::records {
 /// child, the list of children of the parent. Every operation keeps both in step, also at the
 /// moment of each question that it asks through the dialogue of the session.
 ///
-/// A side is named by the sex that it asks for: 'H' is the father's, 'F' the mother's.
-///
 /// Operations that answer a `bool`: false when nothing was written, because it was refused, which
 /// has been told, or because the user said no. A base is open.
 
-/// What happens to an entry of a list.
-enum class ActionListe : char { Ajouter = 'A', Supprimer = 'S' };
-
 /// Puts the child into the list of a parent, by year of birth and behind equal years, or takes it
 /// out. The cell of the child, and the limit of 200, are the caller's.
-void MajEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant, ActionListe action);
+void MajEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant,
+               storage::ActionListe action);
 
 /// The parent of a child on a side; 0 for none.
-[[nodiscard]] NoOrdre LireParent(storage::Base& base, NoOrdre enfant, char cote);
-
-/// 'H' for 'F' and the other way round; a blank for any other sex.
-[[nodiscard]] char AutreCote(char cote);
+[[nodiscard]] NoOrdre LireParent(storage::Base& base, NoOrdre enfant, Cote cote);
 
 /// `ancetre` stands somewhere above `individu`. A base that is damaged may go in circles: each
 /// person is looked at once.
@@ -40,24 +35,24 @@ void MajEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant, ActionLi
 
 /// `parent` may become the parent of `enfant` on this side: a person of that sex, not the child
 /// itself nor a descendant of it, with room in the list. Else the reason is told.
-[[nodiscard]] bool PeutEtreParent(shell::Session& session, NoOrdre enfant, char cote,
+[[nodiscard]] bool PeutEtreParent(shell::Session& session, NoOrdre enfant, Cote cote,
                                   NoOrdre parent);
 
 /// Writes both sides of a link that `PeutEtreParent` allows, and takes the child out of the list of
 /// the parent who stood there. Asks nothing.
-void LierParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent);
+void LierParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent);
 
 /// Gives the child a parent who was chosen among the persons of the base (`C_Rechpère`,
 /// `C_Rechmère`): replaces the one who stands there, offers a union with the other parent, the
 /// partners of the chosen one as other parent, and the children of the other parent to the chosen.
-[[nodiscard]] bool DonnerParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent);
+[[nodiscard]] bool DonnerParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent);
 
 /// The same for a parent who has just been created for this child (`CmdCréPère`, `CmdCréMère`):
 /// warns of a death before a birth.
-[[nodiscard]] bool ParentCree(shell::Session& session, NoOrdre enfant, char cote, NoOrdre parent);
+[[nodiscard]] bool ParentCree(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent);
 
 /// Takes the parent of a side away, after a question (`C_Spère`, `C_Smère`). False without one.
-[[nodiscard]] bool RetirerParent(shell::Session& session, NoOrdre enfant, char cote);
+[[nodiscard]] bool RetirerParent(shell::Session& session, NoOrdre enfant, Cote cote);
 
 /// A child may be given to the person, and to the partner of the union when one is named: asked
 /// before the search or the creation of the child, and told when not.
@@ -65,7 +60,7 @@ void LierParent(shell::Session& session, NoOrdre enfant, char cote, NoOrdre pare
 
 /// Asks before a child who has another parent on that side loses it to `parent`; true where it has
 /// none.
-[[nodiscard]] bool ConfirmerRemplacement(shell::Session& session, NoOrdre enfant, char cote,
+[[nodiscard]] bool ConfirmerRemplacement(shell::Session& session, NoOrdre enfant, Cote cote,
                                          NoOrdre parent);
 
 /// Gives the person a child who was chosen among the persons of the base (`CmdRechEnft`): asks
@@ -87,7 +82,7 @@ void AvertirDeces(shell::Session& session, NoOrdre parent, NoOrdre enfant);
 /// Asks, child by child, whether `parent` is the parent on this side of those children of `autre`
 /// who have none there, and links the ones for whom the user says yes. `avertir`: each of them
 /// gets the warning of `AvertirDeces`.
-void ProposerEnfants(shell::Session& session, NoOrdre autre, char cote, NoOrdre parent,
+void ProposerEnfants(shell::Session& session, NoOrdre autre, Cote cote, NoOrdre parent,
                      bool avertir);
 
 }  // namespace dorvane::records

@@ -36,7 +36,7 @@ void Vider(storage::Base& base, NoOrdre n, std::uint32_t rang) {
     base.R_INDEX.MajIndex(n, std::string{base.R_TEXTE.LireTexte(n)}, {});
     base.R_TEXTE.EcrireTexte(n, {});
     base.R_NOM.EcrireNom(n, {});
-    base.R_SEXE.EcrireCellule(n, ' ');
+    base.R_SEXE.EcrireCellule(n, Sexe::Vide);
     base.R_ENFANT.EcrireListe(n, {});
     base.R_MARIAG.EcrireListe(n, {});
     base.R_LSTIMG.EcrireListe(n, {});
@@ -45,7 +45,7 @@ void Vider(storage::Base& base, NoOrdre n, std::uint32_t rang) {
     if (rang == 0) {
         base.R_TRI.RetirerIndividu(n);
     } else {
-        base.R_TRI.ModifierTri(rang, n, 'S');
+        base.R_TRI.ModifierTri(rang, n, storage::ActionListe::Supprimer);
         base.entete.NbTriIndividus = base.R_TRI.individus.Taille();
     }
     base.marques.ModifTriIndividus = true;
@@ -67,7 +67,7 @@ void EcrireNouveau(shell::Session& session, const SaisieFiche& saisie) {
     storage::Base& base = *session.base;
     const NoOrdre n = saisie.individu;
     base.R_NOM.EcrireNom(n, ComposerLigneNom(session, saisie));
-    base.R_SEXE.EcrireCellule(n, saisie.sexe == 'H' || saisie.sexe == 'F' ? saisie.sexe : ' ');
+    base.R_SEXE.EcrireCellule(n, EstConnu(saisie.sexe) ? saisie.sexe : Sexe::Vide);
     base.R_NAISS.EcrireCellule(n, CelluleDe(saisie.anneeNaissance));
     base.R_DECES.EcrireCellule(n, CelluleDe(saisie.anneeDeces));
     base.R_PERE.EcrireCellule(n, {});

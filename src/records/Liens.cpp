@@ -78,8 +78,8 @@ bool AjouterLien(shell::Session& session, NoOrdre individu, NoOrdre autre,
     for (const auto& [n, present] : {std::pair{individu, ici}, std::pair{autre, labas}})
         if (!present && base.R_LIEN.NbElements(n) >= storage::MaxElements)
             return Refuser(session, Nommer(session, message::MaximumLiensPersonneAtteint, n));
-    if (!ici) base.R_LIEN.ModifierListe(individu, autre, 'A', stocke);
-    if (!labas) base.R_LIEN.ModifierListe(autre, individu, 'A', stocke);
+    if (!ici) base.R_LIEN.ModifierListe(individu, autre, storage::ActionListe::Ajouter, stocke);
+    if (!labas) base.R_LIEN.ModifierListe(autre, individu, storage::ActionListe::Ajouter, stocke);
     return true;
 }
 
@@ -92,7 +92,7 @@ bool ChangerLien(shell::Session& session, NoOrdre individu, std::size_t rang,
     if (stocke == base.R_LIEN.TexteElement(individu, rang)) return false;
     if (RangLien(base, individu, autre, stocke) != 0)
         return Refuser(session, Nommer(session, message::InfoDejaLies, individu, autre));
-    base.R_LIEN.ModifierListe(individu, NoOrdre{static_cast<std::uint32_t>(rang)}, 'M', stocke);
+    base.R_LIEN.ChangerTexte(individu, rang, stocke);
     return true;
 }
 
@@ -104,8 +104,8 @@ bool RetirerLien(shell::Session& session, NoOrdre individu, std::size_t rang) {
     shell::Phrase perte = Nommer(session, message::ConfirmerSupprimerLien, {}, autre);
     perte.valeur = shell::LibelleDeTag(session.catalogue, stocke);
     if (!ConfirmerRetrait(session, perte)) return false;
-    base.R_LIEN.ModifierListe(individu, autre, 'S', stocke);
-    base.R_LIEN.ModifierListe(autre, individu, 'S', stocke);
+    base.R_LIEN.ModifierListe(individu, autre, storage::ActionListe::Supprimer, stocke);
+    base.R_LIEN.ModifierListe(autre, individu, storage::ActionListe::Supprimer, stocke);
     return true;
 }
 

@@ -13,6 +13,7 @@
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
+#include "values/SortesEvenement.h"
 #include "values/TexteRiche.h"
 
 #include <initializer_list>
@@ -62,17 +63,17 @@ private:
     }
 
     void LirePersonne() {
-        const char sexe = base_.R_SEXE.LireCellule(n_);
-        const NoMessage messageSexe = sexe == 'H'   ? message::SexeMasculin
-                                      : sexe == 'F' ? message::SexeFeminin
-                                                    : message::SexeIndetermine;
+        const Sexe sexe = base_.R_SEXE.LireCellule(n_);
+        const NoMessage messageSexe = sexe == Sexe::Homme   ? message::SexeMasculin
+                                      : sexe == Sexe::Femme ? message::SexeFeminin
+                                                            : message::SexeIndetermine;
         Ajouter(session_.Message(message::Personne),
                 Enumerer({session_.catalogue.Composer(
                               shell::Msg(message::NumeroDePersonne, std::to_string(n_.valeur))),
                           session_.Message(messageSexe)}));
-        Ajouter(Libelle("BIRT"),
+        Ajouter(Libelle(tag::Naissance),
                 Enumerer({DateNaissance(session_, n_), storage::LieuNaissance(base_, n_)}));
-        Ajouter(Libelle("DEAT"),
+        Ajouter(Libelle(tag::Deces),
                 Enumerer({DateDeces(session_, n_), storage::LieuDeces(base_, n_)}));
         AjouterRangees(base_.DefinitionIndividu(), storage::SlotsDe(base_, n_));
     }
@@ -88,8 +89,8 @@ private:
     void LireParents() {
         const NoOrdre pere = base_.R_PERE.LireCellule(n_);
         const NoOrdre mere = base_.R_MERE.LireCellule(n_);
-        if (pere) Ajouter(Libelle("FATH"), NomEtDates(session_, pere), pere);
-        if (mere) Ajouter(Libelle("MOTH"), NomEtDates(session_, mere), mere);
+        if (pere) Ajouter(Libelle(role::Pere), NomEtDates(session_, pere), pere);
+        if (mere) Ajouter(Libelle(role::Mere), NomEtDates(session_, mere), mere);
     }
 
     void LireUnions() {

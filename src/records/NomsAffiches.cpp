@@ -5,6 +5,7 @@
 #include "storage/Base.h"
 #include "values/Comparaison.h"
 #include "values/FormesNom.h"
+#include "values/SortesEvenement.h"
 
 namespace dorvane::records {
 
@@ -32,17 +33,17 @@ void ValeursDe(shell::Session& session, NoOrdre n, std::string_view jeton,
     const auto nomDuParent = [&base, &sortie](NoOrdre parent) {
         if (parent) sortie(base.R_NOM.LireNom(parent).nom);
     };
-    if (jeton == "FNAM") {
+    if (jeton == tag::Prenom) {
         sortie(base.R_NOM.LireNom(n).prenom);
-    } else if (jeton == "BIRN") {
+    } else if (jeton == tag::Nom) {
         sortie(base.R_NOM.LireNom(n).nom);
-    } else if (jeton == "OFNM") {
+    } else if (jeton == tag::AutresPrenoms) {
         sortie(base.R_NOM.LireNom(n).autrePrenom);
-    } else if (jeton == "FATN") {
+    } else if (jeton == tag::NomDuPere) {
         nomDuParent(base.R_PERE.LireCellule(n));
-    } else if (jeton == "MOTN") {
+    } else if (jeton == tag::NomDeLaMere) {
         nomDuParent(base.R_MERE.LireCellule(n));
-    } else if (jeton == "NUMB") {
+    } else if (jeton == tag::Numeros) {
         AjouterNumero(session, n, 1, sortie);
         AjouterNumero(session, n, 2, sortie);
     } else {
@@ -89,9 +90,10 @@ std::string DatesDeVie(shell::Session& session, NoOrdre n) {
 
 std::string NumerosAffiches(shell::Session& session, NoOrdre n) {
     if (!Existe(session, n)) return {};
-    return ComposerNom({"NUMB"}, [&session, n](std::string_view jeton, const SortieValeur& sortie) {
-        ValeursDe(session, n, jeton, sortie);
-    });
+    return ComposerNom({std::string{tag::Numeros}},
+                       [&session, n](std::string_view jeton, const SortieValeur& sortie) {
+                           ValeursDe(session, n, jeton, sortie);
+                       });
 }
 
 std::string ValeurMotCle(shell::Session& session, NoOrdre n, std::string_view tag) {

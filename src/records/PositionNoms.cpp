@@ -12,8 +12,9 @@ namespace dorvane::records {
 std::size_t PositionDans(storage::Base& base, const std::vector<NoOrdre>& personnes,
                          std::string_view texte) {
     texte = SansBlancs(texte);
-    const bool parAnnee = base.entete.TypeTri == '1';
-    if (personnes.empty() || texte.empty() || (!parAnnee && base.entete.TypeTri != '2')) return 0;
+    const bool parAnnee = base.entete.TypeTri == TypeTri::Naissance;
+    if (personnes.empty() || texte.empty() || (!parAnnee && base.entete.TypeTri != TypeTri::Nom))
+        return 0;
     // Both keys begin with what is looked for: the year, or the folded name.
     const QuatreOctets annee = AnneeTri(texte);
     const std::string cherche = parAnnee ? std::string{TexteDe(annee)} : Replie(texte);

@@ -14,8 +14,8 @@ void ReclasserEnfant(storage::Base& base, NoOrdre parent, NoOrdre enfant) {
     if (std::find(enfants.begin(), enfants.end(), enfant) == enfants.end() &&
         enfants.size() >= storage::MaxElements)
         return;
-    base.R_ENFANT.ModifierListe(parent, enfant, 'S');
-    base.R_ENFANT.ModifierListe(parent, enfant, 'A');
+    base.R_ENFANT.ModifierListe(parent, enfant, storage::ActionListe::Supprimer);
+    base.R_ENFANT.ModifierListe(parent, enfant, storage::ActionListe::Ajouter);
 }
 
 }  // namespace
@@ -27,7 +27,7 @@ PlaceTri LirePlaceTri(storage::Base& base, NoOrdre n) {
 void ReplacerDansTri(storage::Base& base, NoOrdre n, const PlaceTri& place) {
     if (base.R_TRI.CleDe(n) == place.cle) return;
     if (place.rang != 0) {
-        base.R_TRI.ModifierTri(place.rang, n, 'S');
+        base.R_TRI.ModifierTri(place.rang, n, storage::ActionListe::Supprimer);
         base.entete.NbTriIndividus = base.R_TRI.individus.Taille();
     } else {
         base.R_TRI.RetirerIndividu(n);

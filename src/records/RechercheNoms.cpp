@@ -93,12 +93,4 @@ bool Rechercher(RechercheNoms& recherche, shell::Session& session, std::string_v
     return true;
 }
 
-bool PeutChercherParente(shell::Session& session, const std::vector<NoOrdre>& selection) {
-    if (session.BaseOuverte() && selection.size() >= 2) return true;
-    session.dialogue.Informer(shell::Msg(session.BaseOuverte()
-                                             ? message::SelectionDeMoinsDeDeuxPersonnes
-                                             : message::OperationImpossible));
-    return false;
-}
-
 }  // namespace dorvane::records

@@ -58,9 +58,4 @@ private:
 bool Rechercher(RechercheNoms& recherche, shell::Session& session, std::string_view texte,
                 bool cumul, const std::function<void()>& montrer);
 
-/// The relationship of the persons of a selection may be looked for: a base is open, and they are
-/// at least two. Else the reason is told.
-[[nodiscard]] bool PeutChercherParente(shell::Session& session,
-                                       const std::vector<NoOrdre>& selection);
-
 }  // namespace dorvane::records

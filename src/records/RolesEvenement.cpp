@@ -3,6 +3,7 @@
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "values/MotsDates.h"
+#include "values/SortesEvenement.h"
 
 #include <algorithm>
 #include <optional>
@@ -19,7 +20,7 @@ bool Tenu(const SaisieEvenement& saisie, const std::string& role) {
 }
 
 bool SexeConvient(shell::Session& session, const RoleEvenement& role, NoOrdre individu) {
-    return role.sexe == ' ' || session.base->R_SEXE.LireCellule(individu) == role.sexe;
+    return role.sexe == Sexe::Vide || session.base->R_SEXE.LireCellule(individu) == role.sexe;
 }
 
 }  // namespace
@@ -31,7 +32,7 @@ std::vector<RoleEvenement> RolesDe(shell::Session& session, const SaisieEvenemen
                                                             [&lien](const RoleEvenement& role) {
                                                                 return role.label == lien.role;
                                                             });
-        if (!connu) roles.push_back({false, ' ', lien.role});
+        if (!connu) roles.push_back({false, Sexe::Vide, lien.role});
     }
     return roles;
 }
@@ -70,9 +71,11 @@ SaisieFiche DepartDePersonne(shell::Session& session, const SaisieEvenement& sai
                              std::string_view role) {
     SaisieFiche depart;
     for (const RoleEvenement& candidat : session.parametres.RolesEvenement(saisie.type))
-        if (candidat.label == role && candidat.sexe != ' ') depart.sexe = candidat.sexe;
+        if (candidat.label == role && candidat.sexe != Sexe::Vide) depart.sexe = candidat.sexe;
     // Father and child bear one name.
-    const std::string_view parent = role == "FATH" ? "CHIL" : role == "CHIL" ? "FATH" : "";
+    const std::string_view parent = role == role::Pere     ? role::Enfant
+                                    : role == role::Enfant ? role::Pere
+                                                           : std::string_view{};
     for (const LienEvenement& lien : saisie.liens)
         if (!parent.empty() && lien.role == parent && depart.nom.empty())
             depart.nom = session.base->R_NOM.NomDe(lien.individu);

@@ -2,6 +2,7 @@
 
 #include "storage/Slots.h"
 #include "values/Numeros.h"
+#include "values/Sexe.h"
 
 #include <array>
 #include <cstddef>
@@ -39,8 +40,8 @@ struct SaisieFiche {
     std::string nom;
     std::string prenom;
     std::string autrePrenom;
-    /// 'H', 'F', or 'I' for not determined.
-    char sexe = 'I';
+    /// One of the three that a sheet shows, never `Vide`.
+    Sexe sexe = Sexe::Indetermine;
     std::string jourMoisNaissance;
     std::string anneeNaissance;
     std::string lieuNaissance;

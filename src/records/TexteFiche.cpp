@@ -7,6 +7,7 @@
 #include "values/Annees.h"
 #include "values/Comparaison.h"
 #include "values/Dates.h"
+#include "values/Marqueurs.h"
 #include "values/MotsDates.h"
 #include "values/Noms.h"
 #include "values/Texte1252.h"
@@ -124,21 +125,31 @@ bool PorteMotDeDate(std::string_view stocke) {
                        [stocke](std::string_view mot) { return stocke.starts_with(mot); });
 }
 
+/// The marks of a line of a person: none may stand inside one of its names.
+constexpr char MarquesLigne[] = {marqueur::Nom, marqueur::Prenom, marqueur::LieuNaissance,
+                                 marqueur::LieuDeces};
+constexpr std::string_view MarquesDuNom{MarquesLigne, sizeof MarquesLigne};
+
+/// A word behind its mark, parted from what stands before; nothing for no word.
+void AjouterMarque(std::string& texte, char marque, std::string_view mot) {
+    if (!mot.empty()) texte.append(1, ' ').append(1, marque).append(mot);
+}
+
 }  // namespace
 
 std::string ComposerTexteIndividu(shell::Session& session, const SaisieFiche& saisie) {
     storage::Base& base = *session.base;
-    constexpr std::string_view Marques = "|¶$~"_1252;
     const std::string nom = UneLigne(saisie.nom);
     const std::string cle = CleNom(nom.substr(0, nom.find(';')), session.Regles());
     const std::string prenom = CleDePrenom(base, UneLigne(saisie.prenom));
     const std::string naissance = BlancsEnPoints(UneLigne(saisie.lieuNaissance));
     const std::string deces = BlancsEnPoints(UneLigne(saisie.lieuDeces));
     std::string texte;
-    if (!cle.empty()) texte.append("|").append(SansMarques(cle, Marques));
-    if (!prenom.empty()) texte.append(" ¶"_1252).append(SansMarques(prenom, Marques));
-    if (!naissance.empty()) texte.append(" $").append(SansMarques(naissance, "~"));
-    if (!deces.empty()) texte.append(" ~").append(SansMarques(deces, "$"));
+    if (!cle.empty()) texte.append(1, marqueur::Nom).append(SansMarques(cle, MarquesDuNom));
+    AjouterMarque(texte, marqueur::Prenom, SansMarques(prenom, MarquesDuNom));
+    AjouterMarque(texte, marqueur::LieuNaissance,
+                  SansMarques(naissance, {&marqueur::LieuDeces, 1}));
+    AjouterMarque(texte, marqueur::LieuDeces, SansMarques(deces, {&marqueur::LieuNaissance, 1}));
     AjouterSlots(texte, session, saisie.slots, base.DefinitionIndividu(),
                  base.R_TEXTE.LireTexte(saisie.individu));
     AjouterNote(texte, saisie.note);
@@ -149,9 +160,9 @@ std::string ComposerTexteMariage(shell::Session& session, const SaisieUnion& sai
     storage::Base& base = *session.base;
     std::string texte = SansMarques(
         GarderJourMois(session, saisie.jourMois, storage::DateMariageBrute(base, saisie.mariage)),
-        "@");
+        {&marqueur::LieuMariage, 1});
     const std::string lieu = BlancsEnPoints(UneLigne(saisie.lieu));
-    if (!lieu.empty()) texte.append(" @").append(lieu);
+    AjouterMarque(texte, marqueur::LieuMariage, lieu);
     AjouterSlots(texte, session, saisie.slots, base.DefinitionMariage(),
                  base.R_TXTMAR.LireTexte(saisie.mariage));
     AjouterNote(texte, saisie.note);

@@ -26,7 +26,7 @@ shell::Phrase TexteTitre(shell::Session& session, const Choix& choix) {
     const std::string nom = NomAffiche(session, choix.Demande().reference);
     switch (choix.Demande().sorte) {
         case SorteChoix::Parent:
-            return Msg(choix.Demande().sexe == 'H' ? message::TitreChercherPere
+            return Msg(choix.Demande().sexe == Sexe::Homme ? message::TitreChercherPere
                                                    : message::TitreChercherMere,
                        nom);
         case SorteChoix::Enfant:

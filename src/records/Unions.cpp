@@ -18,7 +18,7 @@ namespace {
 using shell::Msg;
 
 bool SexeConnu(storage::Base& base, NoOrdre individu) {
-    return AutreCote(base.R_SEXE.LireCellule(individu)) != ' ';
+    return EstConnu(base.R_SEXE.LireCellule(individu));
 }
 
 bool APlace(shell::Session& session, NoOrdre individu) {
@@ -28,8 +28,9 @@ bool APlace(shell::Session& session, NoOrdre individu) {
 
 }  // namespace
 
-void MajMariage(shell::Session& session, NoOrdre individu, NoMariage mariage, ActionListe action) {
-    session.base->R_MARIAG.ModifierListe(individu, mariage, static_cast<char>(action));
+void MajMariage(shell::Session& session, NoOrdre individu, NoMariage mariage,
+                storage::ActionListe action) {
+    session.base->R_MARIAG.ModifierListe(individu, mariage, action);
     session.base->marques.AffichagePerime = true;
 }
 
@@ -67,8 +68,8 @@ NoMariage EcrireUnion(shell::Session& session, NoOrdre epoux, NoOrdre epouse) {
     base.R_DEBMAR.EcrireCellule(mariage, {});
     base.R_FINMAR.EcrireCellule(mariage, {});
     base.R_TXTMAR.EcrireTexte(mariage, {});
-    MajMariage(session, epoux, mariage, ActionListe::Ajouter);
-    MajMariage(session, epouse, mariage, ActionListe::Ajouter);
+    MajMariage(session, epoux, mariage, storage::ActionListe::Ajouter);
+    MajMariage(session, epouse, mariage, storage::ActionListe::Ajouter);
     return mariage;
 }
 
@@ -77,9 +78,10 @@ NoMariage CreerUnion(shell::Session& session, NoOrdre individu, NoOrdre partenai
     if (!PeutAvoirConjoint(session, individu, Provenance::Cherche) ||
         !PeutUnir(session, individu, partenaire))
         return {};
-    const char cote = base.R_SEXE.LireCellule(individu);
-    const NoMariage mariage = cote == 'H' ? EcrireUnion(session, individu, partenaire)
-                                          : EcrireUnion(session, partenaire, individu);
+    // `PeutAvoirConjoint` has asked for a known sex.
+    const Cote cote = CoteDuSexe(base.R_SEXE.LireCellule(individu)).value();
+    const NoMariage mariage = cote == Cote::Pere ? EcrireUnion(session, individu, partenaire)
+                                                 : EcrireUnion(session, partenaire, individu);
     if (!mariage) return {};
     ProposerEnfants(session, individu, AutreCote(cote), partenaire, false);
     ProposerEnfants(session, partenaire, cote, individu, false);
@@ -103,7 +105,7 @@ bool RetirerUnion(shell::Session& session, NoMariage mariage) {
     base.R_EPOUX.EcrireCellule(mariage, {});
     base.R_EPOUSE.EcrireCellule(mariage, {});
     for (const NoOrdre n : {epoux, epouse})
-        if (n) MajMariage(session, n, mariage, ActionListe::Supprimer);
+        if (n) MajMariage(session, n, mariage, storage::ActionListe::Supprimer);
     return true;
 }
 

@@ -16,7 +16,8 @@ namespace dorvane::records {
 
 /// Puts the union at the end of the list of a person, or takes it out. The cells of the union, and
 /// the limit of 200, are the caller's.
-void MajMariage(shell::Session& session, NoOrdre individu, NoMariage mariage, ActionListe action);
+void MajMariage(shell::Session& session, NoOrdre individu, NoMariage mariage,
+                storage::ActionListe action);
 
 /// Where a partner comes from, which says how the refusal is worded.
 enum class Provenance { Cherche, Cree };

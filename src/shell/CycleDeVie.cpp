@@ -4,7 +4,6 @@
 #include "messages/Messages.h"
 #include "shell/CycleInterne.h"
 #include "shell/Numerotation.h"
-#include "shell/RelaisAvancement.h"
 #include "storage/Base.h"
 #include "values/Texte1252.h"
 
@@ -157,8 +156,7 @@ Issue OuvrirBase(Session& session) {
     {
         const Attente attente{session.progression};
         session.PoserBase(nullptr);
-        RelaisAvancement avancement{session.progression, session.catalogue};
-        resultat = storage::OuvrirBase(session.disque, session.CheminBase, avancement);
+        resultat = storage::OuvrirBase(session.disque, session.CheminBase, session.progression);
         if (resultat.base) session.PoserBase(std::move(resultat.base));
     }
     return Dire(session.dialogue, IssueDOuverture(resultat.etat, session.CheminBase));
@@ -203,18 +201,9 @@ Issue OuvrirChemin(Session& session, const fs::path& chemin) {
 void ReprendreAvantRemplacement(Session& session, const fs::path& chemin) {
     if (!session.disque.Existe(chemin) || !session.disque.Existe(storage::CheminJournal(chemin)))
         return;
-    RelaisAvancement avancement{session.progression, session.catalogue};
     const storage::ResultatOuverture ancienne =
-        storage::OuvrirBase(session.disque, chemin, avancement);
+        storage::OuvrirBase(session.disque, chemin, session.progression);
     if (ancienne.base) static_cast<void>(ancienne.base->Fermer());
-}
-
-void Adopter(Session& session, std::unique_ptr<storage::Base> base, const fs::path& chemin) {
-    Clore(session);
-    PoserChemins(session, CheminEntier(chemin));
-    session.PoserBase(std::move(base));
-    ReprendreReglages(session);
-    session.ecran.Actualiser();
 }
 
 Issue MnuNouveau(Session& session) {

@@ -63,11 +63,6 @@ void ReprendreAvantRemplacement(Session& session, const std::filesystem::path& c
 /// Tells once that the settings cannot be saved.
 void DireReglagesRefuses(Session& session);
 
-/// Makes `base` the open base of the session, with its paths, settings, numberings and person. For
-/// the imports, which fill a new base that they hold.
-void Adopter(Session& session, std::unique_ptr<storage::Base> base,
-             const std::filesystem::path& chemin);
-
 /// The menu commands. Each begins with `CommandePermise`, and tells how it ended.
 Issue MnuNouveau(Session& session);
 Issue MnuOuvrir(Session& session);

@@ -80,7 +80,7 @@ void Demarrage(Session& session, const fs::path& fichier) {
     OuvrirCatalogue(session);
     DireEtat(session, etat);
     EssayerTravail(session);
-    session.TypeTri = '1';
+    session.TypeTri = TypeTri::Naissance;
     session.ecran.Actualiser();
     if (!fichier.empty()) OuvrirFichierDepose(session, fichier);
 }

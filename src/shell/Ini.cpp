@@ -58,10 +58,4 @@ std::vector<std::pair<std::string, std::string>> LireSectionIni(std::string_view
     return entrees;
 }
 
-std::string LireIni(const std::filesystem::path& fichier, std::string_view section,
-                    std::string_view cle) {
-    const std::optional<std::string> texte = LireTout(fichier);
-    return texte ? LireIniTexte(*texte, section, cle).value_or(std::string{}) : std::string{};
-}
-
 }  // namespace dorvane::shell

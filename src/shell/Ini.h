@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,15 +8,11 @@
 
 namespace dorvane::shell {
 
-/// The value of a key in an older settings file, trimmed; empty when it is not there. The first
-/// line that starts with the key behind the first line that holds "[section]" counts, so a key
-/// that begins like a longer one finds whichever comes first. The next line that begins with "["
-/// ends the search. `section` and `cle` are UTF-8; the file is in code page 1252 and so is the
+/// The value of a key in the text of an old settings file; nothing when the key is not there. The
+/// first line that starts with the key behind the first line that holds "[section]" counts, so a
+/// key that begins like a longer one finds whichever comes first. The next line that begins with
+/// "[" ends the search. `section` and `cle` are UTF-8; the text is in code page 1252 and so is the
 /// answer.
-[[nodiscard]] std::string LireIni(const std::filesystem::path& fichier, std::string_view section,
-                                  std::string_view cle);
-
-/// The same in a text already read; nothing when the key is not there.
 [[nodiscard]] std::optional<std::string> LireIniTexte(std::string_view texte,
                                                       std::string_view section,
                                                       std::string_view cle);

@@ -1,5 +1,10 @@
 #include "shell/ListesInitiales.h"
 
+#include "values/SortesEvenement.h"
+
+#include <array>
+#include <cstddef>
+
 namespace dorvane::shell {
 
 namespace {
@@ -16,10 +21,18 @@ constexpr Mot Relations[] = {"CHIL", "FATH", "MOTH", "HUSB", "WIFE", "DEAD", "WI
                              "SUCC", "BROT", "SIST", "UNCL", "AUNT", "GFAT", "GMOT", "SINL",
                              "DINL", "FINL", "BINL", "MINL", "SIIL", "HEIR", "HEIS"};
 
-constexpr Mot Evenements[] = {"BIRT", "BURI", "CHR",  "DEAT", "MARR", "ADOP", "ANUL", "BARM",
-                              "BASM", "BLES", "CENS", "CONF", "CREM", "DIV",  "DIVF", "EMIG",
-                              "ENDL", "ENGA", "FCOM", "IMMI", "MARB", "MARC", "MARL", "NATU",
-                              "ORDN", "PROB", "RETI", "WILL", "GRAD"};
+constexpr std::size_t NbEvenements = 29;
+
+/// The kinds of events that are usual words.
+consteval std::array<Mot, NbEvenements> TagsUsuels() {
+    std::array<Mot, NbEvenements> tags;
+    std::size_t n = 0;
+    for (const SorteEvenement& sorte : SortesEvenement)
+        if (sorte.A(UsageSorte::Usuelle)) tags[n++] = sorte.tag;
+    return tags;
+}
+
+constexpr std::array<Mot, NbEvenements> Evenements = TagsUsuels();
 
 constexpr ListeInitiale Usuels[] = {
     {"Liste Rubriques", Rubriques},
@@ -40,13 +53,32 @@ constexpr Mot DeFille[] = {"MFCHIL"};
 constexpr Mot DInteresse[] = {"M MAIN"};
 
 constexpr EvenementInitial Types[] = {
-    {"BIRT", DeNaissance}, {"CHR", DeBapteme},   {"MARR", DeCouple},     {"DEAT", DeDeces},
-    {"BURI", DeDeces},     {"ADOP", DEnfant},    {"BARM", DeGarcon},     {"BASM", DeFille},
-    {"ORDN", DInteresse},  {"CENS", DInteresse}, {"FCOM", DEnfant},      {"CONF", DEnfant},
-    {"CREM", DeCremation}, {"EMIG", DInteresse}, {"GRAD", DInteresse},   {"IMMI", DInteresse},
-    {"NATU", DInteresse},  {"RETI", DInteresse}, {"PROB", DeSuccession}, {"WILL", DeSuccession},
-    {"ANUL", DeCouple},    {"DIV", DeCouple},    {"DIVF", DeCouple},     {"ENGA", DeCouple},
-    {"MARC", DeCouple},    {"MARL", DeCouple},
+    {tag::Naissance, DeNaissance},
+    {tag::Bapteme, DeBapteme},
+    {tag::Mariage, DeCouple},
+    {tag::Deces, DeDeces},
+    {tag::Inhumation, DeDeces},
+    {"ADOP", DEnfant},
+    {"BARM", DeGarcon},
+    {"BASM", DeFille},
+    {"ORDN", DInteresse},
+    {"CENS", DInteresse},
+    {"FCOM", DEnfant},
+    {"CONF", DEnfant},
+    {"CREM", DeCremation},
+    {"EMIG", DInteresse},
+    {"GRAD", DInteresse},
+    {"IMMI", DInteresse},
+    {"NATU", DInteresse},
+    {"RETI", DInteresse},
+    {"PROB", DeSuccession},
+    {"WILL", DeSuccession},
+    {"ANUL", DeCouple},
+    {tag::Divorce, DeCouple},
+    {"DIVF", DeCouple},
+    {"ENGA", DeCouple},
+    {"MARC", DeCouple},
+    {tag::Contrat, DeCouple},
 };
 
 constexpr Mot Extensions[] = {"BMP", "DIB", "EMF", "WMF", "GIF", "JPG", "CUT", "GEM", "IFF", "IMG",

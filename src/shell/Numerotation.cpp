@@ -74,7 +74,7 @@ private:
     /// `prefixe` is no string of the table: the walk below moves those about.
     void DescendreDe(NoOrdre parent, const std::string& prefixe, int profondeur) {
         if (profondeur > DerniereProfondeur || ++visites_ > MaxVisites) return;
-        const bool homme = base_.R_SEXE.LireCellule(parent) == 'H';
+        const bool homme = base_.R_SEXE.LireCellule(parent) == Sexe::Homme;
         std::vector<Union> unions = UnionsDe(parent, homme);
         int commun = 0;
         // Copied, for the walk below reads the lists of others.

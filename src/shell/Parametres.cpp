@@ -337,7 +337,8 @@ bool Parametres::SupprimerMot(std::string_view section, std::string_view mot) {
 std::vector<RoleEvenement> Parametres::RolesEvenement(std::string_view type) const {
     std::vector<RoleEvenement> roles;
     for (const std::string& mot : Mots("Evénements\\" + TexteVersUtf8(type)))
-        if (mot.size() > 2) roles.push_back({mot[0] == 'M', mot[1], mot.substr(2)});
+        if (mot.size() > 2)
+            roles.push_back({mot[0] == 'M', static_cast<Sexe>(mot[1]), mot.substr(2)});
     return roles;
 }
 

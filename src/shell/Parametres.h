@@ -3,6 +3,7 @@
 #include "shell/Ini.h"
 #include "shell/Magasin.h"
 #include "values/Noms.h"
+#include "values/Sexe.h"
 
 #include <array>
 #include <cstdint>
@@ -70,7 +71,7 @@ struct Disposition {
 /// One role of a kind of event.
 struct RoleEvenement {
     bool principal;     ///< the person whom the event is about
-    char sexe;          ///< 'H', 'F', or ' ' for either
+    Sexe sexe;          ///< `Vide` for either
     std::string label;  ///< tag of the role, or the user's own word, in code page 1252
     friend bool operator==(const RoleEvenement&, const RoleEvenement&) = default;
 };

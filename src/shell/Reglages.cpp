@@ -3,7 +3,6 @@
 #include "messages/Dorvane.h"
 #include "messages/Messages.h"
 #include "messages/Reglages.h"
-#include "shell/RelaisAvancement.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
 #include "values/Texte1252.h"
@@ -27,7 +26,7 @@ std::string SectionRoles(std::string_view type) {
 }
 
 std::string CleDeRole(const RoleEvenement& role) {
-    return std::string{role.principal ? 'M' : ' ', role.sexe} + role.label;
+    return std::string{role.principal ? 'M' : ' ', static_cast<char>(role.sexe)} + role.label;
 }
 
 /// A folder to work in: there, or made now.
@@ -74,8 +73,9 @@ bool MemesParticules(const std::vector<Particule>& a, const std::vector<Particul
 }
 
 bool Trier(Session& session) {
-    RelaisAvancement avancement{session.progression, session.catalogue};
-    return session.base->R_TRI.TrierIndividus(avancement);
+    const CadreProgression cadre{session.progression, Litteral("Tri de la base"),
+                                 Litteral("Préparation du tri"_1252)};
+    return session.base->R_TRI.TrierIndividus(session.progression);
 }
 
 /// Particles and flags decide what a surname is sorted by: the table follows them, or they stay.
@@ -90,7 +90,7 @@ void ChangerClesNoms(Session& session, Reglages& r) {
     const std::vector<Particule> particules = base.regles.particules;
     base.entete.OptParticules = r.deplacerParticules;
     base.regles.particules = r.generaux.particules;
-    if (!memesCles && base.entete.TypeTri != '0' && !Trier(session)) {
+    if (!memesCles && base.entete.TypeTri != TypeTri::Creation && !Trier(session)) {
         base.entete.OptParticules = r.deplacerParticules = avant;
         base.regles.particules = particules;
         r.generaux.particules = session.parametres.generaux.particules;
@@ -186,12 +186,12 @@ bool MemesReglages(const Reglages& a, const Reglages& b) {
                               });
 }
 
-bool ChangerTri(Session& session, char typeTri) {
+bool ChangerTri(Session& session, TypeTri typeTri) {
     storage::Base& base = *session.base;
-    const char avant = base.entete.TypeTri;
+    const TypeTri avant = base.entete.TypeTri;
     if (typeTri == avant) return true;
-    Phrase question =
-        Msg(typeTri == '0' ? message::ConfirmerOrdreDeCreation : message::ConfirmerNouveauTri);
+    Phrase question = Msg(typeTri == TypeTri::Creation ? message::ConfirmerOrdreDeCreation
+                                                       : message::ConfirmerNouveauTri);
     question.suite = message::ConfirmerOperation;
     if (!session.dialogue.Confirmer(question)) return false;
     base.entete.TypeTri = typeTri;

@@ -17,11 +17,11 @@ struct TypeEvenement {
 /// All that the settings window edits. Texts in code page 1252.
 struct Reglages {
     ReglagesGeneraux generaux;
-    ReglagesBase base;           ///< only with a base open
-    Affichage affichage;         ///< of the open base, else of new bases
-    bool pourNouvelles = false;  ///< `affichage` also becomes that of new bases
-    char typeTri = '1';          ///< of the open base, else of the next new one
-    bool prenomUnique = false;   ///< first names are cut at their first blank in the word index
+    ReglagesBase base;                     ///< only with a base open
+    Affichage affichage;                   ///< of the open base, else of new bases
+    bool pourNouvelles = false;            ///< `affichage` also becomes that of new bases
+    TypeTri typeTri = TypeTri::Naissance;  ///< of the open base, else of the next new one
+    bool prenomUnique = false;  ///< first names are cut at their first blank in the word index
     bool deplacerParticules = false;  ///< particles of a surname go behind it in keys
     std::vector<TypeEvenement> evenements;
 };
@@ -39,8 +39,8 @@ enum class ChampReglage { Aucun, Travail, Frequence, Evenements };
 /// nothing has changed.
 [[nodiscard]] ChampReglage ValiderReglages(Session& session, Reglages& reglages);
 
-/// Puts the persons of the open base in another order: '0' of creation, '1' birth year and name,
-/// '2' name. Asks first. False when the user says no or gives up: the order is as before.
-[[nodiscard]] bool ChangerTri(Session& session, char typeTri);
+/// Puts the persons of the open base in another order. Asks first. False when the user says no or
+/// gives up: the order is as before.
+[[nodiscard]] bool ChangerTri(Session& session, TypeTri typeTri);
 
 }  // namespace dorvane::shell

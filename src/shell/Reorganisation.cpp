@@ -6,7 +6,6 @@
 #include "shell/CycleInterne.h"
 #include "shell/FichierSur.h"
 #include "shell/Libelles.h"
-#include "shell/RelaisAvancement.h"
 #include "storage/Base.h"
 #include "storage/ConversionAncienne.h"
 #include "storage/Reorganiser.h"
@@ -131,14 +130,13 @@ Issue Reecrire(Session& session, const fs::path& chemin, storage::BilanReorganis
         return Issue::Refusee(MsgChemin(message::ReorganisationDejaEnCours, nouveau));
     if (verrou.etat != storage::EtatVerrou::Pris)
         return Issue::ParSysteme(MsgChemin(message::NouveauFichierNonEcrit, nouveau));
-    RelaisAvancement avancement{session.progression, session.catalogue};
     const storage::ResultatOuverture ouverte =
-        storage::OuvrirBase(session.disque, chemin, avancement);
+        storage::OuvrirBase(session.disque, chemin, session.progression);
     if (!ouverte.base) return IssueDOuverture(ouverte.etat, chemin);
     storage::Base& source = *ouverte.base;
-    if (!storage::ConvertirAncienne(source, ConversionsDe(session), avancement))
+    if (!storage::ConvertirAncienne(source, ConversionsDe(session), session.progression))
         return Issue::Arretee();
-    bilan = storage::ReorganiserVers(session.disque, source, nouveau, avancement);
+    bilan = storage::ReorganiserVers(session.disque, source, nouveau, session.progression);
     if (bilan.issue == IssueReorganisation::Abandonnee) return Issue::Arretee();
     if (bilan.issue == IssueReorganisation::TropAbimee)
         return Issue::Refusee(MsgChemin(message::BaseTropAbimeePourReorganiser, chemin));

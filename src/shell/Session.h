@@ -86,8 +86,9 @@ public:
     NoOrdre PersonneFiche{};              ///< person of the person sheet; 0 when none
     std::array<DeCujus, 2> deCujus;       ///< `De Cujus` 1 and 2 at 0 and 1
     int compteurMinuterie = 0;            ///< ticks since the last automatic save
-    char TypeTri = '1';                   ///< sort order that the next new base starts with
-    bool sansReglages = false;            ///< the user knows that the settings cannot be saved
+    dorvane::TypeTri TypeTri =
+        dorvane::TypeTri::Naissance;  ///< sort order that the next new base starts with
+    bool sansReglages = false;        ///< the user knows that the settings cannot be saved
     /// The index follows the flags of the open base. False once one of them has changed: every
     /// commit of a sheet then writes name and text again.
     bool indexationFaite = true;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "storage/Avancement.h"
 #include "storage/Colonnes.h"
 #include "storage/Disque.h"
 #include "storage/Documents.h"
@@ -9,6 +8,7 @@
 #include "storage/Listes.h"
 #include "storage/Marques.h"
 #include "storage/MotsCles.h"
+#include "storage/Progression.h"
 #include "storage/R_INDEX.h"
 #include "storage/R_TRI.h"
 #include "storage/Slots.h"
@@ -33,7 +33,7 @@ enum class Ouverture {
 
 /// What a new base starts with.
 struct OptionsBase {
-    char TypeTri = '1';
+    dorvane::TypeTri TypeTri = dorvane::TypeTri::Naissance;
     bool OptPrenomUnique = false;
     bool OptParticules = false;
 };
@@ -59,7 +59,7 @@ public:
     ReglesNoms regles;
 
     MotsCles motsCles;
-    ColonneCaracteres R_SEXE;
+    ColonneSexes R_SEXE;
     ColonneAnnees<NoOrdre> R_NAISS;
     ColonneDeces R_DECES;
     ColonneParents R_PERE;
@@ -138,9 +138,9 @@ struct ResultatOuverture {
 };
 
 /// Opens the file at `chemin`: lock, version mark, journal, header, sort tables. `disque` outlives
-/// the base. `avancement` shows the replay of a journal.
+/// the base. `progression` shows the replay of a journal.
 [[nodiscard]] ResultatOuverture OuvrirBase(Disque& disque, const std::filesystem::path& chemin,
-                                           Avancement& avancement);
+                                           Progression& progression);
 
 /// Makes a new base at `chemin`; a file that is there is emptied, a journal beside it removed. The
 /// file is a base from its first commit on.

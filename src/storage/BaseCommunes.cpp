@@ -163,14 +163,6 @@ std::vector<NoCommune> BaseCommunes::ChercherDebut(std::string_view debut, std::
     return trouvees;
 }
 
-NoCommune BaseCommunes::ChercherRattachement(NoCommune n) const {
-    EnregistrementCommune e;
-    if (!Lire(n, e)) return {};
-    if (e.commune.rattachement.empty()) return n;
-    const std::vector<NoCommune> trouvees = ChercherCommune(e.commune.rattachement);
-    return trouvees.empty() ? NoCommune{} : trouvees.front();
-}
-
 EcritureCommunes BaseCommunes::EnregistrerCommunes() {
     if (!modifiee_) return EcritureCommunes::Faite;
     std::string presents;
@@ -185,16 +177,17 @@ EcritureCommunes BaseCommunes::EnregistrerCommunes() {
     return EcritureCommunes::Faite;
 }
 
-bool BaseCommunes::ReorganiserCommunes(Avancement& avancement) {
+EcritureCommunes BaseCommunes::ReorganiserCommunes(Progression& progression) {
     const std::optional<std::vector<Commune>> communes = Toutes();
+    if (!communes || communes->size() > MaxCommunes) return EcritureCommunes::Refusee;
     std::string octets;
-    if (!communes || !ComposerLgx(*communes, avancement, octets) ||
-        !EcrireLgx(disque_, chemin_, chemin_.parent_path() / "Commune.reo", octets))
-        return false;
+    if (!ComposerLgx(*communes, progression, octets)) return EcritureCommunes::Abandonnee;
+    if (!EcrireLgx(disque_, chemin_, chemin_.parent_path() / "Commune.reo", octets))
+        return EcritureCommunes::Refusee;
     marque_ = MarqueDe(octets);
     image_ = ImageLgx{std::move(octets)};
     modifiee_ = false;
-    return true;
+    return EcritureCommunes::Faite;
 }
 
 bool EcrireLgx(Disque& disque, const std::filesystem::path& chemin,

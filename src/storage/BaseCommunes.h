@@ -1,9 +1,9 @@
 #pragma once
 
-#include "storage/Avancement.h"
 #include "storage/Commune.h"
 #include "storage/Disque.h"
 #include "storage/ImageLgx.h"
+#include "storage/Progression.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -25,8 +25,9 @@ enum class OuvertureCommunes {
 
 enum class EcritureCommunes {
     Faite,
-    Refusee,         ///< the system refuses to write; the file is as before
-    ChangeeAilleurs  ///< somebody else has written the file since it was read; it is left alone
+    Refusee,          ///< the system refuses to write; the file is as before
+    ChangeeAilleurs,  ///< somebody else has written the file since it was read; it is left alone
+    Abandonnee        ///< the user gave up; the file is as before
 };
 
 class BaseCommunes;
@@ -64,9 +65,6 @@ public:
     /// for an empty one.
     [[nodiscard]] std::vector<NoCommune> ChercherDebut(std::string_view debut,
                                                        std::size_t max) const;
-    /// The commune that a place belongs to: itself when it names none, 0 when what it names is
-    /// not in the base.
-    [[nodiscard]] NoCommune ChercherRattachement(NoCommune n) const;
 
     /// Adds a commune. 0 when its name is empty, it is too long, or the base is full.
     NoCommune AjouterCommune(const Commune& commune);
@@ -79,9 +77,9 @@ public:
     [[nodiscard]] bool Modifiee() const { return modifiee_; }
     /// Writes the file beside and renames it, when anything has changed.
     [[nodiscard]] EcritureCommunes EnregistrerCommunes();
-    /// Writes the base anew without what is dead, through "Commune.reo" beside the file. False
-    /// when the user gives up, the file is damaged or the system refuses: it is then as it was.
-    [[nodiscard]] bool ReorganiserCommunes(Avancement& avancement);
+    /// Writes the base anew without what is dead, through "Commune.reo" beside the file. `Refusee`
+    /// also when the file is damaged. Where it is not done, all is as it was.
+    [[nodiscard]] EcritureCommunes ReorganiserCommunes(Progression& progression);
 
 private:
     /// One of the two indexes, with the link of a record that belongs to it.
@@ -126,7 +124,7 @@ private:
 
 /// A dense file of these communes, numbered from 1 in their order; those without a name leave a
 /// hole. Both indexes are sorted once. False once the user gives up; `octets` is then not used.
-[[nodiscard]] bool ComposerLgx(std::span<const Commune> communes, Avancement& avancement,
+[[nodiscard]] bool ComposerLgx(std::span<const Commune> communes, Progression& progression,
                                std::string& octets);
 
 /// Writes a new base of communes beside `chemin`, as `voisin`, and renames it. False when the

@@ -2,20 +2,21 @@
 
 #include "storage/ColonneBrute.h"
 #include "values/Numeros.h"
+#include "values/Sexe.h"
 
 #include <string>
 #include <string_view>
 
 namespace dorvane::storage {
 
-/// One character; a blank cell reads as a space.
-struct FormeCaractere {
-    using Valeur = char;
-    using Argument = char;
+/// One byte, whatever it is; a cell that was never written reads as `Sexe::Vide`.
+struct FormeSexe {
+    using Valeur = Sexe;
+    using Argument = Sexe;
     static constexpr std::uint32_t Largeur = 1;
-    static constexpr char Neuf = ' ';
-    [[nodiscard]] static char Lire(const char* cellule) { return *cellule; }
-    static void Ecrire(char* cellule, char valeur) { *cellule = valeur; }
+    static constexpr char Neuf = static_cast<char>(Sexe::Vide);
+    [[nodiscard]] static Sexe Lire(const char* cellule) { return static_cast<Sexe>(*cellule); }
+    static void Ecrire(char* cellule, Sexe sexe) { *cellule = static_cast<char>(sexe); }
 };
 
 /// Four characters: padded on the left, a longer text cut to its first four. Read without its
@@ -73,7 +74,7 @@ public:
     }
 };
 
-using ColonneCaracteres = Colonne<NoOrdre, FormeCaractere>;
+using ColonneSexes = Colonne<NoOrdre, FormeSexe>;
 
 /// Years of `Cle`: birth, beginning and end of a union.
 template <class Cle>

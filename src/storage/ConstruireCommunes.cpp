@@ -11,7 +11,7 @@ namespace dorvane::storage {
 
 namespace {
 
-constexpr std::uint32_t PasAvancement = 1000;
+constexpr std::uint32_t PasCompteur = 1000;
 
 /// One key of an index and the communes that have it, chained by their numbers.
 struct Cle {
@@ -21,14 +21,14 @@ struct Cle {
 
 class Constructeur {
 public:
-    Constructeur(std::span<const Commune> communes, Avancement& avancement)
-        : communes_{communes}, avancement_{avancement}, fiches_(communes.size()) {}
+    Constructeur(std::span<const Commune> communes, Progression& progression)
+        : communes_{communes}, progression_{progression}, fiches_(communes.size()) {}
 
     bool Ecrire(std::string& octets) {
         const std::string_view titre = "Réorganisation communes"_1252;
-        avancement_.Commencer({{}, titre}, {{}, "Réorganisation Communes"_1252});
+        const CadreProgression cadre{progression_, Litteral(titre),
+                                     Litteral("Réorganisation Communes"_1252)};
         const bool fait = Composer();
-        avancement_.Terminer();
         if (fait) octets = image_.Octets();
         return fait;
     }
@@ -40,11 +40,11 @@ private:
         const std::vector<Cle> noms = Trier(CleCommune, &EnregistrementCommune::suivanteNom);
         const std::vector<Cle> sons = Trier(ClePhonetique, &EnregistrementCommune::suivanteSon);
         if (!EcrireFiches()) return false;
-        avancement_.Phase({{}, "Réorganisation Index"_1252});
+        progression_.Phase(Litteral("Réorganisation Index"_1252));
         if (!EcrireIndex(AireLgx::Noms, noms, "Zzzzzzzzzz")) return false;
-        avancement_.Phase({{}, "Réorganisation Soundex"_1252});
+        progression_.Phase(Litteral("Réorganisation Soundex"_1252));
         if (!EcrireIndex(AireLgx::Sons, sons, "Zzzz")) return false;
-        avancement_.Phase({{}, "Réorganisation Commentaire"_1252});
+        progression_.Phase(Litteral("Réorganisation Commentaire"_1252));
         return EcrireCommentaires();
     }
 
@@ -52,7 +52,7 @@ private:
         return static_cast<std::uint32_t>(communes_.size());
     }
     bool Avancer(std::uint32_t fait, std::uint32_t total) {
-        return fait % PasAvancement != 0 || avancement_.Avancer(fait, total);
+        return fait % PasCompteur != 0 || progression_.Avancer(fait, total);
     }
 
     /// The keys in ascending order, each once with its first commune; the further ones are linked.
@@ -128,16 +128,16 @@ private:
     }
 
     std::span<const Commune> communes_;
-    Avancement& avancement_;
+    Progression& progression_;
     ImageLgx image_;
     std::vector<EnregistrementCommune> fiches_;  ///< the links; texts only while one is written
 };
 
 }  // namespace
 
-bool ComposerLgx(std::span<const Commune> communes, Avancement& avancement, std::string& octets) {
+bool ComposerLgx(std::span<const Commune> communes, Progression& progression, std::string& octets) {
     return communes.size() <= BaseCommunes::MaxCommunes &&
-           Constructeur{communes, avancement}.Ecrire(octets);
+           Constructeur{communes, progression}.Ecrire(octets);
 }
 
 }  // namespace dorvane::storage

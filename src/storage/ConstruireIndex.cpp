@@ -92,7 +92,7 @@ public:
         ListerPersonnes(base);
     }
 
-    bool Lire(FournisseurTextes& textes, Avancement& avancement) {
+    bool Lire(FournisseurTextes& textes, Progression& progression) {
         std::vector<std::uint32_t> ordre(personnes_.size());
         std::iota(ordre.begin(), ordre.end(), 0U);
         // By number: texts then come nearly in the order in which they stand in the file.
@@ -103,7 +103,7 @@ public:
         std::vector<std::string_view> vues;
         std::uint32_t fait = 0;
         for (const std::uint32_t i : ordre) {
-            if (fait % PasCompteur == 0 && !avancement.Avancer(fait, total)) return false;
+            if (fait % PasCompteur == 0 && !progression.Avancer(fait, total)) return false;
             ++fait;
             personnes_[i].debut = static_cast<std::uint32_t>(jetons_.size());
             vues.clear();
@@ -257,27 +257,24 @@ private:
 }  // namespace
 
 bool ConstruireIndex(Base& base, std::span<const NoMotCle> types, FournisseurTextes& textes,
-                     Avancement& avancement) {
+                     Progression& progression) {
     if (types.empty()) return true;
-    avancement.Commencer({{}, base.motsCles.LibelleType(types[0]).libelle},
-                         {message::EtatIndexation, {}});
     Moisson moisson{base, types};
-    const bool fait = moisson.Lire(textes, avancement);
-    avancement.Terminer();
+    const bool fait = moisson.Lire(textes, progression);
     if (!fait) return false;
     for (const NoMotCle k : types)
         EcrireType(base, k, moisson);
     return true;
 }
 
-bool ConstruireIndex(Base& base, std::span<const NoMotCle> types, Avancement& avancement) {
+bool ConstruireIndex(Base& base, std::span<const NoMotCle> types, Progression& progression) {
     TextesDeLaBase textes{base};
-    return ConstruireIndex(base, types, textes, avancement);
+    return ConstruireIndex(base, types, textes, progression);
 }
 
-bool ConstruireIndex(Base& base, char symbole, Avancement& avancement) {
+bool ConstruireIndex(Base& base, char symbole, Progression& progression) {
     const NoMotCle k = base.motsCles.TypeDuSymbole(symbole);
-    return k ? ConstruireIndex(base, std::span{&k, 1}, avancement) : true;
+    return k ? ConstruireIndex(base, std::span{&k, 1}, progression) : true;
 }
 
 }  // namespace dorvane::storage

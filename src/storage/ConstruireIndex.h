@@ -1,6 +1,6 @@
 #pragma once
 
-#include "storage/Avancement.h"
+#include "storage/Progression.h"
 #include "values/Numeros.h"
 
 #include <span>
@@ -27,10 +27,10 @@ public:
 /// keyword gets its words in order and a record that points at them; a keyword without words that
 /// has an empty list already keeps it. False when the user gave up: nothing has changed.
 bool ConstruireIndex(Base& base, std::span<const NoMotCle> types, FournisseurTextes& textes,
-                     Avancement& avancement);
+                     Progression& progression);
 /// The same, with the texts read from the base.
-bool ConstruireIndex(Base& base, std::span<const NoMotCle> types, Avancement& avancement);
+bool ConstruireIndex(Base& base, std::span<const NoMotCle> types, Progression& progression);
 /// The same for the one keyword with this symbol.
-bool ConstruireIndex(Base& base, char symbole, Avancement& avancement);
+bool ConstruireIndex(Base& base, char symbole, Progression& progression);
 
 }  // namespace dorvane::storage

@@ -3,6 +3,7 @@
 #include "messages/Messages.h"
 #include "messages/Soin.h"
 #include "values/Comparaison.h"
+#include "values/Marqueurs.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -105,7 +106,7 @@ private:
 
     /// The text of a union with the date words in front of its place in the stored form.
     std::string DateDUnion(std::string texte) const {
-        const std::size_t lieu = texte.find('@');
+        const std::size_t lieu = texte.find(marqueur::LieuMariage);
         if (lieu == std::string::npos || lieu > texte.find('\r')) return texte;
         const std::string_view date = SansBlancs(std::string_view{texte}.substr(0, lieu));
         const std::size_t debut = static_cast<std::size_t>(date.data() - texte.data());
@@ -148,9 +149,9 @@ private:
 };
 
 template <class Travail>
-bool Parcourir(Avancement& avancement, std::uint32_t nombre, Travail travail) {
+bool Parcourir(Progression& progression, std::uint32_t nombre, Travail travail) {
     for (std::uint32_t i = 1; i <= nombre; ++i) {
-        if ((i - 1) % PasCompteur == 0 && !avancement.Avancer(i - 1, nombre)) return false;
+        if ((i - 1) % PasCompteur == 0 && !progression.Avancer(i - 1, nombre)) return false;
         travail(i);
     }
     return true;
@@ -158,22 +159,21 @@ bool Parcourir(Avancement& avancement, std::uint32_t nombre, Travail travail) {
 
 }  // namespace
 
-bool ConvertirAncienne(Base& base, const ConversionsTextes& conversions, Avancement& avancement) {
+bool ConvertirAncienne(Base& base, const ConversionsTextes& conversions, Progression& progression) {
     if (base.entete.LibellesNeutres) return true;
     constexpr std::size_t Tout = std::numeric_limits<std::size_t>::max();
     base.volume.FixerTampons(Tout, Tout);
-    avancement.Commencer({message::TitreReorganisationBase, {}},
-                         {message::EtatMajLibellesEtDates, {}});
+    const CadreProgression cadre{progression, Msg(message::TitreReorganisationBase),
+                                 Msg(message::EtatMajLibellesEtDates)};
     Conversion conversion{base, conversions};
     conversion.ConvertirMotsCles();
     const bool fait =
-        Parcourir(avancement, base.entete.DernierIndividu,
+        Parcourir(progression, base.entete.DernierIndividu,
                   [&](std::uint32_t n) { conversion.ConvertirIndividu(NoOrdre{n}); }) &&
-        Parcourir(avancement, base.entete.DernierMariage,
+        Parcourir(progression, base.entete.DernierMariage,
                   [&](std::uint32_t m) { conversion.ConvertirMariage(NoMariage{m}); }) &&
-        Parcourir(avancement, std::min(base.entete.DernierEvenement, MaxEvenements),
+        Parcourir(progression, std::min(base.entete.DernierEvenement, MaxEvenements),
                   [&](std::uint32_t e) { conversion.ConvertirEvenement(NoEvenement{e}); });
-    avancement.Terminer();
     if (!fait) return false;
     base.entete.LibellesNeutres = true;
     base.marques.ModifBase = true;

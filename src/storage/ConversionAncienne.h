@@ -1,7 +1,7 @@
 #pragma once
 
-#include "storage/Avancement.h"
 #include "storage/Base.h"
+#include "storage/Progression.h"
 
 #include <functional>
 #include <string>
@@ -22,6 +22,6 @@ struct ConversionsTextes {
 /// months. Nothing is written before the commit, however much it is: the caller may give the base
 /// up and the file is as it was. False when the user gave up. Nothing for a neutral base.
 [[nodiscard]] bool ConvertirAncienne(Base& base, const ConversionsTextes& conversions,
-                                     Avancement& avancement);
+                                     Progression& progression);
 
 }  // namespace dorvane::storage

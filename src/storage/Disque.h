@@ -31,7 +31,6 @@ public:
     /// this covers its name in the folder too.
     virtual void Vider() = 0;
     [[nodiscard]] virtual std::uint64_t Taille() = 0;
-    virtual void Tronquer(std::uint64_t taille) = 0;
     [[nodiscard]] virtual bool EnDefaut() const = 0;
 };
 

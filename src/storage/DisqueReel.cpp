@@ -81,11 +81,6 @@ public:
         return static_cast<std::uint64_t>(etat.st_size);
     }
 
-    void Tronquer(std::uint64_t taille) override {
-        if (!defaut_ && ::ftruncate(descripteur_.Fd(), static_cast<off_t>(taille)) != 0)
-            defaut_ = true;
-    }
-
     [[nodiscard]] bool EnDefaut() const override { return defaut_; }
 
 private:

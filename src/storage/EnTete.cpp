@@ -132,7 +132,7 @@ EnTete DecoderEnTete(std::string_view octets, Position premierBlocIndex) {
     entete.NbTriIndividus = champs.Num2(35);
     entete.DernierIndividu = champs.Num2(37);
     entete.DernierMariage = champs.Num2(43);
-    entete.TypeTri = champs.Car(45);
+    entete.TypeTri = static_cast<TypeTri>(champs.Car(45));
     entete.NbMotsCles = std::min(champs.Num2(46), MaxMotsCles);
     entete.NbIndex = champs.Num2(66);
     // A file without the index has blanks here, which are also a count.
@@ -172,7 +172,7 @@ std::string ComposerEnTete(const EnTete& entete, std::uint32_t finFichier) {
     c.Num2(39, entete.DernierEvenement);
     c.Num2(41, entete.NbTriEvenements);
     c.Num2(43, entete.DernierMariage);
-    c.Car(45, entete.TypeTri);
+    c.Car(45, static_cast<char>(entete.TypeTri));
     c.Num2(46, entete.NbMotsCles);
     c.Num2(48, entete.TypePresentation);
     c.Num4(50, entete.PosRepEvt.valeur);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "values/Noms.h"
 #include "values/Numeros.h"
 
 #include <array>
@@ -62,7 +63,7 @@ struct EnTete {
     std::uint32_t DernierEvenement = 0;
     std::uint32_t NbTriEvenements = 0;
     std::uint32_t DernierMariage = 0;
-    char TypeTri = '1';  ///< '0' creation, '1' birth year and name, '2' name
+    dorvane::TypeTri TypeTri = dorvane::TypeTri::Naissance;  ///< any byte in a damaged file
     std::uint32_t NbMotsCles = 0;
     std::uint16_t TypePresentation = 0;  ///< written, not read back
     Position PosRepEvt{};

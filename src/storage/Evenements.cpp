@@ -120,24 +120,6 @@ std::vector<NoDocument> Evenements::Documents(NoEvenement e) {
     return documents;
 }
 
-NoOrdre Evenements::LienEvt(NoEvenement e, std::size_t k) {
-    const std::string liste = LireListe(LireTete(e).liens, TailleLien);
-    if (k - 1 >= liste.size() / TailleLien) return {};
-    return NoOrdre{Chaine2VersNum(std::string_view{liste}.substr((k - 1) * TailleLien, 2))};
-}
-
-std::string Evenements::RoleEvt(NoEvenement e, std::size_t k) {
-    const std::string liste = LireListe(LireTete(e).liens, TailleLien);
-    if (k - 1 >= liste.size() / TailleLien) return {};
-    const std::string_view entree = std::string_view{liste}.substr((k - 1) * TailleLien);
-    return volume_.LireTexte(Position{Chaine4VersNum(entree.substr(2))}, MaxTexteElement + 1);
-}
-
-NoDocument Evenements::DocumentEvt(NoEvenement e, std::size_t k) {
-    const std::vector<NoDocument> documents = Documents(e);
-    return k - 1 < documents.size() ? documents[k - 1] : NoDocument{};
-}
-
 Position Evenements::AjouterListe(std::string_view entrees) {
     return entrees.empty() ? Position{} : volume_.Ajouter(entrees, {"\0\0", 2});
 }

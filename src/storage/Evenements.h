@@ -52,10 +52,6 @@ public:
     /// All three at once; valid until the next call. Empty, and an incident, when it has no end.
     [[nodiscard]] const DescriptionEvt& Description(NoEvenement e);
     [[nodiscard]] std::string NoteEvt(NoEvenement e);
-    /// Person of entry `k`, from 1; 0 past the end.
-    [[nodiscard]] NoOrdre LienEvt(NoEvenement e, std::size_t k);
-    [[nodiscard]] std::string RoleEvt(NoEvenement e, std::size_t k);
-    [[nodiscard]] NoDocument DocumentEvt(NoEvenement e, std::size_t k);
     [[nodiscard]] std::vector<LienEvenement> Liens(NoEvenement e);
     [[nodiscard]] std::vector<NoDocument> Documents(NoEvenement e);
 

@@ -71,20 +71,18 @@ std::size_t ListeNumeros<Element>::Place(std::string_view liste, Element /*eleme
 }
 
 template <class Element>
-void ListeNumeros<Element>::ModifierListe(NoOrdre n, Element element, char action) {
+void ListeNumeros<Element>::ModifierListe(NoOrdre n, Element element, ActionListe action) {
     if (perime_) marques_.AffichagePerime = true;
     std::string liste{ListeDe(n)};
     const std::string octets = NumVersChaine2(element.valeur);
-    if (action == 'A') {
+    if (action == ActionListe::Ajouter) {
         liste.insert(Place(liste, element), octets);
-    } else if (action == 'S') {
+    } else {
         std::size_t i = 0;
         while (i < liste.size() && liste.compare(i, 2, octets) != 0)
             i += 2;
         if (i >= liste.size()) return;
         liste.erase(i, 2);
-    } else {
-        return;
     }
     EcrireListe(n, liste);
 }
@@ -118,22 +116,25 @@ std::string ListeTextes<Element>::ComposerElement(Element element, std::string_v
 }
 
 template <class Element>
-void ListeTextes<Element>::ModifierListe(NoOrdre n, Element element, char action,
+void ListeTextes<Element>::ModifierListe(NoOrdre n, Element element, ActionListe action,
                                          std::string_view texte) {
     marques_.AffichagePerime = true;
     std::string liste{ListeDe(n)};
-    if (action == 'A') {
+    if (action == ActionListe::Ajouter) {
         EcrireListe(n, liste + ComposerElement(element, texte));
         Ranger(n);
-    } else if (action == 'M') {
-        const std::size_t k = element.valeur;
-        if (k - 1 >= liste.size() / 6) return;
-        const Element meme{NumeroA(liste, (k - 1) * 6)};
-        EcrireListe(n, liste.replace((k - 1) * 6, 6, ComposerElement(meme, texte)));
-    } else if (action == 'S') {
-        const std::size_t k = Chercher(n, element, texte);
-        if (k != 0) EcrireListe(n, liste.erase((k - 1) * 6, 6));
+    } else if (const std::size_t k = Chercher(n, element, texte); k != 0) {
+        EcrireListe(n, liste.erase((k - 1) * 6, 6));
     }
+}
+
+template <class Element>
+void ListeTextes<Element>::ChangerTexte(NoOrdre n, std::size_t k, std::string_view texte) {
+    marques_.AffichagePerime = true;
+    std::string liste{ListeDe(n)};
+    if (k - 1 >= liste.size() / 6) return;
+    const Element meme{NumeroA(liste, (k - 1) * 6)};
+    EcrireListe(n, liste.replace((k - 1) * 6, 6, ComposerElement(meme, texte)));
 }
 
 template class ListeTextes<NoOrdre>;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "storage/ActionListe.h"
 #include "storage/Colonnes.h"
 
 #include <string>
@@ -53,11 +54,11 @@ public:
     /// Entry `k`, from 1; 0 past the end.
     [[nodiscard]] Element ElementListe(NoOrdre n, std::size_t k) { return Element{Tete(n, k)}; }
     [[nodiscard]] std::vector<Element> Elements(NoOrdre n);
-    /// 'A' puts `element` at the end, 'S' cuts out the first equal one; any other leaves the list.
-    void ModifierListe(NoOrdre n, Element element, char action);
+    /// Puts `element` at its place, or cuts out the first equal one.
+    void ModifierListe(NoOrdre n, Element element, ActionListe action);
 
 protected:
-    /// Where 'A' puts `element`: an offset in `liste`.
+    /// Where a new `element` goes: an offset in `liste`. At the end, unless the list has an order.
     [[nodiscard]] virtual std::size_t Place(std::string_view liste, Element element);
 
 private:
@@ -89,19 +90,21 @@ public:
     [[nodiscard]] std::string TexteElement(NoOrdre n, std::size_t k);
     /// An entry for `EcrireListe`: `texte` is appended, cut to 49 bytes.
     [[nodiscard]] std::string ComposerElement(Element element, std::string_view texte);
-    /// 'M': gives entry `element.valeur` (its rank, not its number) a new text.
-    void ModifierListe(NoOrdre n, Element element, char action, std::string_view texte = {});
+    /// Adds an entry with this text, or cuts out the one that the kind of list looks for.
+    void ModifierListe(NoOrdre n, Element element, ActionListe action, std::string_view texte = {});
+    /// Gives entry `k`, from 1, a new text; past the end nothing happens.
+    void ChangerTexte(NoOrdre n, std::size_t k, std::string_view texte);
 
 protected:
-    /// Which entry 'S' cuts out: its rank from 1, 0 for none.
+    /// Which entry a removal cuts out: its rank from 1, 0 for none.
     [[nodiscard]] virtual std::size_t Chercher(NoOrdre n, Element element,
                                                std::string_view texte) = 0;
-    /// After 'A'.
+    /// After an entry was added.
     virtual void Ranger(NoOrdre n) = 0;
 };
 
-/// `R_LIEN`: other persons with the label of the link, in order of creation. 'S' cuts out the first
-/// entry with that person and that label.
+/// `R_LIEN`: other persons with the label of the link, in order of creation. A removal cuts
+/// out the first entry with that person and that label.
 class ListeLiens final : public ListeTextes<NoOrdre> {
 public:
     using ListeTextes::ListeTextes;
@@ -111,8 +114,8 @@ protected:
     void Ranger(NoOrdre /*n*/) override {}
 };
 
-/// `R_LSTEVT`: events with the role of the person, by date. 'S' cuts out the first entry with that
-/// event.
+/// `R_LSTEVT`: events with the role of the person, by date. A removal cuts out the first entry
+/// with that event.
 class ListeEvenements final : public ListeTextes<NoEvenement> {
 public:
     ListeEvenements(Volume& volume, Marques& marques, Evenements& evenements)

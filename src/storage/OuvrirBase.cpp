@@ -1,6 +1,7 @@
 #include "messages/Messages.h"
 #include "storage/Base.h"
-#include "values/Texte1252.h"
+#include "values/Marqueurs.h"
+#include "values/SortesEvenement.h"
 
 #include <algorithm>
 #include <utility>
@@ -18,9 +19,17 @@ struct TypeInitial {
 
 /// The keywords of a new base, in the order of their numbers.
 constexpr TypeInitial TypesInitiaux[] = {
-    {"BIRN", '|'}, {"FNAM", u'¶'_1252}, {"BIRT", '$'},       {"MARR", '@'},
-    {"DEAT", '~'}, {"OCCU", '\\'},      {"CHR", u'°'_1252},  {"BURI", '^'},
-    {"RESI", '%'}, {"DIV", u'¤'_1252},  {"OTHR", u'²'_1252},
+    {tag::Nom, marqueur::Nom},
+    {tag::Prenom, marqueur::Prenom},
+    {tag::Naissance, marqueur::LieuNaissance},
+    {tag::Mariage, marqueur::LieuMariage},
+    {tag::Deces, marqueur::LieuDeces},
+    {tag::Profession, marqueur::Profession},
+    {tag::Bapteme, marqueur::Bapteme},
+    {tag::Inhumation, marqueur::Inhumation},
+    {tag::Residence, marqueur::Residence},
+    {tag::Divorce, marqueur::Divorce},
+    {tag::Autre, marqueur::Autre},
 };
 
 std::string LireMarque(Fichier& fichier) {
@@ -31,15 +40,14 @@ std::string LireMarque(Fichier& fichier) {
 
 /// Replays and removes the journal, if there is one. False when that is not possible.
 bool Reprendre(Disque& disque, const std::filesystem::path& journal, Fichier& fichier,
-               Avancement& avancement, bool& reprise) {
+               Progression& progression, bool& reprise) {
     if (!disque.Existe(journal)) return true;
-    avancement.Commencer({message::TitreRecuperationBase, {}},
-                         {message::EtatRetourEtatPrecedent, {}});
+    const CadreProgression cadre{progression, Msg(message::TitreRecuperationBase),
+                                 Msg(message::EtatRetourEtatPrecedent)};
     RejouerJournal(disque, journal, fichier);
     fichier.Vider();
     reprise = !fichier.EnDefaut() && disque.Supprimer(journal);
     if (reprise) disque.ViderDossier(journal);
-    avancement.Terminer();
     return reprise;
 }
 
@@ -81,10 +89,10 @@ struct Ouvreur {
         base.entete.PosRepEvt = Position{3089};
         base.entete.PosRepTriEvt = Position{3345};
         base.entete.PosRepLstEvt = Position{3217};
-        base.entete.SlotsIndividu[0] = {'\\', ' '};
-        base.entete.SlotsIndividu[1] = {u'°'_1252, '1'};
-        base.entete.SlotsIndividu[2] = {'^', '1'};
-        base.entete.SlotsMariage[0] = {u'¤'_1252, '1'};
+        base.entete.SlotsIndividu[0] = {marqueur::Profession, ' '};
+        base.entete.SlotsIndividu[1] = {marqueur::Bapteme, '1'};
+        base.entete.SlotsIndividu[2] = {marqueur::Inhumation, '1'};
+        base.entete.SlotsMariage[0] = {marqueur::Divorce, '1'};
         // All types share one empty word list.
         const Position vide = base.volume.Ajouter({"\0\0", 2});
         NoMotCle k{};
@@ -96,7 +104,7 @@ struct Ouvreur {
 };
 
 ResultatOuverture OuvrirBase(Disque& disque, const std::filesystem::path& chemin,
-                             Avancement& avancement) {
+                             Progression& progression) {
     if (!disque.Existe(chemin)) return {Ouverture::Introuvable, nullptr};
     ResultatVerrou verrou = disque.Verrouiller(chemin);
     if (verrou.etat != EtatVerrou::Pris) return {EtatDuVerrou(verrou.etat), nullptr};
@@ -107,7 +115,7 @@ ResultatOuverture OuvrirBase(Disque& disque, const std::filesystem::path& chemin
     if (!PorteMarque(LireMarque(*fichier)) && !PorteMarque(MarqueDuJournal(disque, journal)))
         return {Ouverture::PasUneBase, nullptr};
     bool reprise = false;
-    if (!Reprendre(disque, journal, *fichier, avancement, reprise))
+    if (!Reprendre(disque, journal, *fichier, progression, reprise))
         return {Ouverture::Abimee, nullptr};
     if (!PorteMarque(LireMarque(*fichier))) return {Ouverture::PasUneBase, nullptr};
     return {Ouverture::Faite,

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "storage/Avancement.h"
 #include "storage/Base.h"
+#include "storage/Progression.h"
 #include "storage/Reorganiser.h"
 
 #include <cstddef>
@@ -15,9 +15,9 @@ namespace dorvane::storage {
 class ParcoursReorganisation {
 public:
     /// All outlive the object.
-    ParcoursReorganisation(Base& source, Base& cible, Avancement& avancement)
+    ParcoursReorganisation(Base& source, Base& cible, Progression& progression)
         : cible_{cible},
-          avancement_{avancement},
+          progression_{progression},
           // Each live record is written once, and blocks hardly differ: what grows beyond that
           // comes of records that run into one another.
           limite_{2 * source.volume.TailleDisque() + (1U << 20U)} {}
@@ -25,7 +25,7 @@ public:
     /// One phase: `travail` for 1 to `nombre`. False: the whole work ends, `Issue` tells why.
     template <class Travail>
     [[nodiscard]] bool Parcourir(std::string_view titre, std::size_t nombre, Travail travail) {
-        avancement_.Phase({{}, titre});
+        progression_.Phase(Litteral(titre));
         const auto total = static_cast<std::uint32_t>(nombre);
         for (std::uint32_t i = 1; i <= total; ++i) {
             if ((i - 1) % PasCompteur == 0 && !Continuer(i - 1, total)) return false;
@@ -45,7 +45,7 @@ private:
             issue_ = IssueReorganisation::Refusee;
         else if (cible_.volume.FinFichier() > limite_)
             issue_ = IssueReorganisation::TropAbimee;
-        else if (!avancement_.Avancer(fait, total))
+        else if (!progression_.Avancer(fait, total))
             issue_ = IssueReorganisation::Abandonnee;
         else
             return true;
@@ -53,7 +53,7 @@ private:
     }
 
     Base& cible_;
-    Avancement& avancement_;
+    Progression& progression_;
     std::uint64_t limite_;
     IssueReorganisation issue_ = IssueReorganisation::Abandonnee;
 };

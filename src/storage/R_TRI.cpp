@@ -30,7 +30,7 @@ std::uint64_t TeteDe(std::string_view cle) {
 
 /// Keys of all ranks; false when the user gave up.
 bool PreparerCles(const std::vector<std::uint16_t>& numeros, FournisseurNoms& noms,
-                  dorvane::TypeTri tri, const ReglesNoms& regles, Avancement& avancement,
+                  dorvane::TypeTri tri, const ReglesNoms& regles, Progression& progression,
                   std::vector<Cle>& cles, std::string& arene) {
     // By number: names then come nearly in the order in which they stand in the file.
     std::vector<std::uint32_t> ordre(numeros.size());
@@ -42,7 +42,7 @@ bool PreparerCles(const std::vector<std::uint16_t>& numeros, FournisseurNoms& no
     cles.resize(total);
     std::uint32_t fait = 0;
     for (const std::uint32_t rang : ordre) {
-        if (fait % PasCompteur == 0 && !avancement.Avancer(fait, total)) return false;
+        if (fait % PasCompteur == 0 && !progression.Avancer(fait, total)) return false;
         ++fait;
         const ElementTri element = noms.ElementDe(NoOrdre{numeros[rang]});
         const std::size_t debut = arene.size();
@@ -165,15 +165,14 @@ const ReglesNoms& TablesTri::Regles() {
 
 std::string TablesTri::CleDe(NoOrdre n) {
     const LigneNom ligne = noms_.LireNom(n);
-    return CleTri(ligne.nom, ligne.prenom, naissances_.LireCellule(n),
-                  static_cast<dorvane::TypeTri>(entete_.TypeTri), Regles());
+    return CleTri(ligne.nom, ligne.prenom, naissances_.LireCellule(n), entete_.TypeTri, Regles());
 }
 
 std::uint32_t TablesTri::RangIndividu(NoOrdre n) {
     if (!n) return 0;
     if (noMemo_ == n && individus.AuRang(rangMemo_) == n.valeur) return rangMemo_;
     std::uint32_t rang = 0;
-    if (entete_.TypeTri != '1' && entete_.TypeTri != '2') {
+    if (!AUneCle(entete_.TypeTri)) {
         rang = RangDe(individus, n.valeur);
     } else {
         const std::string cle = CleDe(n);
@@ -198,22 +197,22 @@ std::uint32_t TablesTri::RangDocument(NoDocument d) const {
 }
 
 std::uint32_t TablesTri::RangInsertion(NoOrdre n) {
-    if (entete_.TypeTri != '1' && entete_.TypeTri != '2') return individus.Taille() + 1;
+    if (!AUneCle(entete_.TypeTri)) return individus.Taille() + 1;
     return RangDerriere(individus, CleDe(n),
                         [this](std::uint32_t numero) { return CleDe(NoOrdre{numero}); });
 }
 
-void TablesTri::ModifierTri(std::uint32_t rang, NoOrdre n, char action) {
-    if (action == 'S') {
+void TablesTri::ModifierTri(std::uint32_t rang, NoOrdre n, ActionListe action) {
+    if (action == ActionListe::Supprimer) {
         if (individus.AuRang(rang) != n.valeur) marques_.Signaler(Incident::TableDeTri, 0);
         individus.Retirer(rang);
-    } else if (action == 'A') {
+    } else {
         individus.Inserer(rang, n.valeur);
     }
 }
 
 void TablesTri::AjouterIndividu(NoOrdre n) {
-    ModifierTri(RangInsertion(n), n, 'A');
+    ModifierTri(RangInsertion(n), n, ActionListe::Ajouter);
     entete_.NbTriIndividus = individus.Taille();
     marques_.ModifTriIndividus = true;
 }
@@ -223,7 +222,7 @@ void TablesTri::RetirerIndividu(NoOrdre n) {
     // Under a name that has changed since, the key leads nowhere.
     if (rang == 0) rang = RangDe(individus, n.valeur);
     if (rang == 0) return;
-    ModifierTri(rang, n, 'S');
+    ModifierTri(rang, n, ActionListe::Supprimer);
     entete_.NbTriIndividus = individus.Taille();
     marques_.ModifTriIndividus = true;
 }
@@ -258,24 +257,21 @@ void TablesTri::AjouterDocument(NoDocument d) {
     marques_.ModifTriDocuments = true;
 }
 
-bool TablesTri::TrierIndividus(Avancement& avancement) {
+bool TablesTri::TrierIndividus(Progression& progression) {
     NomsDeLaBase noms{noms_, naissances_};
-    return TrierIndividus(noms, avancement);
+    return TrierIndividus(noms, progression);
 }
 
-bool TablesTri::TrierIndividus(FournisseurNoms& noms, Avancement& avancement) {
+bool TablesTri::TrierIndividus(FournisseurNoms& noms, Progression& progression) {
     std::vector<std::uint16_t> numeros = individus.Numeros();
-    if (entete_.TypeTri != '1' && entete_.TypeTri != '2') {
+    if (!AUneCle(entete_.TypeTri)) {
         std::sort(numeros.begin(), numeros.end());
     } else {
-        avancement.Commencer({{}, "Tri de la base"}, {{}, "Préparation du tri"_1252});
         std::vector<Cle> cles;
         std::string arene;
-        const bool fait =
-            PreparerCles(individus.Numeros(), noms, static_cast<dorvane::TypeTri>(entete_.TypeTri),
-                         Regles(), avancement, cles, arene);
-        avancement.Phase({{}, "Constitution du tri"});
-        avancement.Terminer();
+        const bool fait = PreparerCles(individus.Numeros(), noms, entete_.TypeTri, Regles(),
+                                       progression, cles, arene);
+        progression.Phase(Litteral("Constitution du tri"));
         if (!fait) return false;
         std::sort(cles.begin(), cles.end(), [&arene](const Cle& a, const Cle& b) {
             if (a.tete != b.tete) return a.tete < b.tete;
@@ -301,36 +297,6 @@ void TablesTri::TrierDocuments() {
     TrierParCle(documents,
                 [this](std::uint32_t numero) { return Replie(doc_.TitreDoc(NoDocument{numero})); });
     marques_.ModifTriDocuments = true;
-}
-
-template <class CleDeNumero>
-void TablesTri::Deplacer(TableTri& table, std::uint32_t de, std::uint32_t vers, bool& modif,
-                         CleDeNumero cleDe) {
-    const auto ranger = [&](std::uint32_t i) {
-        const std::uint32_t premier = table.AuRang(i);
-        const std::uint32_t second = table.AuRang(i + 1);
-        if (!(cleDe(second) < cleDe(premier))) return;
-        table.Fixer(i, second);
-        table.Fixer(i + 1, premier);
-        modif = true;
-    };
-    de = std::min(de, table.Taille());
-    vers = std::min(vers, table.Taille());
-    if (de == 0 || vers == 0) return;
-    for (std::uint32_t i = de; i > vers; --i)
-        ranger(i - 1);
-    for (std::uint32_t i = de; i < vers; ++i)
-        ranger(i);
-}
-
-void TablesTri::DeplacerTriEvt(std::uint32_t de, std::uint32_t vers) {
-    Deplacer(evenements, de, vers, marques_.ModifTriEvenements,
-             [this](std::uint32_t numero) { return evt_.CleDateEvt(NoEvenement{numero}); });
-}
-
-void TablesTri::DeplacerTriDocument(std::uint32_t de, std::uint32_t vers) {
-    Deplacer(documents, de, vers, marques_.ModifTriDocuments,
-             [this](std::uint32_t numero) { return Replie(doc_.TitreDoc(NoDocument{numero})); });
 }
 
 void TablesTri::EcrireTriIndividus() {

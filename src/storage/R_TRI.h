@@ -1,10 +1,11 @@
 #pragma once
 
-#include "storage/Avancement.h"
+#include "storage/ActionListe.h"
 #include "storage/Documents.h"
 #include "storage/EnTete.h"
 #include "storage/Evenements.h"
 #include "storage/Marques.h"
+#include "storage/Progression.h"
 #include "storage/TableTri.h"
 #include "storage/Textes.h"
 #include "storage/Volume.h"
@@ -62,10 +63,10 @@ public:
     /// The rank where a person who is not in the table goes: behind equal keys.
     [[nodiscard]] std::uint32_t RangInsertion(NoOrdre n);
 
-    /// 'A' inserts `n` at the rank, 'S' removes it; any other does nothing. The caller changes
-    /// `NbTriIndividus`, before or after, and sets `ModifTriIndividus`. A removal that does not
-    /// find `n` is told as an incident and goes on.
-    void ModifierTri(std::uint32_t rang, NoOrdre n, char action);
+    /// Inserts `n` at the rank or removes it. The caller changes `NbTriIndividus`, before or after,
+    /// and sets `ModifTriIndividus`. A removal that does not find `n` is told as an incident and
+    /// goes on.
+    void ModifierTri(std::uint32_t rang, NoOrdre n, ActionListe action);
     /// The same with the count and the mark: the ordinary way to add or take away a person.
     void AjouterIndividu(NoOrdre n);
     void RetirerIndividu(NoOrdre n);
@@ -77,20 +78,16 @@ public:
     void AjouterDocument(NoDocument d);
 
     /// Sorts the persons in the table by the key of `TypeTri`, equal keys in the order in which
-    /// they stand; "0" puts them by number. False when the user gave up: the table is as before.
-    bool TrierIndividus(Avancement& avancement);
+    /// they stand; without a key by number. Shows in the frame of the caller. False when the user
+    /// gave up: the table is as before.
+    bool TrierIndividus(Progression& progression);
     /// The same with names and years that the caller has in memory.
-    bool TrierIndividus(FournisseurNoms& noms, Avancement& avancement);
+    bool TrierIndividus(FournisseurNoms& noms, Progression& progression);
     /// Sorts the events by date, or the documents by folded title, equal ones as they stand.
     void TrierEvenements();
     void TrierDocuments();
 
-    /// Restores order when the entry at `de` belongs nearer to `vers`: neighbours are swapped on
-    /// the way where they stand wrong.
-    void DeplacerTriEvt(std::uint32_t de, std::uint32_t vers);
-    void DeplacerTriDocument(std::uint32_t de, std::uint32_t vers);
-
-    /// The key of a person under `TypeTri`; empty under "0".
+    /// The key of a person under `TypeTri`; empty where there is none.
     [[nodiscard]] std::string CleDe(NoOrdre n);
 
     /// Writes a table if its mark is set, and clears the mark.
@@ -103,9 +100,6 @@ public:
     TableTri evenements;
 
 private:
-    template <class CleDeNumero>
-    void Deplacer(TableTri& table, std::uint32_t de, std::uint32_t vers, bool& modif,
-                  CleDeNumero cleDe);
     const ReglesNoms& Regles();
 
     Marques& marques_;

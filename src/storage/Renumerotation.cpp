@@ -115,7 +115,8 @@ bool Renumerotation::NumeroterMariages(BilanReorganisation& bilan) {
         }
     }
     if (bilan.unionsSansEpoux != 0)
-        avancement_.Phase({message::EtatUnionsSansEpoux, std::to_string(bilan.unionsSansEpoux)});
+        progression_.Phase(
+            Msg(message::EtatUnionsSansEpoux, std::to_string(bilan.unionsSansEpoux)));
     return true;
 }
 

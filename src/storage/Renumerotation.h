@@ -1,9 +1,9 @@
 #pragma once
 
-#include "storage/Avancement.h"
 #include "storage/Base.h"
 #include "storage/CopieIndex.h"
 #include "storage/ParcoursReorganisation.h"
+#include "storage/Progression.h"
 #include "storage/Reorganiser.h"
 
 #include <cstdint>
@@ -26,8 +26,8 @@ class Renumerotation {
 public:
     /// All outlive the object.
     Renumerotation(Base& source, CopieIndex& index, ParcoursReorganisation& parcours,
-                   Avancement& avancement)
-        : s_{source}, index_{index}, parcours_{parcours}, avancement_{avancement} {}
+                   Progression& progression)
+        : s_{source}, index_{index}, parcours_{parcours}, progression_{progression} {}
 
     /// The phases before the copy. `bilan` takes the records without an end and the unions that are
     /// left out. False: the work ends.
@@ -59,7 +59,7 @@ private:
     Base& s_;
     CopieIndex& index_;
     ParcoursReorganisation& parcours_;
-    Avancement& avancement_;
+    Progression& progression_;
 };
 
 }  // namespace dorvane::storage

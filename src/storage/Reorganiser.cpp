@@ -43,13 +43,13 @@ std::string CelluleEntiere(std::string annee) {
 
 class Copie {
 public:
-    Copie(Base& source, Base& cible, Avancement& avancement)
+    Copie(Base& source, Base& cible, Progression& progression)
         : s_{source},
           c_{cible},
-          avancement_{avancement},
+          progression_{progression},
           index_{source, cible},
-          parcours_{source, cible, avancement},
-          numeros_{source, index_, parcours_, avancement} {}
+          parcours_{source, cible, progression},
+          numeros_{source, index_, parcours_, progression} {}
 
     IssueReorganisation Faire(BilanReorganisation& bilan) {
         const bool fait = numeros_.Faire(bilan) && Preparer() && index_.EcrireTypes() &&
@@ -63,7 +63,7 @@ public:
 private:
     /// Header and overflow zones: the next allocation comes behind them.
     bool Preparer() {
-        avancement_.Phase({{}, "Recopie fichier"_1252});
+        progression_.Phase(Litteral("Recopie fichier"_1252));
         const EnTete& ancien = s_.entete;
         EnTete& nouveau = c_.entete;
         nouveau.TypeTri = ancien.TypeTri;
@@ -92,7 +92,7 @@ private:
         reserver(nouveau.DernierMariage > SeuilSuite, nouveau.PosSuiteMariages,
                  TailleSuiteMariages);
         c_.marques.ModifBase = true;
-        avancement_.Phase({{}, "Recopie Mots-Clés"_1252});
+        progression_.Phase(Litteral("Recopie Mots-Clés"_1252));
         return true;
     }
 
@@ -112,7 +112,7 @@ private:
     }
     // A cell that is empty is not written: a block of such cells costs no space.
     void CopierCellules(NoOrdre n) {
-        if (const char sexe = s_.R_SEXE.LireCellule(n); sexe != ' ')
+        if (const Sexe sexe = s_.R_SEXE.LireCellule(n); sexe != Sexe::Vide)
             c_.R_SEXE.EcrireCellule(n, sexe);
         CopierAnnee(s_.R_NAISS, c_.R_NAISS, n);
         CopierAnnee(s_.R_DECES, c_.R_DECES, n);
@@ -278,7 +278,7 @@ private:
 
     Base& s_;
     Base& c_;
-    Avancement& avancement_;
+    Progression& progression_;
     CopieIndex index_;
     ParcoursReorganisation parcours_;
     Renumerotation numeros_;
@@ -298,12 +298,13 @@ bool Relire(Disque& disque, const std::filesystem::path& chemin, const std::stri
 }  // namespace
 
 BilanReorganisation ReorganiserVers(Disque& disque, Base& source, const std::filesystem::path& vers,
-                                    Avancement& avancement) {
+                                    Progression& progression) {
     BilanReorganisation bilan;
     bilan.tailleAvant = source.volume.TailleDisque();
     std::unique_ptr<Fichier> fichier = disque.Ouvrir(vers, ModeOuverture::Creer);
     if (!fichier) return bilan;
-    avancement.Commencer({message::TitreReorganisationBase, {}}, {{}, "Contrôle Documents"_1252});
+    const CadreProgression cadre{progression, Msg(message::TitreReorganisationBase),
+                                 Litteral("Contrôle Documents"_1252)};
     {
         // Nothing of the new file is overwritten: there is no journal.
         auto volume = std::make_unique<Volume>(disque, std::move(fichier), std::filesystem::path{},
@@ -311,7 +312,7 @@ BilanReorganisation ReorganiserVers(Disque& disque, Base& source, const std::fil
         volume->ProtegerZones({});
         Base cible{disque, vers, nullptr, std::move(volume)};
         cible.InitColonnes();
-        bilan.issue = Copie{source, cible, avancement}.Faire(bilan);
+        bilan.issue = Copie{source, cible, progression}.Faire(bilan);
         bilan.tailleApres = cible.volume.FinFichier();
         const std::string entete = ComposerEnTete(cible.entete, cible.volume.FinFichier());
         if (bilan.issue == IssueReorganisation::Faite &&
@@ -319,10 +320,9 @@ BilanReorganisation ReorganiserVers(Disque& disque, Base& source, const std::fil
             bilan.issue = IssueReorganisation::Refusee;
     }
     if (bilan.issue == IssueReorganisation::Faite)
-        avancement.Phase({{}, "Réorganisation terminée"_1252});
+        progression.Phase(Litteral("Réorganisation terminée"_1252));
     else
         static_cast<void>(disque.Supprimer(vers));
-    avancement.Terminer();
     return bilan;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "storage/Avancement.h"
 #include "storage/Base.h"
+#include "storage/Progression.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -31,6 +31,6 @@ struct BilanReorganisation {
 /// The labels of `source` are neutral (`ConvertirAncienne`). The caller holds the lock of `vers`.
 [[nodiscard]] BilanReorganisation ReorganiserVers(Disque& disque, Base& source,
                                                   const std::filesystem::path& vers,
-                                                  Avancement& avancement);
+                                                  Progression& progression);
 
 }  // namespace dorvane::storage

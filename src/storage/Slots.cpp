@@ -3,6 +3,7 @@
 #include "storage/Base.h"
 #include "values/Comparaison.h"
 #include "values/Dates.h"
+#include "values/Marqueurs.h"
 #include "values/TexteRiche.h"
 
 #include <cstdio>
@@ -119,11 +120,11 @@ std::string LireLieu(std::string_view texte, char symbole) {
 }
 
 std::string LieuNaissance(Base& base, NoOrdre n) {
-    return LireLieu(base.R_TEXTE.LireTexte(n), '$');
+    return LireLieu(base.R_TEXTE.LireTexte(n), marqueur::LieuNaissance);
 }
 
 std::string LieuDeces(Base& base, NoOrdre n) {
-    return LireLieu(base.R_TEXTE.LireTexte(n), '~');
+    return LireLieu(base.R_TEXTE.LireTexte(n), marqueur::LieuDeces);
 }
 
 std::string NoteDe(Base& base, NoOrdre n) {
@@ -135,12 +136,12 @@ TableSlots SlotsDe(Base& base, NoOrdre n) {
 }
 
 std::string LieuMariage(Base& base, NoMariage m) {
-    return LireLieu(base.R_TXTMAR.LireTexte(m), '@');
+    return LireLieu(base.R_TXTMAR.LireTexte(m), marqueur::LieuMariage);
 }
 
 std::string DateMariageBrute(Base& base, NoMariage m) {
     const std::string_view ligne = PremiereLigne(base.R_TXTMAR.LireTexte(m));
-    return std::string{SansBlancs(ligne.substr(0, ligne.find('@')))};
+    return std::string{SansBlancs(ligne.substr(0, ligne.find(marqueur::LieuMariage)))};
 }
 
 std::string NoteMariage(Base& base, NoMariage m) {

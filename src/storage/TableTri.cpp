@@ -72,10 +72,4 @@ void TableTri::Vider(std::uint32_t nombre) {
     }
 }
 
-void TableTri::Init() {
-    numeros_.clear();
-    surDisque_.clear();
-    repertoire.Vider();
-}
-
 }  // namespace dorvane::storage

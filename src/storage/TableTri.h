@@ -34,8 +34,6 @@ public:
     void Charger(std::uint32_t nombre);
     /// Writes the blocks that differ from the file; the last one is padded with blanks.
     void Vider(std::uint32_t nombre);
-    /// Empties table and directory.
-    void Init();
 
     /// The directory; changed from outside only when a base is opened or made.
     Repertoire repertoire;

@@ -53,9 +53,6 @@ public:
     [[nodiscard]] LigneNom LireNom(NoOrdre n) { return DecouperNom(LireTexte(n)); }
     [[nodiscard]] std::string NomDe(NoOrdre n) { return std::string{LireNom(n).nom}; }
     [[nodiscard]] std::string PrenomDe(NoOrdre n) { return std::string{LireNom(n).prenom}; }
-    [[nodiscard]] std::string AutrePrenomDe(NoOrdre n) {
-        return std::string{LireNom(n).autrePrenom};
-    }
     /// Day and month as stored.
     [[nodiscard]] std::string JourMoisNaissance(NoOrdre n) {
         return std::string{LireNom(n).jourMoisNaissance};

@@ -155,10 +155,6 @@ std::optional<OrdreDate> LireOrdreDate(std::string_view texte) {
     return static_cast<OrdreDate>(trouve - TextesOrdre.begin());
 }
 
-std::string_view TexteOrdreDate(OrdreDate ordre) {
-    return TextesOrdre[static_cast<std::size_t>(ordre)];
-}
-
 std::optional<DateCivile> LireDate(std::string_view texte, OrdreDate ordre) {
     const std::optional<Parties> parties = Couper(texte);
     if (!parties) return std::nullopt;

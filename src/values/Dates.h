@@ -15,9 +15,6 @@ enum class OrdreDate { JourMoisAnnee, MoisJourAnnee, AnneeMoisJour, AnneeJourMoi
 /// other text.
 [[nodiscard]] std::optional<OrdreDate> LireOrdreDate(std::string_view texte);
 
-/// The text that `LireOrdreDate` reads.
-[[nodiscard]] std::string_view TexteOrdreDate(OrdreDate ordre);
-
 /// An existing day of the proleptic Gregorian calendar, year 100 to 9999.
 struct DateCivile {
     int jour = 1;

@@ -346,11 +346,6 @@ std::string QuitterJourMois(std::string_view saisie, OrdreDate ordre, const Mots
     return std::string(SansBlancs(CvtDateLocale(FormatInterne(*date), mots)));
 }
 
-std::string QuitterDateEvenement(std::string_view saisie, OrdreDate ordre, const MotsDates& mots) {
-    const std::optional<DateCivile> date = LireDateAffichee(saisie, ordre, mots);
-    return date ? AfficherDateEvenement(DateVersSerie(*date), mots) : std::string(saisie);
-}
-
 std::string DateDeMotCle(std::string_view jourMois, std::string_view annee, OrdreDate ordre) {
     // A year of one or two digits is itself, not one of our time, and never makes a date here.
     constexpr std::size_t AnneeEntiere = 3;

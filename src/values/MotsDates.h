@@ -62,11 +62,9 @@ struct MotsDates {
                                                        const MotsDates& mots);
 
 /// What a field becomes when it loses focus: a whole pair of day and month is written in words
-/// ("12/3" becomes "12 mars"), and so is an event date that has a weekday. Other texts stay.
+/// ("12/3" becomes "12 mars"). Other texts stay.
 [[nodiscard]] std::string QuitterJourMois(std::string_view saisie, OrdreDate ordre,
                                           const MotsDates& mots);
-[[nodiscard]] std::string QuitterDateEvenement(std::string_view saisie, OrdreDate ordre,
-                                               const MotsDates& mots);
 
 /// The date of a keyword as its index text holds it: "d/m/yyyy" when day, month and year are a
 /// date; otherwise the text, a blank, and the year padded on the left with blanks to 4.

@@ -130,7 +130,7 @@ std::string CleTri(std::string_view nom, std::string_view prenom, std::string_vi
 
 void CleTriDans(std::string& sortie, std::string_view nom, std::string_view prenom,
                 std::string_view naissance, TypeTri tri, const ReglesNoms& regles) {
-    if (tri != TypeTri::Naissance && tri != TypeTri::Nom) return;
+    if (!AUneCle(tri)) return;
     if (tri == TypeTri::Naissance) {
         const QuatreOctets annee = AnneeTri(naissance);
         sortie.append(annee.data(), annee.size()).push_back(' ');

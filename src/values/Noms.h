@@ -53,6 +53,11 @@ enum class TypeTri : char {
     Nom = '2',        ///< name
 };
 
+/// Persons stand by a key: not in the order of creation, nor under a byte that is no order.
+[[nodiscard]] constexpr bool AUneCle(TypeTri tri) {
+    return tri == TypeTri::Naissance || tri == TypeTri::Nom;
+}
+
 /// Sort key of a person, compared byte by byte as unsigned: for `Naissance` the `AnneeTri` of
 /// `naissance` and a blank, then the folded `CleNom`, a blank and the folded first name. Empty for
 /// `Creation`, and for any other value that a damaged file may hold.

@@ -72,8 +72,8 @@ private:
 
     void VoirIndividu(NoOrdre n) {
         if (!Vivant(n)) VoirVide(n);
-        VoirParent(n, base_.R_PERE.LireCellule(n), 'F');
-        VoirParent(n, base_.R_MERE.LireCellule(n), 'H');
+        VoirParent(n, base_.R_PERE.LireCellule(n), Sexe::Femme);
+        VoirParent(n, base_.R_MERE.LireCellule(n), Sexe::Homme);
         if (base_.R_PERE.LireCellule(n) &&
             base_.R_PERE.LireCellule(n) == base_.R_MERE.LireCellule(n))
             Dire("same father and mother", n.valeur);
@@ -90,16 +90,16 @@ private:
     }
     /// Who is in no sort table was deleted: nothing is left of that person.
     void VoirVide(NoOrdre n) {
-        const bool vide = base_.R_NOM.LireTexte(n).empty() && base_.R_TEXTE.LireTexte(n).empty() &&
-                          base_.R_NAISS.LireCellule(n).empty() &&
-                          base_.R_DECES.LireCellule(n).empty() &&
-                          base_.R_SEXE.LireCellule(n) == ' ' && !base_.R_PERE.LireCellule(n) &&
-                          !base_.R_MERE.LireCellule(n) && base_.R_ENFANT.NbElements(n) == 0 &&
-                          base_.R_MARIAG.NbElements(n) == 0 && base_.R_LIEN.NbElements(n) == 0 &&
-                          base_.R_LSTEVT.NbElements(n) == 0 && base_.R_LSTIMG.NbElements(n) == 0;
+        const bool vide =
+            base_.R_NOM.LireTexte(n).empty() && base_.R_TEXTE.LireTexte(n).empty() &&
+            base_.R_NAISS.LireCellule(n).empty() && base_.R_DECES.LireCellule(n).empty() &&
+            base_.R_SEXE.LireCellule(n) == Sexe::Vide && !base_.R_PERE.LireCellule(n) &&
+            !base_.R_MERE.LireCellule(n) && base_.R_ENFANT.NbElements(n) == 0 &&
+            base_.R_MARIAG.NbElements(n) == 0 && base_.R_LIEN.NbElements(n) == 0 &&
+            base_.R_LSTEVT.NbElements(n) == 0 && base_.R_LSTIMG.NbElements(n) == 0;
         if (!vide) Dire("deleted person is not empty", n.valeur);
     }
-    void VoirParent(NoOrdre n, NoOrdre parent, char jamais) {
+    void VoirParent(NoOrdre n, NoOrdre parent, Sexe jamais) {
         if (!parent) return;
         if (!Vivant(parent)) Dire("parent is nobody", n.valeur, parent.valeur);
         if (base_.R_SEXE.LireCellule(parent) == jamais)
@@ -150,8 +150,10 @@ private:
             if (Fois(base_.R_MARIAG.Elements(n), m) != 1)
                 Dire("union not once in the list of the partner", m.valeur, n.valeur);
         }
-        if (epoux && base_.R_SEXE.LireCellule(epoux) == 'F') Dire("husband is a woman", m.valeur);
-        if (epouse && base_.R_SEXE.LireCellule(epouse) == 'H') Dire("wife is a man", m.valeur);
+        if (epoux && base_.R_SEXE.LireCellule(epoux) == Sexe::Femme)
+            Dire("husband is a woman", m.valeur);
+        if (epouse && base_.R_SEXE.LireCellule(epouse) == Sexe::Homme)
+            Dire("wife is a man", m.valeur);
         if (epoux && epoux == epouse) Dire("union with oneself", m.valeur);
         const bool vide = base_.R_TXTMAR.LireTexte(m).empty() &&
                           base_.R_DEBMAR.LireCellule(m).empty() &&
@@ -210,7 +212,7 @@ private:
 
     /// Each table against the order of its keys.
     void VoirTris() {
-        if (base_.entete.TypeTri == '1' || base_.entete.TypeTri == '2') {
+        if (AUneCle(base_.entete.TypeTri)) {
             std::string avant;
             for (const std::uint16_t n : base_.R_TRI.individus.Numeros()) {
                 std::string cle = base_.R_TRI.CleDe(NoOrdre{n});

@@ -115,7 +115,7 @@ private:
         }
         VoirNom(a, b);
         // A person of no known sex has a blank until the sheet is saved.
-        const auto sexe = [](char c) { return c == 'H' || c == 'F' ? c : 'I'; };
+        const auto sexe = [](Sexe s) { return static_cast<char>(SexeLu(s)); };
         Voir("sex", a.valeur, sexe(a_.R_SEXE.LireCellule(a)), sexe(b_.R_SEXE.LireCellule(b)));
         Voir("birth year", a.valeur, a_.R_NAISS.LireCellule(a), b_.R_NAISS.LireCellule(b));
         Voir("death year", a.valeur, a_.R_DECES.LireCellule(a), b_.R_DECES.LireCellule(b));

@@ -49,7 +49,7 @@ private:
     void Individu(NoOrdre n) {
         Ligne("personne ");
         Champ(n.valeur);
-        Champ(std::string(1, b_.R_SEXE.LireCellule(n)));
+        Champ(std::string(1, static_cast<char>(b_.R_SEXE.LireCellule(n))));
         Champ(b_.R_NAISS.LireCellule(n));
         Champ(b_.R_DECES.LireCellule(n));
         Champ(b_.R_PERE.LireCellule(n).valeur);

@@ -234,15 +234,6 @@ private:
                 disque_.durables_[nom_] = contenu_;
         }
         [[nodiscard]] std::uint64_t Taille() override { return contenu_->octets.size(); }
-        void Tronquer(std::uint64_t taille) override {
-            if (defaut_) return;
-            if (!disque_.Agir()) {
-                defaut_ = true;
-                return;
-            }
-            contenu_->octets.resize(taille);
-            contenu_->attente.push_back({taille, {}, true});
-        }
         [[nodiscard]] bool EnDefaut() const override { return defaut_; }
 
     private:

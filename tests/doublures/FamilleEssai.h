@@ -14,7 +14,7 @@ public:
     explicit FamilleEssai(storage::Base& base) : base_{base} {}
 
     /// A person in the sort table; texts in code page 1252, years as the cells hold them.
-    NoOrdre Creer(char sexe, std::string_view nom, std::string_view prenom,
+    NoOrdre Creer(Sexe sexe, std::string_view nom, std::string_view prenom,
                   std::string_view naissance = {}, std::string_view deces = {}) {
         const NoOrdre n = base_.NouvelIndividu();
         base_.R_SEXE.EcrireCellule(n, sexe);
@@ -29,8 +29,8 @@ public:
     void Parents(NoOrdre enfant, NoOrdre pere, NoOrdre mere) {
         base_.R_PERE.EcrireCellule(enfant, pere);
         base_.R_MERE.EcrireCellule(enfant, mere);
-        if (pere) base_.R_ENFANT.ModifierListe(pere, enfant, 'A');
-        if (mere) base_.R_ENFANT.ModifierListe(mere, enfant, 'A');
+        if (pere) base_.R_ENFANT.ModifierListe(pere, enfant, storage::ActionListe::Ajouter);
+        if (mere) base_.R_ENFANT.ModifierListe(mere, enfant, storage::ActionListe::Ajouter);
     }
 
     NoMariage Marier(NoOrdre epoux, NoOrdre epouse, std::string_view annee = {}) {
@@ -38,13 +38,13 @@ public:
         base_.R_EPOUX.EcrireCellule(m, epoux);
         base_.R_EPOUSE.EcrireCellule(m, epouse);
         base_.R_DEBMAR.EcrireCellule(m, annee);
-        if (epoux) base_.R_MARIAG.ModifierListe(epoux, m, 'A');
-        if (epouse) base_.R_MARIAG.ModifierListe(epouse, m, 'A');
+        if (epoux) base_.R_MARIAG.ModifierListe(epoux, m, storage::ActionListe::Ajouter);
+        if (epouse) base_.R_MARIAG.ModifierListe(epouse, m, storage::ActionListe::Ajouter);
         return m;
     }
 
     void Lier(NoOrdre individu, NoOrdre autre, std::string_view libelle) {
-        base_.R_LIEN.ModifierListe(individu, autre, 'A', libelle);
+        base_.R_LIEN.ModifierListe(individu, autre, storage::ActionListe::Ajouter, libelle);
     }
 
 private:

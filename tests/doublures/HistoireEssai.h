@@ -128,7 +128,7 @@ private:
         const std::uint32_t n = B().entete.NbTriDocuments;
         return n == 0 ? NoDocument{} : B().R_TRI.DocumentAuRang(1 + Tirer(n));
     }
-    char Cote() { return Tirer(2) == 0 ? 'H' : 'F'; }
+    Cote UnCote() { return Tirer(2) == 0 ? Cote::Pere : Cote::Mere; }
 
     std::string Nom() {
         static constexpr std::array<std::string_view, 12> Noms{
@@ -191,7 +191,7 @@ private:
                 s.autrePrenom = Prenom();
                 break;
             case 3:
-                s.sexe = "HFI"[Tirer(3)];
+                s.sexe = static_cast<Sexe>("HFI"[Tirer(3)]);
                 break;
             case 4:
                 s.anneeNaissance = Annee();
@@ -213,7 +213,7 @@ private:
                 break;
         }
     }
-    NoOrdre CreerPersonne(char sexe) {
+    NoOrdre CreerPersonne(Sexe sexe) {
         records::SaisieFiche saisie;
         saisie.nom = Nom();
         saisie.prenom = Prenom();
@@ -222,7 +222,7 @@ private:
         saisie.sexe = sexe;
         return records::CreerIndividu(session_, saisie).individu;
     }
-    void Creer() { CreerPersonne("HFI"[Tirer(8) == 0 ? 2 : Tirer(2)]); }
+    void Creer() { CreerPersonne(static_cast<Sexe>("HFI"[Tirer(8) == 0 ? 2 : Tirer(2)])); }
     void Modifier() {
         const NoOrdre n = Present();
         if (!n) return;
@@ -246,17 +246,17 @@ private:
         if (const NoOrdre n = Present()) records::SupprimerIndividu(session_, n);
     }
     void DonnerParent() {
-        static_cast<void>(records::DonnerParent(session_, Individu(), Cote(), Individu()));
+        static_cast<void>(records::DonnerParent(session_, Individu(), UnCote(), Individu()));
     }
     void ParentCree() {
         const NoOrdre enfant = Present();
-        const char cote = Cote();
+        const Cote cote = UnCote();
         if (!enfant) return;
-        if (const NoOrdre n = CreerPersonne(cote))
+        if (const NoOrdre n = CreerPersonne(SexeDuCote(cote)))
             static_cast<void>(records::ParentCree(session_, enfant, cote, n));
     }
     void RetirerParent() {
-        static_cast<void>(records::RetirerParent(session_, Individu(), Cote()));
+        static_cast<void>(records::RetirerParent(session_, Individu(), UnCote()));
     }
     void Attacher() {
         const NoOrdre parent = Present();
@@ -271,7 +271,7 @@ private:
         const NoOrdre parent = Present();
         const NoMariage mariage = UnionDe(parent);
         if (!parent || !records::PeutAvoirEnfant(session_, parent, mariage)) return;
-        if (const NoOrdre n = CreerPersonne("HFI"[Tirer(3)]))
+        if (const NoOrdre n = CreerPersonne(static_cast<Sexe>("HFI"[Tirer(3)])))
             static_cast<void>(records::EnfantCree(session_, parent, n, mariage));
     }
     void RetirerEnfant() {
@@ -372,7 +372,7 @@ private:
                 records::LierPersonne(session_, e, Individu(), Role());
                 break;
             case 1:
-                records::DelierPersonne(session_, e, B().R_EVT.LienEvt(e, 1), {});
+                records::DelierPersonne(session_, e, B().R_EVT.Liens(e).at(0).individu, {});
                 break;
             default:
                 records::DeplacerLien(session_, e, 1 + Tirer(3), Tirer(2) == 0 ? -1 : 1);

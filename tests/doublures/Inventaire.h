@@ -55,7 +55,10 @@ private:
         Ligne("entete", e.NbTriIndividus);
         Nombre(e.DernierIndividu).Nombre(e.DernierMariage).Nombre(e.DernierEvenement);
         Nombre(e.NbTriEvenements).Nombre(e.DernierDocument).Nombre(e.NbTriDocuments);
-        Nombre(e.NbIndex).Nombre(e.TypeTri).Nombre(e.DocBase.valeur).Nombre(e.OptParticules);
+        Nombre(e.NbIndex)
+            .Nombre(static_cast<char>(e.TypeTri))
+            .Nombre(e.DocBase.valeur)
+            .Nombre(e.OptParticules);
         for (const Slot& slot : e.SlotsIndividu)
             Nombre(slot.symbole).Nombre(slot.drapeau);
     }
@@ -76,7 +79,7 @@ private:
     }
     void EcrireIndividu(NoOrdre n) {
         Ligne("individu", n.valeur);
-        Nombre(base_.R_SEXE.LireCellule(n)).Champ(base_.R_NAISS.LireCellule(n));
+        Nombre(static_cast<char>(base_.R_SEXE.LireCellule(n))).Champ(base_.R_NAISS.LireCellule(n));
         Champ(base_.R_DECES.LireCellule(n)).Champ(base_.R_DECES.AnneeTri(n));
         Nombre(base_.R_PERE.LireCellule(n).valeur).Nombre(base_.R_MERE.LireCellule(n).valeur);
         Champ(base_.R_NOM.LireTexte(n)).Champ(base_.R_NOM.PrenomDe(n));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Progression.h"
+#include "storage/Progression.h"
 
 #include <functional>
 #include <vector>
@@ -8,10 +8,10 @@
 namespace dorvane::doublures {
 
 /// Keeps what a long job has shown, and cancels it at a given step.
-class ProgressionScript final : public shell::Progression {
+class ProgressionScript final : public storage::Progression {
 public:
-    std::vector<shell::Phrase> titres;
-    std::vector<shell::Phrase> textes;  ///< first texts and phases, in order
+    std::vector<Phrase> titres;
+    std::vector<Phrase> textes;  ///< first texts and phases, in order
     std::uint32_t pas = 0;              ///< calls of `Avancer`
     std::uint32_t annulerAu = 0;        ///< the call that answers no; 0: never
     int cadres = 0;                     ///< frames shown now
@@ -19,12 +19,12 @@ public:
     int sabliersVus = 0;
     std::function<void()> aChaquePas;  ///< what the user does meanwhile
 
-    void Commencer(const shell::Phrase& titre, const shell::Phrase& texte) override {
+    void Commencer(const Phrase& titre, const Phrase& texte) override {
         ++cadres;
         titres.push_back(titre);
         textes.push_back(texte);
     }
-    void Phase(const shell::Phrase& texte) override { textes.push_back(texte); }
+    void Phase(const Phrase& texte) override { textes.push_back(texte); }
     [[nodiscard]] bool Avancer(std::uint32_t /*fait*/, std::uint32_t /*total*/) override {
         ++pas;
         if (aChaquePas) aChaquePas();

@@ -76,13 +76,13 @@ private:
         if (!n) return;
         base_.R_NOM.EcrireNom(n, Mot() + ";" + Mot() + ";;1/2");
         base_.R_NAISS.EcrireCellule(n, Annee());
-        base_.R_SEXE.EcrireCellule(n, Tirer(2) == 0 ? 'H' : 'F');
+        base_.R_SEXE.EcrireCellule(n, Tirer(2) == 0 ? Sexe::Homme : Sexe::Femme);
         base_.R_TRI.AjouterIndividu(n);
         EcrireTexte(n, TexteAuHasard());
         const NoOrdre pere = Individu();
         if (pere == n) return;
         base_.R_PERE.EcrireCellule(n, pere);
-        base_.R_ENFANT.ModifierListe(pere, n, 'A');
+        base_.R_ENFANT.ModifierListe(pere, n, storage::ActionListe::Ajouter);
     }
     void Renommer() {
         const NoOrdre n = Individu();
@@ -99,7 +99,7 @@ private:
         base_.R_EPOUSE.EcrireCellule(m, Individu());
         base_.R_DEBMAR.EcrireCellule(m, Annee());
         base_.R_TXTMAR.EcrireTexte(m, "1/2@" + Mot());
-        base_.R_MARIAG.ModifierListe(epoux, m, 'A');
+        base_.R_MARIAG.ModifierListe(epoux, m, storage::ActionListe::Ajouter);
     }
     void AjouterEvenement() {
         const NoEvenement e = base_.NouvelEvenement();
@@ -111,7 +111,7 @@ private:
                                   .documents = {},
                                   .description = DescriptionEvt{Mot(), "", "BAPM"}});
         base_.R_TRI.AjouterEvt(e);
-        base_.R_LSTEVT.ModifierListe(n, e, 'A', "CHIL");
+        base_.R_LSTEVT.ModifierListe(n, e, storage::ActionListe::Ajouter, "CHIL");
     }
     void AjouterDocument() {
         const NoDocument d = base_.NouveauDocument();
@@ -119,14 +119,14 @@ private:
         if (!d || !n) return;
         base_.R_IMAGE.EcrireDoc(d, {Mot(), "photo.jpg", "PHOTO", std::string(Tirer(50), 'd')});
         base_.R_TRI.AjouterDocument(d);
-        base_.R_LSTIMG.ModifierListe(n, d, 'A');
+        base_.R_LSTIMG.ModifierListe(n, d, storage::ActionListe::Ajouter);
     }
     void Lier() {
         const NoOrdre n = Individu();
         const NoOrdre autre = Individu();
         if (n == autre) return;
-        base_.R_LIEN.ModifierListe(n, autre, 'A', "GODP");
-        base_.R_LIEN.ModifierListe(autre, n, 'A', "GODP");
+        base_.R_LIEN.ModifierListe(n, autre, storage::ActionListe::Ajouter, "GODP");
+        base_.R_LIEN.ModifierListe(autre, n, storage::ActionListe::Ajouter, "GODP");
     }
     void Supprimer() {
         const NoOrdre n = Individu();
@@ -135,7 +135,7 @@ private:
         base_.R_TRI.RetirerIndividu(n);
         base_.R_NOM.EcrireNom(n, "");
         base_.R_NAISS.EcrireCellule(n, "");
-        base_.R_SEXE.EcrireCellule(n, ' ');
+        base_.R_SEXE.EcrireCellule(n, Sexe::Vide);
     }
 
     Base& base_;

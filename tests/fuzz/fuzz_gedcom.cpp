@@ -22,7 +22,8 @@ void Parcourir(storage::Base& base) {
         (void)storage::NoteDe(base, individu);
         (void)storage::SlotsDe(base, individu);
         (void)base.R_ENFANT.Elements(individu);
-        if (base.entete.TypeTri != '0' && base.R_TRI.RangIndividu(individu) == 0) std::abort();
+        if (base.entete.TypeTri != TypeTri::Creation && base.R_TRI.RangIndividu(individu) == 0)
+            std::abort();
     }
     for (std::uint32_t e = 1; e <= base.entete.DernierEvenement; ++e)
         (void)base.R_EVT.Liens(NoEvenement{e});
@@ -41,9 +42,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     const auto issue =
         interchange::ImporterTexte(session, std::string{fichier}, "/essai.LGD", rapport);
     if (!issue) return 0;
-    storage::AvancementMuet avancement;
+    storage::ProgressionMuette progression;
     storage::ResultatOuverture ouverte =
-        storage::OuvrirBase(poste.disque, "/essai.LGD", avancement);
+        storage::OuvrirBase(poste.disque, "/essai.LGD", progression);
     if (ouverte.etat != storage::Ouverture::Faite) std::abort();
     if (ouverte.base->entete.DernierIndividu != rapport.individus) std::abort();
     Parcourir(*ouverte.base);

@@ -31,7 +31,7 @@ void Travailler(Base& base) {
     SeanceEssai seance{base, 5};
     for (int i = 0; i < 12; ++i)
         seance.Agir();
-    AvancementMuet muet;
+    ProgressionMuette muet;
     if (base.entete.NbTriIndividus <= 1000) {
         base.R_TRI.TrierIndividus(muet);
         ConstruireIndex(base, '|', muet);
@@ -51,7 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* donnees, std::size_t t
     DisqueMemoire disque;
     disque.capacite = 64U << 20U;
     disque.Poser(Chemin, octets);
-    AvancementMuet muet;
+    ProgressionMuette muet;
     {
         const ResultatOuverture resultat = OuvrirBase(disque, Chemin, muet);
         if (!resultat.base) {

@@ -44,7 +44,7 @@ void Verifier(storage::Base& base) {
             if (base.R_LIEN.ElementListe(individu, k).valeur > base.entete.DernierIndividu)
                 std::abort();
     }
-    if (base.entete.TypeTri != '0')
+    if (base.entete.TypeTri != TypeTri::Creation)
         for (const std::uint16_t n : base.R_TRI.individus.Numeros())
             if (base.R_TRI.RangIndividu(NoOrdre{n}) == 0) std::abort();
 }
@@ -60,9 +60,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     const auto issue = interchange::ImporterOctetsLgr(session, AvecVersion(octets, taille),
                                                       "essai.lgr", "/essai.LGD", rapport);
     if (!issue) return 0;
-    storage::AvancementMuet avancement;
+    storage::ProgressionMuette progression;
     storage::ResultatOuverture ouverte =
-        storage::OuvrirBase(poste.disque, "/essai.LGD", avancement);
+        storage::OuvrirBase(poste.disque, "/essai.LGD", progression);
     if (ouverte.etat != storage::Ouverture::Faite) std::abort();
     if (ouverte.base->entete.NbTriIndividus != rapport.individus) std::abort();
     Verifier(*ouverte.base);

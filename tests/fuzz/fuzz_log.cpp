@@ -35,7 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* donnees, std::size_t t
     DisqueMemoire disque;
     disque.Poser(Chemin, Base0);
     disque.Poser("essai.LOG", {reinterpret_cast<const char*>(donnees), taille});
-    AvancementMuet muet;
+    ProgressionMuette muet;
     const ResultatOuverture resultat = OuvrirBase(disque, Chemin, muet);
     if (disque.Octets(Chemin).size() > Base0.size() + Journal::TailleImage) std::abort();
     if (!resultat.base) return 0;

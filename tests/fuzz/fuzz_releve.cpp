@@ -31,9 +31,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
         std::abort();
     if (prevu.individus != rapport.individus || prevu.constats.size() != rapport.constats.size())
         std::abort();
-    storage::AvancementMuet avancement;
+    storage::ProgressionMuette progression;
     storage::ResultatOuverture ouverte =
-        storage::OuvrirBase(poste.disque, "/essai.LGD", avancement);
+        storage::OuvrirBase(poste.disque, "/essai.LGD", progression);
     if (ouverte.etat != storage::Ouverture::Faite) std::abort();
     if (const std::string ecarts = doublures::Ecarts(*ouverte.base); !ecarts.empty()) {
         std::puts(ecarts.c_str());

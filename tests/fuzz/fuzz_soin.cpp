@@ -45,7 +45,7 @@ struct Poste {
     }
 
     bool Ouvrir() {
-        storage::AvancementMuet muet;
+        storage::ProgressionMuette muet;
         storage::ResultatOuverture resultat = storage::OuvrirBase(disque, chemin, muet);
         session.CheminBase = chemin;
         session.PoserBase(std::move(resultat.base));

@@ -3,7 +3,6 @@
 #include "doublures/SessionEssai.h"
 #include "interchange/commandes/Importer.h"
 #include "shell/Demarrage.h"
-#include "shell/RelaisAvancement.h"
 #include "storage/Base.h"
 #include "storage/Slots.h"
 #include "values/Texte1252.h"
@@ -30,8 +29,7 @@ struct EssaiImport : SessionEssai {
         EcrireFichier(fichier, octets);
         importation = interchange::ImporterVers(session, fichier, chemin);
         if (!importation.issue) return;
-        shell::RelaisAvancement avancement{session.progression, session.catalogue};
-        base = storage::OuvrirBase(session.disque, chemin, avancement).base;
+        base = storage::OuvrirBase(session.disque, chemin, session.progression).base;
         REQUIRE(base != nullptr);
     }
 

@@ -51,7 +51,7 @@ void Deborder(Base& base, int tour) {
 
 /// Runs the day. With `dire`, the states are noted, which costs no operation that is counted.
 Journee Vivre(DisqueMemoire& disque, const Plan& plan, bool dire) {
-    AvancementMuet muet;
+    ProgressionMuette muet;
     Journee journee;
     ResultatOuverture resultat =
         plan.nouvelle ? NouvelleBase(disque, Chemin, {}) : OuvrirBase(disque, Chemin, muet);
@@ -76,7 +76,7 @@ Journee Vivre(DisqueMemoire& disque, const Plan& plan, bool dire) {
 
 /// What the base on `disque` says once it is opened again; "" when there is none yet.
 std::string Relire(DisqueMemoire& disque) {
-    AvancementMuet muet;
+    ProgressionMuette muet;
     const ResultatOuverture resultat = OuvrirBase(disque, Chemin, muet);
     if (resultat.etat != Ouverture::Faite) return {};
     CHECK_FALSE(disque.Existe(CheminLog));
@@ -170,7 +170,7 @@ TEST_CASE("Failures: a replay that is cut itself is taken up again") {
             const std::unique_ptr<DisqueMemoire> disque = mort->Survivre();
             disque->panne = panne;
             disque->panneA = n;
-            AvancementMuet muet;
+            ProgressionMuette muet;
             (void)OuvrirBase(*disque, Chemin, muet);
             CHECK(Relire(*disque->Survivre()) == temoin.etats[0]);
             for (std::uint32_t graine = 1; graine <= 4; ++graine)

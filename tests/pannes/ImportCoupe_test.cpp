@@ -57,7 +57,7 @@ bool Importer(DisqueMemoire& disque) {
 
 /// What the base says once it is opened; "" when there is none.
 std::string Relire(DisqueMemoire& disque) {
-    AvancementMuet muet;
+    ProgressionMuette muet;
     const ResultatOuverture resultat = OuvrirBase(disque, Chemin, muet);
     return resultat.base ? Inventaire{*resultat.base}.Texte() : std::string{};
 }
@@ -75,7 +75,7 @@ std::unique_ptr<DisqueMemoire> Preparer(bool enSuspens) {
     if (!enSuspens) return disque.Survivre();
     for (int n = 1;; ++n) {
         const auto essai = disque.Survivre();
-        AvancementMuet muet;
+        ProgressionMuette muet;
         const ResultatOuverture resultat = OuvrirBase(*essai, Chemin, muet);
         SeanceEssai seance{*resultat.base, 6};
         for (int i = 0; i < 30; ++i)

@@ -26,7 +26,7 @@ constexpr int NbGestes = 1000;
 class Recit : public doublures::SessionEssai {
 public:
     /// `libelles`: labels of links are changed as well, after which both sides may differ.
-    Recit(std::uint32_t graine, char tri, bool libelles)
+    Recit(std::uint32_t graine, TypeTri tri, bool libelles)
         : histoire_{*this, graine}, libelles_{libelles} {
         shell::Demarrage(session);
         session.TypeTri = tri;
@@ -80,7 +80,7 @@ private:
         enregistree_ = storage::Inventaire{*session.base}.Texte();
     }
     void Ouvrir() {
-        storage::AvancementMuet muet;
+        storage::ProgressionMuette muet;
         storage::ResultatOuverture ouverte =
             storage::OuvrirBase(disque, dossier / "Histoire.LGD", muet);
         REQUIRE(ouverte.etat == storage::Ouverture::Faite);
@@ -118,7 +118,7 @@ struct Bilan {
 };
 
 void Raconter(std::uint32_t graine, Bilan& bilan) {
-    const char tri = "120"[graine % 3];
+    const auto tri = static_cast<TypeTri>("120"[graine % 3]);
     CAPTURE(graine);
     CAPTURE(tri);
     Recit recit{graine, tri, graine % 4 == 0};

@@ -87,7 +87,7 @@ TEST_CASE(
         if (annonces <= NbCommits) ++enRoute;
 
         DisqueReel disque;
-        AvancementMuet muet;
+        ProgressionMuette muet;
         const ResultatOuverture resultat = OuvrirBase(disque, chemin, muet);
         REQUIRE(resultat.etat == Ouverture::Faite);
         const std::string lu = Inventaire{*resultat.base}.Texte();

@@ -17,7 +17,7 @@ using Mots = std::vector<std::string>;
 
 /// Louis and Rose are the parents of Paul, who was born on 12 March 1820 at Brest.
 struct Scene : EssaiFamille {
-    explicit Scene(char tri = '2') : EssaiFamille{tri} {
+    explicit Scene(TypeTri tri = TypeTri::Nom) : EssaiFamille{tri} {
         Parents(paul, louis, rose);
         SaisieFiche fiche = ChargerFiche(session, paul);
         fiche.jourMoisNaissance = "12 mars";
@@ -25,9 +25,9 @@ struct Scene : EssaiFamille {
         static_cast<void>(ValiderFiche(session, fiche));
         dialogue.entendu.clear();
     }
-    NoOrdre louis = Creer('H', "Martin", "Louis", "1790");
-    NoOrdre rose = Creer('F', "Blanc", "Rose", "1795");
-    NoOrdre paul = Creer('H', "Martin", "Paul", "1820");
+    NoOrdre louis = Creer(Sexe::Homme, "Martin", "Louis", "1790");
+    NoOrdre rose = Creer(Sexe::Femme, "Blanc", "Rose", "1795");
+    NoOrdre paul = Creer(Sexe::Homme, "Martin", "Paul", "1820");
 
     /// An event as another program may have left it: nothing is asked.
     NoEvenement Evenement(std::string_view type, std::string_view date, std::string_view lieu,
@@ -40,7 +40,7 @@ struct Scene : EssaiFamille {
         base.R_EVT.EcrireEvt(e, parties);
         base.R_TRI.AjouterEvt(e);
         for (const storage::LienEvenement& lien : liens)
-            base.R_LSTEVT.ModifierListe(lien.individu, e, 'A', lien.role);
+            base.R_LSTEVT.ModifierListe(lien.individu, e, storage::ActionListe::Ajouter, lien.role);
         return e;
     }
     [[nodiscard]] std::string Date(NoEvenement e) { return LigneDe(session, e).date; }
@@ -62,7 +62,7 @@ struct Scene : EssaiFamille {
 };
 
 struct SceneParAnnee : Scene {
-    SceneParAnnee() : Scene{'1'} {}
+    SceneParAnnee() : Scene{TypeTri::Naissance} {}
 };
 
 }  // namespace
@@ -147,7 +147,7 @@ TEST_CASE_FIXTURE(Scene,
     AccorderEvenements(session, louis);
     CHECK(Dit().empty());
     Marier(louis, rose, "1815");
-    Marier(louis, Creer('F', "Noir", "Anne"), "1830");
+    Marier(louis, Creer(Sexe::Femme, "Noir", "Anne"), "1830");
     AccorderEvenements(session, louis);
     CHECK(Dit().empty());
 }
@@ -176,7 +176,7 @@ TEST_CASE_FIXTURE(Scene,
 TEST_CASE_FIXTURE(SceneParAnnee,
                   "AccorderFiches: a yes gives the sheet year, day and month, and place, with all "
                   "that hangs on the year") {
-    const NoOrdre jeanne = Creer('F', "Martin", "Jeanne", "1822");
+    const NoOrdre jeanne = Creer(Sexe::Femme, "Martin", "Jeanne", "1822");
     Parents(jeanne, louis, rose);
     SaisieEvenement saisie = NouvelEvenement(paul, "CHIL");
     saisie.date = "1er mai 1825";
@@ -282,7 +282,7 @@ TEST_CASE_FIXTURE(Scene, "AccorderFiches: dots that a sheet cannot hold are no d
 }
 
 TEST_CASE_FIXTURE(Scene, "AccorderFiches: twins are asked for one by one") {
-    const NoOrdre luc = Creer('H', "Martin", "Luc", "1820");
+    const NoOrdre luc = Creer(Sexe::Homme, "Martin", "Luc", "1820");
     const NoEvenement e =
         Evenement("BIRT", "13/3/1820", "Brest", {{paul, "CHIL"}, {luc, "CHIL"}, {louis, "WITN"}});
     Repondre({Non, Oui});

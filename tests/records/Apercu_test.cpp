@@ -6,10 +6,10 @@ using namespace dorvane;
 using namespace dorvane::records;
 
 TEST_CASE_FIXTURE(EssaiFamille, "ApercuDe: number, parents and spouses in one line") {
-    const NoOrdre paul = Creer('H', "Noir", "Paul", "1820", "1890");
-    const NoOrdre anne = Creer('F', "Blanc", "Anne", "1825");
-    const NoOrdre luc = Creer('H', "Noir", "Luc", "1850");
-    const NoOrdre eve = Creer('F', "Gris", "Eve");
+    const NoOrdre paul = Creer(Sexe::Homme, "Noir", "Paul", "1820", "1890");
+    const NoOrdre anne = Creer(Sexe::Femme, "Blanc", "Anne", "1825");
+    const NoOrdre luc = Creer(Sexe::Homme, "Noir", "Luc", "1850");
+    const NoOrdre eve = Creer(Sexe::Femme, "Gris", "Eve");
     CHECK(ApercuDe(session, luc) == "n\xB0 3");
     Parents(luc, paul, anne);
     Marier(luc, eve);

@@ -17,7 +17,8 @@ namespace dorvane::records {
 /// A new base that tests may damage, in a started session.
 class BureauSoin : public doublures::SessionEssai, public doublures::FamilleEssai {
 public:
-    explicit BureauSoin(char tri = '1') : doublures::FamilleEssai{*NouvelleBase(*this, tri)} {}
+    explicit BureauSoin(TypeTri tri = TypeTri::Naissance)
+        : doublures::FamilleEssai{*NouvelleBase(*this, tri)} {}
 
     [[nodiscard]] storage::Base& B() const { return *session.base; }
 
@@ -31,7 +32,7 @@ public:
     }
 
 private:
-    static storage::Base* NouvelleBase(doublures::SessionEssai& essai, char tri) {
+    static storage::Base* NouvelleBase(doublures::SessionEssai& essai, TypeTri tri) {
         shell::Demarrage(essai.session);
         essai.session.TypeTri = tri;
         essai.dialogue.fichiers.emplace_back(essai.dossier / "Famille.LGD");

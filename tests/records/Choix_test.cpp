@@ -10,19 +10,19 @@ namespace {
 using Personnes = std::vector<NoOrdre>;
 
 struct Famille : EssaiFamille {
-    explicit Famille(char tri = '2') : EssaiFamille{tri} {}
+    explicit Famille(TypeTri tri = TypeTri::Nom) : EssaiFamille{tri} {}
 
-    [[nodiscard]] Personnes Parents(NoOrdre n, char sexe) {
+    [[nodiscard]] Personnes Parents(NoOrdre n, Sexe sexe) {
         return Choix{session, {SorteChoix::Parent, n, sexe}}.Page();
     }
     [[nodiscard]] Personnes Offerts(SorteChoix sorte, NoOrdre n) {
-        return Choix{session, {sorte, n, ' '}}.Page();
+        return Choix{session, {sorte, n, Sexe::Vide}}.Page();
     }
     /// Men of one year, named in the order of their numbers; the first and the last.
     std::pair<NoOrdre, NoOrdre> Peupler(int combien, std::string_view annee) {
         std::pair<NoOrdre, NoOrdre> bornes;
         for (int i = 0; i < combien; ++i) {
-            bornes.second = Creer('H', "Nom" + std::to_string(1000 + i), "P", annee);
+            bornes.second = Creer(Sexe::Homme, "Nom" + std::to_string(1000 + i), "P", annee);
             if (i == 0) bornes.first = bornes.second;
         }
         return bornes;
@@ -30,30 +30,31 @@ struct Famille : EssaiFamille {
 };
 
 struct ParNaissance : Famille {
-    ParNaissance() : Famille{'1'} {}
+    ParNaissance() : Famille{TypeTri::Naissance} {}
 };
 
 }  // namespace
 
 TEST_CASE_FIXTURE(
     Famille, "A parent is offered from 100 to 10 years before the child, of the sex asked for") {
-    const NoOrdre enfant = Creer('H', "A", "Enfant", "1855");
-    const NoOrdre premier = Creer('H', "B", "Premier", "1755");
-    const NoOrdre dernier = Creer('H', "C", "Dernier", "1845");
-    const NoOrdre mere = Creer('F', "D", "Mere", "1830");
-    Creer('H', "E", "Trop tot", "1754");
-    Creer('H', "F", "Trop tard", "1846");
-    Creer('I', "G", "Indetermine", "1830");
-    Creer(' ', "H", "Sans sexe", "1830");
-    Creer('H', "I", "Sans annee", "");
-    CHECK(Parents(enfant, 'H') == Personnes{premier, dernier});
-    CHECK(Parents(enfant, 'F') == Personnes{mere});
+    const NoOrdre enfant = Creer(Sexe::Homme, "A", "Enfant", "1855");
+    const NoOrdre premier = Creer(Sexe::Homme, "B", "Premier", "1755");
+    const NoOrdre dernier = Creer(Sexe::Homme, "C", "Dernier", "1845");
+    const NoOrdre mere = Creer(Sexe::Femme, "D", "Mere", "1830");
+    Creer(Sexe::Homme, "E", "Trop tot", "1754");
+    Creer(Sexe::Homme, "F", "Trop tard", "1846");
+    Creer(Sexe::Indetermine, "G", "Indetermine", "1830");
+    Creer(Sexe::Vide, "H", "Sans sexe", "1830");
+    Creer(Sexe::Homme, "I", "Sans annee", "");
+    CHECK(Parents(enfant, Sexe::Homme) == Personnes{premier, dernier});
+    CHECK(Parents(enfant, Sexe::Femme) == Personnes{mere});
 }
 
 TEST_CASE_FIXTURE(Famille, "The bounds of years are decades away and keep the last digit") {
     const auto fenetre = [this](SorteChoix sorte, std::string_view annee,
                                 std::string_view mort = {}) {
-        return Choix{session, {sorte, Creer('H', "A", "A", annee, mort), 'H'}}.Fenetre();
+        return Choix{session, {sorte, Creer(Sexe::Homme, "A", "A", annee, mort), Sexe::Homme}}
+            .Fenetre();
     };
     CHECK(fenetre(SorteChoix::Parent, "1855") == FenetreAnnees{"1755", "1845"});
     CHECK(fenetre(SorteChoix::Enfant, "1855") == FenetreAnnees{"1865", "1955"});
@@ -72,21 +73,21 @@ TEST_CASE_FIXTURE(Famille, "The bounds of years are decades away and keep the la
 
 TEST_CASE_FIXTURE(Famille,
                   "For a child without a year only parents with an empty or low year are offered") {
-    const NoOrdre enfant = Creer('H', "A", "Enfant", "");
-    const NoOrdre sans = Creer('H', "B", "Sans", "");
-    const NoOrdre avant = Creer('H', "C", "Avant", "-50");
-    Creer('H', "D", "Connu", "1820");
-    CHECK(Parents(enfant, 'H') == Personnes{sans, avant});
+    const NoOrdre enfant = Creer(Sexe::Homme, "A", "Enfant", "");
+    const NoOrdre sans = Creer(Sexe::Homme, "B", "Sans", "");
+    const NoOrdre avant = Creer(Sexe::Homme, "C", "Avant", "-50");
+    Creer(Sexe::Homme, "D", "Connu", "1820");
+    CHECK(Parents(enfant, Sexe::Homme) == Personnes{sans, avant});
 }
 
 TEST_CASE_FIXTURE(
     Famille,
     "A child is offered from 10 to 100 years after the parent, not after the parent's death") {
-    const NoOrdre parent = Creer('H', "A", "Parent", "1800", "1850");
-    Creer('H', "B", "Trop tot", "1809");
-    const NoOrdre premier = Creer('F', "C", "Premier", "1810");
-    const NoOrdre dernier = Creer('I', "D", "Dernier", "1850");
-    Creer('H', "E", "Posthume", "1851");
+    const NoOrdre parent = Creer(Sexe::Homme, "A", "Parent", "1800", "1850");
+    Creer(Sexe::Homme, "B", "Trop tot", "1809");
+    const NoOrdre premier = Creer(Sexe::Femme, "C", "Premier", "1810");
+    const NoOrdre dernier = Creer(Sexe::Indetermine, "D", "Dernier", "1850");
+    Creer(Sexe::Homme, "E", "Posthume", "1851");
     CHECK(Offerts(SorteChoix::Enfant, parent) == Personnes{premier, dernier});
     base.R_DECES.EcrireCellule(parent, "");
     CHECK(Offerts(SorteChoix::Enfant, parent).size() == 3);
@@ -97,33 +98,33 @@ TEST_CASE_FIXTURE(
 }
 
 TEST_CASE_FIXTURE(Famille, "A spouse is of another sex, born within 100 years, not dead before") {
-    const NoOrdre paul = Creer('H', "A", "Paul", "1800");
-    const NoOrdre anne = Creer('F', "B", "Anne", "1700", "1801");
-    Creer('F', "C", "Morte", "1750", "1800");
-    Creer('F', "D", "Trop tot", "1699");
-    const NoOrdre indetermine = Creer('I', "E", "Camille", "1900");
-    const NoOrdre luc = Creer('H', "F", "Luc", "1800");
+    const NoOrdre paul = Creer(Sexe::Homme, "A", "Paul", "1800");
+    const NoOrdre anne = Creer(Sexe::Femme, "B", "Anne", "1700", "1801");
+    Creer(Sexe::Femme, "C", "Morte", "1750", "1800");
+    Creer(Sexe::Femme, "D", "Trop tot", "1699");
+    const NoOrdre indetermine = Creer(Sexe::Indetermine, "E", "Camille", "1900");
+    const NoOrdre luc = Creer(Sexe::Homme, "F", "Luc", "1800");
     CHECK(Offerts(SorteChoix::Conjoint, paul) == Personnes{anne, indetermine});
     CHECK(Offerts(SorteChoix::Conjoint, anne) == Personnes{paul, luc});
-    base.R_SEXE.EcrireCellule(anne, 'I');
+    base.R_SEXE.EcrireCellule(anne, Sexe::Indetermine);
     CHECK(Offerts(SorteChoix::Conjoint, paul) == Personnes{anne, indetermine});
 }
 
 TEST_CASE_FIXTURE(Famille, "A link is offered with who lived at the same time, on both sides") {
-    const NoOrdre paul = Creer('H', "A", "Paul", "1800", "1850");
-    const NoOrdre ancien = Creer('F', "B", "Ancienne", "1750", "1801");
-    Creer('F', "C", "Morte", "1750", "1800");
-    const NoOrdre jeune = Creer('F', "D", "Jeune", "1849");
-    Creer('F', "E", "Nee apres", "1850");
-    const NoOrdre sans = Creer('H', "F", "Sans annee", "");
+    const NoOrdre paul = Creer(Sexe::Homme, "A", "Paul", "1800", "1850");
+    const NoOrdre ancien = Creer(Sexe::Femme, "B", "Ancienne", "1750", "1801");
+    Creer(Sexe::Femme, "C", "Morte", "1750", "1800");
+    const NoOrdre jeune = Creer(Sexe::Femme, "D", "Jeune", "1849");
+    Creer(Sexe::Femme, "E", "Nee apres", "1850");
+    const NoOrdre sans = Creer(Sexe::Homme, "F", "Sans annee", "");
     CHECK(Offerts(SorteChoix::Lien, paul) == Personnes{ancien, jeune, sans});
 }
 
 TEST_CASE_FIXTURE(Famille,
                   "Pages hold 20 persons in sort order, and a step back shows the same rows") {
-    const NoOrdre enfant = Creer('H', "Z", "Enfant", "1850");
+    const NoOrdre enfant = Creer(Sexe::Homme, "Z", "Enfant", "1850");
     const NoOrdre premier = Peupler(45, "1820").first;
-    Choix choix{session, {SorteChoix::Parent, enfant, 'H'}};
+    Choix choix{session, {SorteChoix::Parent, enfant, Sexe::Homme}};
     CHECK(choix.NoPage() == 1);
     CHECK(choix.NbPages() == 3);
     CHECK(choix.Nombre() == 45);
@@ -146,13 +147,13 @@ TEST_CASE_FIXTURE(Famille,
 
 TEST_CASE_FIXTURE(
     Famille, "A page that ends with the table, or before persons who do not fit, is the last") {
-    const NoOrdre enfant = Creer('H', "A", "Enfant", "1850");
+    const NoOrdre enfant = Creer(Sexe::Homme, "A", "Enfant", "1850");
     Peupler(20, "1820");
-    CHECK_FALSE(Choix(session, {SorteChoix::Parent, enfant, 'H'}).ASuivante());
-    Creer('H', "Z", "Trop jeune", "1849");
-    CHECK_FALSE(Choix(session, {SorteChoix::Parent, enfant, 'H'}).ASuivante());
-    Creer('H', "Zz", "De plus", "1820");
-    Choix choix{session, {SorteChoix::Parent, enfant, 'H'}};
+    CHECK_FALSE(Choix(session, {SorteChoix::Parent, enfant, Sexe::Homme}).ASuivante());
+    Creer(Sexe::Homme, "Z", "Trop jeune", "1849");
+    CHECK_FALSE(Choix(session, {SorteChoix::Parent, enfant, Sexe::Homme}).ASuivante());
+    Creer(Sexe::Homme, "Zz", "De plus", "1820");
+    Choix choix{session, {SorteChoix::Parent, enfant, Sexe::Homme}};
     CHECK(choix.Page().size() == 20);
     CHECK(choix.Suivante());
     CHECK(choix.Page().size() == 1);
@@ -161,17 +162,17 @@ TEST_CASE_FIXTURE(
 TEST_CASE_FIXTURE(
     ParNaissance,
     "By year of birth the walk ends at the upper bound, and offers the same persons") {
-    const NoOrdre enfant = Creer('H', "A", "Enfant", "1850");
-    const NoOrdre pere = Creer('H', "Z", "Pere", "1820");
-    const NoOrdre borne = Creer('H', "B", "Borne", "1840");
-    Creer('H', "C", "Trop tard", "1841");
-    CHECK(Parents(enfant, 'H') == Personnes{pere, borne});
+    const NoOrdre enfant = Creer(Sexe::Homme, "A", "Enfant", "1850");
+    const NoOrdre pere = Creer(Sexe::Homme, "Z", "Pere", "1820");
+    const NoOrdre borne = Creer(Sexe::Homme, "B", "Borne", "1840");
+    Creer(Sexe::Homme, "C", "Trop tard", "1841");
+    CHECK(Parents(enfant, Sexe::Homme) == Personnes{pere, borne});
     // Nobody stands behind the bound in a table by years: who does is not reached.
     base.R_NAISS.EcrireCellule(borne, "1900");
     base.R_NAISS.EcrireCellule(pere, "1900");
     const NoOrdre cache = base.R_TRI.IndividuAuRang(base.entete.NbTriIndividus);
     base.R_NAISS.EcrireCellule(cache, "1820");
-    CHECK(Parents(enfant, 'H').empty());
+    CHECK(Parents(enfant, Sexe::Homme).empty());
     for (const NoOrdre n : {borne, pere, cache})
         base.R_TRI.RetirerIndividu(n);
     for (const NoOrdre n : {borne, pere, cache})
@@ -180,10 +181,10 @@ TEST_CASE_FIXTURE(
 
 TEST_CASE_FIXTURE(Famille,
                   "The filter is folded, and each of its words stands somewhere in the names") {
-    const NoOrdre enfant = Creer('H', "A", "Enfant", "1850");
-    const NoOrdre jean = Creer('H', "Évrard-Noël"_1252, "Jean Marie", "1820");
-    const NoOrdre paul = Creer('H', "Martin", "Paul", "1820");
-    Choix choix{session, {SorteChoix::Parent, enfant, 'H'}};
+    const NoOrdre enfant = Creer(Sexe::Homme, "A", "Enfant", "1850");
+    const NoOrdre jean = Creer(Sexe::Homme, "Évrard-Noël"_1252, "Jean Marie", "1820");
+    const NoOrdre paul = Creer(Sexe::Homme, "Martin", "Paul", "1820");
+    Choix choix{session, {SorteChoix::Parent, enfant, Sexe::Homme}};
     CHECK(choix.Page() == Personnes{jean, paul});
     choix.Filtrer("marie evrard");
     CHECK(choix.Filtre() == "MARIE EVRARD");
@@ -202,12 +203,12 @@ TEST_CASE_FIXTURE(Famille,
 }
 
 TEST_CASE_FIXTURE(Famille, "The filter also sees what the template shows besides the names") {
-    const NoOrdre enfant = Creer('H', "A", "Enfant", "1850");
-    const NoOrdre mere = Creer('F', "Roux", "Rose", "1790");
-    const NoOrdre jean = Creer('H', "Noir", "Jean", "1820");
+    const NoOrdre enfant = Creer(Sexe::Homme, "A", "Enfant", "1850");
+    const NoOrdre mere = Creer(Sexe::Femme, "Roux", "Rose", "1790");
+    const NoOrdre jean = Creer(Sexe::Homme, "Noir", "Jean", "1820");
     base.R_MERE.EcrireCellule(jean, mere);
-    base.R_ENFANT.ModifierListe(mere, jean, 'A');
-    Choix choix{session, {SorteChoix::Parent, enfant, 'H'}};
+    base.R_ENFANT.ModifierListe(mere, jean, storage::ActionListe::Ajouter);
+    Choix choix{session, {SorteChoix::Parent, enfant, Sexe::Homme}};
     choix.Filtrer("noir roux");
     CHECK(choix.Page().empty());
     session.parametres.generaux.affichageNom = "FNAM/BIRN/MOTN/";
@@ -219,10 +220,10 @@ TEST_CASE_FIXTURE(Famille, "The filter also sees what the template shows besides
 TEST_CASE_FIXTURE(
     Famille,
     "A number reaches that person past the years, but never the person itself nor a wrong sex") {
-    const NoOrdre enfant = Creer('H', "A", "Enfant", "1850");
-    const NoOrdre jeune = Creer('H', "B", "Jeune", "1900");
-    const NoOrdre mere = Creer('F', "C", "Mere", "1820");
-    Choix choix{session, {SorteChoix::Parent, enfant, 'H'}};
+    const NoOrdre enfant = Creer(Sexe::Homme, "A", "Enfant", "1850");
+    const NoOrdre jeune = Creer(Sexe::Homme, "B", "Jeune", "1900");
+    const NoOrdre mere = Creer(Sexe::Femme, "C", "Mere", "1820");
+    Choix choix{session, {SorteChoix::Parent, enfant, Sexe::Homme}};
     choix.Filtrer("2");
     CHECK(choix.Page() == Personnes{jeune});
     CHECK_FALSE(choix.ASuivante());
@@ -233,28 +234,28 @@ TEST_CASE_FIXTURE(
     }
     choix.Filtrer("");
     CHECK(choix.Page().empty());
-    CHECK(Choix(session, {SorteChoix::Parent, enfant, 'F'}).Page() == Personnes{mere});
+    CHECK(Choix(session, {SorteChoix::Parent, enfant, Sexe::Femme}).Page() == Personnes{mere});
 }
 
 TEST_CASE_FIXTURE(Famille, "A deleted person is not offered, not even by number") {
-    const NoOrdre enfant = Creer('H', "A", "Enfant", "1850");
-    const NoOrdre parti = Creer('H', "B", "Parti", "1820");
+    const NoOrdre enfant = Creer(Sexe::Homme, "A", "Enfant", "1850");
+    const NoOrdre parti = Creer(Sexe::Homme, "B", "Parti", "1820");
     base.R_TRI.RetirerIndividu(parti);
     base.R_NOM.EcrireNom(parti, "");
     base.R_NAISS.EcrireCellule(parti, "");
-    base.R_SEXE.EcrireCellule(parti, ' ');
-    Choix choix{session, {SorteChoix::Lien, enfant, ' '}};
+    base.R_SEXE.EcrireCellule(parti, Sexe::Vide);
+    Choix choix{session, {SorteChoix::Lien, enfant, Sexe::Vide}};
     CHECK(choix.Page().empty());
     choix.Filtrer("2");
     CHECK(choix.Page().empty());
 }
 
 TEST_CASE_FIXTURE(Famille, "Without the window of years only sex and name count") {
-    const NoOrdre enfant = Creer('H', "A", "Enfant", "1850");
-    const NoOrdre jeune = Creer('H', "B", "Jeune", "1900");
-    const NoOrdre sans = Creer('H', "C", "Sans", "");
-    Creer('F', "D", "Mere", "1820");
-    Choix choix{session, {SorteChoix::Parent, enfant, 'H'}};
+    const NoOrdre enfant = Creer(Sexe::Homme, "A", "Enfant", "1850");
+    const NoOrdre jeune = Creer(Sexe::Homme, "B", "Jeune", "1900");
+    const NoOrdre sans = Creer(Sexe::Homme, "C", "Sans", "");
+    Creer(Sexe::Femme, "D", "Mere", "1820");
+    Choix choix{session, {SorteChoix::Parent, enfant, Sexe::Homme}};
     CHECK(choix.Page().empty());
     choix.LeverFenetre(true);
     CHECK(choix.Page() == Personnes{jeune, sans});
@@ -265,11 +266,11 @@ TEST_CASE_FIXTURE(Famille, "Without the window of years only sex and name count"
 }
 
 TEST_CASE_FIXTURE(Famille, "The mark tells which parents are known") {
-    const NoOrdre pere = Creer('H', "A", "Pere", "1820");
-    const NoOrdre mere = Creer('F', "B", "Mere", "1820");
-    const NoOrdre deux = Creer('H', "C", "Deux", "1850");
-    const NoOrdre un = Creer('H', "D", "Un", "1850");
-    const NoOrdre une = Creer('H', "E", "Une", "1850");
+    const NoOrdre pere = Creer(Sexe::Homme, "A", "Pere", "1820");
+    const NoOrdre mere = Creer(Sexe::Femme, "B", "Mere", "1820");
+    const NoOrdre deux = Creer(Sexe::Homme, "C", "Deux", "1850");
+    const NoOrdre un = Creer(Sexe::Homme, "D", "Un", "1850");
+    const NoOrdre une = Creer(Sexe::Homme, "E", "Une", "1850");
     EssaiFamille::Parents(deux, pere, mere);
     EssaiFamille::Parents(un, pere, {});
     EssaiFamille::Parents(une, {}, mere);

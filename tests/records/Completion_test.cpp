@@ -45,7 +45,7 @@ struct Lexique : doublures::FicheEssai {
         Poser(communes);
     }
     void Poser(const std::vector<storage::Commune>& communes) {
-        storage::AvancementMuet muet;
+        storage::ProgressionMuette muet;
         std::string octets;
         REQUIRE(storage::ComposerLgx(communes, muet, octets));
         session.parametres.generaux.fichierCommunes = dossier / "Pays.lgx";

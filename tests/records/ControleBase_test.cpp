@@ -61,9 +61,9 @@ struct Bureau : BureauSoin {
     Famille Fonder(std::string_view pere = "1820", std::string_view mere = "1825",
                    std::string_view enfant = "1850", std::string_view union_ = "1845") {
         Famille f;
-        f.pere = Creer('H', "DURAND", "Jean", pere);
-        f.mere = Creer('F', "MARTIN", "Anne", mere);
-        f.enfant = Creer('H', "DURAND", "Paul", enfant);
+        f.pere = Creer(Sexe::Homme, "DURAND", "Jean", pere);
+        f.mere = Creer(Sexe::Femme, "MARTIN", "Anne", mere);
+        f.enfant = Creer(Sexe::Homme, "DURAND", "Paul", enfant);
         f.mariage = Marier(f.pere, f.mere, union_);
         Parents(f.enfant, f.pere, f.mere);
         return f;
@@ -102,8 +102,8 @@ TEST_CASE_FIXTURE(Bureau, "Check: a family in order gives no finding, and change
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: a finding tells person, rank, message, text and identity") {
-    Creer('H', "ABEL", "Abel", "1700");
-    const NoOrdre n = Creer('H', "DURAND", "", "1850", "1840");
+    Creer(Sexe::Homme, "ABEL", "Abel", "1700");
+    const NoOrdre n = Creer(Sexe::Homme, "DURAND", "", "1850", "1840");
     CHECK(Controler(n) == Sortes{PrenomAbsent, PersonneIsolee, DecesAvantNaissance});
     const auto constat = std::find_if(constats.begin(), constats.end(), [](const Constat& c) {
         return c.sorte == DecesAvantNaissance;
@@ -119,31 +119,31 @@ TEST_CASE_FIXTURE(Bureau, "Check: a finding tells person, rank, message, text an
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: sex, year, names and ties that are missing") {
-    const NoOrdre n = Creer('I', "", " ");
+    const NoOrdre n = Creer(Sexe::Indetermine, "", " ");
     CHECK(Controler(n) ==
           Sortes{SexeIndetermine, AnneeNaissanceAbsente, NomAbsent, PrenomAbsent, PersonneIsolee});
-    const NoOrdre autre = Creer('F', "MARTIN", "Anne", "1850");
+    const NoOrdre autre = Creer(Sexe::Femme, "MARTIN", "Anne", "1850");
     CHECK(Controler(autre) == Sortes{PersonneIsolee});
     Lier(autre, n, "voisin");
     CHECK(Controler(autre) == Sortes{});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: a person out of place in the order of birth years") {
-    const NoOrdre a = Creer('H', "A", "A", "1800");
-    const NoOrdre b = Creer('H', "B", "B", "1850");
+    const NoOrdre a = Creer(Sexe::Homme, "A", "A", "1800");
+    const NoOrdre b = Creer(Sexe::Homme, "B", "B", "1850");
     B().R_NAISS.EcrireCellule(a, "1900");
     CHECK(A(b, HorsOrdreDeTri));
     CHECK_FALSE(A(a, HorsOrdreDeTri));
 }
 
 TEST_CASE("Check: a person out of place in the order of names; order of creation has none") {
-    Bureau bureau{'2'};
-    const NoOrdre a = bureau.Creer('H', "ABEL", "A", "1900");
-    const NoOrdre b = bureau.Creer('H', "BLANC", "B", "1850");
+    Bureau bureau{TypeTri::Nom};
+    const NoOrdre a = bureau.Creer(Sexe::Homme, "ABEL", "A", "1900");
+    const NoOrdre b = bureau.Creer(Sexe::Homme, "BLANC", "B", "1850");
     CHECK_FALSE(bureau.A(b, HorsOrdreDeTri));
     bureau.B().R_NOM.EcrireNom(a, "ZOLA;A");
     CHECK(bureau.A(b, HorsOrdreDeTri));
-    bureau.B().entete.TypeTri = '0';
+    bureau.B().entete.TypeTri = TypeTri::Creation;
     CHECK_FALSE(bureau.A(b, HorsOrdreDeTri));
 }
 
@@ -170,11 +170,11 @@ TEST_CASE_FIXTURE(Bureau, "Check: a life that ends too early or lasts too long")
 
 TEST_CASE_FIXTURE(Bureau, "Check: sex and list of the parents") {
     const Famille f = Fonder();
-    B().R_ENFANT.ModifierListe(f.pere, f.enfant, 'S');
-    B().R_ENFANT.ModifierListe(f.mere, f.enfant, 'S');
+    B().R_ENFANT.ModifierListe(f.pere, f.enfant, storage::ActionListe::Supprimer);
+    B().R_ENFANT.ModifierListe(f.mere, f.enfant, storage::ActionListe::Supprimer);
     CHECK(Controler(f.enfant) == Sortes{AbsentDesEnfantsDuPere, AbsentDesEnfantsDeLaMere});
-    B().R_SEXE.EcrireCellule(f.pere, 'I');
-    B().R_SEXE.EcrireCellule(f.mere, 'H');
+    B().R_SEXE.EcrireCellule(f.pere, Sexe::Indetermine);
+    B().R_SEXE.EcrireCellule(f.mere, Sexe::Homme);
     CHECK(Controler(f.enfant) == Sortes{PereNonMasculin, AbsentDesEnfantsDuPere, MereNonFeminine,
                                         AbsentDesEnfantsDeLaMere});
 }
@@ -192,7 +192,7 @@ TEST_CASE_FIXTURE(Bureau, "Check: ages of the parents at their limits") {
           Cas{"1841", "1849", {PereMoinsDe10Ans, MereMoinsDe10Ans}}, Cas{"1840", "1840", {}},
           Cas{"1775", "1800", {}}, Cas{"1774", "1799", {PerePlusDe75Ans, MerePlusDe50Ans}}}) {
         CAPTURE(cas.pere);
-        Bureau bureau{'0'};
+        Bureau bureau{TypeTri::Creation};
         const Famille f = bureau.Fonder(cas.pere, cas.mere);
         CHECK(bureau.Controler(f.enfant) == cas.voulus);
     }
@@ -215,7 +215,7 @@ TEST_CASE_FIXTURE(Bureau, "Check: a birth after the death of a parent") {
               {NaissancePlusDe10AnsApresDecesPere, NaissancePlusDe10AnsApresDecesMere}},
           Cas{"184?", "184?", {}}}) {
         CAPTURE(cas.pere);
-        Bureau bureau{'0'};
+        Bureau bureau{TypeTri::Creation};
         const Famille f = bureau.Fonder("1800", "1805", "1850");
         bureau.B().R_DECES.EcrireCellule(f.pere, cas.pere);
         bureau.B().R_DECES.EcrireCellule(f.mere, cas.mere);
@@ -236,7 +236,7 @@ TEST_CASE_FIXTURE(Bureau, "Check: a year with an unknown digit is compared on it
           Cas{"1860", "1860", "185?", {NaissanceAvantCelleDuPere, NaissanceAvantCelleDeLaMere}},
           Cas{"18?", "18?", "1750", {}}}) {
         CAPTURE(cas.pere);
-        Bureau bureau{'0'};
+        Bureau bureau{TypeTri::Creation};
         const Famille f = bureau.Fonder(cas.pere, cas.mere, cas.enfant, "");
         CHECK(bureau.Controler(f.enfant) == cas.voulus);
     }
@@ -244,20 +244,20 @@ TEST_CASE_FIXTURE(Bureau, "Check: a year with an unknown digit is compared on it
 
 TEST_CASE_FIXTURE(Bureau, "Check: a person who is his own father was not born before himself") {
     const Famille f = Fonder();
-    B().R_ENFANT.ModifierListe(f.pere, f.enfant, 'S');
+    B().R_ENFANT.ModifierListe(f.pere, f.enfant, storage::ActionListe::Supprimer);
     B().R_PERE.EcrireCellule(f.enfant, f.enfant);
-    B().R_ENFANT.ModifierListe(f.enfant, f.enfant, 'A');
+    B().R_ENFANT.ModifierListe(f.enfant, f.enfant, storage::ActionListe::Ajouter);
     CHECK(Controler(f.enfant) == Sortes{PerePasNeAvantEnfant, ParentsConnusPereSansUnion});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: the union of the parents") {
     SUBCASE("the father has none") {
-        const NoOrdre pere = Creer('H', "DURAND", "Jean", "1820");
-        const NoOrdre mere = Creer('F', "MARTIN", "Anne", "1825");
-        const NoOrdre enfant = Creer('H', "DURAND", "Paul", "1850");
+        const NoOrdre pere = Creer(Sexe::Homme, "DURAND", "Jean", "1820");
+        const NoOrdre mere = Creer(Sexe::Femme, "MARTIN", "Anne", "1825");
+        const NoOrdre enfant = Creer(Sexe::Homme, "DURAND", "Paul", "1850");
         Parents(enfant, pere, mere);
         CHECK(Controler(enfant) == Sortes{ParentsConnusPereSansUnion});
-        Marier(pere, Creer('F', "AUTRE", "Eve", "1825"));
+        Marier(pere, Creer(Sexe::Femme, "AUTRE", "Eve", "1825"));
         CHECK(Controler(enfant) == Sortes{});
     }
     SUBCASE("it began after the birth, or ended before it") {
@@ -286,7 +286,7 @@ TEST_CASE_FIXTURE(Bureau,
     B().R_MERE.EcrireCellule(f.enfant, {});
     CHECK(Controler(f.pere) == Sortes{EnfantAvecAutrePere});
     CHECK(Controler(f.mere) == Sortes{EnfantAvecAutreMere});
-    B().R_SEXE.EcrireCellule(f.pere, 'I');
+    B().R_SEXE.EcrireCellule(f.pere, Sexe::Indetermine);
     CHECK(Controler(f.pere) == Sortes{SexeIndetermine, ParentDeSexeIndetermine});
 }
 
@@ -326,7 +326,7 @@ TEST_CASE_FIXTURE(Bureau, "Check: events against the sheet") {
     SaisieFiche fiche;
     fiche.nom = "DURAND";
     fiche.prenom = "Paul";
-    fiche.sexe = 'H';
+    fiche.sexe = Sexe::Homme;
     fiche.jourMoisNaissance = "12 mars";
     fiche.anneeNaissance = "1850";
     fiche.lieuNaissance = "Saint Malo";
@@ -379,7 +379,7 @@ TEST_CASE_FIXTURE(Bureau, "Check: events against the sheet") {
     SUBCASE("unions") {
         ajouter("MARR", "HUSB", "1/6/1875", "Brest");
         CHECK(Controler(n) == Sortes{EvenementMariageSansUnion});
-        const NoMariage m = Marier(n, Creer('F', "MARTIN", "Anne", "1851"), "1875");
+        const NoMariage m = Marier(n, Creer(Sexe::Femme, "MARTIN", "Anne", "1851"), "1875");
         EcrireTexteMariage(session, m, "1/6@Brest");
         CHECK(Controler(n) == Sortes{});
         EcrireTexteMariage(session, m, "2/6@Lyon");
@@ -389,7 +389,7 @@ TEST_CASE_FIXTURE(Bureau, "Check: events against the sheet") {
 
 TEST_CASE_FIXTURE(Bureau, "Check: a stop keeps the findings so far and says no last word") {
     for (int i = 0; i < 5; ++i)
-        Creer('H', "", "Paul", "1850");
+        Creer(Sexe::Homme, "", "Paul", "1850");
     SUBCASE("by the frame") {
         progression.annulerAu = 2;
         Controler({});
@@ -410,7 +410,7 @@ TEST_CASE_FIXTURE(Bureau, "Check: a stop keeps the findings so far and says no l
 
 TEST_CASE_FIXTURE(Bureau, "Check: a base that is closed meanwhile ends the scan") {
     for (int i = 0; i < 5; ++i)
-        Creer('H', "DURAND", "Paul", "1850");
+        Creer(Sexe::Homme, "DURAND", "Paul", "1850");
     progression.aChaquePas = [this] {
         if (progression.pas == 2) session.PoserBase(nullptr);
     };
@@ -420,7 +420,7 @@ TEST_CASE_FIXTURE(Bureau, "Check: a base that is closed meanwhile ends the scan"
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: ranks that name nobody or a person twice are passed over") {
-    const NoOrdre n = Creer('H', "DURAND", "Paul", "1850");
+    const NoOrdre n = Creer(Sexe::Homme, "DURAND", "Paul", "1850");
     for (const std::uint32_t numero : {n.valeur, 0U, 999U, 65535U}) {
         ++B().entete.NbTriIndividus;
         B().R_TRI.FixerRang(B().entete.NbTriIndividus, NoOrdre{numero});
@@ -431,19 +431,19 @@ TEST_CASE_FIXTURE(Bureau, "Check: ranks that name nobody or a person twice are p
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: cells that point out of the base are findings, not faults") {
-    const NoOrdre n = Creer('H', "DURAND", "Paul", "1850");
+    const NoOrdre n = Creer(Sexe::Homme, "DURAND", "Paul", "1850");
     B().R_PERE.EcrireCellule(n, NoOrdre{65000});
     B().R_MERE.EcrireCellule(n, NoOrdre{64001});
-    B().R_ENFANT.ModifierListe(n, NoOrdre{60000}, 'A');
-    B().R_MARIAG.ModifierListe(n, NoMariage{60000}, 'A');
+    B().R_ENFANT.ModifierListe(n, NoOrdre{60000}, storage::ActionListe::Ajouter);
+    B().R_MARIAG.ModifierListe(n, NoMariage{60000}, storage::ActionListe::Ajouter);
     CHECK(Controler(n) == Sortes{PereNonMasculin, AbsentDesEnfantsDuPere, MereNonFeminine,
                                  AbsentDesEnfantsDeLaMere, ParentsConnusPereSansUnion,
                                  EnfantAvecAutrePere, UnionAvecAutreEpoux});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: any one tie is enough for a person not to be isolated") {
-    const NoOrdre n = Creer('H', "DURAND", "Paul", "1850");
-    const NoOrdre autre = Creer('H', "AUTRE", "Jean", "1820");
+    const NoOrdre n = Creer(Sexe::Homme, "DURAND", "Paul", "1850");
+    const NoOrdre autre = Creer(Sexe::Homme, "AUTRE", "Jean", "1820");
     REQUIRE(A(n, PersonneIsolee));
     SUBCASE("a father") {
         B().R_PERE.EcrireCellule(n, autre);
@@ -455,28 +455,28 @@ TEST_CASE_FIXTURE(Bureau, "Check: any one tie is enough for a person not to be i
         Marier(n, {});
     }
     SUBCASE("a child") {
-        B().R_ENFANT.ModifierListe(n, autre, 'A');
+        B().R_ENFANT.ModifierListe(n, autre, storage::ActionListe::Ajouter);
     }
     SUBCASE("a link") {
         Lier(n, autre, "voisin");
     }
     SUBCASE("an event") {
-        B().R_LSTEVT.ModifierListe(n, NoEvenement{1}, 'A', "WITN");
+        B().R_LSTEVT.ModifierListe(n, NoEvenement{1}, storage::ActionListe::Ajouter, "WITN");
     }
     SUBCASE("a document") {
-        B().R_LSTIMG.ModifierListe(n, NoDocument{1}, 'A');
+        B().R_LSTIMG.ModifierListe(n, NoDocument{1}, storage::ActionListe::Ajouter);
     }
     CHECK_FALSE(A(n, PersonneIsolee));
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: a name of blanks is no name") {
-    CHECK(A(Creer('F', "  ", "Anne", "1850"), NomAbsent));
+    CHECK(A(Creer(Sexe::Femme, "  ", "Anne", "1850"), NomAbsent));
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: years before our era and years that are missing keep the order") {
-    const NoOrdre marc = Creer('H', "ANTOINE", "Marc", "-83");
-    const NoOrdre inconnu = Creer('H', "INCONNU", "Jean");
-    const NoOrdre jean = Creer('H', "DURAND", "Jean", "950");
+    const NoOrdre marc = Creer(Sexe::Homme, "ANTOINE", "Marc", "-83");
+    const NoOrdre inconnu = Creer(Sexe::Homme, "INCONNU", "Jean");
+    const NoOrdre jean = Creer(Sexe::Homme, "DURAND", "Jean", "950");
     for (const NoOrdre n : {marc, inconnu, jean})
         CHECK_FALSE(A(n, HorsOrdreDeTri));
 }
@@ -506,7 +506,7 @@ TEST_CASE_FIXTURE(Bureau, "Check: years before our era are counted as numbers") 
 TEST_CASE_FIXTURE(Bureau, "Check: a year that tells no decade is compared with nothing") {
     for (const char* annee : {"?", "18?", "1?"}) {
         CAPTURE(annee);
-        Bureau bureau{'0'};
+        Bureau bureau{TypeTri::Creation};
         const Famille f = bureau.Fonder("1820", "1825", annee, "");
         CHECK(bureau.Controler(f.enfant) == Sortes{});
         const Famille g = bureau.Fonder(annee, annee, "1850", "");
@@ -530,13 +530,13 @@ TEST_CASE_FIXTURE(Bureau, "Check: a child of no known year after the death of a 
 }
 
 TEST_CASE_FIXTURE(Bureau, "Check: only a union of both parents is compared with the birth") {
-    const NoOrdre pere = Creer('H', "DURAND", "Jean", "1820");
-    const NoOrdre mere = Creer('F', "MARTIN", "Anne", "1825");
-    const NoOrdre enfant = Creer('H', "DURAND", "Paul", "1850");
+    const NoOrdre pere = Creer(Sexe::Homme, "DURAND", "Jean", "1820");
+    const NoOrdre mere = Creer(Sexe::Femme, "MARTIN", "Anne", "1825");
+    const NoOrdre enfant = Creer(Sexe::Homme, "DURAND", "Paul", "1850");
     Parents(enfant, pere, {});
     CHECK(Controler(enfant) == Sortes{});  // nor does one parent alone ask for any
     B().R_MERE.EcrireCellule(enfant, mere);
-    B().R_ENFANT.ModifierListe(mere, enfant, 'A');
-    Marier(pere, Creer('F', "AUTRE", "Eve", "1825"), "1860");
+    B().R_ENFANT.ModifierListe(mere, enfant, storage::ActionListe::Ajouter);
+    Marier(pere, Creer(Sexe::Femme, "AUTRE", "Eve", "1825"), "1860");
     CHECK(Controler(enfant) == Sortes{});
 }

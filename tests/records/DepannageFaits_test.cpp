@@ -26,7 +26,7 @@ TEST_CASE_FIXTURE(Bureau, "Repair: links with nobody go, links on one side are m
     CHECK(B().R_LIEN.TexteElement(paul, 1) == "voisin");
     Sain();
     // A label that was changed on one side is no damage.
-    B().R_LIEN.ModifierListe(paul, NoOrdre{1}, 'M', "parrain");
+    B().R_LIEN.ChangerTexte(paul, 1, "parrain");
     Depanner();
     CHECK(bilan.reparations == 0);
 }
@@ -37,16 +37,16 @@ TEST_CASE_FIXTURE(Bureau, "Repair: events and documents against the lists of per
     const NoDocument d = B().NouveauDocument();
     B().R_IMAGE.EcrireDoc(d, {"Titre", "a.jpg", "", ""});
     B().R_TRI.AjouterDocument(d);
-    B().R_LSTIMG.ModifierListe(jean, d, 'A');
-    B().R_LSTIMG.ModifierListe(jean, NoDocument{30000}, 'A');
+    B().R_LSTIMG.ModifierListe(jean, d, storage::ActionListe::Ajouter);
+    B().R_LSTIMG.ModifierListe(jean, NoDocument{30000}, storage::ActionListe::Ajouter);
     const NoEvenement e = B().NouvelEvenement();
     B().R_EVT.EcrireEvt(e, {.cleDate = 5,
                             .liens = {{{jean, "WITN"}, {NoOrdre{800}, "WITN"}}},
                             .documents = {{d, NoDocument{77}}},
                             .description = storage::DescriptionEvt{"Brest", "", "MARR"}});
     B().R_TRI.AjouterEvt(e);
-    B().R_LSTEVT.ModifierListe(anne, e, 'A', "WIFE");
-    B().R_LSTEVT.ModifierListe(anne, NoEvenement{31000}, 'A', "WIFE");
+    B().R_LSTEVT.ModifierListe(anne, e, storage::ActionListe::Ajouter, "WIFE");
+    B().R_LSTEVT.ModifierListe(anne, NoEvenement{31000}, storage::ActionListe::Ajouter, "WIFE");
     CHECK(Depanner().size() == 6);
     CHECK(B().R_LSTIMG.Elements(jean) == std::vector{d});
     CHECK(B().R_EVT.Documents(e) == std::vector{d});
@@ -79,10 +79,10 @@ TEST_CASE_FIXTURE(
                                 .documents = {{zinc}},
                                 .description = storage::DescriptionEvt{"Brest", "", "CENS"}});
         B().R_TRI.AjouterEvt(e);
-        B().R_LSTEVT.ModifierListe(jean, e, 'A', "WITN");
+        B().R_LSTEVT.ModifierListe(jean, e, storage::ActionListe::Ajouter, "WITN");
     }
     for (const NoDocument d : {abbaye, efface})
-        B().R_LSTIMG.ModifierListe(jean, d, 'A');
+        B().R_LSTIMG.ModifierListe(jean, d, storage::ActionListe::Ajouter);
     B().R_IMAGE.EffacerDoc(efface);
     // Each rank of the documents names the second one, that of the events the later one.
     for (std::uint32_t rang = 1; rang <= 5; ++rang)
@@ -113,10 +113,10 @@ TEST_CASE_FIXTURE(Bureau, "Repair: a record in no rank that is nobody's, or garb
     B().R_EVT.EcrireEvt(e, {.cleDate = 5,
                             .liens = {{{anne, "WITN"}}},
                             .description = storage::DescriptionEvt{"Brest", "", "CENS"}});
-    B().R_LSTEVT.ModifierListe(jean, e, 'A', "WITN");
+    B().R_LSTEVT.ModifierListe(jean, e, storage::ActionListe::Ajouter, "WITN");
     const NoDocument d = B().NouveauDocument();
     B().R_IMAGE.EcrireCellule(d, B().volume.Ajouter(std::string(40000, 'x')));
-    B().R_LSTIMG.ModifierListe(jean, d, 'A');
+    B().R_LSTIMG.ModifierListe(jean, d, storage::ActionListe::Ajouter);
     Depanner();
     CHECK(B().R_TRI.evenements.Numeros().empty());
     CHECK(B().R_TRI.documents.Numeros().empty());

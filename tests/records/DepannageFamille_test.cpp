@@ -58,9 +58,9 @@ TEST_CASE_FIXTURE(Bureau,
     const NoMariage vide = Marier({}, {}, "");
     B().R_TRI.RetirerIndividu(eve);
     B().R_NOM.EcrireNom(eve, "");
-    B().R_SEXE.EcrireCellule(eve, ' ');
+    B().R_SEXE.EcrireCellule(eve, Sexe::Vide);
     B().R_NAISS.EcrireCellule(eve, "");
-    B().R_MARIAG.ModifierListe(eve, part, 'S');
+    B().R_MARIAG.ModifierListe(eve, part, storage::ActionListe::Supprimer);
     CHECK(Depanner().size() == 1);
     CHECK(B().R_EPOUSE.LireCellule(reste) == anne);
     CHECK(B().R_EPOUSE.LireCellule(part) == NoOrdre{});
@@ -75,9 +75,9 @@ TEST_CASE_FIXTURE(Bureau, "Repair: a deleted partner leaves the union to the one
     const NoMariage m = Marier(jean, anne, "1850");
     B().R_TRI.RetirerIndividu(jean);
     B().R_NOM.EcrireNom(jean, "");
-    B().R_SEXE.EcrireCellule(jean, ' ');
+    B().R_SEXE.EcrireCellule(jean, Sexe::Vide);
     B().R_NAISS.EcrireCellule(jean, "");
-    B().R_MARIAG.ModifierListe(jean, m, 'S');
+    B().R_MARIAG.ModifierListe(jean, m, storage::ActionListe::Supprimer);
     Depanner();
     CHECK(B().R_EPOUX.LireCellule(m) == NoOrdre{});
     CHECK(B().R_MARIAG.Elements(anne) == std::vector{m});
@@ -92,9 +92,9 @@ TEST_CASE_FIXTURE(Bureau, "Repair: the words of a union leave a partner who was 
     EcrireTexteMariage(session, m, "1/2@Brest");
     B().R_TRI.RetirerIndividu(jean);
     B().R_NOM.EcrireNom(jean, "");
-    B().R_SEXE.EcrireCellule(jean, ' ');
+    B().R_SEXE.EcrireCellule(jean, Sexe::Vide);
     B().R_NAISS.EcrireCellule(jean, "");
-    B().R_MARIAG.ModifierListe(jean, m, 'S');
+    B().R_MARIAG.ModifierListe(jean, m, storage::ActionListe::Supprimer);
     B().marques.AffichagePerime = false;
     // The list of words need not be made anew for that.
     CHECK(Depanner() ==
@@ -111,10 +111,10 @@ TEST_CASE_FIXTURE(Bureau, "Repair: full lists make room even for who comes first
     const NoOrdre anne = Femme("Anne");
     const NoMariage autre = Marier(Homme("Louis"), Femme("Eve"));
     const NoMariage union_ = Marier(jean, anne, "1850");
-    B().R_MARIAG.ModifierListe(jean, union_, 'S');
+    B().R_MARIAG.ModifierListe(jean, union_, storage::ActionListe::Supprimer);
     for (int i = 0; i < 200; ++i) {
-        B().R_ENFANT.ModifierListe(jean, anne, 'A');
-        B().R_MARIAG.ModifierListe(jean, autre, 'A');
+        B().R_ENFANT.ModifierListe(jean, anne, storage::ActionListe::Ajouter);
+        B().R_MARIAG.ModifierListe(jean, autre, storage::ActionListe::Ajouter);
     }
     REQUIRE(B().R_ENFANT.NbElements(jean) == 200);
     REQUIRE(B().R_MARIAG.NbElements(jean) == 200);
@@ -130,8 +130,8 @@ TEST_CASE_FIXTURE(Bureau, "Repair: partners who do not list their union get it")
     const NoOrdre jean = Homme("Jean");
     const NoOrdre anne = Femme("Anne");
     const NoMariage m = Marier(jean, anne, "1850");
-    B().R_MARIAG.ModifierListe(jean, m, 'S');
-    B().R_MARIAG.ModifierListe(anne, m, 'S');
+    B().R_MARIAG.ModifierListe(jean, m, storage::ActionListe::Supprimer);
+    B().R_MARIAG.ModifierListe(anne, m, storage::ActionListe::Supprimer);
     const std::vector<std::string> voulues{
         "Ajout Mariage Jean DURAND (o1820) (1)\tLien mariage de Jean DURAND (o1820) (1) avec "
         "Anne MARTIN (o1825) (2) cr\xE9\xE9",
@@ -156,9 +156,9 @@ TEST_CASE_FIXTURE(Bureau, "Repair: unions of a list that are others' or nobody's
     const NoOrdre anne = Femme("Anne");
     const NoOrdre paul = Homme("Paul");
     const NoMariage m = Marier(jean, anne, "1850");
-    B().R_MARIAG.ModifierListe(paul, m, 'A');
-    B().R_MARIAG.ModifierListe(anne, NoMariage{60000}, 'A');
-    B().R_MARIAG.ModifierListe(anne, m, 'A');
+    B().R_MARIAG.ModifierListe(paul, m, storage::ActionListe::Ajouter);
+    B().R_MARIAG.ModifierListe(anne, NoMariage{60000}, storage::ActionListe::Ajouter);
+    B().R_MARIAG.ModifierListe(anne, m, storage::ActionListe::Ajouter);
     CHECK(Depanner().size() == 3);
     CHECK(B().R_MARIAG.NbElements(paul) == 0);
     CHECK(B().R_MARIAG.Elements(anne) == std::vector{m});
@@ -170,11 +170,11 @@ TEST_CASE_FIXTURE(Bureau, "Repair: parents out of range or deleted are cleared")
     const NoOrdre mere = Femme("Anne");
     B().R_PERE.EcrireCellule(paul, NoOrdre{64000});
     B().R_MERE.EcrireCellule(paul, mere);
-    B().R_ENFANT.ModifierListe(mere, paul, 'A');
+    B().R_ENFANT.ModifierListe(mere, paul, storage::ActionListe::Ajouter);
     SupprimerIndividu(session, mere);
     B().R_TRI.RetirerIndividu(mere);
     B().R_NOM.EcrireNom(mere, "");
-    B().R_SEXE.EcrireCellule(mere, ' ');
+    B().R_SEXE.EcrireCellule(mere, Sexe::Vide);
     B().R_NAISS.EcrireCellule(mere, "");
     B().R_ENFANT.EcrireListe(mere, "");
     const std::vector<std::string> voulues{
@@ -192,8 +192,8 @@ TEST_CASE_FIXTURE(Bureau, "Repair: parents who do not list their child get it, b
     const NoOrdre luc = Homme("Luc", "1848");
     Parents(paul, jean, anne);
     Parents(luc, jean, anne);
-    B().R_ENFANT.ModifierListe(jean, luc, 'S');
-    B().R_ENFANT.ModifierListe(anne, paul, 'S');
+    B().R_ENFANT.ModifierListe(jean, luc, storage::ActionListe::Supprimer);
+    B().R_ENFANT.ModifierListe(anne, paul, storage::ActionListe::Supprimer);
     const std::vector<std::string> lignes = Depanner();
     CHECK(lignes.size() == 2);
     CHECK(lignes[0] ==
@@ -206,10 +206,10 @@ TEST_CASE_FIXTURE(Bureau, "Repair: parents who do not list their child get it, b
 TEST_CASE_FIXTURE(Bureau, "Repair: children of a list who are others' or nobody's leave it") {
     const NoOrdre jean = Homme("Jean");
     const NoOrdre paul = Homme("Paul", "1850");
-    const NoOrdre indetermine = Creer('I', "DURAND", "Max", "1820");
-    B().R_ENFANT.ModifierListe(jean, paul, 'A');
-    B().R_ENFANT.ModifierListe(jean, NoOrdre{60000}, 'A');
-    B().R_ENFANT.ModifierListe(indetermine, paul, 'A');
+    const NoOrdre indetermine = Creer(Sexe::Indetermine, "DURAND", "Max", "1820");
+    B().R_ENFANT.ModifierListe(jean, paul, storage::ActionListe::Ajouter);
+    B().R_ENFANT.ModifierListe(jean, NoOrdre{60000}, storage::ActionListe::Ajouter);
+    B().R_ENFANT.ModifierListe(indetermine, paul, storage::ActionListe::Ajouter);
     B().marques.AffichagePerime = false;
     CHECK(Depanner().size() == 3);
     CHECK(B().marques.AffichagePerime);
@@ -221,7 +221,7 @@ TEST_CASE_FIXTURE(Bureau,
                   "Repair: who is his own father keeps the link, since the list holds him") {
     const NoOrdre paul = Homme("Paul", "1850");
     B().R_PERE.EcrireCellule(paul, paul);
-    B().R_ENFANT.ModifierListe(paul, paul, 'A');
+    B().R_ENFANT.ModifierListe(paul, paul, storage::ActionListe::Ajouter);
     CHECK(Depanner() == std::vector{session.Message(message::InfoRienAReparer)});
     CHECK(B().R_PERE.LireCellule(paul) == paul);
 }
@@ -245,7 +245,7 @@ TEST_CASE_FIXTURE(Bureau,
     const NoOrdre dernier = enfants.back();
     SUBCASE("others") {
         for (int i = 0; i < 200; ++i)
-            B().R_ENFANT.ModifierListe(jean, enfants[0], 'A');
+            B().R_ENFANT.ModifierListe(jean, enfants[0], storage::ActionListe::Ajouter);
         B().R_PERE.EcrireCellule(dernier, jean);
         Depanner();
         CHECK(B().R_ENFANT.Elements(jean) == std::vector{dernier});
@@ -255,7 +255,8 @@ TEST_CASE_FIXTURE(Bureau,
         for (const NoOrdre enfant : enfants)
             B().R_PERE.EcrireCellule(enfant, jean);
         for (int i = 0; i < 200; ++i)
-            B().R_ENFANT.ModifierListe(jean, enfants[static_cast<std::size_t>(i)], 'A');
+            B().R_ENFANT.ModifierListe(jean, enfants[static_cast<std::size_t>(i)],
+                                       storage::ActionListe::Ajouter);
         const std::vector<std::string> lignes = Depanner();
         CHECK(bilan.reparations == 0);
         CHECK(lignes.size() == 1);

@@ -72,7 +72,7 @@ TEST_CASE_FIXTURE(Bureau, "Repair: ranks of nobody, of nothing and twice are tak
     const NoOrdre paul = Homme("Paul", "1850");
     for (const std::uint32_t numero : {jean.valeur, 0U, 65535U}) {
         ++B().entete.NbTriIndividus;
-        B().R_TRI.ModifierTri(2, NoOrdre{numero}, 'A');
+        B().R_TRI.ModifierTri(2, NoOrdre{numero}, storage::ActionListe::Ajouter);
     }
     const std::vector<std::string> lignes = Depanner();
     CHECK(lignes[0] == "Suppression Indice 2\tSuppression individu 65535");
@@ -96,7 +96,7 @@ TEST_CASE_FIXTURE(Bureau,
                   "Repair: a living person who is in no rank comes back at the right place") {
     const NoOrdre jean = Homme("Jean", "1820");
     const NoOrdre paul = Homme("Paul", "1850");
-    const NoOrdre seul = Creer(' ', "DURAND", "Seul", "1840");
+    const NoOrdre seul = Creer(Sexe::Vide, "DURAND", "Seul", "1840");
     const NoMariage m = Marier(seul, {}, "1870");
     B().R_TRI.RetirerIndividu(jean);
     B().R_TRI.RetirerIndividu(seul);
@@ -191,7 +191,7 @@ TEST_CASE("Repair: whatever was damaged, once is enough, nobody is lost, and the
                     b.R_MERE.EcrireCellule(n, personne());
                     break;
                 case 2:
-                    b.R_ENFANT.ModifierListe(n, personne(), 'A');
+                    b.R_ENFANT.ModifierListe(n, personne(), storage::ActionListe::Ajouter);
                     break;
                 case 3:
                     b.R_ENFANT.EcrireListe(n, "");
@@ -200,7 +200,7 @@ TEST_CASE("Repair: whatever was damaged, once is enough, nobody is lost, and the
                     b.R_MARIAG.EcrireListe(n, "");
                     break;
                 case 5:
-                    b.R_MARIAG.ModifierListe(n, union_(), 'A');
+                    b.R_MARIAG.ModifierListe(n, union_(), storage::ActionListe::Ajouter);
                     break;
                 case 6: {
                     const NoMariage m = union_();
@@ -267,11 +267,11 @@ TEST_CASE_FIXTURE(Bureau, "Repair: who and what is made while it runs is not tak
             parties.liens = std::vector{storage::LienEvenement{paul, "MAIN"}};
             B().R_EVT.EcrireEvt(acte, parties);
             B().R_TRI.AjouterEvt(acte);
-            B().R_LSTEVT.ModifierListe(paul, acte, 'A', "MAIN");
+            B().R_LSTEVT.ModifierListe(paul, acte, storage::ActionListe::Ajouter, "MAIN");
             photo = B().NouveauDocument();
             B().R_IMAGE.EcrireDoc(photo, {"Photo", "photo.jpg", {}, {}});
             B().R_TRI.AjouterDocument(photo);
-            B().R_LSTIMG.ModifierListe(paul, photo, 'A');
+            B().R_LSTIMG.ModifierListe(paul, photo, storage::ActionListe::Ajouter);
         }
     };
     Depanner();

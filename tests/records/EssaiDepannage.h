@@ -42,10 +42,10 @@ struct EssaiDepannage : BureauSoin {
         CHECK_FALSE(B().marques.Modifie());
     }
     NoOrdre Homme(const char* prenom, const char* annee = "1820") {
-        return Creer('H', "DURAND", prenom, annee);
+        return Creer(Sexe::Homme, "DURAND", prenom, annee);
     }
     NoOrdre Femme(const char* prenom, const char* annee = "1825") {
-        return Creer('F', "MARTIN", prenom, annee);
+        return Creer(Sexe::Femme, "MARTIN", prenom, annee);
     }
 };
 

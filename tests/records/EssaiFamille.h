@@ -24,7 +24,7 @@ using enum shell::Reponse;
 /// message or a question stands: the program may be saved or killed there.
 class EssaiFamille : public doublures::SessionEssai, public doublures::FamilleEssai {
 public:
-    explicit EssaiFamille(char tri = '2')
+    explicit EssaiFamille(TypeTri tri = TypeTri::Nom)
         : doublures::FamilleEssai{*NouvelleBase(*this, tri)}, base{*session.base} {
         dialogue.pendant = [this] { CHECK(doublures::Ecarts(base) == ""); };
     }
@@ -63,7 +63,7 @@ public:
     storage::Base& base;
 
 private:
-    static storage::Base* NouvelleBase(doublures::SessionEssai& essai, char tri) {
+    static storage::Base* NouvelleBase(doublures::SessionEssai& essai, TypeTri tri) {
         shell::Demarrage(essai.session);
         essai.session.TypeTri = tri;
         essai.dialogue.fichiers.emplace_back(essai.dossier / "Famille.LGD");

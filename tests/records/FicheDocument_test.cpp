@@ -18,8 +18,8 @@ using Mots = std::vector<std::string>;
 using Documents = std::vector<NoDocument>;
 
 struct Scene : EssaiFamille {
-    NoOrdre louis = Creer('H', "Martin", "Louis", "1790");
-    NoOrdre rose = Creer('F', "Blanc", "Rose", "1795");
+    NoOrdre louis = Creer(Sexe::Homme, "Martin", "Louis", "1790");
+    NoOrdre rose = Creer(Sexe::Femme, "Blanc", "Rose", "1795");
 
     NoDocument Document(std::string_view titre, std::string_view fichier = "a.jpg") {
         SaisieDocument saisie;

@@ -17,9 +17,9 @@ using Mots = std::vector<std::string>;
 
 /// Louis and Rose Martin, and Paul, who is no child of theirs yet.
 struct Scene : EssaiFamille {
-    NoOrdre louis = Creer('H', "Martin", "Louis", "1790");
-    NoOrdre rose = Creer('F', "Blanc", "Rose", "1795");
-    NoOrdre paul = Creer('H', "Martin", "Paul", "1820");
+    NoOrdre louis = Creer(Sexe::Homme, "Martin", "Louis", "1790");
+    NoOrdre rose = Creer(Sexe::Femme, "Blanc", "Rose", "1795");
+    NoOrdre paul = Creer(Sexe::Homme, "Martin", "Paul", "1820");
 
     /// Saves an event and answers its number.
     NoEvenement Evenement(std::string_view date, std::string_view type,
@@ -231,7 +231,7 @@ TEST_CASE_FIXTURE(Scene, "ValiderEvenement: a role must fit the sex of its perso
     CHECK(ValiderEvenement(session, saisie).etat == Etat::Incomplet);
     CHECK(Dit() == Mots{"RoleNonAttribueOuInadapte"});
     // Nobody of an unknown sex fits a role that asks for one.
-    const NoOrdre inconnu = Creer('I', "Martin", "X");
+    const NoOrdre inconnu = Creer(Sexe::Indetermine, "Martin", "X");
     CHECK_FALSE(RoleConvient(session, "MARR", {inconnu, "HUSB"}));
     CHECK(RoleConvient(session, "BIRT", {inconnu, "CHIL"}));
     CHECK(RoleConvient(session, "MARR", {inconnu, "Notaire"}));
@@ -257,7 +257,8 @@ TEST_CASE_FIXTURE(Scene, "RolesDe: the roles of the kind in order, then those th
     saisie.type = "BIRT";
     std::string roles;
     for (const shell::RoleEvenement& role : RolesDe(session, saisie))
-        roles += (role.principal ? 'M' : ' ') + std::string(1, role.sexe) + role.label + '/';
+        roles += (role.principal ? 'M' : ' ') + std::string(1, static_cast<char>(role.sexe)) +
+                 role.label + '/';
     CHECK(roles == "M CHIL/ HFATH/ FMOTH/  WITN/  Nourrice/");
 }
 
@@ -401,7 +402,7 @@ TEST_CASE_FIXTURE(Scene, "DeplacerLien: persons of an event change places, never
     CHECK_FALSE(DeplacerLien(session, e, 0, 1));
     CHECK_FALSE(DeplacerLien(session, e, 3, -1));
     CHECK(DeplacerLien(session, e, 2, -1));
-    CHECK(base.R_EVT.LienEvt(e, 1) == louis);
+    CHECK(base.R_EVT.Liens(e).at(0).individu == louis);
     CHECK(base.R_LSTEVT.LireCellule(paul) == liste);
 }
 
@@ -430,7 +431,7 @@ TEST_CASE_FIXTURE(Scene,
         CHECK(base.entete.DernierMariage == 1);
     }
     SUBCASE("another father is asked for, with no as the answer of Enter") {
-        const NoOrdre jean = Creer('H', "Noir", "Jean", "1785");
+        const NoOrdre jean = Creer(Sexe::Homme, "Noir", "Jean", "1785");
         saisie.liens.push_back({jean, "FATH"});
         Repondre({Annuler, Non});
         CHECK(ValiderEvenement(session, saisie).etat == Etat::Ecrit);
@@ -439,7 +440,7 @@ TEST_CASE_FIXTURE(Scene,
                             "ProposerReporterEvenementSurFiche"});
     }
     SUBCASE("another father, and yes") {
-        const NoOrdre jean = Creer('H', "Noir", "Jean", "1785");
+        const NoOrdre jean = Creer(Sexe::Homme, "Noir", "Jean", "1785");
         saisie.liens.push_back({jean, "FATH"});
         Repondre({Oui, Non});
         CHECK(ValiderEvenement(session, saisie).etat == Etat::Ecrit);
@@ -450,7 +451,7 @@ TEST_CASE_FIXTURE(Scene,
     }
     SUBCASE("a link that stood there asks nothing again") {
         base.R_PERE.EcrireCellule(paul, NoOrdre{});
-        base.R_ENFANT.ModifierListe(louis, paul, 'S');
+        base.R_ENFANT.ModifierListe(louis, paul, storage::ActionListe::Supprimer);
         saisie.note = "x";
         Repondre({Non});
         CHECK(ValiderEvenement(session, saisie).etat == Etat::Ecrit);
@@ -462,7 +463,7 @@ TEST_CASE_FIXTURE(Scene,
 TEST_CASE_FIXTURE(Scene,
                   "ValiderEvenement: a father made for the event is asked for as a new one") {
     Parents(paul, NoOrdre{}, rose);
-    const NoOrdre jean = Creer('H', "Noir", "Jean", "1785", "1810");
+    const NoOrdre jean = Creer(Sexe::Homme, "Noir", "Jean", "1785", "1810");
     SaisieEvenement saisie = NouvelEvenement(paul, "CHIL");
     saisie.date = "12/3/1820";
     saisie.type = "BIRT";
@@ -504,14 +505,14 @@ TEST_CASE_FIXTURE(Scene,
     saisie.date = "1/5/820";
     saisie.lieu = "Brest";
     SaisieFiche depart = DepartDePersonne(session, saisie, "FATH");
-    CHECK(depart.sexe == 'H');
+    CHECK(depart.sexe == Sexe::Homme);
     CHECK(depart.nom == "Martin");
     CHECK(depart.anneeNaissance.empty());
     CHECK(depart.lieuNaissance.empty());
-    CHECK(DepartDePersonne(session, saisie, "MOTH").sexe == 'F');
+    CHECK(DepartDePersonne(session, saisie, "MOTH").sexe == Sexe::Femme);
     CHECK(DepartDePersonne(session, saisie, "MOTH").nom.empty());
     depart = DepartDePersonne(session, saisie, "CHIL");
-    CHECK(depart.sexe == 'I');
+    CHECK(depart.sexe == Sexe::Indetermine);
     CHECK(depart.jourMoisNaissance == "1er mai");
     CHECK(depart.anneeNaissance == "820");
     CHECK(depart.lieuNaissance == "Brest");

@@ -29,7 +29,7 @@ struct Bureau : doublures::SessionEssai {
         shell::MnuNouveau(session);
         REQUIRE(session.BaseOuverte());
         dialogue.entendu.clear();
-        jean = doublures::FamilleEssai{B()}.Creer('H', "Martin", "Jean", "1820");
+        jean = doublures::FamilleEssai{B()}.Creer(Sexe::Homme, "Martin", "Jean", "1820");
     }
 
     storage::Base& B() { return *session.base; }

@@ -7,7 +7,6 @@
 #include "records/Liens.h"
 #include "records/TexteFiche.h"
 #include "shell/Numerotation.h"
-#include "shell/RelaisAvancement.h"
 #include "values/Texte1252.h"
 
 #include <filesystem>
@@ -28,7 +27,7 @@ struct Foyer : doublures::FicheEssai {
         SaisieFiche fiche;
         fiche.nom = "Dupont";
         fiche.prenom = "Jean";
-        fiche.sexe = 'H';
+        fiche.sexe = Sexe::Homme;
         fiche.anneeNaissance = "1820";
         fiche.jourMoisNaissance = "12 mars";
         fiche.lieuNaissance = "Saint Malo";
@@ -37,7 +36,7 @@ struct Foyer : doublures::FicheEssai {
         SaisieFiche epouse;
         epouse.nom = "Martin";
         epouse.prenom = "Anne";
-        epouse.sexe = 'F';
+        epouse.sexe = Sexe::Femme;
         epouse.anneeNaissance = "1825";
         anne = Inscrire(epouse);
     }
@@ -70,7 +69,7 @@ TEST_CASE_FIXTURE(Foyer,
     CHECK(fiche.lieuNaissance == "Saint Malo");
     CHECK(fiche.lieuDeces == "Rennes");
     CHECK(fiche.note == "Une note");
-    CHECK(fiche.sexe == 'H');
+    CHECK(fiche.sexe == Sexe::Homme);
     CHECK_FALSE(fiche.mariage);
 }
 
@@ -178,12 +177,12 @@ TEST_CASE_FIXTURE(Foyer, "ValiderFiche: names too long for their record are refu
 
 TEST_CASE_FIXTURE(Foyer, "ValiderFiche: the sex changes while there is neither child nor union") {
     SaisieFiche fiche = Fiche(jean);
-    fiche.sexe = 'F';
+    fiche.sexe = Sexe::Femme;
     CHECK(Valider(fiche).etat == Etat::Ecrite);
-    CHECK(B().R_SEXE.LireCellule(jean) == 'F');
-    fiche.sexe = 'I';
+    CHECK(B().R_SEXE.LireCellule(jean) == Sexe::Femme);
+    fiche.sexe = Sexe::Indetermine;
     CHECK(Valider(fiche).etat == Etat::Ecrite);
-    CHECK(B().R_SEXE.LireCellule(jean) == 'I');
+    CHECK(B().R_SEXE.LireCellule(jean) == Sexe::Indetermine);
 }
 
 TEST_CASE_FIXTURE(Foyer,
@@ -196,23 +195,23 @@ TEST_CASE_FIXTURE(Foyer,
     }
     Poser();
     SaisieFiche fiche = Fiche(jean);
-    fiche.sexe = 'F';
+    fiche.sexe = Sexe::Femme;
     fiche.prenom = "Jeanne";
     const IssueFiche issue = ValiderFiche(session, fiche);
     CHECK(issue.etat == Etat::Refusee);
     CHECK(issue.champ == Champ::Sexe);
     CHECK(dialogue.entendu == Phrases{Msg(message::SexeNonModifiable)});
     // The old option is set again; what else was typed stays in its field, unwritten.
-    CHECK(fiche.sexe == 'H');
+    CHECK(fiche.sexe == Sexe::Homme);
     CHECK(fiche.prenom == "Jeanne");
     CHECK_FALSE(B().marques.Modifie());
 }
 
 TEST_CASE_FIXTURE(Foyer, "ValiderFiche: a blank sex cell becomes \"I\", also for a parent") {
-    B().R_SEXE.EcrireCellule(jean, ' ');
+    B().R_SEXE.EcrireCellule(jean, Sexe::Vide);
     F().Parents(anne, jean, {});
     CHECK(Valider(Fiche(jean)).etat == Etat::Ecrite);
-    CHECK(B().R_SEXE.LireCellule(jean) == 'I');
+    CHECK(B().R_SEXE.LireCellule(jean) == Sexe::Indetermine);
     CHECK(dialogue.entendu.empty());
 }
 
@@ -246,20 +245,19 @@ TEST_CASE_FIXTURE(Foyer, "ValiderFiche: a ';' in a name moves words to the next 
 }
 
 TEST_CASE_FIXTURE(Foyer, "ValiderFiche: a new name or year moves the person once in the table") {
-    const auto placer = [this](char tri) {
-        shell::RelaisAvancement relais{session.progression, session.catalogue};
+    const auto placer = [this](TypeTri tri) {
         B().entete.TypeTri = tri;
-        REQUIRE(B().R_TRI.TrierIndividus(relais));
+        REQUIRE(B().R_TRI.TrierIndividus(session.progression));
     };
     SUBCASE("by year, a new year") {
-        placer('1');
+        placer(TypeTri::Naissance);
         SaisieFiche fiche = Fiche(jean);
         fiche.anneeNaissance = "1830";
         CHECK(Valider(fiche).etat == Etat::Ecrite);
         CHECK(Ordre() == std::vector{anne, jean});
     }
     SUBCASE("by year, a new name under the same year") {
-        placer('1');
+        placer(TypeTri::Naissance);
         SaisieFiche autre = Fiche(anne);
         autre.anneeNaissance = "1820";
         CHECK(Valider(autre).etat == Etat::Ecrite);
@@ -270,7 +268,7 @@ TEST_CASE_FIXTURE(Foyer, "ValiderFiche: a new name or year moves the person once
         CHECK(Ordre() == std::vector{anne, jean});
     }
     SUBCASE("by name, a new name and a new year at once") {
-        placer('2');
+        placer(TypeTri::Nom);
         SaisieFiche fiche = Fiche(jean);
         fiche.nom = "Zola";
         fiche.anneeNaissance = "1700";
@@ -278,7 +276,7 @@ TEST_CASE_FIXTURE(Foyer, "ValiderFiche: a new name or year moves the person once
         CHECK(Ordre() == std::vector{anne, jean});
     }
     SUBCASE("by number, nothing moves") {
-        placer('0');
+        placer(TypeTri::Creation);
         SaisieFiche fiche = Fiche(jean);
         fiche.nom = "Zola";
         fiche.anneeNaissance = "1900";
@@ -381,7 +379,7 @@ TEST_CASE_FIXTURE(Foyer, "ValiderFiche: the union of the sheet, its years, text 
 
 TEST_CASE_FIXTURE(Foyer, "ValiderFiche: a union that is no longer the person's is not written") {
     const NoMariage m = F().Marier(jean, anne);
-    B().R_MARIAG.ModifierListe(jean, m, 'S');
+    B().R_MARIAG.ModifierListe(jean, m, storage::ActionListe::Supprimer);
     SaisieFiche fiche = Fiche(jean);
     fiche.mariage = ChargerUnion(session, m);
     fiche.mariage->debut = "1845";
@@ -441,7 +439,7 @@ TEST_CASE_FIXTURE(Foyer, "ValiderFiche: the label of the link in edit") {
 TEST_CASE_FIXTURE(Foyer, "ValiderFiche: a new person is made, then it is that person's sheet") {
     SaisieFiche fiche;
     fiche.nom = "Dupont";
-    fiche.sexe = 'F';
+    fiche.sexe = Sexe::Femme;
     CHECK(FicheModifiee(session, fiche));
     const IssueFiche issue = ValiderFiche(session, fiche);
     CHECK(issue.etat == Etat::Ecrite);

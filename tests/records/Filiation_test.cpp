@@ -16,35 +16,35 @@ struct Famille : EssaiFamille {
     NoOrdre Enfants(NoOrdre parent, int combien) {
         NoOrdre n{};
         for (int i = 0; i < combien; ++i) {
-            n = Creer('H', "Noir", "Petit", "1850");
+            n = Creer(Sexe::Homme, "Noir", "Petit", "1850");
             Parents(n, parent, {});
         }
         return n;
     }
-    NoOrdre paul = Creer('H', "Noir", "Paul", "1820", "1890");
-    NoOrdre anne = Creer('F', "Blanc", "Anne", "1825");
-    NoOrdre luc = Creer('H', "Noir", "Luc", "1850");
-    NoOrdre zoe = Creer('F', "Noir", "Zoé"_1252, "1852");
+    NoOrdre paul = Creer(Sexe::Homme, "Noir", "Paul", "1820", "1890");
+    NoOrdre anne = Creer(Sexe::Femme, "Blanc", "Anne", "1825");
+    NoOrdre luc = Creer(Sexe::Homme, "Noir", "Luc", "1850");
+    NoOrdre zoe = Creer(Sexe::Femme, "Noir", "Zoé"_1252, "1852");
 };
 
 }  // namespace
 
 TEST_CASE_FIXTURE(Famille, "MajEnfant: children stand by year of birth, equal years by arrival") {
-    const NoOrdre sans = Creer('H', "Noir", "Sans", "");
-    const NoOrdre pareil = Creer('H', "Noir", "Pareil", "1850");
+    const NoOrdre sans = Creer(Sexe::Homme, "Noir", "Sans", "");
+    const NoOrdre pareil = Creer(Sexe::Homme, "Noir", "Pareil", "1850");
     for (const NoOrdre n : {zoe, luc, pareil, sans}) {
         base.R_PERE.EcrireCellule(n, paul);
-        MajEnfant(session, paul, n, ActionListe::Ajouter);
+        MajEnfant(session, paul, n, storage::ActionListe::Ajouter);
     }
     CHECK(EnfantsDe(paul) == std::vector{sans, luc, pareil, zoe});
     CHECK(base.marques.AffichagePerime);
     base.R_PERE.EcrireCellule(luc, {});
-    MajEnfant(session, paul, luc, ActionListe::Supprimer);
+    MajEnfant(session, paul, luc, storage::ActionListe::Supprimer);
     CHECK(EnfantsDe(paul) == std::vector{sans, pareil, zoe});
 }
 
 TEST_CASE_FIXTURE(Famille, "DonnerParent: both sides of the link are written") {
-    CHECK(DonnerParent(session, luc, 'H', paul));
+    CHECK(DonnerParent(session, luc, Cote::Pere, paul));
     CHECK(ParentsDe(luc) == "1 0");
     CHECK(EnfantsDe(paul) == std::vector{luc});
     CHECK(Dit().empty());
@@ -52,10 +52,10 @@ TEST_CASE_FIXTURE(Famille, "DonnerParent: both sides of the link are written") {
 
 TEST_CASE_FIXTURE(Famille,
                   "DonnerParent: the former parent loses the child, the other one keeps it") {
-    const NoOrdre jean = Creer('H', "Gris", "Jean", "1822");
+    const NoOrdre jean = Creer(Sexe::Homme, "Gris", "Jean", "1822");
     Parents(luc, paul, anne);
     Marier(jean, anne);
-    CHECK(DonnerParent(session, luc, 'H', jean));
+    CHECK(DonnerParent(session, luc, Cote::Pere, jean));
     CHECK(EnfantsDe(paul).empty());
     CHECK(EnfantsDe(jean) == std::vector{luc});
     CHECK(EnfantsDe(anne) == std::vector{luc});
@@ -66,12 +66,12 @@ TEST_CASE_FIXTURE(Famille, "DonnerParent: two parents without a union are offere
     Parents(luc, {}, anne);
     SUBCASE("no") {
         Repondre({Non});
-        CHECK(DonnerParent(session, luc, 'H', paul));
+        CHECK(DonnerParent(session, luc, Cote::Pere, paul));
         CHECK(base.entete.DernierMariage == 0);
     }
     SUBCASE("yes") {
         Repondre({Oui});
-        CHECK(DonnerParent(session, luc, 'H', paul));
+        CHECK(DonnerParent(session, luc, Cote::Pere, paul));
         REQUIRE(UnionDe(base, paul, anne) == NoMariage{1});
         CHECK(base.R_EPOUX.LireCellule(NoMariage{1}) == paul);
         CHECK(base.R_EPOUSE.LireCellule(NoMariage{1}) == anne);
@@ -82,7 +82,7 @@ TEST_CASE_FIXTURE(Famille, "DonnerParent: two parents without a union are offere
 TEST_CASE_FIXTURE(Famille, "DonnerParent: the wife is on her side whoever is chosen") {
     Parents(luc, paul, {});
     Repondre({Oui});
-    CHECK(DonnerParent(session, luc, 'F', anne));
+    CHECK(DonnerParent(session, luc, Cote::Mere, anne));
     CHECK(base.R_EPOUX.LireCellule(NoMariage{1}) == paul);
     CHECK(base.R_EPOUSE.LireCellule(NoMariage{1}) == anne);
     CHECK(Dit() == Dits{"ProposerCreerUnion(Paul Noir)"});
@@ -92,17 +92,17 @@ TEST_CASE_FIXTURE(
     Famille,
     "DonnerParent: each partner of the chosen one is asked for until a yes, then that "
     "partner's children are") {
-    const NoOrdre rose = Creer('F', "Roux", "Rose", "1830");
-    const NoOrdre eve = Creer('F', "Vert", "Eve", "1831");
+    const NoOrdre rose = Creer(Sexe::Femme, "Roux", "Rose", "1830");
+    const NoOrdre eve = Creer(Sexe::Femme, "Vert", "Eve", "1831");
     Marier(paul, anne);
     Marier(paul, rose);
     Marier(paul, eve);
-    const NoOrdre max = Creer('H', "Roux", "Max", "1855");
-    const NoOrdre tom = Creer('H', "Roux", "Tom", "1856");
+    const NoOrdre max = Creer(Sexe::Homme, "Roux", "Max", "1855");
+    const NoOrdre tom = Creer(Sexe::Homme, "Roux", "Tom", "1856");
     Parents(max, {}, rose);
     Parents(tom, {}, rose);
     Repondre({Non, Oui, Oui, Non});
-    CHECK(DonnerParent(session, luc, 'H', paul));
+    CHECK(DonnerParent(session, luc, Cote::Pere, paul));
     CHECK(Dit() == Dits{"DemanderSiEpouseEstLaMere(Luc Noir, Anne Blanc)",
                         "DemanderSiEpouseEstLaMere(Luc Noir, Rose Roux)",
                         "DemanderSiEpouxEstLePere(Max Roux, Paul Noir)",
@@ -117,7 +117,7 @@ TEST_CASE_FIXTURE(Famille, "DonnerParent: for a mother the questions are those o
     Marier(paul, anne);
     Parents(zoe, paul, {});
     Repondre({Oui, Oui});
-    CHECK(DonnerParent(session, luc, 'F', anne));
+    CHECK(DonnerParent(session, luc, Cote::Mere, anne));
     CHECK(Dit() == Dits{"DemanderSiEpouxEstLePere(Luc Noir, Paul Noir)",
                         "DemanderSiEpouseEstLaMere(Zo\xE9 Noir, Anne Blanc)"});
     CHECK(ParentsDe(luc) == "1 2");
@@ -126,17 +126,17 @@ TEST_CASE_FIXTURE(Famille, "DonnerParent: for a mother the questions are those o
 
 TEST_CASE_FIXTURE(Famille,
                   "DonnerParent: who cannot be the parent is refused and nothing changes") {
-    const NoOrdre camille = Creer('I', "Noir", "Camille", "1820");
+    const NoOrdre camille = Creer(Sexe::Indetermine, "Noir", "Camille", "1820");
     Parents(luc, paul, {});
-    const NoOrdre petit = Creer('H', "Noir", "Petit", "1880");
+    const NoOrdre petit = Creer(Sexe::Homme, "Noir", "Petit", "1880");
     Parents(petit, luc, {});
     base.marques.ModifBase = false;
-    CHECK_FALSE(DonnerParent(session, luc, 'H', luc));
-    CHECK_FALSE(DonnerParent(session, paul, 'H', petit));
-    CHECK_FALSE(DonnerParent(session, zoe, 'H', anne));
-    CHECK_FALSE(DonnerParent(session, zoe, 'H', camille));
-    CHECK_FALSE(DonnerParent(session, zoe, 'H', NoOrdre{999}));
-    CHECK_FALSE(DonnerParent(session, zoe, 'H', {}));
+    CHECK_FALSE(DonnerParent(session, luc, Cote::Pere, luc));
+    CHECK_FALSE(DonnerParent(session, paul, Cote::Pere, petit));
+    CHECK_FALSE(DonnerParent(session, zoe, Cote::Pere, anne));
+    CHECK_FALSE(DonnerParent(session, zoe, Cote::Pere, camille));
+    CHECK_FALSE(DonnerParent(session, zoe, Cote::Pere, NoOrdre{999}));
+    CHECK_FALSE(DonnerParent(session, zoe, Cote::Pere, {}));
     CHECK(Dit() ==
           Dits{"PropreParent(Luc Noir, Luc Noir)", "ParentDescendDeLEnfant(Petit Noir, Paul Noir)",
                "SexeParentInadapte(Anne Blanc, Zo\xE9 Noir)", "SexeParentInadapte(Camille Noir)",
@@ -148,7 +148,7 @@ TEST_CASE_FIXTURE(Famille, "A 201st child changes no cell, whichever way it come
     const NoOrdre dernier = Enfants(paul, 200);
     Marier(paul, anne);
     base.marques.ModifBase = false;
-    CHECK_FALSE(DonnerParent(session, luc, 'H', paul));
+    CHECK_FALSE(DonnerParent(session, luc, Cote::Pere, paul));
     CHECK_FALSE(AttacherEnfant(session, paul, luc));
     CHECK_FALSE(PeutAvoirEnfant(session, paul));
     CHECK_FALSE(EnfantCree(session, paul, luc, {}));
@@ -162,7 +162,7 @@ TEST_CASE_FIXTURE(Famille, "A 201st child changes no cell, whichever way it come
     CHECK(EnfantsDe(paul).size() == 200);
     // One who is there already needs no room.
     Repondre({Non});
-    CHECK(DonnerParent(session, dernier, 'H', paul));
+    CHECK(DonnerParent(session, dernier, Cote::Pere, paul));
     CHECK(Dit() == Dits{"DemanderSiEpouseEstLaMere(Petit Noir, Anne Blanc)"});
     CHECK(EnfantsDe(paul).size() == 200);
 }
@@ -170,20 +170,20 @@ TEST_CASE_FIXTURE(Famille, "A 201st child changes no cell, whichever way it come
 TEST_CASE_FIXTURE(Famille, "A partner whose list is full is asked for, and refused after the yes") {
     Marier(paul, anne);
     for (int i = 0; i < 200; ++i)
-        Parents(Creer('H', "Blanc", "Petit", "1850"), {}, anne);
+        Parents(Creer(Sexe::Homme, "Blanc", "Petit", "1850"), {}, anne);
     Repondre({Oui});
-    CHECK(DonnerParent(session, luc, 'H', paul));
+    CHECK(DonnerParent(session, luc, Cote::Pere, paul));
     CHECK(Dit() == Dits{"DemanderSiEpouseEstLaMere(Luc Noir, Anne Blanc)",
                         "MaximumEnfantsPersonneAtteint(Anne Blanc, Luc Noir)"});
     CHECK(ParentsDe(luc) == "1 0");
 }
 
 TEST_CASE_FIXTURE(Famille, "ParentCree: union, warning of a death, children of the other parent") {
-    const NoOrdre mort = Creer('H', "Noir", "Jean", "1800", "1851");
+    const NoOrdre mort = Creer(Sexe::Homme, "Noir", "Jean", "1800", "1851");
     Parents(luc, {}, anne);
     Parents(zoe, {}, anne);
     Repondre({Oui, Oui});
-    CHECK(ParentCree(session, luc, 'H', mort));
+    CHECK(ParentCree(session, luc, Cote::Pere, mort));
     // Died in 1851: after Luc's birth in 1850, before Zoé's in 1852.
     CHECK(Dit() == Dits{"ProposerCreerUnion(Anne Blanc)",
                         "DemanderSiEpouxEstLePere(Zo\xE9 Noir, Jean Noir)",
@@ -194,11 +194,11 @@ TEST_CASE_FIXTURE(Famille, "ParentCree: union, warning of a death, children of t
 
 TEST_CASE_FIXTURE(
     Famille, "ParentCree: a mother is the mirror, and her warning comes before the questions") {
-    const NoOrdre mere = Creer('F', "Vert", "Eve", "1800", "1840");
+    const NoOrdre mere = Creer(Sexe::Femme, "Vert", "Eve", "1800", "1840");
     Parents(luc, paul, {});
     Parents(zoe, paul, {});
     Repondre({Non, Non});
-    CHECK(ParentCree(session, luc, 'F', mere));
+    CHECK(ParentCree(session, luc, Cote::Mere, mere));
     CHECK(Dit() == Dits{"ProposerCreerUnion(Paul Noir)", "DecesParentAvantNaissanceEnfant",
                         "DemanderSiEpouseEstLaMere(Zo\xE9 Noir, Eve Vert)"});
     CHECK(ParentsDe(luc) == "1 5");
@@ -206,7 +206,7 @@ TEST_CASE_FIXTURE(
 }
 
 TEST_CASE_FIXTURE(Famille, "AvertirDeces: empty years on either side give no warning") {
-    const NoOrdre sans = Creer('H', "Noir", "Sans", "");
+    const NoOrdre sans = Creer(Sexe::Homme, "Noir", "Sans", "");
     AvertirDeces(session, anne, luc);
     AvertirDeces(session, paul, sans);
     base.R_DECES.EcrireCellule(anne, "1850");
@@ -221,7 +221,7 @@ TEST_CASE_FIXTURE(Famille, "RetirerParent: asks, names the loss, and writes both
     Parents(luc, paul, anne);
     SUBCASE("no") {
         Repondre({Non});
-        CHECK_FALSE(RetirerParent(session, luc, 'H'));
+        CHECK_FALSE(RetirerParent(session, luc, Cote::Pere));
         CHECK(dialogue.questions[0].defaut == Non);
         CHECK(dialogue.titres[0] == shell::Msg(message::TitreSuppression));
         CHECK(ParentsDe(luc) == "1 2");
@@ -229,21 +229,21 @@ TEST_CASE_FIXTURE(Famille, "RetirerParent: asks, names the loss, and writes both
     }
     SUBCASE("yes") {
         Repondre({Oui});
-        CHECK(RetirerParent(session, luc, 'F'));
+        CHECK(RetirerParent(session, luc, Cote::Mere));
         CHECK(ParentsDe(luc) == "1 0");
         CHECK(EnfantsDe(anne).empty());
         CHECK(EnfantsDe(paul) == std::vector{luc});
         CHECK(Dit() == Dits{"ConfirmerRetirerMere(Anne Blanc, Luc Noir)+ConfirmerSuppression"});
     }
     SUBCASE("nobody there") {
-        CHECK_FALSE(RetirerParent(session, zoe, 'F'));
+        CHECK_FALSE(RetirerParent(session, zoe, Cote::Mere));
         CHECK(Dit().empty());
     }
 }
 
 TEST_CASE_FIXTURE(Famille,
                   "AttacherEnfant: a replaced parent is asked for, with Cancel for Enter") {
-    const NoOrdre jean = Creer('H', "Gris", "Jean", "1822");
+    const NoOrdre jean = Creer(Sexe::Homme, "Gris", "Jean", "1822");
     Parents(luc, paul, anne);
     SUBCASE("cancel") {
         Repondre({Annuler});
@@ -264,7 +264,7 @@ TEST_CASE_FIXTURE(Famille,
 }
 
 TEST_CASE_FIXTURE(Famille, "AttacherEnfant: partners are offered as other parent until a yes") {
-    const NoOrdre rose = Creer('F', "Roux", "Rose", "1830");
+    const NoOrdre rose = Creer(Sexe::Femme, "Roux", "Rose", "1830");
     Marier(paul, anne);
     Marier(paul, rose);
     Marier(paul, anne, "1870");
@@ -310,8 +310,8 @@ TEST_CASE_FIXTURE(Famille, "A partner who is the child itself is not offered as 
 }
 
 TEST_CASE_FIXTURE(Famille, "Who is of no known sex is given no child") {
-    const NoOrdre camille = Creer(' ', "Noir", "Camille", "1820");
-    const NoOrdre dom = Creer('I', "Noir", "Dominique", "1820");
+    const NoOrdre camille = Creer(Sexe::Vide, "Noir", "Camille", "1820");
+    const NoOrdre dom = Creer(Sexe::Indetermine, "Noir", "Dominique", "1820");
     base.marques.ModifBase = false;
     for (const NoOrdre n : {camille, dom}) {
         CHECK_FALSE(PeutAvoirEnfant(session, n));
@@ -372,7 +372,7 @@ TEST_CASE_FIXTURE(Famille, "RetirerEnfant: the cell of that parent alone, after 
 TEST_CASE_FIXTURE(
     Famille,
     "RetirerEnfant: a father of unknown sex, as an import may leave one, is let go as well") {
-    base.R_SEXE.EcrireCellule(paul, ' ');
+    base.R_SEXE.EcrireCellule(paul, Sexe::Vide);
     Parents(luc, paul, {});
     Repondre({Oui});
     CHECK(RetirerEnfant(session, paul, luc));

@@ -20,7 +20,7 @@ using Etat = IssueFiche::Etat;
 using Phrases = std::vector<shell::Phrase>;
 
 SaisieFiche Personne(std::string_view nom, std::string_view prenom, std::string_view annee,
-                     char sexe = 'H') {
+                     Sexe sexe = Sexe::Homme) {
     SaisieFiche fiche;
     fiche.nom = nom;
     fiche.prenom = prenom;
@@ -54,7 +54,7 @@ TEST_CASE_FIXTURE(Registre,
     CHECK(fiche.individu == NoOrdre{1});
     CHECK(dialogue.entendu.empty());
     CHECK(B().R_NOM.LireTexte(NoOrdre{1}) == "Dupont;Jean Marie;;12/3;ABT 2 MAR");
-    CHECK(B().R_SEXE.LireCellule(NoOrdre{1}) == 'H');
+    CHECK(B().R_SEXE.LireCellule(NoOrdre{1}) == Sexe::Homme);
     CHECK(B().R_NAISS.LireCellule(NoOrdre{1}) == "1820");
     CHECK(B().R_DECES.LireCellule(NoOrdre{1}) == "1890");
     CHECK(B().R_TEXTE.LireTexte(NoOrdre{1}) ==
@@ -121,19 +121,19 @@ TEST_CASE_FIXTURE(Registre, "CreerIndividu: the 32001st person gets the base its
 TEST_CASE_FIXTURE(Registre, "CreerIndividu: the numberings of the two reference persons grow") {
     session.deCujus[0].individu = Creer(Personne("Dupont", "Jean", "1820"));
     shell::NumeroterDeCujus(session, 1);
-    Creer(Personne("Dupont", "Anne", "1822", 'F'));
+    Creer(Personne("Dupont", "Anne", "1822", Sexe::Femme));
     CHECK(session.deCujus[0].sosa.size() == 3);
     CHECK(session.deCujus[1].sosa.empty());
 }
 
 TEST_CASE_FIXTURE(Registre, "CreerIndividu: a sex that is not determined leaves the cell blank") {
-    const NoOrdre n = Creer(Personne("Dupont", "Camille", "1820", 'I'));
-    CHECK(B().R_SEXE.LireCellule(n) == ' ');
+    const NoOrdre n = Creer(Personne("Dupont", "Camille", "1820", Sexe::Indetermine));
+    CHECK(B().R_SEXE.LireCellule(n) == Sexe::Vide);
     SaisieFiche fiche = ChargerFiche(session, n);
-    CHECK(fiche.sexe == 'I');
+    CHECK(fiche.sexe == Sexe::Indetermine);
     CHECK_FALSE(FicheModifiee(session, fiche));
     CHECK(ValiderFiche(session, fiche).etat == Etat::Ecrite);
-    CHECK(B().R_SEXE.LireCellule(n) == 'I');
+    CHECK(B().R_SEXE.LireCellule(n) == Sexe::Indetermine);
 }
 
 TEST_CASE_FIXTURE(Registre,
@@ -154,13 +154,13 @@ TEST_CASE_FIXTURE(Registre, "CreerIndividu: the table is kept in the order of th
         CHECK(Ordre() == std::vector{NoOrdre{3}, NoOrdre{1}, NoOrdre{2}});
     }
     SUBCASE("by name") {
-        B().entete.TypeTri = '2';
+        B().entete.TypeTri = TypeTri::Nom;
         Creer(Personne("Zola", "Anne", "1800"));
         Creer(Personne("Abel", "Jean", "1900"));
         CHECK(Ordre() == std::vector{NoOrdre{2}, NoOrdre{1}});
     }
     SUBCASE("by number") {
-        B().entete.TypeTri = '0';
+        B().entete.TypeTri = TypeTri::Creation;
         Creer(Personne("Zola", "Anne", "1800"));
         Creer(Personne("Abel", "Jean", "1700"));
         CHECK(Ordre() == std::vector{NoOrdre{1}, NoOrdre{2}});
@@ -204,8 +204,8 @@ TEST_CASE_FIXTURE(Registre, "CreerIndividu: marks of records in any field harm n
 TEST_CASE_FIXTURE(Registre,
                   "ChangerAnneeNaissance: table, lists of both parents and word lists follow") {
     const NoOrdre pere = Creer(Personne("Dupont", "Jean", "1800"));
-    const NoOrdre mere = Creer(Personne("Martin", "Anne", "1802", 'F'));
-    const NoOrdre ainee = Creer(Personne("Dupont", "Luce", "1825", 'F'));
+    const NoOrdre mere = Creer(Personne("Martin", "Anne", "1802", Sexe::Femme));
+    const NoOrdre ainee = Creer(Personne("Dupont", "Luce", "1825", Sexe::Femme));
     const NoOrdre cadet = Creer(Personne("Dupont", "Paul", "1830"));
     for (const NoOrdre enfant : {ainee, cadet})
         F().Parents(enfant, pere, mere);
@@ -235,7 +235,7 @@ TEST_CASE_FIXTURE(Registre, "ChangerAnneeNaissance: the same year changes nothin
 
 TEST_CASE_FIXTURE(Registre, "EcrireTexteMariage: the index follows for both partners") {
     const NoOrdre epoux = Creer(Personne("Dupont", "Jean", "1800"));
-    const NoOrdre epouse = Creer(Personne("Martin", "Anne", "1802", 'F'));
+    const NoOrdre epouse = Creer(Personne("Martin", "Anne", "1802", Sexe::Femme));
     const NoMariage m = F().Marier(epoux, epouse);
     EcrireTexteMariage(session, m, "12/3 @Brest");
     VerifierIndex();
@@ -253,7 +253,7 @@ namespace {
 
 struct Suppression : Registre {
     NoOrdre jean = Creer(Personne("Dupont", "Jean", "1800"));
-    NoOrdre anne = Creer(Personne("Martin", "Anne", "1802", 'F'));
+    NoOrdre anne = Creer(Personne("Martin", "Anne", "1802", Sexe::Femme));
     shell::Phrase titre = Msg(message::TitreSuppression);
 
     void Refusee(NoMessage message) {
@@ -276,13 +276,13 @@ TEST_CASE_FIXTURE(Suppression, "SupprimerIndividu: what holds a person is told i
     Refusee(message::SuppressionImpossiblePere);
     B().R_LSTEVT.EcrireListe(jean, std::string("\0\1\0\0\0\0", 6));
     Refusee(message::SuppressionImpossibleEvenements);
-    B().R_LSTIMG.ModifierListe(jean, NoDocument{1}, 'A');
+    B().R_LSTIMG.ModifierListe(jean, NoDocument{1}, storage::ActionListe::Ajouter);
     Refusee(message::SuppressionImpossibleDocuments);
     F().Lier(jean, anne, "GODP");
     Refusee(message::SuppressionImpossibleLiens);
     F().Marier(jean, anne);
     Refusee(message::SuppressionImpossibleUnion);
-    B().R_ENFANT.ModifierListe(jean, anne, 'A');
+    B().R_ENFANT.ModifierListe(jean, anne, storage::ActionListe::Ajouter);
     Refusee(message::SuppressionImpossibleEnfants);
 }
 
@@ -305,7 +305,7 @@ TEST_CASE_FIXTURE(Suppression,
     CHECK(Ordre() == std::vector{anne});
     CHECK(B().entete.NbTriIndividus == 1);
     CHECK(B().entete.DernierIndividu == 2);
-    CHECK(B().R_SEXE.LireCellule(jean) == ' ');
+    CHECK(B().R_SEXE.LireCellule(jean) == Sexe::Vide);
     CHECK(B().R_NAISS.LireCellule(jean).empty());
     CHECK(B().R_NOM.LireTexte(jean).empty());
     CHECK(B().R_TEXTE.LireTexte(jean).empty());

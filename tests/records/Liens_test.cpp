@@ -14,9 +14,9 @@ using Dits = std::vector<std::string>;
 using Rangees = std::vector<LienAffiche>;
 
 struct Famille : EssaiFamille {
-    NoOrdre paul = Creer('H', "Noir", "Paul", "1820");
-    NoOrdre anne = Creer('F', "Blanc", "Anne", "1825");
-    NoOrdre luc = Creer('H', "Noir", "Luc", "1850");
+    NoOrdre paul = Creer(Sexe::Homme, "Noir", "Paul", "1820");
+    NoOrdre anne = Creer(Sexe::Femme, "Blanc", "Anne", "1825");
+    NoOrdre luc = Creer(Sexe::Homme, "Noir", "Luc", "1850");
 };
 
 }  // namespace
@@ -64,7 +64,7 @@ TEST_CASE_FIXTURE(Famille, "AjouterLien: a '#' does not cut the label") {
 }
 
 TEST_CASE_FIXTURE(Famille, "AjouterLien: the side that an old base lacks is added") {
-    base.R_LIEN.ModifierListe(paul, anne, 'A', "voisin");
+    base.R_LIEN.ModifierListe(paul, anne, storage::ActionListe::Ajouter, "voisin");
     CHECK(AjouterLien(session, paul, anne, "voisin"));
     CHECK(ListerLiens(session, paul).size() == 1);
     CHECK(ListerLiens(session, anne).size() == 1);
@@ -88,15 +88,15 @@ TEST_CASE_FIXTURE(Famille, "A 201st link, on either side, changes nothing") {
 TEST_CASE_FIXTURE(Famille,
                   "ListerLiens: an entry that is there already is left out, the ranks stay") {
     for (const char* libelle : {"ami", "ami", "voisin"})
-        base.R_LIEN.ModifierListe(paul, anne, 'A', libelle);
+        base.R_LIEN.ModifierListe(paul, anne, storage::ActionListe::Ajouter, libelle);
     CHECK(ListerLiens(session, paul) == Rangees{{1, anne, "ami"}, {3, anne, "voisin"}});
     base.R_LIEN.EcrireListe(paul, "");
 }
 
 TEST_CASE_FIXTURE(Famille, "ListerLiens: a person who was deleted is left out, the ranks stay") {
     // Only one side of the link is known, as in an old base: nothing holds the other person.
-    base.R_LIEN.ModifierListe(paul, anne, 'A', "ami");
-    base.R_LIEN.ModifierListe(paul, luc, 'A', "voisin");
+    base.R_LIEN.ModifierListe(paul, anne, storage::ActionListe::Ajouter, "ami");
+    base.R_LIEN.ModifierListe(paul, luc, storage::ActionListe::Ajouter, "voisin");
     dialogue.pendant = nullptr;
     Repondre({Oui});
     REQUIRE(SupprimerIndividu(session, anne));

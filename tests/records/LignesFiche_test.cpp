@@ -18,14 +18,14 @@ std::string Dites(const std::vector<LigneLue>& lignes) {
 }  // namespace
 
 TEST_CASE_FIXTURE(EssaiFamille, "LignesFiche: a person of whom nothing is known has one line") {
-    const NoOrdre n = Creer('I', "Noir", "Paul");
+    const NoOrdre n = Creer(Sexe::Indetermine, "Noir", "Paul");
     CHECK(Dites(LignesFiche(session, n)) == "Personne=n° 1, Sexe indéterminé 0\n"_1252);
 }
 
 TEST_CASE_FIXTURE(EssaiFamille, "LignesFiche: parents, unions and children name their person") {
-    const NoOrdre paul = Creer('H', "Noir", "Paul", "1820", "1890");
-    const NoOrdre anne = Creer('F', "Blanc", "Anne", "1825");
-    const NoOrdre luc = Creer('H', "Noir", "Luc", "1850");
+    const NoOrdre paul = Creer(Sexe::Homme, "Noir", "Paul", "1820", "1890");
+    const NoOrdre anne = Creer(Sexe::Femme, "Blanc", "Anne", "1825");
+    const NoOrdre luc = Creer(Sexe::Homme, "Noir", "Luc", "1850");
     const NoMariage m = Marier(paul, anne, "1848");
     base.R_FINMAR.EcrireCellule(m, "1860");
     Parents(luc, paul, anne);
@@ -38,7 +38,7 @@ TEST_CASE_FIXTURE(EssaiFamille, "LignesFiche: parents, unions and children name 
 }
 
 TEST_CASE_FIXTURE(EssaiFamille, "LignesFiche: a note of several lines is one line of plain text") {
-    const NoOrdre n = Creer('F', "Noir", "Eve");
+    const NoOrdre n = Creer(Sexe::Femme, "Noir", "Eve");
     const std::string texte = "|NOIR\r\nVenue de\r\n{\\rtf1 \\b Brest\\par}";
     base.R_TEXTE.EcrireTexte(n, texte);
     base.R_INDEX.MajIndex(n, "", texte);

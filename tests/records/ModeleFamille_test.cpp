@@ -27,10 +27,10 @@ struct Scene {
     doublures::FamilleEssai famille{*base};
 
     NoOrdre Homme(const char* prenom, const char* annee = "") {
-        return famille.Creer('H', "Martin", prenom, annee);
+        return famille.Creer(Sexe::Homme, "Martin", prenom, annee);
     }
     NoOrdre Femme(const char* prenom, const char* annee = "") {
-        return famille.Creer('F', "Duval", prenom, annee);
+        return famille.Creer(Sexe::Femme, "Duval", prenom, annee);
     }
     ModeleFamille Voir(NoOrdre n, int ascendantes = 4, int descendantes = 2) const {
         return ConstruireFamille(*base, n, {ascendantes, descendantes});

@@ -29,7 +29,7 @@ struct Famille : doublures::SessionEssai {
     NoOrdre Creer(std::string_view ligne, std::string_view naissance = "",
                   std::string_view deces = "") {
         const NoOrdre n = B().NouvelIndividu();
-        B().R_SEXE.EcrireCellule(n, 'H');
+        B().R_SEXE.EcrireCellule(n, Sexe::Homme);
         B().R_NOM.EcrireNom(n, ligne);
         if (!naissance.empty()) B().R_NAISS.EcrireCellule(n, naissance);
         if (!deces.empty()) B().R_DECES.EcrireCellule(n, deces);
@@ -86,7 +86,7 @@ TEST_CASE_FIXTURE(Famille,
     const NoOrdre pere = Creer("Dupont;Paul;;;");
     const NoOrdre autre = Creer("Durand;Luc;;;");
     B().R_PERE.EcrireCellule(n, pere);
-    B().R_ENFANT.ModifierListe(pere, n, 'A');
+    B().R_ENFANT.ModifierListe(pere, n, storage::ActionListe::Ajouter);
     session.deCujus[0].individu = n;
     session.deCujus[1].individu = pere;
     shell::NumeroterDeCujus(session, 1);

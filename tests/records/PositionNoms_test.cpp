@@ -8,11 +8,11 @@ using namespace dorvane::records;
 namespace {
 
 struct Famille : EssaiFamille {
-    explicit Famille(char tri = '2') : EssaiFamille{tri} {
-        Creer('H', "Durand", "Jean", "1850");
-        Creer('H', "Évrard"_1252, "Luc", "1820");
-        Creer('H', "de La Tour", "Anne", "950");
-        Creer('H', "Zola", "Max", "");
+    explicit Famille(TypeTri tri = TypeTri::Nom) : EssaiFamille{tri} {
+        Creer(Sexe::Homme, "Durand", "Jean", "1850");
+        Creer(Sexe::Homme, "Évrard"_1252, "Luc", "1820");
+        Creer(Sexe::Homme, "de La Tour", "Anne", "950");
+        Creer(Sexe::Homme, "Zola", "Max", "");
         for (const std::uint16_t n : base.R_TRI.individus.Numeros())
             ordre.emplace_back(n);
     }
@@ -24,11 +24,11 @@ struct Famille : EssaiFamille {
 };
 
 struct ParNaissance : Famille {
-    ParNaissance() : Famille{'1'} {}
+    ParNaissance() : Famille{TypeTri::Naissance} {}
 };
 
 struct ParCreation : Famille {
-    ParCreation() : Famille{'0'} {}
+    ParCreation() : Famille{TypeTri::Creation} {}
 };
 
 }  // namespace

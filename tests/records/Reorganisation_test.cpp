@@ -12,7 +12,7 @@ using namespace dorvane;
 TEST_CASE("Reorganisation: after any day of editing all facts still stand in both places") {
     for (std::uint32_t graine = 1; graine <= 15; ++graine) {
         CAPTURE(graine);
-        records::BureauSoin bureau{graine % 2 == 0 ? '1' : '2'};
+        records::BureauSoin bureau{graine % 2 == 0 ? TypeTri::Naissance : TypeTri::Nom};
         doublures::HistoireEssai histoire{bureau, graine};
         for (int tour = 0; tour < 3; ++tour) {
             for (int i = 0; i < 100; ++i) {

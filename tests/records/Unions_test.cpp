@@ -16,10 +16,10 @@ struct Famille : EssaiFamille {
         return std::to_string(base.R_EPOUX.LireCellule(m).valeur) + ' ' +
                std::to_string(base.R_EPOUSE.LireCellule(m).valeur);
     }
-    NoOrdre paul = Creer('H', "Noir", "Paul", "1820");
-    NoOrdre anne = Creer('F', "Blanc", "Anne", "1825");
-    NoOrdre luc = Creer('H', "Noir", "Luc", "1850");
-    NoOrdre zoe = Creer('F', "Blanc", "Eve", "1852");
+    NoOrdre paul = Creer(Sexe::Homme, "Noir", "Paul", "1820");
+    NoOrdre anne = Creer(Sexe::Femme, "Blanc", "Anne", "1825");
+    NoOrdre luc = Creer(Sexe::Homme, "Noir", "Luc", "1850");
+    NoOrdre zoe = Creer(Sexe::Femme, "Blanc", "Eve", "1852");
 };
 
 }  // namespace
@@ -43,8 +43,8 @@ TEST_CASE_FIXTURE(Famille, "CreerUnion: the man is the husband whoever has the s
 TEST_CASE_FIXTURE(Famille, "CreerUnion: children of both sides are asked for one by one") {
     Parents(luc, paul, {});
     Parents(zoe, {}, anne);
-    const NoOrdre complet = Creer('H', "Noir", "Max", "1853");
-    Parents(complet, paul, Creer('F', "Roux", "Rose", "1830"));
+    const NoOrdre complet = Creer(Sexe::Homme, "Noir", "Max", "1853");
+    Parents(complet, paul, Creer(Sexe::Femme, "Roux", "Rose", "1830"));
     Repondre({Oui, Non});
     CHECK(CreerUnion(session, paul, anne) == NoMariage{1});
     CHECK(Dit() == Dits{"DemanderSiEpouseEstLaMere(Luc Noir, Anne Blanc)",
@@ -66,7 +66,7 @@ TEST_CASE_FIXTURE(Famille,
 }
 
 TEST_CASE_FIXTURE(Famille, "CreerUnion: a partner of no known sex takes the side that is free") {
-    const NoOrdre camille = Creer('I', "Gris", "Camille", "1820");
+    const NoOrdre camille = Creer(Sexe::Indetermine, "Gris", "Camille", "1820");
     CHECK(CreerUnion(session, paul, camille) == NoMariage{1});
     CHECK(CreerUnion(session, anne, camille) == NoMariage{2});
     CHECK(Couple(NoMariage{1}) == "1 5");
@@ -75,7 +75,7 @@ TEST_CASE_FIXTURE(Famille, "CreerUnion: a partner of no known sex takes the side
 
 TEST_CASE_FIXTURE(Famille,
                   "A person of no known sex is given no partner, by search or by creation") {
-    const NoOrdre camille = Creer('I', "Gris", "Camille", "1820");
+    const NoOrdre camille = Creer(Sexe::Indetermine, "Gris", "Camille", "1820");
     CHECK_FALSE(PeutAvoirConjoint(session, camille, Provenance::Cherche));
     CHECK_FALSE(PeutAvoirConjoint(session, camille, Provenance::Cree));
     CHECK(CreerUnion(session, camille, paul) == NoMariage{});

@@ -22,7 +22,7 @@ struct Gazette : doublures::SessionEssai {
             communes.emplace_back();
             communes.back().nom = nom;
         }
-        storage::AvancementMuet muet;
+        storage::ProgressionMuette muet;
         std::string octets;
         REQUIRE(storage::ComposerLgx(communes, muet, octets));
         REQUIRE(EcrireTout(chemin, octets));

@@ -30,7 +30,7 @@ struct Bureau : SessionEssai {
     }
     NoOrdre Creer(const char* nom) {
         const NoOrdre n = session.base->NouvelIndividu();
-        session.base->R_SEXE.EcrireCellule(n, 'H');
+        session.base->R_SEXE.EcrireCellule(n, Sexe::Homme);
         session.base->R_NOM.EcrireNom(n, std::string{nom} + ";Jean;;;");
         session.base->R_TRI.AjouterIndividu(n);
         return n;
@@ -115,13 +115,13 @@ TEST_CASE_FIXTURE(Bureau,
                   "come from the settings") {
     session.parametres.generaux.motCleNom = true;
     Nouveau(famille);
-    CHECK(session.base->entete.TypeTri == '1');
+    CHECK(session.base->entete.TypeTri == TypeTri::Naissance);
     CHECK(session.base->entete.OptParticules);
     CHECK_FALSE(session.base->entete.OptPrenomUnique);
     CHECK(session.Regles().deplacer);
-    session.base->entete.TypeTri = '2';
+    session.base->entete.TypeTri = TypeTri::Nom;
     Nouveau(dossier / "Autre.LGD");
-    CHECK(session.base->entete.TypeTri == '2');
+    CHECK(session.base->entete.TypeTri == TypeTri::Nom);
 }
 
 TEST_CASE_FIXTURE(Bureau,

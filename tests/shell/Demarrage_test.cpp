@@ -37,7 +37,7 @@ TEST_CASE_FIXTURE(SessionEssai, "Demarrage: settings, catalogue, working folder 
     CHECK(session.Ordre() == OrdreDate::JourMoisAnnee);
     CHECK(session.Mots().mois[7].mot == "août"_1252);
     CHECK(session.Modele() == ModeleNom{"FNAM", "BIRN"});
-    CHECK(session.TypeTri == '1');
+    CHECK(session.TypeTri == TypeTri::Naissance);
     CHECK(session.Regles().particules.size() == 41);
     CHECK(dialogue.entendu.empty());
     CHECK_FALSE(session.BaseOuverte());

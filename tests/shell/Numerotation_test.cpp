@@ -28,7 +28,7 @@ struct Famille : doublures::SessionEssai {
 
     storage::Base& B() { return *session.base; }
 
-    NoOrdre Creer(char sexe, const char* nom = "Martin", const char* prenom = "Jean") {
+    NoOrdre Creer(Sexe sexe, const char* nom = "Martin", const char* prenom = "Jean") {
         const NoOrdre n = B().NouvelIndividu();
         B().R_SEXE.EcrireCellule(n, sexe);
         B().R_NOM.EcrireNom(n, std::string{nom} + ';' + prenom + ";;;");
@@ -39,15 +39,15 @@ struct Famille : doublures::SessionEssai {
     void Parents(NoOrdre enfant, NoOrdre pere, NoOrdre mere) {
         B().R_PERE.EcrireCellule(enfant, pere);
         B().R_MERE.EcrireCellule(enfant, mere);
-        if (pere) B().R_ENFANT.ModifierListe(pere, enfant, 'A');
-        if (mere) B().R_ENFANT.ModifierListe(mere, enfant, 'A');
+        if (pere) B().R_ENFANT.ModifierListe(pere, enfant, storage::ActionListe::Ajouter);
+        if (mere) B().R_ENFANT.ModifierListe(mere, enfant, storage::ActionListe::Ajouter);
     }
     void Marier(NoOrdre mari, NoOrdre femme) {
         const NoMariage m = B().NouveauMariage();
         B().R_EPOUX.EcrireCellule(m, mari);
         B().R_EPOUSE.EcrireCellule(m, femme);
-        if (mari) B().R_MARIAG.ModifierListe(mari, m, 'A');
-        if (femme) B().R_MARIAG.ModifierListe(femme, m, 'A');
+        if (mari) B().R_MARIAG.ModifierListe(mari, m, storage::ActionListe::Ajouter);
+        if (femme) B().R_MARIAG.ModifierListe(femme, m, storage::ActionListe::Ajouter);
     }
     void Choisir(NoOrdre n, int k = 1) {
         session.deCujus[static_cast<std::size_t>(k - 1)].individu = n;
@@ -75,7 +75,7 @@ struct Reference {
 
     void Descendre(NoOrdre p, const std::string& prefixe, int d) {
         if (d > 9) return;
-        const bool homme = base.R_SEXE.LireCellule(p) == 'H';
+        const bool homme = base.R_SEXE.LireCellule(p) == Sexe::Homme;
         std::vector<NoOrdre> conjoints;
         for (const NoMariage m : base.R_MARIAG.Elements(p))
             if (conjoints.size() < 26)
@@ -107,10 +107,10 @@ struct Reference {
 TEST_CASE_FIXTURE(Famille,
                   "NumeroterDeCujus: a person without parents has one ascendant entry, and "
                   "only descendants get strings") {
-    const NoOrdre jean = Creer('H');
-    const NoOrdre anne = Creer('F');
-    const NoOrdre paul = Creer('H');
-    const NoOrdre seul = Creer('H');
+    const NoOrdre jean = Creer(Sexe::Homme);
+    const NoOrdre anne = Creer(Sexe::Femme);
+    const NoOrdre paul = Creer(Sexe::Homme);
+    const NoOrdre seul = Creer(Sexe::Homme);
     Marier(jean, anne);
     Parents(paul, jean, anne);
     Choisir(jean);
@@ -125,11 +125,11 @@ TEST_CASE_FIXTURE(Famille,
 }
 
 TEST_CASE_FIXTURE(Famille, "NumeroterDeCujus: father and mother of s have 2s and 2s+1") {
-    const NoOrdre moi = Creer('H');
-    const NoOrdre pere = Creer('H');
-    const NoOrdre mere = Creer('F');
-    const NoOrdre aieul = Creer('H');
-    const NoOrdre aieule = Creer('F');
+    const NoOrdre moi = Creer(Sexe::Homme);
+    const NoOrdre pere = Creer(Sexe::Homme);
+    const NoOrdre mere = Creer(Sexe::Femme);
+    const NoOrdre aieul = Creer(Sexe::Homme);
+    const NoOrdre aieule = Creer(Sexe::Femme);
     Parents(moi, pere, mere);
     Parents(mere, aieul, aieule);
     Choisir(moi);
@@ -141,11 +141,11 @@ TEST_CASE_FIXTURE(Famille, "NumeroterDeCujus: father and mother of s have 2s and
 
 TEST_CASE_FIXTURE(Famille,
                   "NumeroterDeCujus: a person reached by two paths keeps the smaller number") {
-    const NoOrdre moi = Creer('H');
-    const NoOrdre pere = Creer('H');
-    const NoOrdre mere = Creer('F');
-    const NoOrdre commun = Creer('H');
-    const NoOrdre grandPere = Creer('H');
+    const NoOrdre moi = Creer(Sexe::Homme);
+    const NoOrdre pere = Creer(Sexe::Homme);
+    const NoOrdre mere = Creer(Sexe::Femme);
+    const NoOrdre commun = Creer(Sexe::Homme);
+    const NoOrdre grandPere = Creer(Sexe::Homme);
     Parents(moi, pere, mere);
     Parents(mere, commun, {});
     Parents(pere, grandPere, {});
@@ -158,9 +158,9 @@ TEST_CASE_FIXTURE(Famille,
 }
 
 TEST_CASE_FIXTURE(Famille, "NumeroterDeCujus: generation 13 gets numbers, generation 14 none") {
-    std::vector<NoOrdre> lignee{Creer('H')};
+    std::vector<NoOrdre> lignee{Creer(Sexe::Homme)};
     for (int g = 1; g <= 14; ++g) {
-        lignee.push_back(Creer('F'));
+        lignee.push_back(Creer(Sexe::Femme));
         Parents(lignee[lignee.size() - 2], {}, lignee.back());
     }
     Choisir(lignee[0]);
@@ -170,8 +170,8 @@ TEST_CASE_FIXTURE(Famille, "NumeroterDeCujus: generation 13 gets numbers, genera
 
 TEST_CASE_FIXTURE(Famille,
                   "NumeroterDeCujus: someone who is an ancestor of himself ends the walk") {
-    const NoOrdre a = Creer('H');
-    const NoOrdre b = Creer('H');
+    const NoOrdre a = Creer(Sexe::Homme);
+    const NoOrdre b = Creer(Sexe::Homme);
     Parents(a, b, {});
     Parents(b, a, {});
     Choisir(a);
@@ -182,14 +182,14 @@ TEST_CASE_FIXTURE(Famille,
 TEST_CASE_FIXTURE(Famille,
                   "NumeroterDeCujus: one union gives a point, several give letters, and a "
                   "child of none a star") {
-    const NoOrdre jean = Creer('H');
-    const NoOrdre anne = Creer('F');
-    const NoOrdre zoe = Creer('F');
-    const NoOrdre inconnue = Creer('F');
+    const NoOrdre jean = Creer(Sexe::Homme);
+    const NoOrdre anne = Creer(Sexe::Femme);
+    const NoOrdre zoe = Creer(Sexe::Femme);
+    const NoOrdre inconnue = Creer(Sexe::Femme);
     Marier(jean, anne);
     std::vector<NoOrdre> enfants;
     for (const NoOrdre mere : {anne, anne, inconnue, zoe, NoOrdre{}}) {
-        enfants.push_back(Creer('F'));
+        enfants.push_back(Creer(Sexe::Femme));
         Parents(enfants.back(), jean, mere);
     }
     Choisir(jean);
@@ -210,8 +210,8 @@ TEST_CASE_FIXTURE(Famille,
 TEST_CASE_FIXTURE(Famille,
                   "NumeroterDeCujus: the child of a single mother is *1, and of a union "
                   "without partner .1") {
-    const NoOrdre mere = Creer('F');
-    const NoOrdre enfant = Creer('H');
+    const NoOrdre mere = Creer(Sexe::Femme);
+    const NoOrdre enfant = Creer(Sexe::Homme);
     Parents(enfant, {}, mere);
     Choisir(mere);
     CHECK(Numero(enfant) == "*1");
@@ -222,12 +222,12 @@ TEST_CASE_FIXTURE(Famille,
 
 TEST_CASE_FIXTURE(Famille,
                   "NumeroterDeCujus: of more than 26 unions only the first 26 give letters") {
-    const NoOrdre jean = Creer('H');
+    const NoOrdre jean = Creer(Sexe::Homme);
     std::vector<NoOrdre> enfants;
     for (int i = 0; i < 28; ++i) {
-        const NoOrdre femme = Creer('F');
+        const NoOrdre femme = Creer(Sexe::Femme);
         Marier(jean, femme);
-        enfants.push_back(Creer('H'));
+        enfants.push_back(Creer(Sexe::Homme));
         Parents(enfants.back(), jean, femme);
     }
     Choisir(jean);
@@ -238,10 +238,10 @@ TEST_CASE_FIXTURE(Famille,
 }
 
 TEST_CASE_FIXTURE(Famille, "NumeroterDeCujus: of more than 50 children the first 50 get strings") {
-    const NoOrdre jean = Creer('H');
+    const NoOrdre jean = Creer(Sexe::Homme);
     std::vector<NoOrdre> enfants;
     for (int i = 0; i < 52; ++i) {
-        enfants.push_back(Creer('H'));
+        enfants.push_back(Creer(Sexe::Homme));
         Parents(enfants.back(), jean, {});
     }
     Choisir(jean);
@@ -250,10 +250,10 @@ TEST_CASE_FIXTURE(Famille, "NumeroterDeCujus: of more than 50 children the first
 }
 
 TEST_CASE_FIXTURE(Famille, "NumeroterDeCujus: the line of descendants ends below depth 9") {
-    std::vector<NoOrdre> lignee{Creer('H')};
+    std::vector<NoOrdre> lignee{Creer(Sexe::Homme)};
     std::string attendu;
     for (int d = 1; d <= 12; ++d) {
-        lignee.push_back(Creer('H'));
+        lignee.push_back(Creer(Sexe::Homme));
         Parents(lignee.back(), lignee[lignee.size() - 2], {});
     }
     Choisir(lignee[0]);
@@ -269,11 +269,11 @@ TEST_CASE_FIXTURE(Famille,
                   "whatever comes first") {
     for (const bool fillePremiere : {true, false}) {
         CAPTURE(fillePremiere);
-        const NoOrdre ancetre = Creer('H');
-        const NoOrdre fils = Creer('H');
-        const NoOrdre fille = Creer('F');
-        const NoOrdre enfant = Creer('H');
-        const NoOrdre petit = Creer('H');
+        const NoOrdre ancetre = Creer(Sexe::Homme);
+        const NoOrdre fils = Creer(Sexe::Homme);
+        const NoOrdre fille = Creer(Sexe::Femme);
+        const NoOrdre enfant = Creer(Sexe::Homme);
+        const NoOrdre petit = Creer(Sexe::Homme);
         Parents(fillePremiere ? fille : fils, ancetre, {});
         Parents(fillePremiere ? fils : fille, ancetre, {});
         Parents(enfant, fils, fille);
@@ -297,7 +297,7 @@ TEST_CASE_FIXTURE(Famille,
         const std::uint32_t taille = 6 + tirer(25);
         std::vector<NoOrdre> gens;
         for (std::uint32_t i = 0; i < taille; ++i)
-            gens.push_back(Creer("HFI"[tirer(3)]));
+            gens.push_back(Creer(static_cast<Sexe>("HFI"[tirer(3)])));
         for (std::uint32_t i = 0; i < taille; ++i) {
             const auto parent = [&] {
                 return tirer(4) == 0 ? NoOrdre{} : gens[tirer(tour % 3 == 0 ? taille : i + 1)];
@@ -329,7 +329,7 @@ TEST_CASE_FIXTURE(Famille,
                   "NumeroterDeCujus: the captions tell who is chosen, in the brackets of each") {
     CHECK(session.deCujus[0].libelle == "[...]");
     CHECK(session.deCujus[1].libelle == "{...}");
-    const NoOrdre jean = Creer('H', "Dupont", "Jean Marie");
+    const NoOrdre jean = Creer(Sexe::Homme, "Dupont", "Jean Marie");
     Choisir(jean, 1);
     Choisir(jean, 2);
     CHECK(session.deCujus[0].libelle == "[Dupont Jean Marie]");
@@ -342,8 +342,8 @@ TEST_CASE_FIXTURE(Famille,
 TEST_CASE_FIXTURE(Famille,
                   "MnuDeCujus: the chooser starts on the present one, else on the current "
                   "person") {
-    const NoOrdre jean = Creer('H');
-    const NoOrdre anne = Creer('F');
+    const NoOrdre jean = Creer(Sexe::Homme);
+    const NoOrdre anne = Creer(Sexe::Femme);
     session.PersonneEnCours = jean;
     CHECK_FALSE(MnuDeCujus(session, 1));
     CHECK(dialogue.demandesPersonne.back().depart == jean);
@@ -364,10 +364,10 @@ TEST_CASE_FIXTURE(Famille,
 TEST_CASE_FIXTURE(Famille,
                   "Session: a parent link of a numbered person makes the numbering stale, "
                   "and the timer mends it") {
-    const NoOrdre moi = Creer('H');
-    const NoOrdre pere = Creer('H');
-    const NoOrdre autre = Creer('H');
-    const NoOrdre sien = Creer('H');
+    const NoOrdre moi = Creer(Sexe::Homme);
+    const NoOrdre pere = Creer(Sexe::Homme);
+    const NoOrdre autre = Creer(Sexe::Homme);
+    const NoOrdre sien = Creer(Sexe::Homme);
     Choisir(moi);
     Parents(sien, autre, {});
     CHECK_FALSE(session.deCujus[0].perime);
@@ -381,9 +381,9 @@ TEST_CASE_FIXTURE(Famille,
 }
 
 TEST_CASE_FIXTURE(Famille, "Session: the tables follow a new person and keep their contents") {
-    const NoOrdre moi = Creer('H');
+    const NoOrdre moi = Creer(Sexe::Homme);
     Choisir(moi);
-    const NoOrdre nouveau = Creer('H');
+    const NoOrdre nouveau = Creer(Sexe::Homme);
     AgrandirNumerotations(session);
     CHECK(session.deCujus[0].sosa.size() == 3);
     CHECK(Numero(moi) == "1");
@@ -401,7 +401,7 @@ TEST_CASE_FIXTURE(Famille,
     for (std::uint32_t n = 1; n <= Taille; ++n) {
         const NoOrdre p = B().NouvelIndividu();
         REQUIRE(p.valeur == n);
-        B().R_SEXE.EcrireCellule(p, n % 2 == 0 ? 'F' : 'H');
+        B().R_SEXE.EcrireCellule(p, n % 2 == 0 ? Sexe::Femme : Sexe::Homme);
     }
     for (std::uint32_t n = 1; 3 * n + 1 <= Taille; ++n) {
         std::string enfants;
@@ -429,7 +429,7 @@ TEST_CASE_FIXTURE(Famille,
                   "soon") {
     std::string tous;
     for (std::uint32_t n = 1; n <= 50; ++n) {
-        Creer('H');
+        Creer(Sexe::Homme);
         tous += '\0';
         tous += static_cast<char>(n);
     }

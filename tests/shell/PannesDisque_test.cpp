@@ -27,7 +27,7 @@ namespace fs = std::filesystem;
 
 NoOrdre Creer(storage::Base& base, const std::string& nom) {
     const NoOrdre n = base.NouvelIndividu();
-    base.R_SEXE.EcrireCellule(n, 'H');
+    base.R_SEXE.EcrireCellule(n, Sexe::Homme);
     base.R_NOM.EcrireNom(n, nom + ";Jean;;;");
     base.R_TRI.AjouterIndividu(n);
     return n;
@@ -59,7 +59,7 @@ struct Fragile {
     /// are; "" when it is no base.
     [[nodiscard]] std::string Relire(const fs::path& base) const {
         const auto apres = disque.Survivre();
-        storage::AvancementMuet muet;
+        storage::ProgressionMuette muet;
         const storage::ResultatOuverture resultat = storage::OuvrirBase(*apres, base, muet);
         if (!resultat.base) return {};
         return resultat.base->R_NOM.NomDe(NoOrdre{1}) + ' ' +

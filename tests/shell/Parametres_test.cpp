@@ -111,12 +111,13 @@ TEST_CASE_FIXTURE(Foyer, "Parametres: a first run fills the word lists") {
     CHECK(parametres.Mots("Rubrique EVEN").size() == 29);
     CHECK(parametres.ListeEvenements().size() == 26);
     CHECK(parametres.ListeEvenements().front() == "BIRT");
-    CHECK(parametres.RolesEvenement("BIRT") == std::vector<RoleEvenement>{{true, ' ', "CHIL"},
-                                                                          {false, 'H', "FATH"},
-                                                                          {false, 'F', "MOTH"},
-                                                                          {false, ' ', "WITN"}});
+    CHECK(parametres.RolesEvenement("BIRT") ==
+          std::vector<RoleEvenement>{{true, Sexe::Vide, "CHIL"},
+                                     {false, Sexe::Homme, "FATH"},
+                                     {false, Sexe::Femme, "MOTH"},
+                                     {false, Sexe::Vide, "WITN"}});
     CHECK(parametres.RolesEvenement("MARR") ==
-          std::vector<RoleEvenement>{{true, 'H', "HUSB"}, {true, 'F', "WIFE"}});
+          std::vector<RoleEvenement>{{true, Sexe::Homme, "HUSB"}, {true, Sexe::Femme, "WIFE"}});
     CHECK(parametres.RolesEvenement("BURI") == parametres.RolesEvenement("DEAT"));
     CHECK(parametres.RolesEvenement("inconnu").empty());
 }
@@ -318,21 +319,20 @@ TEST_CASE_FIXTURE(Foyer,
 }
 
 TEST_CASE_FIXTURE(Foyer,
-                  "LireIni: the first line that starts like the key counts, up to the next "
+                  "LireIniTexte: the first line that starts like the key counts, up to the next "
                   "section") {
-    EcrireFichier(dossier / "a.ini",
-                  "cle=avant\n[Un]\n autre=x\nDe Cujus 2=deux\nDe Cujus=un\nvide=\nsans egal\n"
-                  "egal=a=b\n[Deux]\ncle=dans deux\nCl\xE9=accent\n");
-    CHECK(LireIni(dossier / "a.ini", "Un", "De Cujus") == "deux");
-    CHECK(LireIni(dossier / "a.ini", "Un", "De Cujus 2") == "deux");
-    CHECK(LireIni(dossier / "a.ini", "Un", "cle").empty());
-    CHECK(LireIni(dossier / "a.ini", "Deux", "cle") == "dans deux");
-    CHECK(LireIni(dossier / "a.ini", "Deux", "Clé") == "accent");
-    CHECK(LireIni(dossier / "a.ini", "Un", "egal") == "a=b");
-    CHECK(LireIni(dossier / "a.ini", "Un", "vide").empty());
-    CHECK(LireIni(dossier / "a.ini", "Un", "sans").empty());
-    CHECK(LireIni(dossier / "a.ini", "Trois", "cle").empty());
-    CHECK(LireIni(dossier / "absent.ini", "Un", "cle").empty());
+    const std::string_view texte =
+        "cle=avant\n[Un]\n autre=x\nDe Cujus 2=deux\nDe Cujus=un\nvide=\nsans egal\n"
+        "egal=a=b\n[Deux]\ncle=dans deux\nCl\xE9=accent\n";
+    CHECK(LireIniTexte(texte, "Un", "De Cujus") == "deux");
+    CHECK(LireIniTexte(texte, "Un", "De Cujus 2") == "deux");
+    CHECK(LireIniTexte(texte, "Un", "cle") == std::nullopt);
+    CHECK(LireIniTexte(texte, "Deux", "cle") == "dans deux");
+    CHECK(LireIniTexte(texte, "Deux", "Clé") == "accent");
+    CHECK(LireIniTexte(texte, "Un", "egal") == "a=b");
+    CHECK(LireIniTexte(texte, "Un", "vide") == "");
+    CHECK(LireIniTexte(texte, "Un", "sans") == std::nullopt);
+    CHECK(LireIniTexte(texte, "Trois", "cle") == std::nullopt);
 }
 
 TEST_CASE_FIXTURE(Foyer, "Parametres: a help file of the old format takes the new extension") {

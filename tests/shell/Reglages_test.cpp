@@ -24,9 +24,9 @@ struct Bureau : doublures::SessionEssai {
         MnuNouveau(session);
         REQUIRE(session.BaseOuverte());
         doublures::FamilleEssai famille{*session.base};
-        famille.Creer('H', "Martin", "Jean", "1820");
-        famille.Creer('F', "Abel", "Rose", "1830");
-        famille.Creer('H', "de Bon", "Luc", "1810");
+        famille.Creer(Sexe::Homme, "Martin", "Jean", "1820");
+        famille.Creer(Sexe::Femme, "Abel", "Rose", "1830");
+        famille.Creer(Sexe::Homme, "de Bon", "Luc", "1810");
         dialogue.entendu.clear();
     }
     [[nodiscard]] std::string Ordre() const {
@@ -46,11 +46,11 @@ TEST_CASE_FIXTURE(Bureau, "ChangerTri: asks, sorts and keeps the order for the n
     Ouvrir();
     REQUIRE(Ordre() == "312");
     dialogue.reponses = {Reponse::Oui, Reponse::Oui};
-    CHECK(ChangerTri(session, '2'));
+    CHECK(ChangerTri(session, TypeTri::Nom));
     CHECK(Ordre() == "231");
-    CHECK(session.base->entete.TypeTri == '2');
-    CHECK(session.TypeTri == '2');
-    CHECK(ChangerTri(session, '0'));
+    CHECK(session.base->entete.TypeTri == TypeTri::Nom);
+    CHECK(session.TypeTri == TypeTri::Nom);
+    CHECK(ChangerTri(session, TypeTri::Creation));
     CHECK(Ordre() == "123");
     REQUIRE(dialogue.entendu.size() == 2);
     CHECK(dialogue.entendu[0] ==
@@ -69,9 +69,9 @@ TEST_CASE_FIXTURE(Bureau, "ChangerTri: a no, or a sort given up, leaves the orde
         dialogue.reponses = {Reponse::Oui};
         progression.annulerAu = progression.pas + 1;
     }
-    CHECK_FALSE(ChangerTri(session, '2'));
+    CHECK_FALSE(ChangerTri(session, TypeTri::Nom));
     CHECK(Ordre() == "312");
-    CHECK(session.base->entete.TypeTri == '1');
+    CHECK(session.base->entete.TypeTri == TypeTri::Naissance);
 }
 
 TEST_CASE_FIXTURE(Bureau,
@@ -86,7 +86,7 @@ TEST_CASE_FIXTURE(Bureau,
 TEST_CASE_FIXTURE(Bureau, "ValiderReglages: particles that move sort the persons again") {
     Ouvrir();
     dialogue.reponses = {Reponse::Oui};
-    REQUIRE(ChangerTri(session, '2'));
+    REQUIRE(ChangerTri(session, TypeTri::Nom));
     REQUIRE(Ordre() == "231");
     Reglages r = LireReglages(session);
     r.deplacerParticules = true;
@@ -163,7 +163,8 @@ TEST_CASE_FIXTURE(Bureau, "ValiderReglages: kinds of events come, go and change 
     Reglages r = LireReglages(session);
     const std::size_t nombre = r.evenements.size();
     REQUIRE(nombre > 5);
-    r.evenements.push_back({"Tirage au sort", {{true, 'H', "MAIN"}, {false, ' ', "WITN"}}});
+    r.evenements.push_back(
+        {"Tirage au sort", {{true, Sexe::Homme, "MAIN"}, {false, Sexe::Vide, "WITN"}}});
     std::erase_if(r.evenements, [](const TypeEvenement& e) { return e.type == "BLES"; });
     r.evenements[0].roles.pop_back();
     const std::vector<TypeEvenement> voulus = r.evenements;

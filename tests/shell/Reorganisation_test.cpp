@@ -155,7 +155,7 @@ TEST_CASE("Reorganisation: unions that are left out are told with their number")
     essai.dialogue.fichiers.emplace_back(essai.dossier / "Famille.LGD");
     MnuNouveau(essai.session);
     doublures::FamilleEssai famille{*essai.session.base};
-    famille.Marier({}, famille.Creer('F', "MARTIN", "Anne"));
+    famille.Marier({}, famille.Creer(Sexe::Femme, "MARTIN", "Anne"));
     essai.dialogue.entendu.clear();
     REQUIRE(ReorganiserBase(essai.session, false).cause == Cause::Fait);
     CHECK(essai.dialogue.entendu == std::vector{Msg(message::UnionsSansEpouxAbandonnees, "1")});
@@ -229,8 +229,8 @@ TEST_CASE_FIXTURE(Bureau,
                   "Reorganisation: an old base becomes neutral, dates, labels, slots and index") {
     storage::Base& b = *session.base;
     doublures::FamilleEssai famille{b};
-    const NoOrdre jean = famille.Creer('H', "DURAND", "Jean", "1820", "1890");
-    const NoOrdre anne = famille.Creer('F', "MARTIN", "Anne", "1825");
+    const NoOrdre jean = famille.Creer(Sexe::Homme, "DURAND", "Jean", "1820", "1890");
+    const NoOrdre anne = famille.Creer(Sexe::Femme, "MARTIN", "Anne", "1825");
     const NoMariage m = famille.Marier(jean, anne, "1845");
     b.R_NOM.EcrireNom(jean, "DURAND;Jean;;vers;12 mars");
     const std::string metier = session.Message(MessageDeTag("OCCU"));
@@ -350,7 +350,7 @@ struct Poste {
 constexpr const char* Chemin = "/bases/famille.LGD";
 
 std::string ContenuSur(storage::DisqueMemoire& disque) {
-    storage::AvancementMuet muet;
+    storage::ProgressionMuette muet;
     const storage::ResultatOuverture resultat = storage::OuvrirBase(disque, Chemin, muet);
     if (!resultat.base) return "illisible " + std::to_string(static_cast<int>(resultat.etat));
     return storage::ContenuBase{*resultat.base}.Texte();

@@ -26,7 +26,7 @@ TEST_CASE_FIXTURE(
     const NoEvenement e = base->NouvelEvenement();
     base->R_EVT.EcrireEvt(e, {.cleDate = -5});
     base->R_TRI.AjouterEvt(e);
-    base->R_LSTEVT.ModifierListe(NoOrdre{1}, e, 'A', "CHIL");
+    base->R_LSTEVT.ModifierListe(NoOrdre{1}, e, storage::ActionListe::Ajouter, "CHIL");
     REQUIRE(base->Enregistrer());
     const LecteurLgd lgd = Lire();
     CHECK(lgd.Num4(50) == 3089);
@@ -123,7 +123,7 @@ void SalirTout(Base& b, std::uint32_t n) {
     b.R_NAISS.EcrireCellule(NoOrdre{n}, "1830");
     b.R_PERE.EcrireCellule(NoOrdre{n}, NoOrdre{n});
     b.R_MERE.EcrireCellule(NoOrdre{n}, NoOrdre{n});
-    b.R_SEXE.EcrireCellule(NoOrdre{n}, 'H');
+    b.R_SEXE.EcrireCellule(NoOrdre{n}, Sexe::Homme);
 }
 
 }  // namespace

@@ -53,13 +53,13 @@ TEST_CASE_FIXTURE(Essai, "Enregistrer: without a change nothing is written") {
 
 TEST_CASE_FIXTURE(Essai, "Enregistrer: a changed field of the header survives") {
     REQUIRE(base->Enregistrer());
-    base->entete.TypeTri = '2';
+    base->entete.TypeTri = TypeTri::Nom;
     base->entete.OptParticules = true;
     base->entete.DocBase = NoDocument{3};
     base->entete.SlotsIndividu[3] = {'%', '1'};
     base->marques.ModifBase = true;
     Rouvrir();
-    CHECK(base->entete.TypeTri == '2');
+    CHECK(base->entete.TypeTri == TypeTri::Nom);
     CHECK(base->entete.OptParticules);
     CHECK(base->entete.DocBase == NoDocument{3});
     CHECK(base->entete.SlotsIndividu[3] == Slot{'%', '1'});

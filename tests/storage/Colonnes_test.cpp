@@ -8,7 +8,7 @@ using namespace dorvane::storage;
 TEST_CASE_FIXTURE(Essai, "Column: an empty block reads 0 in R_PERE and an empty text in R_NAISS") {
     CHECK(base->R_PERE.LireCellule(NoOrdre{7}) == NoOrdre{});
     CHECK(base->R_NAISS.LireCellule(NoOrdre{7}).empty());
-    CHECK(base->R_SEXE.LireCellule(NoOrdre{7}) == ' ');
+    CHECK(base->R_SEXE.LireCellule(NoOrdre{7}) == Sexe::Vide);
     CHECK(base->R_TEXTE.LireCellule(NoOrdre{7}) == Position{});
 }
 
@@ -26,7 +26,7 @@ TEST_CASE_FIXTURE(Essai, "Column: years are padded on the left and cut to four c
 TEST_CASE_FIXTURE(Essai, "Column: the cells stand in the file as the format tells") {
     base->R_NAISS.EcrireCellule(NoOrdre{2}, "85");
     base->R_PERE.EcrireCellule(NoOrdre{1000}, NoOrdre{0x1234});
-    base->R_SEXE.EcrireCellule(NoOrdre{5}, 'F');
+    base->R_SEXE.EcrireCellule(NoOrdre{5}, Sexe::Femme);
     base->R_DEBMAR.EcrireCellule(NoMariage{1}, "1902");
     REQUIRE(base->Enregistrer());
     const LecteurLgd lgd = Lire();
@@ -59,7 +59,7 @@ TEST_CASE_FIXTURE(Essai,
     ObservateurEssai observateur;
     base->marques.observateur = &observateur;
     base->marques.ModifBase = false;
-    base->R_SEXE.EcrireCellule(NoOrdre{1}, 'H');
+    base->R_SEXE.EcrireCellule(NoOrdre{1}, Sexe::Homme);
     CHECK(base->marques.ModifBase);
     CHECK_FALSE(base->marques.AffichagePerime);
     base->R_EPOUX.EcrireCellule(NoMariage{1}, NoOrdre{1});

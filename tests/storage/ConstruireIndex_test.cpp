@@ -1,6 +1,6 @@
 #include "storage/ConstruireIndex.h"
 
-#include "messages/Noms.h"
+#include "doublures/ProgressionScript.h"
 #include "storage/BureauIndex.h"
 
 #include <algorithm>
@@ -20,7 +20,7 @@ TEST_CASE_FIXTURE(Bureau, "ConstruireIndex: building anew gives the lists of the
     const NoMariage m = base->NouveauMariage();
     base->R_TXTMAR.EcrireTexte(m, "1/1@Lyon");
     for (const std::uint32_t n : {1U, 2U}) {
-        base->R_MARIAG.ModifierListe(NoOrdre{n}, m, 'A');
+        base->R_MARIAG.ModifierListe(NoOrdre{n}, m, storage::ActionListe::Ajouter);
         base->R_INDEX.MajIndex(NoOrdre{n}, "", "1/1@Lyon");
     }
     std::vector<Index> avant;
@@ -55,24 +55,14 @@ TEST_CASE_FIXTURE(Bureau,
 }
 
 TEST_CASE_FIXTURE(Bureau, "ConstruireIndex: given up by the user it changes nothing") {
-    class Stop final : public Avancement {
-    public:
-        void Commencer(const TexteAvancement& titre, const TexteAvancement& texte) override {
-            vu = std::string{titre.litteral} + " " + std::string{message::Nom(texte.message)};
-        }
-        void Phase(const TexteAvancement& /*texte*/) override {}
-        [[nodiscard]] bool Avancer(std::uint32_t /*fait*/, std::uint32_t /*total*/) override {
-            return false;
-        }
-        void Terminer() override {}
-        std::string vu;
-    } stop;
+    doublures::ProgressionScript stop;
+    stop.annulerAu = 1;
     Creer("X;Y", "1850");
     base->R_TEXTE.EcrireTexte(NoOrdre{1}, "|B");
     const std::uint32_t fin = base->volume.FinFichier();
     CHECK_FALSE(ConstruireIndex(*base, '|', stop));
     CHECK(base->volume.FinFichier() == fin);
-    CHECK(stop.vu == "BIRN EtatIndexation");
+    CHECK(stop.pas == 1);
     CHECK(De(1).empty());
 }
 
@@ -164,7 +154,7 @@ TEST_CASE_FIXTURE(Atelier,
         VerifierOrdre(types[i].valeur);
         CHECK(SansOrdre(De(types[i].valeur)) == SansOrdre(Attendu(symboles[i])));
     }
-    for (const char tri : {'0', '1', '2'}) {
+    for (const TypeTri tri : {TypeTri::Creation, TypeTri::Naissance, TypeTri::Nom}) {
         base->entete.TypeTri = tri;
         REQUIRE(base->R_TRI.TrierIndividus(muet));
         REQUIRE(ConstruireIndex(*base, types, muet));

@@ -22,7 +22,7 @@ struct Scene {
     }
     doublures::DossierTemporaire dossier;
     DisqueReel disque;
-    AvancementMuet muet;
+    ProgressionMuette muet;
 };
 
 }  // namespace
@@ -36,8 +36,6 @@ TEST_CASE_FIXTURE(Scene, "DisqueReel: what is written is read, past the end are 
     CHECK(fichier->Lire(Position{2}, lu) == 4);
     CHECK(lu == std::string("\0abc\0\0", 6));
     CHECK(fichier->Taille() == 5);
-    fichier->Tronquer(3);
-    CHECK(fichier->Taille() == 3);
     CHECK_FALSE(fichier->EnDefaut());
 }
 

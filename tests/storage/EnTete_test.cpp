@@ -44,7 +44,7 @@ struct Ancien {
         CHECK(base->R_NOM.NomDe(NoOrdre{1}) == "ABEL");
         CHECK(base->R_NAISS.LireCellule(NoOrdre{1}) == "1801");
     }
-    AvancementMuet muet;
+    ProgressionMuette muet;
     std::string avant;
     DisqueMemoire disque;
     std::unique_ptr<Base> base;
@@ -206,7 +206,7 @@ TEST_CASE("ComposerEnTete: every field stands at its position") {
     entete.DernierEvenement = 0x1516;
     entete.NbTriEvenements = 0x1718;
     entete.DernierMariage = 0x191A;
-    entete.TypeTri = '2';
+    entete.TypeTri = TypeTri::Nom;
     entete.NbMotsCles = 12;
     entete.TypePresentation = 0x1B1C;
     entete.PosRepEvt = Position{0x21222324};

@@ -52,12 +52,12 @@ struct Essai {
         const NoOrdre n = base->NouvelIndividu();
         base->R_NOM.EcrireNom(n, ligne);
         base->R_NAISS.EcrireCellule(n, annee);
-        base->R_SEXE.EcrireCellule(n, 'H');
+        base->R_SEXE.EcrireCellule(n, Sexe::Homme);
         base->R_TRI.AjouterIndividu(n);
         return n;
     }
 
-    AvancementMuet muet;
+    ProgressionMuette muet;
     std::unique_ptr<DisqueMemoire> disque = std::make_unique<DisqueMemoire>();
     std::unique_ptr<Base> base;
 };

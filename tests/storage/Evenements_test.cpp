@@ -17,14 +17,9 @@ TEST_CASE_FIXTURE(Essai, "EcrireEvt: a whole event reads back, from the base and
     CHECK(base->R_EVT.CleDateEvt(e) == -12345);
     CHECK(base->R_EVT.NoteEvt(e) == "une note");
     CHECK(base->R_EVT.Description(e) == DescriptionEvt{"Paris", "libelle", "BAPM"});
-    CHECK(base->R_EVT.LienEvt(e, 1) == NoOrdre{1});
-    CHECK(base->R_EVT.LienEvt(e, 2) == NoOrdre{2});
-    CHECK(base->R_EVT.LienEvt(e, 3) == NoOrdre{});
-    CHECK(base->R_EVT.LienEvt(e, 0) == NoOrdre{});
-    CHECK(base->R_EVT.RoleEvt(e, 1) == "CHIL");
-    CHECK(base->R_EVT.RoleEvt(e, 2).empty());
-    CHECK(base->R_EVT.DocumentEvt(e, 2) == NoDocument{3});
-    CHECK(base->R_EVT.DocumentEvt(e, 3) == NoDocument{});
+    CHECK(base->R_EVT.Liens(e) ==
+          std::vector<LienEvenement>{{NoOrdre{1}, "CHIL"}, {NoOrdre{2}, ""}});
+    CHECK(base->R_EVT.Documents(e) == std::vector{NoDocument{5}, NoDocument{3}});
     const LecteurLgd lgd = Lire();
     const unsigned tete = lgd.Num4De("EVT", 1);
     CHECK(lgd.Num4(tete) == 1000000 - 12345);

@@ -59,7 +59,7 @@ TEST_CASE_FIXTURE(Essai, "OuvrirBase: a base that is open already is refused") {
 
 TEST_CASE("OuvrirBase: a file without a version mark is refused and not touched") {
     DisqueMemoire disque;
-    AvancementMuet muet;
+    ProgressionMuette muet;
     for (const std::string& octets :
          {std::string{}, std::string(5000, 'x'), std::string("[Dorvane Version]"),
           std::string("[Dorvane Vers")}) {

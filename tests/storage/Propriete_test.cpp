@@ -59,7 +59,8 @@ struct Jeu : Essai {
                 const std::uint32_t m = 1 + Tirer(60000);
                 auto& liste = modele.unions[n];
                 if (liste.size() >= 200) break;
-                base->R_MARIAG.ModifierListe(NoOrdre{n}, NoMariage{m}, 'A');
+                base->R_MARIAG.ModifierListe(NoOrdre{n}, NoMariage{m},
+                                             storage::ActionListe::Ajouter);
                 liste.push_back(m);
                 break;
             }

@@ -20,37 +20,37 @@ namespace {
 constexpr const char* Nouveau = "Reorg.fic";
 
 /// Counts the steps, notes the phases, and gives up at one of the steps.
-class AvancementEssai final : public Avancement {
+class ProgressionEssai final : public Progression {
 public:
     std::vector<std::string> phases;
     std::vector<NoMessage> messages;
     std::uint32_t pas = 0;
     std::uint32_t arret = 0;
     int cadres = 0;
-    void Commencer(const TexteAvancement& /*titre*/, const TexteAvancement& /*texte*/) override {
-        ++cadres;
-    }
-    void Phase(const TexteAvancement& texte) override {
-        phases.emplace_back(texte.litteral);
-        if (texte.message) messages.push_back(texte.message);
+    void Commencer(const Phrase& /*titre*/, const Phrase& /*texte*/) override { ++cadres; }
+    void Phase(const Phrase& texte) override {
+        phases.emplace_back(texte.valeur);
+        if (texte.no) messages.push_back(texte.no);
     }
     [[nodiscard]] bool Avancer(std::uint32_t /*fait*/, std::uint32_t /*total*/) override {
         return ++pas != arret;
     }
     void Terminer() override { --cadres; }
+    [[nodiscard]] bool EnCours() const override { return cadres > 0; }
+    void Sablier(bool /*attente*/) override {}
 };
 
 struct Bureau : Essai {
     doublures::FamilleEssai famille{*base};
-    AvancementEssai avancement;
+    ProgressionEssai progression;
 
     /// Reorganises what was committed and answers the bytes of the new file.
     std::string Reorganiser(BilanReorganisation* bilan = nullptr) {
         REQUIRE(base->Enregistrer());
-        const BilanReorganisation b = ReorganiserVers(*disque, *base, Nouveau, avancement);
+        const BilanReorganisation b = ReorganiserVers(*disque, *base, Nouveau, progression);
         if (bilan != nullptr) *bilan = b;
         REQUIRE(b.issue == IssueReorganisation::Faite);
-        CHECK(avancement.cadres == 0);
+        CHECK(progression.cadres == 0);
         return disque->Octets(Nouveau);
     }
     /// Opens the new file as a base.
@@ -77,7 +77,7 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: an empty base keeps its keywords and 
 }
 
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: the phases are told in their order") {
-    famille.Creer('H', "DURAND", "Jean");
+    famille.Creer(Sexe::Homme, "DURAND", "Jean");
     Reorganiser();
     const std::vector<std::string> voulues{
         "Contrôle Documents"_1252.data(),       "Contrôle Evénements"_1252.data(),
@@ -88,7 +88,7 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: the phases are told in their order") 
         "Recopie Individus"_1252.data(),        "Recopie Mariages"_1252.data(),
         "Recopie Documents"_1252.data(),        "Recopie Evénements"_1252.data(),
         "Réorganisation terminée"_1252.data()};
-    CHECK(avancement.phases == voulues);
+    CHECK(progression.phases == voulues);
 }
 
 TEST_CASE_FIXTURE(Bureau,
@@ -122,7 +122,7 @@ TEST_CASE_FIXTURE(Bureau,
     base->FixerDernierIndividu(2500);
     const NoOrdre n{2500};
     base->R_NOM.EcrireNom(n, "DURAND;Jean");
-    base->R_SEXE.EcrireCellule(n, 'H');
+    base->R_SEXE.EcrireCellule(n, Sexe::Homme);
     base->R_TRI.AjouterIndividu(n);
     // The blocks of the persons in between have been written once.
     for (const std::uint32_t parti : {7U, 1500U}) {
@@ -146,9 +146,9 @@ TEST_CASE_FIXTURE(Bureau,
 TEST_CASE_FIXTURE(Bureau,
                   "Reorganisation: a union whose husband is gone disappears with its text "
                   "and its index words, and leaves the list of the wife") {
-    const NoOrdre anne = famille.Creer('F', "MARTIN", "Anne");
-    const NoOrdre jean = famille.Creer('H', "DURAND", "Jean");
-    const NoOrdre paul = famille.Creer('H', "LEROY", "Paul");
+    const NoOrdre anne = famille.Creer(Sexe::Femme, "MARTIN", "Anne");
+    const NoOrdre jean = famille.Creer(Sexe::Homme, "DURAND", "Jean");
+    const NoOrdre paul = famille.Creer(Sexe::Homme, "LEROY", "Paul");
     const NoMariage perdu = famille.Marier(jean, anne, "1850");
     const NoMariage garde = famille.Marier(paul, anne, "1860");
     for (const auto& [m, texte] : {std::pair{perdu, "@Brest"}, {garde, "@Lyon"}}) {
@@ -160,7 +160,7 @@ TEST_CASE_FIXTURE(Bureau,
     BilanReorganisation bilan;
     const std::string octets = Reorganiser(&bilan);
     CHECK(bilan.unionsSansEpoux == 1);
-    CHECK(avancement.messages == std::vector{message::EtatUnionsSansEpoux});
+    CHECK(progression.messages == std::vector{message::EtatUnionsSansEpoux});
     CHECK(octets.find("Brest") == std::string::npos);
     CHECK(octets.find("BREST") == std::string::npos);
     const std::unique_ptr<Base> neuve = Ouvrir(octets);
@@ -176,7 +176,7 @@ TEST_CASE_FIXTURE(Bureau,
 
 TEST_CASE_FIXTURE(Bureau,
                   "Reorganisation: a word that a dropped union shares with a text stays once") {
-    const NoOrdre anne = famille.Creer('F', "MARTIN", "Anne");
+    const NoOrdre anne = famille.Creer(Sexe::Femme, "MARTIN", "Anne");
     const NoMariage m = famille.Marier({}, anne);
     base->R_TXTMAR.EcrireTexte(m, "@Brest @Brest");
     base->R_TEXTE.EcrireTexte(anne, "@Brest");
@@ -189,8 +189,8 @@ TEST_CASE_FIXTURE(Bureau,
 }
 
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: a husband owns his union whatever his sex cell holds") {
-    const NoOrdre jean = famille.Creer(' ', "DURAND", "Jean");
-    const NoOrdre anne = famille.Creer('F', "MARTIN", "Anne");
+    const NoOrdre jean = famille.Creer(Sexe::Vide, "DURAND", "Jean");
+    const NoOrdre anne = famille.Creer(Sexe::Femme, "MARTIN", "Anne");
     famille.Marier(jean, anne, "1850");
     BilanReorganisation bilan;
     const std::unique_ptr<Base> neuve = Ouvrir(Reorganiser(&bilan));
@@ -200,19 +200,19 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: a husband owns his union whatever his
 }
 
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: a union that its living husband does not list is kept") {
-    const NoOrdre jean = famille.Creer('H', "DURAND", "Jean");
-    const NoOrdre anne = famille.Creer('F', "MARTIN", "Anne");
+    const NoOrdre jean = famille.Creer(Sexe::Homme, "DURAND", "Jean");
+    const NoOrdre anne = famille.Creer(Sexe::Femme, "MARTIN", "Anne");
     const NoMariage m = famille.Marier(jean, anne, "1850");
-    base->R_MARIAG.ModifierListe(jean, m, 'S');
+    base->R_MARIAG.ModifierListe(jean, m, storage::ActionListe::Supprimer);
     const std::unique_ptr<Base> neuve = Ouvrir(Reorganiser());
     CHECK(neuve->R_EPOUX.LireCellule(NoMariage{1}) == jean);
     CHECK(neuve->R_MARIAG.Elements(anne) == std::vector{NoMariage{1}});
 }
 
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: unions are numbered by their husbands in sort order") {
-    const NoOrdre anne = famille.Creer('F', "MARTIN", "Anne", "1800");
-    const NoOrdre zacharie = famille.Creer('H', "ZOLA", "Zacharie", "1850");
-    const NoOrdre abel = famille.Creer('H', "ABEL", "Abel", "1820");
+    const NoOrdre anne = famille.Creer(Sexe::Femme, "MARTIN", "Anne", "1800");
+    const NoOrdre zacharie = famille.Creer(Sexe::Homme, "ZOLA", "Zacharie", "1850");
+    const NoOrdre abel = famille.Creer(Sexe::Homme, "ABEL", "Abel", "1820");
     famille.Marier(zacharie, anne, "1880");
     famille.Marier(abel, anne, "1840");
     famille.Marier(abel, anne, "1845");
@@ -226,7 +226,7 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: unions are numbered by their husbands
 TEST_CASE_FIXTURE(Bureau,
                   "Reorganisation: documents and events are numbered by rank, one that "
                   "nobody uses stays, and the document of the base follows") {
-    const NoOrdre jean = famille.Creer('H', "DURAND", "Jean");
+    const NoOrdre jean = famille.Creer(Sexe::Homme, "DURAND", "Jean");
     NoDocument titre{};
     for (const char* nom : {"Zinc", "Parti", "Abbaye"}) {
         const NoDocument d = base->NouveauDocument();
@@ -234,8 +234,8 @@ TEST_CASE_FIXTURE(Bureau,
         base->R_TRI.AjouterDocument(d);
         if (std::string_view{nom} == "Zinc") titre = d;
     }
-    base->R_LSTIMG.ModifierListe(jean, NoDocument{2}, 'A');
-    base->R_LSTIMG.ModifierListe(jean, NoDocument{1}, 'A');
+    base->R_LSTIMG.ModifierListe(jean, NoDocument{2}, storage::ActionListe::Ajouter);
+    base->R_LSTIMG.ModifierListe(jean, NoDocument{1}, storage::ActionListe::Ajouter);
     base->entete.DocBase = titre;
     for (const std::int32_t date : {500, 100, 300}) {
         const NoEvenement e = base->NouvelEvenement();
@@ -245,7 +245,7 @@ TEST_CASE_FIXTURE(Bureau,
                                   .documents = {{NoDocument{2}, titre}},
                                   .description = DescriptionEvt{"Brest", "", "MARR"}});
         base->R_TRI.AjouterEvt(e);
-        base->R_LSTEVT.ModifierListe(jean, e, 'A', "WITN");
+        base->R_LSTEVT.ModifierListe(jean, e, storage::ActionListe::Ajouter, "WITN");
     }
     base->R_TRI.RetirerDocument(NoDocument{2});
     base->R_IMAGE.EffacerDoc(NoDocument{2});
@@ -267,7 +267,7 @@ TEST_CASE_FIXTURE(Bureau,
 
 TEST_CASE_FIXTURE(Bureau,
                   "Reorganisation: dead entries of the index are dropped, words keep their order") {
-    const NoOrdre jean = famille.Creer('H', "DURAND", "Jean");
+    const NoOrdre jean = famille.Creer(Sexe::Homme, "DURAND", "Jean");
     std::string texte;
     for (const char* lieu : {"$Zurich", "$Brest", "$Lyon"}) {
         base->R_INDEX.MajIndex(jean, texte, lieu);
@@ -284,7 +284,7 @@ TEST_CASE_FIXTURE(Bureau,
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: 32001 persons put the overflow zone at position 3573") {
     base->FixerDernierIndividu(32001);
     base->R_NOM.EcrireNom(NoOrdre{32001}, "DURAND;Jean");
-    base->R_SEXE.EcrireCellule(NoOrdre{32001}, 'H');
+    base->R_SEXE.EcrireCellule(NoOrdre{32001}, Sexe::Homme);
     base->R_TRI.AjouterIndividu(NoOrdre{32001});
     const OctetsVivants vivants{Reorganiser()};
     CHECK(vivants.Lecteur().Num4(161) == 3573);
@@ -313,8 +313,8 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: the zones follow the highest numbers,
 
 TEST_CASE_FIXTURE(Bureau,
                   "Reorganisation: more than 32000 unions and 25600 words get their zones") {
-    const NoOrdre jean = famille.Creer('H', "DURAND", "Jean");
-    const NoOrdre anne = famille.Creer('F', "MARTIN", "Anne");
+    const NoOrdre jean = famille.Creer(Sexe::Homme, "DURAND", "Jean");
+    const NoOrdre anne = famille.Creer(Sexe::Femme, "MARTIN", "Anne");
     for (std::uint32_t i = 1; i <= 32005; ++i) {
         const NoMariage m = base->NouveauMariage();
         base->R_EPOUX.EcrireCellule(m, jean);
@@ -341,14 +341,14 @@ TEST_CASE_FIXTURE(Bureau,
 }
 
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: order, options and rows of the base stay") {
-    base->entete.TypeTri = '2';
+    base->entete.TypeTri = TypeTri::Nom;
     base->entete.OptPrenomUnique = true;
     base->entete.OptParticules = true;
     base->entete.OptOrigine97 = true;
     base->entete.SlotsIndividu[1] = {'%', '1'};
     base->marques.ModifBase = true;
     const std::unique_ptr<Base> neuve = Ouvrir(Reorganiser());
-    CHECK(neuve->entete.TypeTri == '2');
+    CHECK(neuve->entete.TypeTri == TypeTri::Nom);
     CHECK(neuve->entete.OptPrenomUnique);
     CHECK(neuve->entete.OptParticules);
     CHECK(neuve->entete.OptOrigine97);
@@ -356,7 +356,7 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: order, options and rows of the base s
 }
 
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: what two ranks name is there once") {
-    const NoOrdre jean = famille.Creer('H', "DURAND", "Jean");
+    const NoOrdre jean = famille.Creer(Sexe::Homme, "DURAND", "Jean");
     const NoDocument d = base->NouveauDocument();
     base->R_IMAGE.EcrireDoc(d, {"Titre", "a.jpg", "", ""});
     base->R_TRI.AjouterDocument(d);
@@ -369,7 +369,7 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: what two ranks name is there once") {
 }
 
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: a year keeps its place in its cell") {
-    const NoOrdre jean = famille.Creer('H', "DURAND", "Jean", "18", "44");
+    const NoOrdre jean = famille.Creer(Sexe::Homme, "DURAND", "Jean", "18", "44");
     // As another program may have left it.
     base->R_DECES.EcrireCellule(jean, "44  ");
     const std::unique_ptr<Base> neuve = Ouvrir(Reorganiser());
@@ -379,11 +379,11 @@ TEST_CASE_FIXTURE(Bureau, "Reorganisation: a year keeps its place in its cell") 
 
 TEST_CASE_FIXTURE(Bureau,
                   "Reorganisation: a damaged record is counted and copied as an empty one") {
-    const NoOrdre jean = famille.Creer('H', "DURAND", "Jean");
+    const NoOrdre jean = famille.Creer(Sexe::Homme, "DURAND", "Jean");
     const NoDocument d = base->NouveauDocument();
     base->R_IMAGE.EcrireDoc(d, {"Titre", "a.jpg", "", ""});
     base->R_TRI.AjouterDocument(d);
-    base->R_LSTIMG.ModifierListe(jean, d, 'A');
+    base->R_LSTIMG.ModifierListe(jean, d, storage::ActionListe::Ajouter);
     const NoEvenement e = base->NouvelEvenement();
     base->R_EVT.EcrireEvt(e, {.cleDate = 5, .description = DescriptionEvt{"Brest", "", "BIRT"}});
     base->R_TRI.AjouterEvt(e);
@@ -412,12 +412,12 @@ TEST_CASE_FIXTURE(Bureau,
         seance.Agir();
     REQUIRE(base->Enregistrer());
     const std::string avant = disque->Octets(Chemin);
-    AvancementEssai temoin;
+    ProgressionEssai temoin;
     REQUIRE(ReorganiserVers(*disque, *base, Nouveau, temoin).issue == IssueReorganisation::Faite);
     REQUIRE(temoin.pas > 8);
     for (std::uint32_t arret = 1; arret <= temoin.pas; ++arret) {
         CAPTURE(arret);
-        AvancementEssai essai;
+        ProgressionEssai essai;
         essai.arret = arret;
         CHECK(ReorganiserVers(*disque, *base, Nouveau, essai).issue ==
               IssueReorganisation::Abandonnee);
@@ -449,7 +449,7 @@ TEST_CASE(
     REQUIRE(depart.base->Fermer());
     const std::string avant = depart.disque->Octets(Essai::Chemin);
     const auto entier = depart.disque->Survivre();
-    AvancementMuet muet;
+    ProgressionMuette muet;
     REQUIRE(ReorganiserVers(*entier, *OuvrirBase(*entier, Essai::Chemin, muet).base, Nouveau, muet)
                 .issue == IssueReorganisation::Faite);
     const std::string voulu = entier->Octets(Nouveau);

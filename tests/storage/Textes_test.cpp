@@ -9,7 +9,7 @@ TEST_CASE_FIXTURE(Essai, "R_NOM: a line of surname and first name leaves the oth
     base->R_NOM.EcrireNom(NoOrdre{1}, "DURAND;Jean Pierre");
     CHECK(base->R_NOM.NomDe(NoOrdre{1}) == "DURAND");
     CHECK(base->R_NOM.PrenomDe(NoOrdre{1}) == "Jean Pierre");
-    CHECK(base->R_NOM.AutrePrenomDe(NoOrdre{1}).empty());
+    CHECK(base->R_NOM.LireNom(NoOrdre{1}).autrePrenom.empty());
     CHECK(base->R_NOM.JourMoisNaissance(NoOrdre{1}).empty());
     CHECK(base->R_NOM.JourMoisDeces(NoOrdre{1}).empty());
 }
@@ -90,7 +90,7 @@ TEST_CASE("SansDiese: # becomes a dash, inside rich text an escape; ; in a field
 
 TEST_CASE_FIXTURE(Essai, "A # in any text cuts no record") {
     base->R_NOM.EcrireNom(NoOrdre{1}, "A#B;C");
-    base->R_LIEN.ModifierListe(NoOrdre{1}, NoOrdre{2}, 'A', "X#Y");
+    base->R_LIEN.ModifierListe(NoOrdre{1}, NoOrdre{2}, storage::ActionListe::Ajouter, "X#Y");
     CHECK(base->R_NOM.NomDe(NoOrdre{1}) == "A-B");
     Rouvrir();
     CHECK(base->R_NOM.NomDe(NoOrdre{1}) == "A-B");

@@ -268,7 +268,9 @@ bool Valide(const std::string& texte, OrdreDate ordre) {
         b = Rogne(b);
         c = Rogne(c);
     }
-    const std::string nom = S(TexteOrdreDate(ordre));
+    constexpr const char* Noms[] = {"dd/mm/yyyy", "mm/dd/yyyy", "yyyy/mm/dd", "yyyy/dd/mm",
+                                    "mm/yyyy/dd"};
+    const std::string nom = Noms[static_cast<std::size_t>(ordre)];
     std::string date;
     if (nom == "dd/mm/yyyy") date = a + separateur + b + separateur + c;
     if (nom == "yyyy/dd/mm") date = c + separateur + a + separateur + b;

@@ -32,9 +32,11 @@ static std::ostream& operator<<(std::ostream& flux, const std::optional<DateCivi
 }  // namespace dorvane
 
 TEST_CASE("LireOrdreDate: the five orders, and nothing else") {
-    for (const OrdreDate ordre : Ordres)
-        CHECK(LireOrdreDate(TexteOrdreDate(ordre)) == ordre);
-    CHECK(TexteOrdreDate(OrdreDate::AnneeJourMois) == "yyyy/dd/mm");
+    CHECK(LireOrdreDate("dd/mm/yyyy") == OrdreDate::JourMoisAnnee);
+    CHECK(LireOrdreDate("mm/dd/yyyy") == OrdreDate::MoisJourAnnee);
+    CHECK(LireOrdreDate("yyyy/mm/dd") == OrdreDate::AnneeMoisJour);
+    CHECK(LireOrdreDate("yyyy/dd/mm") == OrdreDate::AnneeJourMois);
+    CHECK(LireOrdreDate("mm/yyyy/dd") == OrdreDate::MoisAnneeJour);
     CHECK_FALSE(LireOrdreDate("mm/yy/yyyy"));
     CHECK_FALSE(LireOrdreDate(""));
 }

@@ -322,12 +322,6 @@ TEST_CASE("QuitterJourMois: a pair is rewritten in words, anything else stays") 
         CHECK(QuitterJourMois(texte, Jour, MotsFrancais()) == texte);
 }
 
-TEST_CASE("QuitterDateEvenement: a date with a weekday is rewritten, anything else stays") {
-    CHECK(QuitterDateEvenement("01 MARS 1820", Jour, MotsFrancais()) == "1er mars 1820");
-    CHECK(QuitterDateEvenement("vers 1820", Jour, MotsFrancais()) == "vers 1820");
-    CHECK(QuitterDateEvenement("12/3/1820", Jour, MotsFrancais()) == "12/3/1820");
-}
-
 TEST_CASE("DateDeMotCle: a whole date is d/m/yyyy, any other a text and a padded year") {
     CHECK(DateDeMotCle("12/3", "1820", Jour) == "12/3/1820");
     CHECK(DateDeMotCle("01/03", " 850", OrdreDate::AnneeMoisJour) == "1/3/850");

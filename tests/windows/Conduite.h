@@ -19,7 +19,7 @@ namespace dorvane::windows {
 struct Personne {
     const char* nom = "";  ///< typed over what the form proposes
     const char* prenom = "";
-    char sexe = ' ';  ///< ' ': as the form proposes
+    Sexe sexe = Sexe::Vide;  ///< `Vide`: as the form proposes
     const char* jourNaissance = "";
     const char* anneeNaissance = "";
     const char* lieuNaissance = "";
@@ -74,8 +74,8 @@ inline void CliquerRangee(QTableView& liste, const char* texte) {
 inline void RemplirFormulaire(const QWidget& forme, const Personne& p) {
     Remplir(forme, "T_Nom", p.nom);
     Remplir(forme, "T_Prénom", p.prenom);
-    if (p.sexe == 'H') Cliquer(forme, "O_Sexe(0)");
-    if (p.sexe == 'F') Cliquer(forme, "O_Sexe(1)");
+    if (p.sexe == Sexe::Homme) Cliquer(forme, "O_Sexe(0)");
+    if (p.sexe == Sexe::Femme) Cliquer(forme, "O_Sexe(1)");
     Remplir(forme, "TxtJNaiss", p.jourNaissance);
     Remplir(forme, "T_Naiss", p.anneeNaissance);
     Remplir(forme, "TxtLieuNaiss", p.lieuNaissance);

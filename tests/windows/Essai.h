@@ -148,21 +148,21 @@ public:
 private:
     void FaireFamille() const {
         storage::DisqueReel disque;
-        auto nouvelle = storage::NouvelleBase(disque, base, {'2', false, false}).base;
+        auto nouvelle = storage::NouvelleBase(disque, base, {TypeTri::Nom, false, false}).base;
         REQUIRE(nouvelle != nullptr);
         doublures::FamilleEssai famille{*nouvelle};
-        const NoOrdre louis = famille.Creer('H', "Martin", "Louis", "1790", "1860");
-        const NoOrdre rose = famille.Creer('F', "Blanc", "Rose", "1795");
-        const NoOrdre paul = famille.Creer('H', "Martin", "Paul", "1820", "1890");
-        const NoOrdre anne = famille.Creer('F', "Évrard"_1252, "Anne", "1825", "1858");
-        const NoOrdre jeanne = famille.Creer('F', "Noël"_1252, "Jeanne", "1835");
+        const NoOrdre louis = famille.Creer(Sexe::Homme, "Martin", "Louis", "1790", "1860");
+        const NoOrdre rose = famille.Creer(Sexe::Femme, "Blanc", "Rose", "1795");
+        const NoOrdre paul = famille.Creer(Sexe::Homme, "Martin", "Paul", "1820", "1890");
+        const NoOrdre anne = famille.Creer(Sexe::Femme, "Évrard"_1252, "Anne", "1825", "1858");
+        const NoOrdre jeanne = famille.Creer(Sexe::Femme, "Noël"_1252, "Jeanne", "1835");
         famille.Parents(paul, louis, rose);
         famille.Marier(louis, rose, "1815");
         famille.Marier(paul, anne, "1850");
         famille.Marier(paul, jeanne, "1860");
-        famille.Parents(famille.Creer('H', "Martin", "Luc", "1851"), paul, anne);
-        famille.Parents(famille.Creer('F', "Martin", "Marie", "1853"), paul, anne);
-        famille.Parents(famille.Creer('H', "Martin", "Jules", "1861"), paul, jeanne);
+        famille.Parents(famille.Creer(Sexe::Homme, "Martin", "Luc", "1851"), paul, anne);
+        famille.Parents(famille.Creer(Sexe::Femme, "Martin", "Marie", "1853"), paul, anne);
+        famille.Parents(famille.Creer(Sexe::Homme, "Martin", "Jules", "1861"), paul, jeanne);
         REQUIRE(nouvelle->Fermer());
     }
 };

@@ -43,9 +43,10 @@ shell::Issue FaireBase(shell::Session& session, const std::filesystem::path& bas
 
     const shell::CadreProgression montre{session.progression, cadre.titre, cadre.texte};
     const std::filesystem::path provisoire = CheminProvisoire(base);
-    storage::ResultatOuverture ouverture = storage::NouvelleBase(
-        session.disque, provisoire,
-        {'1', session.parametres.generaux.motClePrenom, session.parametres.generaux.motCleNom});
+    storage::ResultatOuverture ouverture =
+        storage::NouvelleBase(session.disque, provisoire,
+                              {TypeTri::Naissance, session.parametres.generaux.motClePrenom,
+                               session.parametres.generaux.motCleNom});
     if (ouverture.etat != storage::Ouverture::Faite) return refusee;
     ouverture.base->regles.particules = session.parametres.generaux.particules;
     const bool fini = remplir(*ouverture.base);

@@ -1,5 +1,8 @@
 #include "interchange/commun/OrdreImport.h"
 
+#include "shell/Session.h"
+#include "storage/Base.h"
+
 #include <algorithm>
 #include <string>
 
@@ -18,6 +21,18 @@ bool SontTries(storage::FournisseurNoms& noms, std::span<const NoOrdre> ordre, T
         avant.swap(cle);
     }
     return true;
+}
+
+bool TrierImport(shell::Session& session, storage::Base& base, storage::FournisseurNoms& noms) {
+    session.progression.Phase(Litteral("Tri de la base"));
+    return base.R_TRI.TrierIndividus(noms, session.progression);
+}
+
+bool IndexerImport(shell::Session& session, storage::Base& base, std::span<const NoMotCle> types,
+                   storage::FournisseurTextes& textes) {
+    if (!types.empty())
+        session.progression.Phase(Litteral(base.motsCles.LibelleType(types[0]).libelle));
+    return storage::ConstruireIndex(base, types, textes, session.progression);
 }
 
 }  // namespace dorvane::interchange

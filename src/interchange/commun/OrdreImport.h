@@ -1,9 +1,18 @@
 #pragma once
 
+#include "storage/ConstruireIndex.h"
 #include "storage/R_TRI.h"
 #include "values/Noms.h"
 
 #include <span>
+
+namespace dorvane::shell {
+class Session;
+}
+
+namespace dorvane::storage {
+class Base;
+}
 
 namespace dorvane::interchange {
 
@@ -11,5 +20,16 @@ namespace dorvane::interchange {
 /// their numbers.
 [[nodiscard]] bool SontTries(storage::FournisseurNoms& noms, std::span<const NoOrdre> ordre,
                              TypeTri typeTri, const ReglesNoms& regles);
+
+/// Sorts the persons of the base under its `TypeTri`, as one more phase of the frame that shows.
+/// False when the user gave up.
+[[nodiscard]] bool TrierImport(shell::Session& session, storage::Base& base,
+                               storage::FournisseurNoms& noms);
+
+/// Builds the word lists of `types`, as one more phase of the frame that shows. False when the user
+/// gave up.
+[[nodiscard]] bool IndexerImport(shell::Session& session, storage::Base& base,
+                                 std::span<const NoMotCle> types,
+                                 storage::FournisseurTextes& textes);
 
 }  // namespace dorvane::interchange

@@ -4,7 +4,6 @@
 #include "messages/Communes.h"
 #include "messages/Messages.h"
 #include "shell/FichierSur.h"
-#include "shell/RelaisAvancement.h"
 #include "shell/Session.h"
 #include "values/Comparaison.h"
 #include "values/Phonetique.h"
@@ -27,29 +26,6 @@ using storage::NoCommune;
 
 /// Line numbers that the report of a list names; of more it tells how many there are.
 constexpr std::size_t MaxLignesDites = 10;
-
-/// Remembers that the user gave up: the work itself only says that it is not done.
-class RelaisAbandon final : public storage::Avancement {
-public:
-    explicit RelaisAbandon(shell::Session& session)
-        : relais_{session.progression, session.catalogue} {}
-    void Commencer(const storage::TexteAvancement& titre,
-                   const storage::TexteAvancement& texte) override {
-        relais_.Commencer(titre, texte);
-    }
-    void Phase(const storage::TexteAvancement& texte) override { relais_.Phase(texte); }
-    [[nodiscard]] bool Avancer(std::uint32_t fait, std::uint32_t total) override {
-        const bool continuer = relais_.Avancer(fait, total);
-        abandon = abandon || !continuer;
-        return continuer;
-    }
-    void Terminer() override { relais_.Terminer(); }
-
-    bool abandon = false;
-
-private:
-    shell::RelaisAvancement relais_;
-};
 
 /// Told.
 Issue RefuserFichier(shell::Session& session, const std::filesystem::path& chemin) {
@@ -186,17 +162,23 @@ Issue GestionCommunes::ProposerCopie() {
                                                                 shell::CheminAffiche(refuse))));
 }
 
-Issue GestionCommunes::EcrireBase() {
-    switch (base_->EnregistrerCommunes()) {
+Issue GestionCommunes::IssueDe(storage::EcritureCommunes ecriture) const {
+    switch (ecriture) {
         case storage::EcritureCommunes::Faite:
             return Issue::Faite();
         case storage::EcritureCommunes::ChangeeAilleurs:
             return Issue::Refusee(
                 shell::Msg(message::FichierCommunesChangeAilleurs, shell::CheminAffiche(chemin_)));
+        case storage::EcritureCommunes::Abandonnee:
+            return Issue::Arretee();
         case storage::EcritureCommunes::Refusee:
             break;
     }
     return Issue::ParSysteme();
+}
+
+Issue GestionCommunes::EcrireBase() {
+    return IssueDe(base_->EnregistrerCommunes());
 }
 
 NoCommune GestionCommunes::Enregistrer(NoCommune n, const Commune& commune) {
@@ -253,9 +235,7 @@ Issue GestionCommunes::Reorganiser() {
         // What another program has written since is kept.
         if (!Relire()) return Issue::ParSysteme();
         avant = Kilos(chemin_);
-        RelaisAbandon relais{session_};
-        if (base_->ReorganiserCommunes(relais)) return Issue::Faite();
-        return relais.abandon ? Issue::Arretee() : Issue::ParSysteme();
+        return IssueDe(base_->ReorganiserCommunes(session_.progression));
     });
     if (issue)
         session_.dialogue.Informer(
@@ -264,9 +244,8 @@ Issue GestionCommunes::Reorganiser() {
 }
 
 Issue GestionCommunes::Composer(const std::vector<Commune>& communes) {
-    RelaisAbandon relais{session_};
     std::string octets;
-    if (!storage::ComposerLgx(communes, relais, octets)) return Issue::Arretee();
+    if (!storage::ComposerLgx(communes, session_.progression, octets)) return Issue::Arretee();
     std::filesystem::path voisin = chemin_;
     voisin += ".nouveau";
     if (!storage::EcrireLgx(session_.disque, chemin_, voisin, octets)) return Issue::ParSysteme();

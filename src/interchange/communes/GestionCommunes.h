@@ -56,6 +56,7 @@ private:
     /// when the file is no longer what was read, and then memory is as the file; by the system when
     /// it cannot be written here.
     [[nodiscard]] shell::Issue Changer(const std::function<shell::Issue()>& essai);
+    [[nodiscard]] shell::Issue IssueDe(storage::EcritureCommunes ecriture) const;
     [[nodiscard]] shell::Issue EcrireBase();
     [[nodiscard]] shell::Issue Composer(const std::vector<storage::Commune>& communes);
     [[nodiscard]] bool Relire();

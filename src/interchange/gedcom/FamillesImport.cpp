@@ -9,14 +9,14 @@
 
 namespace dorvane::interchange {
 
-void FamillesImport::AjouterIndividu(char sexe) {
+void FamillesImport::AjouterIndividu(Sexe sexe) {
     personnes_.emplace_back().sexe = sexe;
 }
 
-bool FamillesImport::CorrigerSexe(NoOrdre individu, char sexe) {
+bool FamillesImport::CorrigerSexe(NoOrdre individu, Sexe sexe) {
     Parente& personne = personnes_[individu.valeur - 1];
     if (personne.sexe == sexe) return false;
-    const bool contraire = personne.sexe != 'I';
+    const bool contraire = personne.sexe != Sexe::Indetermine;
     personne.sexe = sexe;
     personne.sexeCorrige = true;
     return contraire;

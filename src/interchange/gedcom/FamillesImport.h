@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interchange/gedcom/ContexteImport.h"
+#include "values/Sexe.h"
 
 #include <array>
 #include <cstdint>
@@ -11,16 +12,14 @@ namespace dorvane::interchange {
 /// The family links of an import, held in memory while the families are read and written once.
 class FamillesImport {
 public:
-    enum class Cote : std::uint8_t { Pere, Mere };
-
     explicit FamillesImport(const ContexteImport& contexte) : contexte_{contexte} {}
 
-    /// A person was read; `sexe` 'H', 'F' or 'I'. Persons come in the order of their numbers.
-    void AjouterIndividu(char sexe);
+    /// A person was read; `sexe` is never `Vide`. Persons come in the order of their numbers.
+    void AjouterIndividu(Sexe sexe);
 
     /// Sex that being a husband or wife tells; a different one is corrected. True when a man became
     /// a woman or the reverse.
-    [[nodiscard]] bool CorrigerSexe(NoOrdre individu, char sexe);
+    [[nodiscard]] bool CorrigerSexe(NoOrdre individu, Sexe sexe);
 
     /// Gives the child a parent and takes it from the one that had the place. False when nothing
     /// changes: it is its parent already, the two are one person, or the parent has 200 children.
@@ -48,7 +47,7 @@ private:
         std::array<std::uint32_t, 2> rangs{};  ///< when each was given, for the order of equals
         std::uint8_t nbEnfants = 0;
         std::uint8_t nbUnions = 0;
-        char sexe = 'I';
+        Sexe sexe = Sexe::Indetermine;
         bool sexeCorrige = false;
     };
     void EcrireEnfants();

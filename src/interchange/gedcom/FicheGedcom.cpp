@@ -2,6 +2,7 @@
 
 #include "messages/Messages.h"
 #include "values/Comparaison.h"
+#include "values/Marqueurs.h"
 
 #include <algorithm>
 #include <array>
@@ -212,8 +213,8 @@ bool FicheGedcom::LireLieu(const LigneGedcom& ligne) {
         if (contexte_.pile.Racine() == "INDI"_tag &&
             lieu.find_first_of("$~") != std::string::npos) {
             contexte_.Noter(Constat::Remplace, ligne);
-            std::ranges::replace(lieu, '$', '-');
-            std::ranges::replace(lieu, '~', '-');
+            std::ranges::replace(lieu, marqueur::LieuNaissance, '-');
+            std::ranges::replace(lieu, marqueur::LieuDeces, '-');
         }
         courant_ = &lieu;
     } else if (structure_ == Structure::Slot) {

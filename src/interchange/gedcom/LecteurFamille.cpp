@@ -4,6 +4,7 @@
 #include "messages/Messages.h"
 #include "storage/Textes.h"
 #include "values/Comparaison.h"
+#include "values/Marqueurs.h"
 #include "values/Texte1252.h"
 
 #include <algorithm>
@@ -41,17 +42,18 @@ NoOrdre LecteurFamille::Trouver(const LigneGedcom& ligne) {
     return individu;
 }
 
-void LecteurFamille::LirePartenaire(const LigneGedcom& ligne, char sexe) {
+void LecteurFamille::LirePartenaire(const LigneGedcom& ligne, Cote cote) {
     const NoOrdre individu = Trouver(ligne);
     if (!individu) return;
-    NoOrdre& place = sexe == 'H' ? epoux_ : epouse_;
+    NoOrdre& place = cote == Cote::Pere ? epoux_ : epouse_;
     if (place) contexte_.Noter(Constat::Doublon, ligne);
     // Those above have got their parents by now, without this one.
     for (const std::uint32_t numero : lignesEnfants_)
         contexte_.rapport.Noter(Constat::NonRepris, "FAM.CHIL", numero);
     lignesEnfants_.clear();
     place = individu;
-    if (familles_.CorrigerSexe(individu, sexe)) contexte_.Noter(Constat::Remplace, ligne);
+    if (familles_.CorrigerSexe(individu, SexeDuCote(cote)))
+        contexte_.Noter(Constat::Remplace, ligne);
 }
 
 // The child is given the parents that the record has named so far.
@@ -63,8 +65,8 @@ void LecteurFamille::LireEnfant(const LigneGedcom& ligne) {
         return;
     }
     enfants_.push_back(enfant);
-    if (epoux_) familles_.PoserParent(enfant, epoux_, FamillesImport::Cote::Pere, ligne);
-    if (epouse_) familles_.PoserParent(enfant, epouse_, FamillesImport::Cote::Mere, ligne);
+    if (epoux_) familles_.PoserParent(enfant, epoux_, Cote::Pere, ligne);
+    if (epouse_) familles_.PoserParent(enfant, epouse_, Cote::Mere, ligne);
     if (!epoux_ && !epouse_)
         contexte_.Noter(Constat::NonRepris, ligne);
     else if (!epoux_ || !epouse_)
@@ -74,10 +76,10 @@ void LecteurFamille::LireEnfant(const LigneGedcom& ligne) {
 void LecteurFamille::LireNiveau1(const LigneGedcom& ligne) {
     switch (ligne.code) {
         case "HUSB"_tag:
-            LirePartenaire(ligne, 'H');
+            LirePartenaire(ligne, Cote::Pere);
             return;
         case "WIFE"_tag:
-            LirePartenaire(ligne, 'F');
+            LirePartenaire(ligne, Cote::Mere);
             return;
         case "CHIL"_tag:
             LireEnfant(ligne);
@@ -195,7 +197,7 @@ NoMariage LecteurFamille::Terminer() {
     texte_ = union_.date.jourMois;
     if (!union_.lieu.empty()) {
         if (!texte_.empty()) texte_ += ' ';
-        texte_.append("@").append(BlancsEnPoints(union_.lieu));
+        texte_.append(1, marqueur::LieuMariage).append(BlancsEnPoints(union_.lieu));
     }
     if (!texte_.empty() || fiche_.ASuite()) {
         texte_ += "\r\n";

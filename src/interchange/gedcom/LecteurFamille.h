@@ -4,6 +4,7 @@
 #include "interchange/gedcom/FicheGedcom.h"
 #include "interchange/gedcom/LiensImport.h"
 #include "interchange/gedcom/TableCles.h"
+#include "values/Sexe.h"
 
 #include <optional>
 #include <string>
@@ -39,7 +40,7 @@ public:
 
 private:
     void LireNiveau1(const LigneGedcom& ligne);
-    void LirePartenaire(const LigneGedcom& ligne, char sexe);
+    void LirePartenaire(const LigneGedcom& ligne, Cote cote);
     void LireEnfant(const LigneGedcom& ligne);
     bool LireSousLigne(const LigneGedcom& ligne);
     bool LireNote(const LigneGedcom& ligne);

@@ -13,7 +13,7 @@ namespace dorvane::interchange {
 void LecteurIndividu::Commencer(NoOrdre individu) {
     individu_ = individu;
     fiche_.Commencer();
-    sexe_ = 'I';
+    sexe_ = Sexe::Indetermine;
     nomVu_ = false;
     valeurNom_ = {};
     nom_ = {};
@@ -40,7 +40,7 @@ void LecteurIndividu::LireNiveau1(const LigneGedcom& ligne) {
             LireNom(ligne);
             return;
         case "SEX"_tag:
-            sexe_ = ligne.valeur == "M" ? 'H' : 'F';
+            sexe_ = ligne.valeur == "M" ? Sexe::Homme : Sexe::Femme;
             // "U" and "MALE" make a woman, and that must not pass unseen.
             if (ligne.valeur != "M" && ligne.valeur != "F")
                 contexte_.Noter(Constat::Remplace, ligne);

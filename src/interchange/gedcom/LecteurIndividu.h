@@ -3,6 +3,7 @@
 #include "interchange/gedcom/FicheGedcom.h"
 #include "interchange/gedcom/LiensImport.h"
 #include "interchange/gedcom/NomGedcom.h"
+#include "values/Sexe.h"
 
 #include <string>
 #include <string_view>
@@ -36,7 +37,7 @@ public:
     [[nodiscard]] const std::string& Texte() const { return texte_; }
     /// The name line, likewise.
     [[nodiscard]] const std::string& LigneNom() const { return ligneNom_; }
-    [[nodiscard]] char Sexe() const { return sexe_; }
+    [[nodiscard]] Sexe SexeDit() const { return sexe_; }
     [[nodiscard]] std::string_view AnneeNaissance() const {
         return fiche_.Lire(FicheGedcom::Rang::Premier).date.annee;
     }
@@ -61,7 +62,7 @@ private:
     Reglages reglages_;
 
     NoOrdre individu_;
-    char sexe_ = 'I';
+    Sexe sexe_ = Sexe::Indetermine;
     bool nomVu_ = false;
     NomLu nom_;
     std::string_view valeurNom_;

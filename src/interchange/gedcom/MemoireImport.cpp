@@ -33,11 +33,11 @@ void MemoireImport::TextesDe(NoOrdre n, std::vector<std::string_view>& textes) {
     }
 }
 
-bool MemoireImport::EstTriee(char typeTri, const ReglesNoms& regles) {
+bool MemoireImport::EstTriee(TypeTri typeTri, const ReglesNoms& regles) {
     std::vector<NoOrdre> ordre;
     for (std::uint32_t n = 1; n <= personnes_.size(); ++n)
         ordre.emplace_back(n);
-    return SontTries(*this, ordre, static_cast<TypeTri>(typeTri), regles);
+    return SontTries(*this, ordre, typeTri, regles);
 }
 
 }  // namespace dorvane::interchange

@@ -32,7 +32,7 @@ public:
     void TextesDe(NoOrdre n, std::vector<std::string_view>& textes) override;
 
     /// The persons stand in the order of `typeTri` as they came.
-    [[nodiscard]] bool EstTriee(char typeTri, const ReglesNoms& regles);
+    [[nodiscard]] bool EstTriee(TypeTri typeTri, const ReglesNoms& regles);
 
 private:
     struct Personne {

@@ -2,6 +2,7 @@
 
 #include "storage/Textes.h"
 #include "values/Comparaison.h"
+#include "values/Marqueurs.h"
 #include "values/Texte1252.h"
 
 #include <algorithm>
@@ -55,9 +56,9 @@ NomLu FaireNom(std::string_view nom, std::string_view donne, bool prenomUnique) 
     const std::size_t blanc = std::min(donne.find(' '), donne.size());
     lu.prenom = donne.substr(0, blanc);
     lu.autres = SansBlancs(donne.substr(blanc));
-    if (!lu.nom.empty()) lu.motsCles.append("|"_1252).append(BlancsEnPoints(lu.nom));
+    if (!lu.nom.empty()) lu.motsCles.append(1, marqueur::Nom).append(BlancsEnPoints(lu.nom));
     if (!donne.empty()) {
-        lu.motsCles.append(lu.motsCles.empty() ? "" : " ").append("¶"_1252);
+        lu.motsCles.append(lu.motsCles.empty() ? "" : " ").append(1, marqueur::Prenom);
         lu.motsCles += prenomUnique ? std::string{donne} : BlancsEnPoints(donne);
     }
     return lu;

@@ -1,11 +1,12 @@
 #include "interchange/gedcom/PassesImport.h"
 
-#include "interchange/commun/PhaseDImport.h"
+#include "interchange/commun/OrdreImport.h"
 #include "interchange/gedcom/NomGedcom.h"
 #include "messages/Messages.h"
 #include "shell/Parametres.h"
 #include "storage/ConstruireIndex.h"
 #include "storage/Textes.h"
+#include "values/Marqueurs.h"
 
 #include <algorithm>
 #include <string>
@@ -92,7 +93,7 @@ void PassesImport::FermerEnregistrement() {
     if (genre_ == Genre::Annexe) annexes_.Terminer();
     if (genre_ == Genre::Individu) {
         individu_.Terminer();
-        familles_.AjouterIndividu(individu_.Sexe());
+        familles_.AjouterIndividu(individu_.SexeDit());
         memoire_.AjouterIndividu(individu_.LigneNom(), individu_.AnneeNaissance(),
                                  individu_.Texte());
         const NoOrdre n{base_.entete.DernierIndividu};
@@ -279,12 +280,12 @@ ReglesNoms PassesImport::Regles() const {
 }
 
 bool PassesImport::Trier() {
-    PhaseDImport avancement{session_.progression};
     if (session_.parametres.generaux.triImport &&
         session_.dialogue.Confirmer(shell::Msg(message::ProposerTrierBaseImportee)))
-        return base_.R_TRI.TrierIndividus(memoire_, avancement);
+        return TrierImport(session_, base_, memoire_);
     // A table out of order would mislead every search by rank.
-    if (!memoire_.EstTriee(base_.entete.TypeTri, Regles())) base_.entete.TypeTri = '0';
+    if (!memoire_.EstTriee(base_.entete.TypeTri, Regles()))
+        base_.entete.TypeTri = TypeTri::Creation;
     return true;
 }
 
@@ -292,10 +293,9 @@ bool PassesImport::Indexer() {
     std::vector<NoMotCle> types;
     for (std::uint32_t k = 1; k <= base_.motsCles.Nombre(); ++k)
         if (base_.motsCles.LibelleType(NoMotCle{k}).indexe ||
-            base_.motsCles.LibelleType(NoMotCle{k}).symbole == '|')
+            base_.motsCles.LibelleType(NoMotCle{k}).symbole == marqueur::Nom)
             types.emplace_back(k);
-    PhaseDImport avancement{session_.progression};
-    return storage::ConstruireIndex(base_, types, memoire_, avancement);
+    return IndexerImport(session_, base_, types, memoire_);
 }
 
 }  // namespace dorvane::interchange

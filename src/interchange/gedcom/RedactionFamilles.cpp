@@ -6,20 +6,11 @@
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "values/Dates.h"
+#include "values/SortesEvenement.h"
 
 #include <algorithm>
-#include <array>
 
 namespace dorvane::interchange {
-
-namespace {
-
-constexpr std::array<std::string_view, 26> TypesDeSource{
-    "BIRT", "CHR",  "ADOP", "DEAT", "BURI", "CREM", "BARM", "BASM", "CONF",
-    "CENS", "EMIG", "FCOM", "GRAD", "IMMI", "NATU", "ORDN", "RETI", "PROB",
-    "WILL", "ANUL", "DIV",  "DIVF", "ENGA", "MARR", "MARB", "MARC"};
-
-}  // namespace
 
 void RedactionGedcom::EcrireFamille(std::uint32_t famille) {
     const FamilleExport& f = familles_.familles[famille];
@@ -48,10 +39,8 @@ void RedactionGedcom::EcrireSource(NoEvenement e) {
     sortie_.Enregistrement('E', e.valeur, "SOUR");
     sortie_.Ligne(1, "DATA");
     const std::string& type = description.type;
-    const bool connu =
-        type == "MARL" || std::ranges::find(TypesDeSource, type) != TypesDeSource.end();
-    if (connu)
-        sortie_.Valeur(2, "EVEN", type == "CHR" ? "BAPM" : std::string_view{type});
+    if (EstSorte(type, UsageSorte::Source))
+        sortie_.Valeur(2, "EVEN", type == tag::Bapteme ? "BAPM" : std::string_view{type});
     else
         sortie_.Valeur(2, "EVEN", '(' + shell::LibelleDeTag(session_.catalogue, type) + ')');
     if (const auto jour = SerieVersDate(base_.R_EVT.CleDateEvt(e)); jour)

@@ -8,6 +8,8 @@
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
+#include "values/Marqueurs.h"
+#include "values/SortesEvenement.h"
 #include "values/Texte1252.h"
 #include "values/TexteRiche.h"
 
@@ -18,23 +20,27 @@ namespace dorvane::interchange {
 
 namespace {
 
-constexpr std::string_view CodesFixes = "|¶$~@"_1252;
-
 constexpr std::array<std::string_view, 6> PartiesDuNom{"NPFX", "GIVN", "NICK",
                                                        "SPFX", "SURN", "NSFX"};
 constexpr std::array<std::string_view, 14> Attributs{"RESI", "CAST", "DSCR", "EDUC", "IDNO",
                                                      "NATI", "NCHI", "NMR",  "OCCU", "PROP",
                                                      "RELI", "SSN",  "TITL", "PEDI"};
-constexpr std::array<std::string_view, 19> Evenements{
-    "BURI", "CREM", "BAPM", "BASM", "BLES", "CHRA", "CONF", "FCOM", "ORDN", "NATU",
-    "EMIG", "IMMI", "CENS", "PROB", "WILL", "GRAD", "RETI", "ADOP", "BAPL"};
-constexpr std::array<std::string_view, 9> EvenementsDeFamille{
-    "ANUL", "CENS", "DIV", "DIVF", "ENGA", "MARB", "MARC", "MARL", "MARS"};
+/// Tags that the format has beside those of the kinds of events.
+constexpr std::array<std::string_view, 3> AutresEvenements{"BAPM", "CHRA", "BAPL"};
+constexpr std::string_view AutreEvenementDeFamille = "MARS";
 constexpr std::array<std::string_view, 6> Roles{"CHIL", "HUSB", "WIFE", "MOTH", "FATH", "SPOU"};
 
 template <std::size_t N>
 bool Contient(const std::array<std::string_view, N>& mots, std::string_view mot) {
     return std::ranges::find(mots, mot) != mots.end();
+}
+
+bool EstEvenement(std::string_view tag) {
+    return EstSorte(tag, UsageSorte::Individuelle) || Contient(AutresEvenements, tag);
+}
+
+bool EstEvenementDeFamille(std::string_view tag) {
+    return EstSorte(tag, UsageSorte::Familiale) || tag == AutreEvenementDeFamille;
 }
 
 bool FinitUnMot(char c) {
@@ -68,10 +74,9 @@ RedactionGedcom::RedactionGedcom(shell::Session& session, const OptionsGedcom& o
 void RedactionGedcom::ReleverCodes() {
     for (std::uint32_t k = 1; k <= base_.motsCles.Nombre(); ++k) {
         const storage::MotCle& type = base_.motsCles.LibelleType(NoMotCle{k});
-        const bool connu = Contient(Attributs, type.libelle) ||
-                           Contient(Evenements, type.libelle) ||
-                           Contient(EvenementsDeFamille, type.libelle);
-        if (connu && CodesFixes.find(type.symbole) == std::string_view::npos)
+        const bool connu = Contient(Attributs, type.libelle) || EstEvenement(type.libelle) ||
+                           EstEvenementDeFamille(type.libelle);
+        if (connu && !EstMarqueurFixe(type.symbole))
             codes_[static_cast<unsigned char>(type.symbole)] = true;
     }
 }
@@ -148,13 +153,13 @@ void RedactionGedcom::EcrireIndividu(NoOrdre n) {
     const storage::TexteDecoupe decoupe = storage::DecouperTexte(texte, definitionIndividu_);
     sortie_.Enregistrement('I', n.valeur, "INDI");
     EcrireNom(n, decoupe.slots);
-    const char sexe = base_.R_SEXE.LireCellule(n);
-    if (sexe == 'H' || sexe == 'F') sortie_.Valeur(1, "SEX", sexe == 'H' ? "M" : "F");
+    const Sexe sexe = base_.R_SEXE.LireCellule(n);
+    if (EstConnu(sexe)) sortie_.Valeur(1, "SEX", sexe == Sexe::Homme ? "M" : "F");
     EcrireRubriques(definitionIndividu_, decoupe.slots, Sujet::Individu, true);
     EcrireVie("BIRT", base_.R_NOM.JourMoisNaissance(n), base_.R_NAISS.LireCellule(n),
-              storage::LireLieu(texte, '$'));
+              storage::LireLieu(texte, marqueur::LieuNaissance));
     EcrireVie("DEAT", base_.R_NOM.JourMoisDeces(n), base_.R_DECES.LireCellule(n),
-              storage::LireLieu(texte, '~'));
+              storage::LireLieu(texte, marqueur::LieuDeces));
     EcrireRubriques(definitionIndividu_, decoupe.slots, Sujet::Individu, false);
     const std::string_view entier{texte};
     EcrireTexteLibre(entier.substr(0, entier.find('\r')), decoupe.note, Sujet::Individu);
@@ -208,7 +213,7 @@ void RedactionGedcom::EcrireRubrique(std::string_view tag, const storage::Valeur
     }
     // A christening has always gone out as a baptism, and comes back as what it was.
     const std::string_view connu = individu && tag == "CHR" ? "BAPM" : tag;
-    if (individu ? Contient(Evenements, connu) : Contient(EvenementsDeFamille, tag)) {
+    if (individu ? EstEvenement(connu) : EstEvenementDeFamille(tag)) {
         sortie_.Ligne(1, connu);
         sortie_.Valeur(2, "DATE", date);
         sortie_.Valeur(2, "PLAC", valeur.lieu);
@@ -232,7 +237,7 @@ bool RedactionGedcom::EcrireMotCle(std::string_view mot, Sujet sujet) {
         return true;
     }
     const bool evenement =
-        sujet == Sujet::Individu ? Contient(Evenements, tag) : Contient(EvenementsDeFamille, tag);
+        sujet == Sujet::Individu ? EstEvenement(tag) : EstEvenementDeFamille(tag);
     if (!evenement) return false;
     sortie_.Ligne(1, tag);
     sortie_.Valeur(2, "PLAC", valeur);

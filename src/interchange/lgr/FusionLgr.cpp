@@ -10,6 +10,7 @@
 #include "shell/Parametres.h"
 #include "storage/Base.h"
 #include "storage/ConstruireIndex.h"
+#include "values/Marqueurs.h"
 
 #include <algorithm>
 #include <optional>
@@ -82,8 +83,9 @@ public:
             return true;
         };
         static_cast<void>(poser_.Poser(suivre));
-        storage::AvancementMuet muet;
-        if (base_.entete.TypeTri != '0') static_cast<void>(base_.R_TRI.TrierIndividus(muet));
+        storage::ProgressionMuette muet;
+        if (base_.entete.TypeTri != TypeTri::Creation)
+            static_cast<void>(base_.R_TRI.TrierIndividus(muet));
         Indexer();
         for (shell::DeCujus& deCujus : session_.deCujus)
             deCujus.perime = deCujus.perime || static_cast<bool>(deCujus.individu);
@@ -100,7 +102,7 @@ private:
 
     /// Symbols of the keywords that have a word list now.
     std::string Indexes() {
-        std::string indexes = "|";
+        std::string indexes(1, marqueur::Nom);
         for (std::uint32_t k = 1; k <= base_.motsCles.Nombre(); ++k) {
             const storage::MotCle& type = base_.motsCles.LibelleType(NoMotCle{k});
             if (type.indexe) indexes += type.symbole;
@@ -149,7 +151,7 @@ private:
     // Building the lists anew is quick, but takes an entry for every word of the base. When these
     // run short the new words are entered one by one.
     void Indexer() {
-        storage::AvancementMuet muet;
+        storage::ProgressionMuette muet;
         const std::vector<NoMotCle> types = Types();
         std::size_t entrees = base_.entete.NbIndex + CompterMots(types);
         for (const NoMotCle k : types)

@@ -1,6 +1,6 @@
 #include "interchange/lgr/ImportLgr.h"
 
-#include "interchange/commun/PhaseDImport.h"
+#include "interchange/commun/OrdreImport.h"
 #include "interchange/lgr/LireLgr.h"
 #include "interchange/lgr/MotsClesLgr.h"
 #include "interchange/lgr/PoserLgr.h"
@@ -11,6 +11,7 @@
 #include "shell/FichierSur.h"
 #include "storage/Base.h"
 #include "storage/ConstruireIndex.h"
+#include "values/Marqueurs.h"
 
 #include <algorithm>
 #include <optional>
@@ -85,13 +86,12 @@ private:
 
     /// The file stands in the order of the base that wrote it.
     bool Trier() {
-        for (const char type : {'1', '2', '0'})
+        for (const TypeTri type : {TypeTri::Naissance, TypeTri::Nom, TypeTri::Creation})
             if (poser_.EstTriee(type)) {
                 base_.entete.TypeTri = type;
                 return true;
             }
-        PhaseDImport avancement{session_.progression};
-        return base_.R_TRI.TrierIndividus(poser_, avancement);
+        return TrierImport(session_, base_, poser_);
     }
 
     bool Indexer() {
@@ -103,15 +103,14 @@ private:
             const NoMotCle k{i};
             storage::MotCle type = base_.motsCles.LibelleType(k);
             const bool indexe =
-                type.symbole == '|' ||
+                type.symbole == marqueur::Nom ||
                 (contenu_.aIndex ? indexes.find(type.symbole) != std::string::npos : type.indexe);
             if (indexe)
                 types.push_back(k);
             else if (type.indexe)
                 base_.motsCles.CreerType(k, {type.symbole, type.libelle, false, {}});
         }
-        PhaseDImport avancement{session_.progression};
-        return storage::ConstruireIndex(base_, types, poser_, avancement);
+        return IndexerImport(session_, base_, types, poser_);
     }
 
     shell::Session& session_;

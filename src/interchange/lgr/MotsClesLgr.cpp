@@ -10,12 +10,6 @@
 namespace dorvane::interchange {
 namespace {
 
-constexpr char MarqueurNom = '|';
-constexpr char MarqueurPrenom = u'¶'_1252;
-
-/// Keywords whose words stand in the first line of a text only.
-constexpr std::string_view MarqueursPremiereLigne = "|¶$~@"_1252;
-
 /// What no keyword can have as its marker: it is part of words, or ends a record.
 bool EstInterdit(char c) {
     return static_cast<unsigned char>(c) <= ' ' || c == '-' || c == '#' || EstChiffre(c) ||
@@ -75,9 +69,7 @@ NoMotCle MotsClesLgr::Place() {
 void MotsClesLgr::FaireCeder(char marqueur, const ContenuLgr& contenu,
                              const shell::TableLibelles& libelles) {
     const NoMotCle k = base_.motsCles.TypeDuSymbole(marqueur);
-    if (!k || base_.entete.DernierIndividu != 0 ||
-        MarqueursPremiereLigne.find(marqueur) != std::string_view::npos)
-        return;
+    if (!k || base_.entete.DernierIndividu != 0 || EstMarqueurFixe(marqueur)) return;
     const std::string tag{libelles.TagDeLibelle(base_.motsCles.LibelleType(k).libelle)};
     const bool voulu = std::ranges::any_of(contenu.motsCles, [&](const MotCleLgr& m) {
         return libelles.TagDeLibelle(SansBlancs(m.libelle)) == tag;
@@ -88,7 +80,7 @@ void MotsClesLgr::FaireCeder(char marqueur, const ContenuLgr& contenu,
 
 void MotsClesLgr::Reprendre(const MotCleLgr& motCle, const ContenuLgr& contenu,
                             const shell::TableLibelles& libelles, RapportImport& rapport) {
-    if (motCle.marqueur == MarqueurNom || motCle.marqueur == MarqueurPrenom) {
+    if (motCle.marqueur == marqueur::Nom || motCle.marqueur == marqueur::Prenom) {
         types_.push_back(base_.motsCles.TypeDuSymbole(motCle.marqueur));
         return;
     }
@@ -114,8 +106,8 @@ void MotsClesLgr::Reprendre(const MotCleLgr& motCle, const ContenuLgr& contenu,
     const storage::MotCle type = base_.motsCles.LibelleType(k);
     table_[static_cast<unsigned char>(motCle.marqueur)] = type.symbole;
     change_ = change_ || type.symbole != motCle.marqueur;
-    if (libelle != type.libelle &&
-        MarqueursPremiereLigne.find(motCle.marqueur) == std::string_view::npos)
+    // The words of the fixed ones stand in the first line of a text only.
+    if (libelle != type.libelle && !EstMarqueurFixe(motCle.marqueur))
         libelles_.emplace_back(libelle, type.libelle);
 }
 
@@ -203,14 +195,14 @@ std::string NomsLgr::Adapter(std::string_view texte, std::string_view nomFamille
     std::string adapte{texte};
     if (prenom) {
         const std::string_view nets = SansBlancs(prenoms);
-        const std::size_t ou = RetirerMot(adapte, MarqueurPrenom, nets);
+        const std::size_t ou = RetirerMot(adapte, marqueur::Prenom, nets);
         const std::string mot = prenomUnique ? std::string{nets} : BlancsEnPoints(prenoms);
-        if (!mot.empty()) PoserMot(adapte, ou, MarqueurPrenom + mot);
+        if (!mot.empty()) PoserMot(adapte, ou, marqueur::Prenom + mot);
     }
     if (nom) {
-        const std::size_t ou = RetirerMot(adapte, MarqueurNom, {});
+        const std::size_t ou = RetirerMot(adapte, marqueur::Nom, {});
         const std::string cle = CleNom(nomFamille, regles);
-        if (!cle.empty()) PoserMot(adapte, ou, MarqueurNom + cle);
+        if (!cle.empty()) PoserMot(adapte, ou, marqueur::Nom + cle);
     }
     return adapte;
 }

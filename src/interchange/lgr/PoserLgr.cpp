@@ -6,6 +6,7 @@
 #include "shell/Parametres.h"
 #include "storage/Slots.h"
 #include "values/Comparaison.h"
+#include "values/Marqueurs.h"
 #include "values/Octets.h"
 #include "values/Texte1252.h"
 
@@ -136,13 +137,14 @@ std::string_view PoserLgr::TexteDIndividu(const IndividuLgr& lu, std::string_vie
         AjouterLieu(change, marqueur, storage::SansDiese(lieu));
         changer(std::move(change));
     };
-    placer('$', lu.lieuNaissance);
-    placer('~', lu.lieuDeces);
+    placer(marqueur::LieuNaissance, lu.lieuNaissance);
+    placer(marqueur::LieuDeces, lu.lieuDeces);
     return Garder(texte, lu.texte);
 }
 
 void PoserLgr::PoserSexeEtParents(const IndividuLgr& lu, NoOrdre n) {
-    base_.R_SEXE.EcrireCellule(n, lu.sexe == "H" || lu.sexe == "F" ? lu.sexe.front() : 'I');
+    base_.R_SEXE.EcrireCellule(
+        n, lu.sexe.size() == 1 ? SexeLu(static_cast<Sexe>(lu.sexe[0])) : Sexe::Indetermine);
     const ListesLgr::Parents& parents = listes_.ParentsDe(individus_.Place(lu.numero));
     const auto numero = [&](ListesLgr::Place place) {
         return NoOrdre{contenu_.individus[place].numero + decalageIndividus_};
@@ -155,8 +157,10 @@ void PoserLgr::PoserIndividu(const IndividuLgr& lu) {
     const NoOrdre n{lu.numero + decalageIndividus_};
     ChampsNom champs = CouperNom(lu.nom);
     IndividuLgr sans = lu;
-    if (PrendreAnnee(lu.lieuNaissance, lu.texte, '$', champs.naissance)) sans.lieuNaissance = {};
-    if (PrendreAnnee(lu.lieuDeces, lu.texte, '~', champs.deces)) sans.lieuDeces = {};
+    if (PrendreAnnee(lu.lieuNaissance, lu.texte, marqueur::LieuNaissance, champs.naissance))
+        sans.lieuNaissance = {};
+    if (PrendreAnnee(lu.lieuDeces, lu.texte, marqueur::LieuDeces, champs.deces))
+        sans.lieuDeces = {};
 
     std::string ligne{champs.noms[0]};
     ligne.append(";").append(champs.noms[1]).append(";").append(champs.noms[2]);
@@ -208,15 +212,17 @@ std::string_view PoserLgr::TexteDUnion(const UnionLgr& lue, std::string_view jou
         texte = neuf;
     }
     const std::string_view tete = PremiereLigne(texte);
-    const bool date = SansBlancs(tete.substr(0, tete.find('@'))) == SansBlancs(jourMois);
-    const bool lieu = SansBlancs(lue.lieu).empty() || !storage::LireLieu(texte, '@').empty();
+    const bool date =
+        SansBlancs(tete.substr(0, tete.find(marqueur::LieuMariage))) == SansBlancs(jourMois);
+    const bool lieu =
+        SansBlancs(lue.lieu).empty() || !storage::LireLieu(texte, marqueur::LieuMariage).empty();
     if (date && lieu) return Garder(texte, lue.texte);
     std::string change{texte};
     if (!date && !jourMois.empty()) {
         if (!change.empty()) change.insert(0, Retour);
         change.insert(0, storage::SansDiese(jourMois));
     }
-    if (!lieu) AjouterLieu(change, '@', storage::SansDiese(lue.lieu));
+    if (!lieu) AjouterLieu(change, marqueur::LieuMariage, storage::SansDiese(lue.lieu));
     return propres_.emplace_back(std::move(change));
 }
 
@@ -239,7 +245,7 @@ void PoserLgr::PoserUnion(std::uint32_t rang) {
     };
     DatesUnionLgr dates = LireDatesUnionLgr(lue.date);
     UnionLgr sans = lue;
-    if (PrendreAnnee(lue.lieu, lue.texte, '@', dates.debut)) sans.lieu = {};
+    if (PrendreAnnee(lue.lieu, lue.texte, marqueur::LieuMariage, dates.debut)) sans.lieu = {};
     base_.R_EPOUX.EcrireCellule(m, numero(couple.epoux));
     base_.R_EPOUSE.EcrireCellule(m, numero(couple.epouse));
     base_.R_DEBMAR.EcrireCellule(m, dates.debut.annee);
@@ -394,13 +400,13 @@ void PoserLgr::TextesDe(NoOrdre n, std::vector<std::string_view>& textes) {
         textes.push_back(textesUnions_[u]);
 }
 
-bool PoserLgr::EstTriee(char typeTri) {
+bool PoserLgr::EstTriee(TypeTri typeTri) {
     ReglesNoms regles = base_.regles;
     regles.deplacer = base_.entete.OptParticules;
     std::vector<NoOrdre> ordre;
     for (const std::uint32_t place : individus_.Ordre())
         ordre.emplace_back(contenu_.individus[place].numero);
-    return SontTries(*this, ordre, static_cast<TypeTri>(typeTri), regles);
+    return SontTries(*this, ordre, typeTri, regles);
 }
 
 }  // namespace dorvane::interchange

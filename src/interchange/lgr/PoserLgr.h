@@ -38,7 +38,7 @@ public:
     [[nodiscard]] storage::ElementTri ElementDe(NoOrdre n) override;
     void TextesDe(NoOrdre n, std::vector<std::string_view>& textes) override;
     /// The persons stand in the file in the order of `typeTri`.
-    [[nodiscard]] bool EstTriee(char typeTri);
+    [[nodiscard]] bool EstTriee(TypeTri typeTri);
 
     [[nodiscard]] NoDocument Document(std::uint32_t numero) const {
         return NoDocument{documents_.Connu(numero) ? numero + decalageDocuments_ : 0};

@@ -6,6 +6,7 @@
 #include "interchange/lgr/ReglagesLgr.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
+#include "values/Marqueurs.h"
 #include "values/Texte1252.h"
 
 namespace dorvane::interchange {
@@ -141,11 +142,11 @@ void RedactionLgr::EcrireIdentite(std::string& sortie, NoOrdre n) {
     ligne += ';';
     ligne += storage::SansDiese(EcrireDateLgr(nom.jourMoisDeces, base_.R_DECES.LireCellule(n)));
     Ligne(sortie, ligne);
-    const char sexe = base_.R_SEXE.LireCellule(n);
-    sortie.append(1, sexe == 'H' || sexe == 'F' ? sexe : ' ').append(Retour);
+    const Sexe sexe = base_.R_SEXE.LireCellule(n);
+    sortie.append(1, EstConnu(sexe) ? static_cast<char>(sexe) : ' ').append(Retour);
     const std::string_view texte = base_.R_TEXTE.LireTexte(n);
-    Ligne(sortie, storage::LireLieu(texte, '$'));
-    Ligne(sortie, storage::LireLieu(texte, '~'));
+    Ligne(sortie, storage::LireLieu(texte, marqueur::LieuNaissance));
+    Ligne(sortie, storage::LireLieu(texte, marqueur::LieuDeces));
     const NoOrdre pere = base_.R_PERE.LireCellule(n);
     const NoOrdre mere = base_.R_MERE.LireCellule(n);
     Ligne(sortie, Nombre(EstEcrit(pere) ? pere.valeur : 0));

@@ -6,6 +6,7 @@
 #include "messages/Releve.h"
 #include "shell/Libelles.h"
 #include "values/Comparaison.h"
+#include "values/SortesEvenement.h"
 #include "values/Texte1252.h"
 
 #include <algorithm>
@@ -124,12 +125,12 @@ private:
         return date;
     }
 
-    char LireSexe(std::string_view champ) {
+    Sexe LireSexe(std::string_view champ) {
         const std::string sexe = Replie(champ);
-        if (sexe == "H" || sexe == "M") return 'H';
-        if (sexe == "F") return 'F';
+        if (sexe == "H" || sexe == "M") return Sexe::Homme;
+        if (sexe == "F") return Sexe::Femme;
         if (!sexe.empty() && sexe != "I") Noter(message::RapportSexeIncompris);
-        return 'I';
+        return Sexe::Indetermine;
     }
 
     std::optional<Age> LireAgeDe(std::string_view champ) {
@@ -139,7 +140,7 @@ private:
     }
 
     /// A parent named in an act; one who is told to be dead died before it.
-    NoOrdre CreerParent(std::string_view nom, std::string_view prenoms, char sexe,
+    NoOrdre CreerParent(std::string_view nom, std::string_view prenoms, Sexe sexe,
                         const DateActe& date) {
         const ParentActe parent = LireParent(nom, prenoms);
         PersonneActe p;
@@ -165,19 +166,21 @@ private:
         enfant.naissance = date.date;
         const NoOrdre n = ecrivain_.Creer(enfant);
         const NoOrdre pere =
-            CreerParent(Champ(col::BapNomPere), Champ(col::BapPrenomsPere), 'H', date);
+            CreerParent(Champ(col::BapNomPere), Champ(col::BapPrenomsPere), Sexe::Homme, date);
         const NoOrdre mere =
-            CreerParent(Champ(col::BapNomMere), Champ(col::BapPrenomsMere), 'F', date);
+            CreerParent(Champ(col::BapNomMere), Champ(col::BapPrenomsMere), Sexe::Femme, date);
         ecrivain_.Rattacher(n, pere, mere);
 
-        std::string texte = Libelle("CHR") + "\r\nEnfant " + NomComplet(nom, prenoms);
-        if (enfant.sexe != 'I') texte.append(" Sexe : ").append(1, enfant.sexe);
+        std::string texte = Libelle(tag::Bapteme) + "\r\nEnfant " + NomComplet(nom, prenoms);
+        if (enfant.sexe != Sexe::Indetermine)
+            texte.append(" Sexe : ").append(1, static_cast<char>(enfant.sexe));
         AjouterLigne(texte, "\tPère "_1252,
                      NomComplet(Champ(col::BapNomPere), Champ(col::BapPrenomsPere)));
         AjouterLigne(texte, "\tMère "_1252,
                      NomComplet(Champ(col::BapNomMere), Champ(col::BapPrenomsMere)));
         AjouterLigne(texte, "", Champ(col::BapRemarques));
-        Inscrire({"CHR", date.serie, Champ(col::BapLieu), NomComplet(nom, prenoms), texte},
+        Inscrire({std::string{tag::Bapteme}, date.serie, Champ(col::BapLieu),
+                  NomComplet(nom, prenoms), texte},
                  {{n, "CHIL"}, {pere, "FATH"}, {mere, "MOTH"}});
         return true;
     }
@@ -191,9 +194,9 @@ private:
     };
 
     /// One side of a marriage: the partner, the parents, and the lines of the text.
-    Epoux LireEpoux(std::size_t premiere, char sexe, const DateActe& date) {
+    Epoux LireEpoux(std::size_t premiere, Sexe sexe, const DateActe& date) {
         const auto champ = [&](col::Epoux colonne) { return Champ(premiere + colonne); };
-        const bool homme = sexe == 'H';
+        const bool homme = sexe == Sexe::Homme;
         PersonneActe p;
         p.nom = champ(col::EpNom);
         p.prenoms = champ(col::EpPrenoms);
@@ -205,8 +208,8 @@ private:
         e.n = ecrivain_.Creer(p);
         // The column holds given names only: the surname is the child's.
         if (!champ(col::EpPrenomsPere).empty())
-            e.pere = CreerParent(p.nom, champ(col::EpPrenomsPere), 'H', date);
-        e.mere = CreerParent(champ(col::EpNomMere), champ(col::EpPrenomsMere), 'F', date);
+            e.pere = CreerParent(p.nom, champ(col::EpPrenomsPere), Sexe::Homme, date);
+        e.mere = CreerParent(champ(col::EpNomMere), champ(col::EpPrenomsMere), Sexe::Femme, date);
         ecrivain_.Rattacher(e.n, e.pere, e.mere);
 
         AjouterLigne(e.texte, homme ? "Epoux " : "Epouse ", e.nom);
@@ -231,19 +234,20 @@ private:
             return false;
         }
         const DateActe date = LireDate();
-        const Epoux epoux = LireEpoux(col::MarEpoux, 'H', date);
-        const Epoux epouse = LireEpoux(col::MarEpouse, 'F', date);
+        const Epoux epoux = LireEpoux(col::MarEpoux, Sexe::Homme, date);
+        const Epoux epouse = LireEpoux(col::MarEpouse, Sexe::Femme, date);
         if (ecrivain_.Unir(epoux.n, epouse.n, date.date, Champ(col::MarLieu))) ++rapport_.unions;
-        std::string texte = Libelle("MARR") + epoux.texte + epouse.texte;
+        std::string texte = Libelle(tag::Mariage) + epoux.texte + epouse.texte;
         AjouterLigne(texte, "", Champ(col::MarRemarques));
         std::string titre = epoux.nom;
         Ajouter(titre, epoux.nom.empty() ? "" : " - ", epouse.nom);
-        Inscrire({"MARR", date.serie, Champ(col::MarLieu), titre, texte}, {{epoux.n, "HUSB"},
-                                                                           {epouse.n, "WIFE"},
-                                                                           {epoux.pere, "FATH"},
-                                                                           {epoux.mere, "MOTH"},
-                                                                           {epouse.pere, "FATH"},
-                                                                           {epouse.mere, "MOTH"}});
+        Inscrire({std::string{tag::Mariage}, date.serie, Champ(col::MarLieu), titre, texte},
+                 {{epoux.n, "HUSB"},
+                  {epouse.n, "WIFE"},
+                  {epoux.pere, "FATH"},
+                  {epoux.mere, "MOTH"},
+                  {epouse.pere, "FATH"},
+                  {epouse.mere, "MOTH"}});
         return true;
     }
 
@@ -267,31 +271,32 @@ private:
         defunt.lieuInhumation = Champ(col::SepLieu);
         const NoOrdre n = ecrivain_.Creer(defunt);
         const NoOrdre pere =
-            CreerParent(Champ(col::SepNomPere), Champ(col::SepPrenomsPere), 'H', date);
+            CreerParent(Champ(col::SepNomPere), Champ(col::SepPrenomsPere), Sexe::Homme, date);
         const NoOrdre mere =
-            CreerParent(Champ(col::SepNomMere), Champ(col::SepPrenomsMere), 'F', date);
+            CreerParent(Champ(col::SepNomMere), Champ(col::SepPrenomsMere), Sexe::Femme, date);
         ecrivain_.Rattacher(n, pere, mere);
         PersonneActe autre;
         const ParentActe veuf =
             LireParent(Champ(col::SepNomConjoint), Champ(col::SepPrenomsConjoint));
         autre.nom = veuf.nom;
         autre.prenoms = veuf.prenoms;
-        autre.sexe = defunt.sexe == 'H' ? 'F' : defunt.sexe == 'F' ? 'H' : 'I';
+        const std::optional<Cote> sien = CoteDuSexe(defunt.sexe);
+        autre.sexe = sien ? SexeDuCote(AutreCote(*sien)) : Sexe::Indetermine;
         if (veuf.decede && !date.date.annee.empty()) autre.deces = {"BEF", date.date.annee};
         const NoOrdre conjoint = ecrivain_.Creer(autre);
-        if (defunt.sexe == 'F' ? ecrivain_.Unir(conjoint, n, {}, {})
-                               : ecrivain_.Unir(n, conjoint, {}, {}))
+        if (defunt.sexe == Sexe::Femme ? ecrivain_.Unir(conjoint, n, {}, {})
+                                       : ecrivain_.Unir(n, conjoint, {}, {}))
             ++rapport_.unions;
-        Inscrire({"BURI", date.serie, Champ(col::SepLieu), NomComplet(defunt.nom, defunt.prenoms),
-                  TexteSepulture(defunt.sexe)},
+        Inscrire({std::string{tag::Inhumation}, date.serie, Champ(col::SepLieu),
+                  NomComplet(defunt.nom, defunt.prenoms), TexteSepulture(defunt.sexe)},
                  {{n, "DEAD"}, {pere, "FATH"}, {mere, "MOTH"}, {conjoint, "SPOU"}});
         return true;
     }
 
-    [[nodiscard]] std::string TexteSepulture(char sexe) const {
-        std::string texte = Libelle("BURI");
+    [[nodiscard]] std::string TexteSepulture(Sexe sexe) const {
+        std::string texte = Libelle(tag::Inhumation);
         AjouterLigne(texte, "Défunt "_1252, NomComplet(Champ(col::SepNom), Champ(col::SepPrenoms)));
-        if (sexe != 'I') texte.append(" Sexe : ").append(1, sexe);
+        if (sexe != Sexe::Indetermine) texte.append(" Sexe : ").append(1, static_cast<char>(sexe));
         Ajouter(texte, " Age : ", Champ(col::SepAge));
         const bool ne = !Champ(col::SepDateNaissance).empty();
         Ajouter(texte, " Naissance : ", Champ(col::SepDateNaissance));
@@ -336,7 +341,7 @@ private:
             Noter(p.EstVide() ? message::RapportLigneSansNom : message::RapportSosaEnDouble);
             return false;
         }
-        p.sexe = sosa == 1 ? 'I' : sosa % 2 == 0 ? 'H' : 'F';
+        p.sexe = sosa == 1 ? Sexe::Indetermine : sosa % 2 == 0 ? Sexe::Homme : Sexe::Femme;
         p.naissance = LireDateLibre(Champ(col::AscDateNaissance));
         p.lieuNaissance = Champ(col::AscLieuNaissance);
         p.deces = LireDateLibre(Champ(col::AscDateDeces));

@@ -4,6 +4,8 @@
 #include "storage/ConstruireIndex.h"
 #include "storage/Textes.h"
 #include "values/Comparaison.h"
+#include "values/Marqueurs.h"
+#include "values/SortesEvenement.h"
 #include "values/Texte1252.h"
 
 #include <algorithm>
@@ -48,13 +50,15 @@ void CompteActes::CreerEvenement(const EvenementActe& /*evenement*/,
 
 EcrivainReleve::EcrivainReleve(storage::Base& base, SorteReleve sorte)
     : base_{base}, marqueurs_{base}, slots_{marqueurs_} {
-    std::vector<std::string_view> premiers{"FNAM"};
+    std::vector<std::string_view> premiers{tag::Prenom};
     if (sorte != SorteReleve::Ascendance) premiers.emplace_back("OFNM");
-    premiers.emplace_back("BIRN");
-    if (sorte == SorteReleve::Sepulture) premiers.emplace_back("BURI");
+    premiers.emplace_back(tag::Nom);
+    if (sorte == SorteReleve::Sepulture) premiers.emplace_back(tag::Inhumation);
     if (sorte != SorteReleve::Ascendance) marqueAutres_ = marqueurs_.Marqueur("OFNM");
-    if (sorte == SorteReleve::Sepulture) static_cast<void>(slots_.Trouver("BURI", "BURI", true));
-    if (sorte == SorteReleve::Ascendance) static_cast<void>(slots_.Trouver("OCCU", "OCCU", false));
+    if (sorte == SorteReleve::Sepulture)
+        static_cast<void>(slots_.Trouver(tag::Inhumation, tag::Inhumation, true));
+    if (sorte == SorteReleve::Ascendance)
+        static_cast<void>(slots_.Trouver(tag::Profession, tag::Profession, false));
 
     std::vector<NoMotCle> ordre;
     for (const std::string_view libelle : premiers)
@@ -102,18 +106,18 @@ std::string EcrivainReleve::Texte(const PersonneActe& p, const std::string& mots
         texte.append(1, marque).append(BlancsEnPoints(valeur));
     };
     jeton(marqueAutres_, autres);
-    jeton('$', p.lieuNaissance);
-    jeton('~', p.lieuDeces);
+    jeton(marqueur::LieuNaissance, p.lieuNaissance);
+    jeton(marqueur::LieuDeces, p.lieuDeces);
     texte += "\r\n";
 
     slots_.Vider();
     if (!p.inhumation.EstVide() || !p.lieuInhumation.empty()) {
-        const std::size_t rang = slots_.Trouver("BURI", "BURI", true);
+        const std::size_t rang = slots_.Trouver(tag::Inhumation, tag::Inhumation, true);
         if (rang != SlotsImport::Aucun)
             slots_.At(rang) = {true, p.inhumation, std::string{p.lieuInhumation}};
     }
     if (!p.profession.empty()) {
-        const std::size_t rang = slots_.Trouver("OCCU", "OCCU", false);
+        const std::size_t rang = slots_.Trouver(tag::Profession, tag::Profession, false);
         if (rang != SlotsImport::Aucun) slots_.At(rang) = {true, {}, std::string{p.profession}};
     }
     slots_.Composer(texte);
@@ -126,7 +130,7 @@ void EcrivainReleve::Rattacher(NoOrdre enfant, NoOrdre pere, NoOrdre mere) {
     base_.R_PERE.EcrireCellule(enfant, pere);
     base_.R_MERE.EcrireCellule(enfant, mere);
     for (const NoOrdre parent : {pere, mere})
-        if (parent) base_.R_ENFANT.ModifierListe(parent, enfant, 'A');
+        if (parent) base_.R_ENFANT.ModifierListe(parent, enfant, storage::ActionListe::Ajouter);
 }
 
 NoMariage EcrivainReleve::Unir(NoOrdre epoux, NoOrdre epouse, const DateLue& date,
@@ -139,10 +143,12 @@ NoMariage EcrivainReleve::Unir(NoOrdre epoux, NoOrdre epouse, const DateLue& dat
     if (!date.annee.empty()) base_.R_DEBMAR.EcrireCellule(m, date.annee);
     std::string texte = date.jourMois;
     if (!lieu.empty())
-        texte.append(texte.empty() ? "" : " ").append("@").append(BlancsEnPoints(lieu));
+        texte.append(texte.empty() ? "" : " ")
+            .append(1, marqueur::LieuMariage)
+            .append(BlancsEnPoints(lieu));
     base_.R_TXTMAR.EcrireTexte(m, storage::SansDiese(texte));
-    base_.R_MARIAG.ModifierListe(epoux, m, 'A');
-    base_.R_MARIAG.ModifierListe(epouse, m, 'A');
+    base_.R_MARIAG.ModifierListe(epoux, m, storage::ActionListe::Ajouter);
+    base_.R_MARIAG.ModifierListe(epouse, m, storage::ActionListe::Ajouter);
     return m;
 }
 
@@ -159,7 +165,7 @@ void EcrivainReleve::CreerEvenement(const EvenementActe& evenement,
                                                   std::string{evenement.tag}};
     base_.R_EVT.EcrireEvt(e, parties);
     for (const storage::LienEvenement& lien : participants)
-        base_.R_LSTEVT.ModifierListe(lien.individu, e, 'A', lien.role);
+        base_.R_LSTEVT.ModifierListe(lien.individu, e, storage::ActionListe::Ajouter, lien.role);
     base_.R_TRI.FixerRang(e.valeur, e);
     base_.entete.NbTriEvenements = e.valeur;
 }
@@ -176,7 +182,7 @@ void EcrivainReleve::CreerDocument(const std::string& titre, const std::string& 
 }
 
 void EcrivainReleve::Terminer() {
-    storage::AvancementMuet muet;  // at most 64000 persons: a fraction of a second
+    storage::ProgressionMuette muet;  // at most 64000 persons: a fraction of a second
     base_.entete.SlotsIndividu = slots_.PourEnTete({});
     base_.entete.SlotsMariage = {};
     base_.marques.ModifBase = true;

@@ -4,6 +4,7 @@
 #include "interchange/releves/LectureActe.h"
 #include "interchange/releves/Releve.h"
 #include "storage/Base.h"
+#include "values/Sexe.h"
 
 #include <cstdint>
 #include <optional>
@@ -17,7 +18,7 @@ namespace dorvane::interchange {
 struct PersonneActe {
     std::string_view nom;
     std::string_view prenoms;
-    char sexe = 'I';
+    Sexe sexe = Sexe::Indetermine;
     DateLue naissance{};
     std::string_view lieuNaissance{};
     DateLue deces{};

@@ -6,6 +6,7 @@
 #include "shell/Libelles.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
+#include "values/SortesEvenement.h"
 #include "values/Texte1252.h"
 
 #include <algorithm>
@@ -15,11 +16,11 @@ namespace dorvane::interchange {
 std::string NomReleve(const shell::Session& session, SorteReleve sorte) {
     switch (sorte) {
         case SorteReleve::Bapteme:
-            return shell::LibelleDeTag(session.catalogue, "CHR");
+            return shell::LibelleDeTag(session.catalogue, tag::Bapteme);
         case SorteReleve::Mariage:
-            return shell::LibelleDeTag(session.catalogue, "MARR");
+            return shell::LibelleDeTag(session.catalogue, tag::Mariage);
         case SorteReleve::Sepulture:
-            return shell::LibelleDeTag(session.catalogue, "BURI");
+            return shell::LibelleDeTag(session.catalogue, tag::Inhumation);
         case SorteReleve::Ascendance:
             break;
     }

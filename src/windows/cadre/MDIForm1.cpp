@@ -76,11 +76,11 @@ MDIForm1::MDIForm1(shell::Session& session)
     connect(graphe_, &FrmDebut::ficheDemandee, this,
             [this](quint32 individu) { OuvrirFiche(NoOrdre{individu}); });
     connect(graphe_, &FrmDebut::parentDemande, this,
-            [this](quint32 enfant, char cote, const QPoint& point) {
+            [this](quint32 enfant, Cote cote, const QPoint& point) {
                 MenuParent(NoOrdre{enfant}, cote, point);
             });
     connect(graphe_, &FrmDebut::parentDepose, this,
-            [this](quint32 enfant, char cote, quint32 parent) {
+            [this](quint32 enfant, Cote cote, quint32 parent) {
                 DeposerParent(NoOrdre{enfant}, cote, NoOrdre{parent});
             });
     connect(&Minuterie1_, &QTimer::timeout, this, &MDIForm1::Minuterie);

@@ -5,6 +5,7 @@
 
 #include "interchange/releves/Releve.h"
 #include "records/ModeleFamille.h"
+#include "values/Sexe.h"
 #include "windows/cadre/Commandes.h"
 #include "windows/graphe/PaletteGraphe.h"
 
@@ -131,10 +132,10 @@ private:
     void SupprimerIndividu();
     void Reglages();
     void OuvrirFiche(NoOrdre individu);
-    void MenuParent(NoOrdre enfant, char cote, const QPoint& point);
-    void CreerParent(NoOrdre enfant, char cote);
-    void ChercherParent(NoOrdre enfant, char cote);
-    void DeposerParent(NoOrdre enfant, char cote, NoOrdre parent);
+    void MenuParent(NoOrdre enfant, Cote cote, const QPoint& point);
+    void CreerParent(NoOrdre enfant, Cote cote);
+    void ChercherParent(NoOrdre enfant, Cote cote);
+    void DeposerParent(NoOrdre enfant, Cote cote, NoOrdre parent);
     void AllerDeCujus(int k);
     void ChoisirDeCujus(int k);
     void Agrandir();

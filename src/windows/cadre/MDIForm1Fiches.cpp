@@ -75,12 +75,12 @@ void MDIForm1::Reglages() {
 }
 
 /// A box of a parent who is not known: the parent is created, or looked for.
-void MDIForm1::MenuParent(NoOrdre enfant, char cote, const QPoint& point) {
+void MDIForm1::MenuParent(NoOrdre enfant, Cote cote, const QPoint& point) {
     if (!session_.base) return;
     auto* menu = new QMenu{this};
     menu->setObjectName(QStringLiteral("MnuParent"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const bool pere = cote == 'H';
+    const bool pere = cote == Cote::Pere;
     QAction* creer = menu->addAction(
         Icone("MnuNouvInd"),
         TexteEcran(session_, pere ? message::MenuCreerPere : message::MenuCreerMere));
@@ -95,7 +95,7 @@ void MDIForm1::MenuParent(NoOrdre enfant, char cote, const QPoint& point) {
     menu->popup(point);
 }
 
-void MDIForm1::CreerParent(NoOrdre enfant, char cote) {
+void MDIForm1::CreerParent(NoOrdre enfant, Cote cote) {
     if (!shell::CommandePermise(session_) || !session_.base) return;
     const NoOrdre parent = FrmCreation::Creer(
         session_, DepartDeParent(session_.base->R_NOM.NomDe(enfant), cote), this);
@@ -103,7 +103,7 @@ void MDIForm1::CreerParent(NoOrdre enfant, char cote) {
     RelireTout(nullptr);
 }
 
-void MDIForm1::ChercherParent(NoOrdre enfant, char cote) {
+void MDIForm1::ChercherParent(NoOrdre enfant, Cote cote) {
     if (!shell::CommandePermise(session_) || !session_.base) return;
     FrmPere choix{session_, enfant, cote, this};
     choix.exec();
@@ -111,7 +111,7 @@ void MDIForm1::ChercherParent(NoOrdre enfant, char cote) {
 }
 
 /// A person was dropped on the box of a parent who is not known.
-void MDIForm1::DeposerParent(NoOrdre enfant, char cote, NoOrdre parent) {
+void MDIForm1::DeposerParent(NoOrdre enfant, Cote cote, NoOrdre parent) {
     if (!shell::CommandePermise(session_) || !session_.base) return;
     if (records::DonnerParent(session_, enfant, cote, parent)) RelireTout(nullptr);
 }

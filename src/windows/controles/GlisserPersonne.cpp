@@ -55,7 +55,7 @@ void GlisserPersonne(QWidget& source, shell::Session& session, NoOrdre individu)
     if (!individu) return;
     auto* glisse = new QDrag{&source};
     glisse->setMimeData(PersonneVersMime(session, individu));
-    const char sexe = session.base->R_SEXE.LireCellule(individu);
+    const Sexe sexe = session.base->R_SEXE.LireCellule(individu);
     glisse->setPixmap(IconeSexe(sexe).pixmap(24, 24));
     glisse->exec(Qt::CopyAction);
 }

@@ -164,8 +164,8 @@ QIcon Icone(const char* nom) {
     return dessin == nullptr ? QIcon{} : QIcon{new Moteur{dessin->nom}};
 }
 
-QIcon IconeSexe(char sexe) {
-    return Icone(sexe == 'H' ? "SexeH" : sexe == 'F' ? "SexeF" : "SexeI");
+QIcon IconeSexe(Sexe sexe) {
+    return Icone(sexe == Sexe::Homme ? "SexeH" : sexe == Sexe::Femme ? "SexeF" : "SexeI");
 }
 
 QIcon IconeProgramme() {

@@ -4,6 +4,7 @@
 
 #include "records/SaisieFiche.h"
 #include "values/Numeros.h"
+#include "values/Sexe.h"
 #include "windows/controles/FenetreFille.h"
 #include "windows/fiche/PageFiche.h"
 
@@ -66,11 +67,11 @@ private:
     void AllerAuChamp(records::Champ champ);
     void Supprimer();
     void Voisin(int pas);
-    void ChercherParent(char cote);
-    void CreerParent(char cote);
-    void RetirerParent(char cote);
-    void DeposerParent(char cote, NoOrdre parent);
-    void AllerAuParent(char cote);
+    void ChercherParent(Cote cote);
+    void CreerParent(Cote cote);
+    void RetirerParent(Cote cote);
+    void DeposerParent(Cote cote, NoOrdre parent);
+    void AllerAuParent(Cote cote);
 
     std::unique_ptr<Ui::FrmMisajour> ui_;
     std::vector<PageFiche*> pages_;

@@ -60,7 +60,9 @@ void PageUnions::ChercherConjoint() {
 void PageUnions::CreerConjoint() {
     if (!Fiche().Preparer()) return;
     if (!records::PeutAvoirConjoint(S(), Individu(), records::Provenance::Cree)) return;
-    const char sexe = records::AutreCote(S().base->R_SEXE.LireCellule(Individu()));
+    // `PeutAvoirConjoint` has asked for a known sex.
+    const Cote sien = CoteDuSexe(S().base->R_SEXE.LireCellule(Individu())).value();
+    const Sexe sexe = SexeDuCote(AutreCote(sien));
     const NoOrdre partenaire = FrmCreation::Creer(S(), {.nom = {}, .sexe = sexe}, window());
     if (partenaire) Unir(partenaire);
 }
@@ -92,7 +94,7 @@ void PageUnions::CreerEnfant() {
     // The child of a woman bears another name as a rule: it is typed over.
     SaisieDepart depart;
     depart.nom = S().base->R_NOM.NomDe(Individu());
-    depart.nomIncertain = S().base->R_SEXE.LireCellule(Individu()) == 'F';
+    depart.nomIncertain = S().base->R_SEXE.LireCellule(Individu()) == Sexe::Femme;
     const NoOrdre enfant = FrmCreation::Creer(S(), depart, window());
     if (!enfant) return;
     // The person is there, even when the link was refused in the end.

@@ -188,12 +188,12 @@ void CaseGraphique::PeindreSigne(QPainter& peintre, const QColor& couleur) const
     };
     peintre.setPen(QPen{couleur, 1.5 * u, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin});
     peintre.setBrush(Qt::NoBrush);
-    if (contenu_.sexe == 'H') {
+    if (contenu_.sexe == Sexe::Homme) {
         peintre.drawEllipse(point(6, 10), 4 * u, 4 * u);
         peintre.drawLine(point(9, 7), point(14, 2));
         peintre.drawLine(point(10, 2), point(14, 2));
         peintre.drawLine(point(14, 2), point(14, 6));
-    } else if (contenu_.sexe == 'F') {
+    } else if (contenu_.sexe == Sexe::Femme) {
         peintre.drawEllipse(point(8, 5.5), 4 * u, 4 * u);
         peintre.drawLine(point(8, 9.5), point(8, 15));
         peintre.drawLine(point(5, 12.5), point(11, 12.5));

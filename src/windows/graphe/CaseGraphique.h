@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <QString>
 
+#include "values/Sexe.h"
 #include "windows/graphe/DessinFamille.h"
 #include "windows/graphe/PaletteGraphe.h"
 
@@ -26,7 +27,7 @@ struct ContenuCase {
     QString dates;
     QString numeros;  ///< those of the `De Cujus`; empty when there is none
     QString bulle;
-    char sexe = ' ';
+    Sexe sexe = Sexe::Vide;
     QPixmap vignette;
 };
 

@@ -5,6 +5,7 @@
 #include <QVariantAnimation>
 
 #include "records/ModeleFamille.h"
+#include "values/Sexe.h"
 #include "windows/graphe/CaseGraphique.h"
 #include "windows/graphe/DessinFamille.h"
 #include "windows/graphe/PaletteGraphe.h"
@@ -73,11 +74,11 @@ Q_SIGNALS:
     void personneDemandee(quint32 individu);
     /// A double click on the current person, or Enter.
     void ficheDemandee(quint32 individu);
-    /// A click on the box of a parent who is not known, at a point of the screen. `cote`: 'H' for
-    /// the father, 'F' for the mother.
-    void parentDemande(quint32 enfant, char cote, const QPoint& point);
+    /// A click on the box of a parent who is not known, at a point of the screen. on that
+    /// side.
+    void parentDemande(quint32 enfant, Cote cote, const QPoint& point);
     /// A person was dropped on such a box.
-    void parentDepose(quint32 enfant, char cote, quint32 parent);
+    void parentDepose(quint32 enfant, Cote cote, quint32 parent);
     /// The right button, or the menu key, at a point of the screen.
     void menuDemande(quint32 individu, const QPoint& point);
     /// An arrow key.
@@ -112,7 +113,7 @@ private:
     /// A parent who is not known: of whom, and on which side. Empty for other boxes.
     struct PlaceParent {
         NoOrdre enfant{};
-        char cote = ' ';
+        Cote cote = Cote::Pere;
     };
     [[nodiscard]] PlaceParent ParentInconnu(const CaseGraphique* boite) const;
     [[nodiscard]] QPointF CentreVoulu() const;

@@ -18,8 +18,8 @@ FrmDebut::PlaceParent FrmDebut::ParentInconnu(const CaseGraphique* boite) const 
     // The father's box comes before the mother's.
     for (std::size_t i = 0; i < boite->Indice(); ++i)
         if (cases[i].sorte == Sorte::Ascendant && cases[i].parent == place.parent)
-            return {cases[place.parent].individu, 'F'};
-    return {cases[place.parent].individu, 'H'};
+            return {cases[place.parent].individu, Cote::Mere};
+    return {cases[place.parent].individu, Cote::Pere};
 }
 
 void FrmDebut::mousePressEvent(QMouseEvent* evenement) {

@@ -4,6 +4,7 @@
 #include <QFont>
 
 #include "shell/Parametres.h"
+#include "values/Sexe.h"
 
 #include <optional>
 
@@ -41,8 +42,8 @@ struct PaletteGraphe {
     QColor accent;        ///< frame of the current person
     bool policesReglees;  ///< fonts of the settings instead of the desktop's
 
-    [[nodiscard]] const CouleursSexe& DeSexe(char sexe) const {
-        return sexe == 'H' ? homme : sexe == 'F' ? femme : indetermine;
+    [[nodiscard]] const CouleursSexe& DeSexe(Sexe sexe) const {
+        return sexe == Sexe::Homme ? homme : sexe == Sexe::Femme ? femme : indetermine;
     }
 };
 

@@ -91,9 +91,9 @@ void ChampsFiche::Attacher(shell::Session& session) {
     new Completeur{*ui_->T_Nom, session, records::mots::Noms};
     for (QLineEdit* champ : {ui_->T_Prénom, ui_->Tx_PrénomAutres})
         new Completeur{*champ, session, records::mots::Prenoms};
-    ui_->O_Sexe_0->setIcon(IconeSexe('H'));
-    ui_->O_Sexe_1->setIcon(IconeSexe('F'));
-    ui_->O_Sexe_2->setIcon(IconeSexe('I'));
+    ui_->O_Sexe_0->setIcon(IconeSexe(Sexe::Homme));
+    ui_->O_Sexe_1->setIcon(IconeSexe(Sexe::Femme));
+    ui_->O_Sexe_2->setIcon(IconeSexe(Sexe::Indetermine));
 }
 
 void ChampsFiche::Montrer(const records::SaisieFiche& fiche, bool garder) {
@@ -107,7 +107,7 @@ void ChampsFiche::Montrer(const records::SaisieFiche& fiche, bool garder) {
     RelireChamp(*ui_->TxtJDécès, fiche.jourMoisDeces, garder);
     RelireChamp(*ui_->T_Décès, fiche.anneeDeces, garder);
     RelireChamp(*ui_->TxtLieuDécès, fiche.lieuDeces, garder);
-    const bool sexeChange = garder && Sexe() != sexeStocke_;
+    const bool sexeChange = garder && SexeChoisi() != sexeStocke_;
     sexeStocke_ = fiche.sexe;
     if (!sexeChange) PoserSexe(fiche.sexe);
     montre_ = false;
@@ -118,7 +118,7 @@ void ChampsFiche::Lire(records::SaisieFiche& fiche, std::size_t& remplaces) cons
     fiche.nom = LireChamp(ui_->T_Nom->text(), remplaces);
     fiche.prenom = LireChamp(ui_->T_Prénom->text(), remplaces);
     fiche.autrePrenom = LireChamp(ui_->Tx_PrénomAutres->text(), remplaces);
-    fiche.sexe = Sexe();
+    fiche.sexe = SexeChoisi();
     fiche.jourMoisNaissance = LireChamp(ui_->TxtJNaiss->text(), remplaces);
     fiche.anneeNaissance = LireChamp(ui_->T_Naiss->text(), remplaces);
     fiche.lieuNaissance = LireChamp(ui_->TxtLieuNaiss->text(), remplaces);
@@ -140,7 +140,9 @@ void ChampsFiche::AllerAuChamp(Champ champ) {
             widget = ui_->Tx_PrénomAutres;
             break;
         case Champ::Sexe:
-            widget = Sexe() == 'H' ? ui_->O_Sexe_0 : Sexe() == 'F' ? ui_->O_Sexe_1 : ui_->O_Sexe_2;
+            widget = SexeChoisi() == Sexe::Homme   ? ui_->O_Sexe_0
+                     : SexeChoisi() == Sexe::Femme ? ui_->O_Sexe_1
+                                                   : ui_->O_Sexe_2;
             break;
         case Champ::JourMoisNaissance:
             widget = ui_->TxtJNaiss;
@@ -159,8 +161,11 @@ void ChampsFiche::AllerAuChamp(Champ champ) {
     if (auto* texte = qobject_cast<QLineEdit*>(widget)) texte->selectAll();
 }
 
-void ChampsFiche::PoserSexe(char sexe) {
-    (sexe == 'H' ? ui_->O_Sexe_0 : sexe == 'F' ? ui_->O_Sexe_1 : ui_->O_Sexe_2)->setChecked(true);
+void ChampsFiche::PoserSexe(Sexe sexe) {
+    (sexe == Sexe::Homme   ? ui_->O_Sexe_0
+     : sexe == Sexe::Femme ? ui_->O_Sexe_1
+                           : ui_->O_Sexe_2)
+        ->setChecked(true);
 }
 
 void ChampsFiche::LibererSexe(bool libre) {
@@ -177,8 +182,10 @@ QWidget& ChampsFiche::DernierChamp() const {
     return *ui_->TxtLieuDécès;
 }
 
-char ChampsFiche::Sexe() const {
-    return ui_->O_Sexe_0->isChecked() ? 'H' : ui_->O_Sexe_1->isChecked() ? 'F' : 'I';
+Sexe ChampsFiche::SexeChoisi() const {
+    return ui_->O_Sexe_0->isChecked()   ? Sexe::Homme
+           : ui_->O_Sexe_1->isChecked() ? Sexe::Femme
+                                        : Sexe::Indetermine;
 }
 
 void ChampsFiche::Changer() {
@@ -186,7 +193,7 @@ void ChampsFiche::Changer() {
     for (QLineEdit* champ : findChildren<QLineEdit*>())
         MarquerChamp(*champ, *session_);
     for (QRadioButton* option : {ui_->O_Sexe_0, ui_->O_Sexe_1, ui_->O_Sexe_2})
-        MarquerModifie(*option, option->isChecked() && Sexe() != sexeStocke_, *session_);
+        MarquerModifie(*option, option->isChecked() && SexeChoisi() != sexeStocke_, *session_);
     AviserDates();
     Q_EMIT change();
 }

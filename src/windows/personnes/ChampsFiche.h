@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "records/SaisieFiche.h"
+#include "values/Sexe.h"
 
 #include <cstddef>
 #include <memory>
@@ -55,7 +56,7 @@ public:
     void Lire(records::SaisieFiche& fiche, std::size_t& remplaces) const;
 
     void AllerAuChamp(records::Champ champ);
-    void PoserSexe(char sexe);
+    void PoserSexe(Sexe sexe);
     /// The sex may be changed by the user.
     void LibererSexe(bool libre);
     void Traduire();
@@ -69,11 +70,11 @@ Q_SIGNALS:
 private:
     void Changer();
     void AviserDates();
-    [[nodiscard]] char Sexe() const;
+    [[nodiscard]] Sexe SexeChoisi() const;
 
     std::unique_ptr<Ui::ChampsFiche> ui_;
     shell::Session* session_ = nullptr;
-    char sexeStocke_ = 'I';
+    Sexe sexeStocke_ = Sexe::Indetermine;
     bool montre_ = false;  ///< `Montrer` is at work
 };
 

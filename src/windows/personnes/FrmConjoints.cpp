@@ -7,7 +7,7 @@ namespace dorvane::windows {
 FrmConjoints::FrmConjoints(shell::Session& session, NoOrdre individu, QWidget* parent)
     : FenetreChoix{session,
                    QStringLiteral("FrmConjoints"),
-                   {records::SorteChoix::Conjoint, individu, ' '},
+                   {records::SorteChoix::Conjoint, individu, Sexe::Vide},
                    {},
                    parent} {}
 

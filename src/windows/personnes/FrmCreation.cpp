@@ -16,11 +16,11 @@ constexpr int LargeurInitiale = 940;
 
 }  // namespace
 
-SaisieDepart DepartDeParent(const std::string& nomEnfant, char cote) {
+SaisieDepart DepartDeParent(const std::string& nomEnfant, Cote cote) {
     SaisieDepart depart;
     depart.nom = nomEnfant;
-    depart.sexe = cote;
-    depart.nomIncertain = cote == 'F';
+    depart.sexe = SexeDuCote(cote);
+    depart.nomIncertain = cote == Cote::Mere;
     return depart;
 }
 
@@ -35,7 +35,7 @@ FrmCreation::FrmCreation(shell::Session& session, const SaisieDepart& depart, QW
     ui_->LblFaits->setVisible(!ui_->Rangées->EstVide());
     depart_.nom = depart.nom;
     depart_.prenom = depart.prenom;
-    depart_.sexe = depart.sexe == 'H' || depart.sexe == 'F' ? depart.sexe : 'I';
+    depart_.sexe = SexeLu(depart.sexe);
     depart_.jourMoisNaissance = depart.jourMoisNaissance;
     depart_.anneeNaissance = depart.anneeNaissance;
     depart_.lieuNaissance = depart.lieuNaissance;
@@ -43,7 +43,7 @@ FrmCreation::FrmCreation(shell::Session& session, const SaisieDepart& depart, QW
     depart_.jourMoisDeces = depart.jourMoisDeces;
     depart_.lieuDeces = depart.lieuDeces;
     ui_->Champs->Montrer(depart_);
-    ui_->Champs->LibererSexe(depart_.sexe == 'I');
+    ui_->Champs->LibererSexe(depart_.sexe == Sexe::Indetermine);
     connect(ui_->Champs, &ChampsFiche::change, this, [this] {
         std::size_t remplaces = 0;
         const records::SaisieFiche fiche = Lire(remplaces);

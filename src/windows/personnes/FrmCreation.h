@@ -4,6 +4,7 @@
 
 #include "records/SaisieFiche.h"
 #include "values/Numeros.h"
+#include "values/Sexe.h"
 #include "windows/controles/FenetreFille.h"
 
 #include <memory>
@@ -18,7 +19,8 @@ namespace dorvane::windows {
 /// What the form of a new person starts with; texts in code page 1252.
 struct SaisieDepart {
     std::string nom{};
-    char sexe = 'I';  ///< 'H' or 'F': the person must be of that sex; 'I': the user chooses
+    Sexe sexe = Sexe::Indetermine;  ///< `Indetermine`: the user chooses; else the person must be of
+                                    ///< that sex
     std::string prenom{};
     std::string jourMoisNaissance{};
     std::string anneeNaissance{};
@@ -30,7 +32,7 @@ struct SaisieDepart {
 };
 
 /// What the form of a parent starts with: the surname of the child, which is a guess for a mother.
-[[nodiscard]] SaisieDepart DepartDeParent(const std::string& nomEnfant, char cote);
+[[nodiscard]] SaisieDepart DepartDeParent(const std::string& nomEnfant, Cote cote);
 
 /// "FrmCréation": makes a person. Modal: shown by `exec`, which answers `Accepted` once the person
 /// is made.

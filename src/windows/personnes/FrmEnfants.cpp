@@ -8,7 +8,7 @@ namespace dorvane::windows {
 FrmEnfants::FrmEnfants(shell::Session& session, NoOrdre individu, QWidget* parent)
     : FenetreChoix{session,
                    QStringLiteral("FrmEnfants"),
-                   {records::SorteChoix::Enfant, individu, ' '},
+                   {records::SorteChoix::Enfant, individu, Sexe::Vide},
                    session.base->R_NOM.NomDe(individu),
                    parent} {}
 

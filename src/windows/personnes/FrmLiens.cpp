@@ -7,7 +7,7 @@ namespace dorvane::windows {
 FrmLiens::FrmLiens(shell::Session& session, NoOrdre individu, QWidget* parent)
     : FenetreChoix{session,
                    QStringLiteral("FrmLiens"),
-                   {records::SorteChoix::Lien, individu, ' '},
+                   {records::SorteChoix::Lien, individu, Sexe::Vide},
                    {},
                    parent} {}
 

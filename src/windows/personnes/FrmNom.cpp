@@ -71,7 +71,7 @@ void FrmNom::Traduire() {
     FenetreFille::Traduire();
     if (!demande_.titre.EstVide())
         setWindowTitle(TexteEcran(S().catalogue.Composer(demande_.titre)));
-    const bool parAnnee = S().BaseOuverte() && S().base->entete.TypeTri == '1';
+    const bool parAnnee = S().BaseOuverte() && S().base->entete.TypeTri == TypeTri::Naissance;
     ui_->LblPosition->setText(
         TexteEcran(S(), parAnnee ? message::AllerALAnnee : message::AllerAuNom));
     ui_->TxPosition->setPlaceholderText(

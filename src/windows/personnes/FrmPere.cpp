@@ -6,17 +6,17 @@
 
 namespace dorvane::windows {
 
-FrmPere::FrmPere(shell::Session& session, NoOrdre enfant, char sexe, QWidget* parent)
+FrmPere::FrmPere(shell::Session& session, NoOrdre enfant, Cote cote, QWidget* parent)
     : FenetreChoix{session,
                    QStringLiteral("FrmPère"),
-                   {records::SorteChoix::Parent, enfant, sexe},
+                   {records::SorteChoix::Parent, enfant, SexeDuCote(cote)},
                    session.base->R_NOM.NomDe(enfant),
                    parent},
       enfant_{enfant},
-      sexe_{sexe} {}
+      cote_{cote} {}
 
 bool FrmPere::Prendre(NoOrdre individu) {
-    return records::DonnerParent(S(), enfant_, sexe_, individu);
+    return records::DonnerParent(S(), enfant_, cote_, individu);
 }
 
 }  // namespace dorvane::windows

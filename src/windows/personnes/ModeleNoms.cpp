@@ -44,7 +44,7 @@ std::string ModeleNoms::Cle(std::uint32_t numero, int colonne) const {
         case Dates:
             return S().base->R_NAISS.AnneeTri(individu);
         case Sexe:
-            return std::string(1, S().base->R_SEXE.LireCellule(individu));
+            return std::string(1, static_cast<char>(S().base->R_SEXE.LireCellule(individu)));
         case Famille:
             return std::to_string(static_cast<int>(FamilleDe(individu)));
         default:
@@ -57,8 +57,7 @@ void ModeleNoms::sort(int colonne, Qt::SortOrder ordre) {
 }
 
 bool ModeleNoms::Positionnable() const {
-    const char tri = S().base ? S().base->entete.TypeTri : '0';
-    return !choix_ && (tri == '1' || tri == '2');
+    return !choix_ && S().base && AUneCle(S().base->entete.TypeTri);
 }
 
 int ModeleNoms::Position(const QString& texte) const {
@@ -108,10 +107,10 @@ QString ModeleNoms::Bulle(NoOrdre individu, int colonne) const {
                                                 : message::BulleParentsInconnus);
         }
         case Sexe: {
-            const char sexe = S().base->R_SEXE.LireCellule(individu);
-            return TexteEcran(S(), sexe == 'H'   ? message::SexeMasculin
-                                   : sexe == 'F' ? message::SexeFeminin
-                                                 : message::SexeIndetermine);
+            const dorvane::Sexe sexe = S().base->R_SEXE.LireCellule(individu);
+            return TexteEcran(S(), sexe == dorvane::Sexe::Homme   ? message::SexeMasculin
+                                   : sexe == dorvane::Sexe::Femme ? message::SexeFeminin
+                                                                  : message::SexeIndetermine);
         }
         case Famille: {
             switch (FamilleDe(individu)) {

@@ -29,7 +29,7 @@ namespace {
 
 enum Colonnes { Role, Sexe, Obligatoire, NbColonnes };
 constexpr int LargeurColonne = 96;
-constexpr std::array<char, 3> Sexes{' ', 'H', 'F'};
+constexpr std::array Sexes{dorvane::Sexe::Vide, dorvane::Sexe::Homme, dorvane::Sexe::Femme};
 
 }  // namespace
 
@@ -81,7 +81,7 @@ ParametreEvenements::ParametreEvenements(shell::Session& session, QWidget* paren
     connect(types_, &ListeOrdonnee::ajoutDemande, this, &ParametreEvenements::AjouterType);
     connect(type_, &QLineEdit::returnPressed, this, &ParametreEvenements::AjouterType);
     connect(ajouterRole_, &QToolButton::clicked, this, [this] {
-        AjouterRole({false, ' ', {}});
+        AjouterRole({false, dorvane::Sexe::Vide, {}});
         roles_->setCurrentCell(roles_->rowCount() - 1, Role);
         roles_->cellWidget(roles_->rowCount() - 1, Role)->setFocus();
     });
@@ -131,7 +131,7 @@ void ParametreEvenements::AjouterType() {
             return type_->selectAll();
         }
     GarderRoles(remplaces_);
-    evenements_.push_back({type, {{true, ' ', "MAIN"}}});
+    evenements_.push_back({type, {{true, dorvane::Sexe::Vide, "MAIN"}}});
     types_->Ajouter({Affiche(type), static_cast<int>(evenements_.size()) - 1});
     type_->clear();
 }

@@ -18,6 +18,7 @@
 #include "storage/Base.h"
 #include "values/Comparaison.h"
 #include "values/FormesNom.h"
+#include "values/SortesEvenement.h"
 #include "windows/controles/ChampSuivi.h"
 #include "windows/controles/Icones.h"
 #include "windows/controles/Legendes.h"
@@ -30,7 +31,8 @@ namespace dorvane::windows {
 
 namespace {
 
-constexpr std::array<const char*, 6> Jetons{"FNAM", "BIRN", "OFNM", "NUMB", "FATN", "MOTN"};
+constexpr std::array Jetons{tag::Prenom,  tag::Nom,       tag::AutresPrenoms,
+                            tag::Numeros, tag::NomDuPere, tag::NomDeLaMere};
 constexpr std::array<NoMessage, 6> MessagesJetons{
     message::ElementPrenoms,       message::ElementNom,       message::ElementAutresPrenoms,
     message::ElementNumeroDeCujus, message::ElementNomDuPere, message::ElementNomDeLaMere};
@@ -108,14 +110,14 @@ ParametreNoms::ParametreNoms(shell::Session& session, QWidget* parent)
 
 QString ParametreNoms::TexteJeton(const QString& jeton) const {
     for (std::size_t i = 0; i < Jetons.size(); ++i)
-        if (jeton == QLatin1String{Jetons[i]}) return TexteEcran(S(), MessagesJetons[i]);
+        if (jeton == TexteVersQt(Jetons[i])) return TexteEcran(S(), MessagesJetons[i]);
     return TexteVersQt(shell::LibelleDeTag(S().catalogue, QtVersTexte(jeton).octets));
 }
 
 void ParametreNoms::FaireJetons() {
     const int rang = jetons_->currentIndex();
     jetons_->clear();
-    for (const char* jeton : Jetons)
+    for (const std::string_view jeton : Jetons)
         jetons_->addItem(TexteJeton(QLatin1String{jeton}), QString{QLatin1String{jeton}});
     if (S().base)
         for (const records::LigneMotCle& mot : records::ListerMotsCles(S())) {
@@ -157,7 +159,7 @@ void ParametreNoms::MontrerExemple() {
 }
 
 void ParametreNoms::Charger(const shell::Reglages& r) {
-    const int tri = r.typeTri - '0';
+    const int tri = static_cast<char>(r.typeTri) - '0';
     tris_[static_cast<std::size_t>(qBound(0, tri, 2))]->setChecked(true);
     QList<ListeOrdonnee::Entree> entrees;
     for (const std::string& jeton : LireModeleNom(r.generaux.affichageNom)) {
@@ -178,7 +180,7 @@ void ParametreNoms::Charger(const shell::Reglages& r) {
 
 std::size_t ParametreNoms::Lire(shell::Reglages& r) {
     for (std::size_t i = 0; i < tris_.size(); ++i)
-        if (tris_[i]->isChecked()) r.typeTri = static_cast<char>('0' + i);
+        if (tris_[i]->isChecked()) r.typeTri = static_cast<TypeTri>('0' + i);
     // A template without tokens would leave every person without a name.
     if (const std::string modele = Modele(); !modele.empty()) r.generaux.affichageNom = modele;
     r.base.conversionNom = CasseDe(*casses_[0]);

@@ -22,9 +22,9 @@ namespace {
 /// A base of a family, and its exchange text.
 struct Fusion : EssaiLgr {
     Fusion() {
-        const NoOrdre jean = F().Creer('H', "Dupont", "Jean", "1820");
-        const NoOrdre anne = F().Creer('F', "Le Goff", "Anne", "1825");
-        const NoOrdre luc = F().Creer('H', "Dupont", "Luc", "1850");
+        const NoOrdre jean = F().Creer(Sexe::Homme, "Dupont", "Jean", "1820");
+        const NoOrdre anne = F().Creer(Sexe::Femme, "Le Goff", "Anne", "1825");
+        const NoOrdre luc = F().Creer(Sexe::Homme, "Dupont", "Luc", "1850");
         F().Parents(luc, jean, anne);
         const NoMariage m = F().Marier(jean, anne, "1848");
         Ecrire(jean, "|Dupont \xB6Jean $Brest\r\nNote.");
@@ -34,9 +34,9 @@ struct Fusion : EssaiLgr {
             B().R_INDEX.MajIndex(n, {}, "@Brest");
         F().Lier(jean, luc, "ami");
         F().Lier(luc, jean, "ami");
-        B().R_LSTIMG.ModifierListe(luc, Document("Photo"), 'A');
+        B().R_LSTIMG.ModifierListe(luc, Document("Photo"), storage::ActionListe::Ajouter);
         Participer(Evenement(-20000, "CHR"), luc, "CHIL");
-        B().R_LSTIMG.ModifierListe(anne, Document("Acte"), 'A');
+        B().R_LSTIMG.ModifierListe(anne, Document("Acte"), storage::ActionListe::Ajouter);
         texte = Exporter();
     }
     void Ecrire(NoOrdre n, const std::string& nouveau) {
@@ -337,7 +337,7 @@ TEST_CASE_FIXTURE(Fusion, "The backup is the base as it was before, what was not
     CHECK(B().entete.NbTriIndividus == 6);
     const std::filesystem::path copie = shell::CheminSauvegarde(session.CheminBase);
     REQUIRE(std::filesystem::exists(copie));
-    storage::AvancementMuet muet;
+    storage::ProgressionMuette muet;
     const auto sauvee = storage::OuvrirBase(disque, copie, muet).base;
     REQUIRE(sauvee != nullptr);
     CHECK(storage::Inventaire{*sauvee}.Texte() == avant);
@@ -352,7 +352,7 @@ TEST_CASE_FIXTURE(Fusion, "Without the backup that was asked for nothing is merg
     IntegrerFichier(session, fichier);
     CHECK(dialogue.entendu.back().no == message::SauvegardeNonEcriteBaseFermee);
     CHECK_FALSE(session.BaseOuverte());
-    storage::AvancementMuet muet;
+    storage::ProgressionMuette muet;
     const auto base = storage::OuvrirBase(disque, ouverte, muet).base;
     REQUIRE(base != nullptr);
     CHECK(base->entete.NbTriIndividus == 3);

@@ -22,12 +22,12 @@ constexpr NoOrdre Paul{3};
 /// Paul's christening, an event with a picture, and an event that hangs on nobody.
 struct Depart : doublures::FicheEssai {
     Depart() {
-        const NoOrdre louis = F().Creer('H', "Martin", "Louis", "1790");
-        const NoOrdre rose = F().Creer('F', "Blanc", "Rose", "1795");
-        const NoOrdre paul = F().Creer('H', "Martin", "Paul", "1820");
-        const NoOrdre luc = F().Creer('H', "Martin", "Luc", "1822");
-        const NoOrdre anne = F().Creer('F', "\xC9vrard", "Anne", "1825");
-        const NoOrdre jean = F().Creer('H', "Martin", "Jean", "1901");
+        const NoOrdre louis = F().Creer(Sexe::Homme, "Martin", "Louis", "1790");
+        const NoOrdre rose = F().Creer(Sexe::Femme, "Blanc", "Rose", "1795");
+        const NoOrdre paul = F().Creer(Sexe::Homme, "Martin", "Paul", "1820");
+        const NoOrdre luc = F().Creer(Sexe::Homme, "Martin", "Luc", "1822");
+        const NoOrdre anne = F().Creer(Sexe::Femme, "\xC9vrard", "Anne", "1825");
+        const NoOrdre jean = F().Creer(Sexe::Homme, "Martin", "Jean", "1901");
         F().Marier(louis, rose);
         F().Marier(paul, anne);
         F().Parents(paul, louis, rose);
@@ -50,7 +50,7 @@ struct Depart : doublures::FicheEssai {
         parties.documents = std::move(documents);
         if (participant) {
             parties.liens = {{participant, "CHIL"}};
-            B().R_LSTEVT.ModifierListe(participant, e, 'A');
+            B().R_LSTEVT.ModifierListe(participant, e, storage::ActionListe::Ajouter);
         }
         B().R_EVT.EcrireEvt(e, parties);
         B().R_TRI.AjouterEvt(e);
@@ -175,7 +175,7 @@ TEST_CASE_FIXTURE(Depart, "CompterExport: what it counts is what both writers wr
     Document("Libre");
     Evenement(Paul, {acte});
     Evenement(NoOrdre{});
-    B().R_LSTIMG.ModifierListe(Rose, photo, 'A');
+    B().R_LSTIMG.ModifierListe(Rose, photo, storage::ActionListe::Ajouter);
     for (const FormatExport format : {FormatExport::Gedcom, FormatExport::Dorvane})
         for (const int cas : {0, 1, 2, 3, 4}) {
             CAPTURE(cas);
@@ -242,7 +242,7 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: giving up the file dialog writes and sa
 
 TEST_CASE_FIXTURE(Depart, "LancerExport: a stopped export leaves the former file, and its rest") {
     for (int i = 0; i < 200; ++i)
-        F().Creer('H', "Durand", "Jean", "1850");
+        F().Creer(Sexe::Homme, "Durand", "Jean", "1850");
     doublures::EcrireFichier(dossier / "Famille.ged", "former");
     const std::filesystem::path partiel = shell::CheminPartiel(dossier / "Famille.ged");
     progression.annulerAu = progression.pas + 2;

@@ -16,15 +16,15 @@ namespace {
 /// Two bases that hold the same.
 struct Jumelles : EssaiLgr {
     Jumelles() {
-        const NoOrdre jean = F().Creer('H', "Dupont", "Jean", "1820", "1890");
-        const NoOrdre anne = F().Creer('F', "Le Goff", "Anne", "1825");
-        const NoOrdre luc = F().Creer('H', "Dupont", "Luc", "1850");
-        F().Creer('F', "Dupont", "Eve", "1852");
+        const NoOrdre jean = F().Creer(Sexe::Homme, "Dupont", "Jean", "1820", "1890");
+        const NoOrdre anne = F().Creer(Sexe::Femme, "Le Goff", "Anne", "1825");
+        const NoOrdre luc = F().Creer(Sexe::Homme, "Dupont", "Luc", "1850");
+        F().Creer(Sexe::Femme, "Dupont", "Eve", "1852");
         F().Parents(luc, jean, anne);
         F().Marier(jean, anne, "1848");
         F().Lier(jean, luc, "ami");
         F().Lier(luc, jean, "ami");
-        B().R_LSTIMG.ModifierListe(luc, Document("Photo"), 'A');
+        B().R_LSTIMG.ModifierListe(luc, Document("Photo"), storage::ActionListe::Ajouter);
         Participer(Evenement(-20000, "CHR"), luc, "CHIL");
         B().R_INDEX.MajIndex(jean, {}, "|Dupont");
         B().R_TEXTE.EcrireTexte(jean, "|Dupont");
@@ -66,7 +66,7 @@ TEST_CASE_FIXTURE(Jumelles, "ComparerBases: fields of a person") {
         Voit("death year", [](Base& b) { b.R_DECES.EcrireCellule(Jean, ""); });
     }
     SUBCASE("sex") {
-        Voit("sex 3", [](Base& b) { b.R_SEXE.EcrireCellule(Luc, 'I'); });
+        Voit("sex 3", [](Base& b) { b.R_SEXE.EcrireCellule(Luc, Sexe::Indetermine); });
     }
     SUBCASE("text") {
         Voit("text 1", [](Base& b) { b.R_TEXTE.EcrireTexte(Jean, "|Dupont "); });
@@ -89,7 +89,9 @@ TEST_CASE_FIXTURE(Jumelles, "ComparerBases: fields of a person") {
 TEST_CASE_FIXTURE(Jumelles, "ComparerBases: lists of a person") {
     using storage::Base;
     SUBCASE("children") {
-        Voit("children 1", [](Base& b) { b.R_ENFANT.ModifierListe(Jean, NoOrdre{4}, 'A'); });
+        Voit("children 1", [](Base& b) {
+            b.R_ENFANT.ModifierListe(Jean, NoOrdre{4}, storage::ActionListe::Ajouter);
+        });
     }
     SUBCASE("unions") {
         Voit("unions 1", [](Base& b) { b.R_MARIAG.EcrireListe(Jean, {}); });
@@ -98,11 +100,10 @@ TEST_CASE_FIXTURE(Jumelles, "ComparerBases: lists of a person") {
         Voit("documents 3", [](Base& b) { b.R_LSTIMG.EcrireListe(Luc, {}); });
     }
     SUBCASE("links") {
-        Voit("links 1", [](Base& b) { b.R_LIEN.ModifierListe(Jean, NoOrdre{1}, 'M', "voisin"); });
+        Voit("links 1", [](Base& b) { b.R_LIEN.ChangerTexte(Jean, 1, "voisin"); });
     }
     SUBCASE("events") {
-        Voit("events 3",
-             [](Base& b) { b.R_LSTEVT.ModifierListe(Luc, NoEvenement{1}, 'M', "WITN"); });
+        Voit("events 3", [](Base& b) { b.R_LSTEVT.ChangerTexte(Luc, 1, "WITN"); });
     }
 }
 

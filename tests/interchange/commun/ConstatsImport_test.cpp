@@ -55,7 +55,7 @@ TEST_CASE_FIXTURE(Bureau,
     Importer(
         "0 @I1@ INDI\n1 SEX F\n0 @I2@ INDI\n0 @I3@ INDI\n1 SEX M\n0 @F1@ FAM\n1 HUSB @I1@\n"
         "1 WIFE @I2@\n1 CHIL @I3@\n");
-    CHECK(base->R_SEXE.LireCellule(NoOrdre{1}) == 'H');
+    CHECK(base->R_SEXE.LireCellule(NoOrdre{1}) == Sexe::Homme);
     CHECK(Nomme(Constat::Remplace, "FAM.HUSB", 10));
     CHECK(Constats(Constat::Remplace) == 1);
     Importer(

@@ -42,7 +42,8 @@ struct Bureau : doublures::SessionEssai {
                                                           "1810", "1812", "1815", "1818",
                                                           "1840", "1838", "1850", "1901"};
         for (std::size_t i = 0; i < Annees.size(); ++i)
-            F().Creer("HFHFHFHFFHHF"[i], "Nom", "P" + std::to_string(i + 1), Annees[i]);
+            F().Creer(static_cast<Sexe>("HFHFHFHFFHHF"[i]), "Nom", "P" + std::to_string(i + 1),
+                      Annees[i]);
         const auto naitre = [this](std::uint32_t enfant, std::uint32_t pere, std::uint32_t mere) {
             F().Parents(NoOrdre{enfant}, NoOrdre{pere}, NoOrdre{mere});
         };
@@ -123,8 +124,8 @@ TEST_CASE_FIXTURE(
 
 TEST_CASE_FIXTURE(Bureau, "SelectionExport: a person already walked is not walked again") {
     // A child of himself's own line, as only a damaged base has it.
-    const NoOrdre a = F().Creer('H', "A", "A");
-    const NoOrdre b = F().Creer('H', "B", "B");
+    const NoOrdre a = F().Creer(Sexe::Homme, "A", "A");
+    const NoOrdre b = F().Creer(Sexe::Homme, "B", "B");
     F().Parents(a, b, {});
     F().Parents(b, a, {});
     SelectionExport selection{B()};
@@ -188,7 +189,7 @@ TEST_CASE_FIXTURE(Bureau, "SelectionExport: the whole base and a list of persons
 
 TEST_CASE_FIXTURE(Bureau, "SelectionExport: who was born after 1900 is left out, 1900 stays") {
     for (const std::string_view annee : {"1899", "1900", "1901", "", "?", "-44", "190?"})
-        F().Creer('H', "Nom", "P", annee);
+        F().Creer(Sexe::Homme, "Nom", "P", annee);
     SelectionExport selection{B()};
     selection.MarquerTous();
     // "190?" stands behind "1900": in doubt somebody is left out.
@@ -218,8 +219,8 @@ TEST_CASE_FIXTURE(Bureau, "SelectionExport: a whole base goes with all its event
 }
 
 TEST_CASE_FIXTURE(Bureau, "SelectionExport: links to a person born after 1900 are left out") {
-    const NoOrdre pere = F().Creer('H', "Nom", "Paul", "1875");
-    const NoOrdre fils = F().Creer('H', "Nom", "Luc", "1901");
+    const NoOrdre pere = F().Creer(Sexe::Homme, "Nom", "Paul", "1875");
+    const NoOrdre fils = F().Creer(Sexe::Homme, "Nom", "Luc", "1901");
     F().Parents(fils, pere, {});
     F().Lier(pere, fils, "WITN");
     SelectionExport selection{B()};
@@ -237,7 +238,7 @@ TEST_CASE_FIXTURE(Bureau, "SelectionExport: links to a person born after 1900 ar
 }
 
 TEST_CASE_FIXTURE(Bureau, "SelectionExport: a starting person and parents that do not exist") {
-    const NoOrdre n = F().Creer('H', "Nom", "P");
+    const NoOrdre n = F().Creer(Sexe::Homme, "Nom", "P");
     B().R_PERE.EcrireCellule(n, NoOrdre{60000});
     SelectionExport selection{B()};
     selection.MarquerParente(NoOrdre{}, SensExport::Ascendants, 3);
@@ -254,7 +255,7 @@ TEST_CASE_FIXTURE(Bureau, "SelectionExport: one line of 20000 generations") {
         const NoOrdre individu = B().NouvelIndividu();
         if (n > 1) {
             B().R_PERE.EcrireCellule(individu, NoOrdre{n - 1});
-            B().R_ENFANT.ModifierListe(NoOrdre{n - 1}, individu, 'A');
+            B().R_ENFANT.ModifierListe(NoOrdre{n - 1}, individu, storage::ActionListe::Ajouter);
         }
     }
     SelectionExport selection{B()};

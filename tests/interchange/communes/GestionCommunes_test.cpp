@@ -62,7 +62,7 @@ Commune Lieu(std::string_view nom, std::string_view rattachement = {},
 }
 
 void Ecrire(const std::filesystem::path& fichier, const std::vector<Commune>& communes) {
-    storage::AvancementMuet muet;
+    storage::ProgressionMuette muet;
     std::string octets;
     REQUIRE(storage::ComposerLgx(communes, muet, octets));
     REQUIRE(shell::EcrireTout(fichier, octets));

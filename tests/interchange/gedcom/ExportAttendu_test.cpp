@@ -36,12 +36,12 @@ struct Bureau : doublures::SessionEssai {
 
     void Peupler() {
         doublures::FamilleEssai f{B()};
-        const NoOrdre pere = f.Creer('H', "de la Motte", "François"_1252, "1820", "1890");
-        const NoOrdre mere = f.Creer('F', "Évrard"_1252, "Anaïs"_1252, "-44");
-        const NoOrdre fils = f.Creer('H', "de la Motte", "Noël"_1252, "1850");
-        const NoOrdre fille = f.Creer('I', "de la Motte", "Zoé"_1252, "1852");
-        const NoOrdre amie = f.Creer('F', "Bœuf"_1252, "Ève"_1252, "1855");
-        const NoOrdre petit = f.Creer('H', "de la Motte", "Aÿmar"_1252, "1880");
+        const NoOrdre pere = f.Creer(Sexe::Homme, "de la Motte", "François"_1252, "1820", "1890");
+        const NoOrdre mere = f.Creer(Sexe::Femme, "Évrard"_1252, "Anaïs"_1252, "-44");
+        const NoOrdre fils = f.Creer(Sexe::Homme, "de la Motte", "Noël"_1252, "1850");
+        const NoOrdre fille = f.Creer(Sexe::Indetermine, "de la Motte", "Zoé"_1252, "1852");
+        const NoOrdre amie = f.Creer(Sexe::Femme, "Bœuf"_1252, "Ève"_1252, "1855");
+        const NoOrdre petit = f.Creer(Sexe::Homme, "de la Motte", "Aÿmar"_1252, "1880");
         B().R_NOM.EcrireNom(pere, "de la Motte;François;Marie René;12/3;ABT"_1252);
         B().R_TEXTE.EcrireTexte(
             pere,
@@ -66,7 +66,7 @@ struct Bureau : doublures::SessionEssai {
         B().entete.DocBase = description;
         const NoDocument acte =
             Creer("Acte de décès"_1252, "actes/été.png"_1252, "Photo", "Vu aux archives");
-        B().R_LSTIMG.ModifierListe(pere, acte, 'A');
+        B().R_LSTIMG.ModifierListe(pere, acte, storage::ActionListe::Ajouter);
         const NoEvenement e = B().NouvelEvenement();
         B().R_EVT.EcrireEvt(e, {.cleDate = -20000,
                                 .note = std::string{"Cité à comparaître"_1252},
@@ -75,8 +75,8 @@ struct Bureau : doublures::SessionEssai {
                                 .description = storage::DescriptionEvt{
                                     std::string{"Évron"_1252}, std::string{"Procès"_1252}, "CHR"}});
         B().R_TRI.AjouterEvt(e);
-        B().R_LSTEVT.ModifierListe(pere, e, 'A', "WITN");
-        B().R_LSTEVT.ModifierListe(fils, e, 'A', "CHIL");
+        B().R_LSTEVT.ModifierListe(pere, e, storage::ActionListe::Ajouter, "WITN");
+        B().R_LSTEVT.ModifierListe(fils, e, storage::ActionListe::Ajouter, "CHIL");
     }
     NoDocument Creer(std::string_view titre, std::string_view fichier, std::string_view type,
                      std::string_view note) {

@@ -142,10 +142,10 @@ TEST_CASE(
 }
 
 TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: two children of an unmarried pair give two families") {
-    const NoOrdre pere = F().Creer('H', "Martin", "Paul", "1820");
-    const NoOrdre mere = F().Creer('F', "Blanc", "Rose", "1825");
-    const NoOrdre luc = F().Creer('H', "Martin", "Luc", "1850");
-    const NoOrdre eve = F().Creer('I', "Martin", "Eve", "1852");
+    const NoOrdre pere = F().Creer(Sexe::Homme, "Martin", "Paul", "1820");
+    const NoOrdre mere = F().Creer(Sexe::Femme, "Blanc", "Rose", "1825");
+    const NoOrdre luc = F().Creer(Sexe::Homme, "Martin", "Luc", "1850");
+    const NoOrdre eve = F().Creer(Sexe::Indetermine, "Martin", "Eve", "1852");
     F().Parents(luc, pere, mere);
     F().Parents(eve, pere, mere);
     CHECK(Exporter() ==
@@ -163,11 +163,11 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: two children of an unmarried pair giv
 
 TEST_CASE_FIXTURE(
     Bureau, "ExporterGedcom: children of a union go with it, a person of unknown sex has no SEX") {
-    const NoOrdre pere = F().Creer('H', "Martin", "Paul", "1820");
-    const NoOrdre mere = F().Creer('F', "Blanc", "Rose", "1825");
+    const NoOrdre pere = F().Creer(Sexe::Homme, "Martin", "Paul", "1820");
+    const NoOrdre mere = F().Creer(Sexe::Femme, "Blanc", "Rose", "1825");
     const NoMariage m = F().Marier(pere, mere, "1849");
     B().R_TXTMAR.EcrireTexte(m, "3/5 @Saint.Malo\r\nUne note");
-    F().Parents(F().Creer('I', "Martin", "Luc", "1850"), pere, mere);
+    F().Parents(F().Creer(Sexe::Indetermine, "Martin", "Luc", "1850"), pere, mere);
     CHECK_FALSE(Dit("SEX I"));
     CHECK(
         Dit("0 @F1@ FAM\n1 HUSB @I1@\n1 WIFE @I2@\n1 CHIL @I3@\n1 MARR\n"
@@ -175,7 +175,7 @@ TEST_CASE_FIXTURE(
 }
 
 TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: places, keyword lines and the note of a person") {
-    const NoOrdre n = F().Creer('H', "Martin", "Paul", "1820", "1890");
+    const NoOrdre n = F().Creer(Sexe::Homme, "Martin", "Paul", "1820", "1890");
     B().R_NOM.EcrireNom(n, "Martin;Paul;Marie;12/3;ABT");
     B().R_TEXTE.EcrireTexte(n,
                             "|MARTIN \xB6Paul $Brest ~Saint.Malo\r\nOCCU \\sabotier\r\n"
@@ -189,8 +189,8 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: places, keyword lines and the note of
 }
 
 TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: only the persons chosen, and no pointer to another") {
-    const NoOrdre pere = F().Creer('H', "Martin", "Paul", "1820");
-    const NoOrdre mere = F().Creer('F', "Blanc", "Rose", "1825");
+    const NoOrdre pere = F().Creer(Sexe::Homme, "Martin", "Paul", "1820");
+    const NoOrdre mere = F().Creer(Sexe::Femme, "Blanc", "Rose", "1825");
     F().Marier(pere, mere, "1849");
     F().Lier(pere, mere, "WITN");
     OptionsGedcom options;
@@ -202,7 +202,7 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: only the persons chosen, and no point
 
 TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: a cancel leaves what it got beside the former file") {
     for (int i = 0; i < 200; ++i)
-        F().Creer('H', "Martin", "Paul", "1820");
+        F().Creer(Sexe::Homme, "Martin", "Paul", "1820");
     doublures::EcrireFichier(dossier / "x.ged", "avant");
     progression.annulerAu = progression.pas + 1;
     CHECK(ExporterGedcom(session, dossier / "x.ged", {}).issue.cause == shell::Cause::Arrete);
@@ -244,14 +244,14 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: an address begins with the first line
 }
 
 TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: events are sources with the role of each person") {
-    const NoOrdre n = F().Creer('H', "Martin", "Paul", "1820");
+    const NoOrdre n = F().Creer(Sexe::Homme, "Martin", "Paul", "1820");
     const NoEvenement e = B().NouvelEvenement();
     B().R_EVT.EcrireEvt(e, {.cleDate = 1,
                             .note = "Une note",
                             .liens = std::vector<storage::LienEvenement>{{n, "CHIL"}},
                             .description = storage::DescriptionEvt{"Brest", "Acte", "CHR"}});
     B().R_TRI.AjouterEvt(e);
-    B().R_LSTEVT.ModifierListe(n, e, 'A', "CHIL");
+    B().R_LSTEVT.ModifierListe(n, e, storage::ActionListe::Ajouter, "CHIL");
     CHECK(Dit("1 SOUR @E1@\n2 EVEN\n3 ROLE CHIL\n"));
     CHECK(
         Dit("0 @E1@ SOUR\n1 DATA\n2 EVEN BAPM\n3 DATE 31 DEC 1899\n3 PLAC Brest\n"
@@ -313,19 +313,19 @@ TEST_CASE("EcrivainGedcom: a value that no line can hold goes on with CONC, a na
 }
 
 TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: pointers of a damaged base lead to records that exist") {
-    const NoOrdre n = F().Creer('H', "Martin", "Paul", "1820");
-    const NoOrdre autre = F().Creer('F', "Blanc", "Rose", "1825");
+    const NoOrdre n = F().Creer(Sexe::Homme, "Martin", "Paul", "1820");
+    const NoOrdre autre = F().Creer(Sexe::Femme, "Blanc", "Rose", "1825");
     B().R_PERE.EcrireCellule(n, NoOrdre{60000});
-    B().R_MARIAG.ModifierListe(n, NoMariage{500}, 'A');
-    B().R_ENFANT.ModifierListe(n, NoOrdre{59999}, 'A');
+    B().R_MARIAG.ModifierListe(n, NoMariage{500}, storage::ActionListe::Ajouter);
+    B().R_ENFANT.ModifierListe(n, NoOrdre{59999}, storage::ActionListe::Ajouter);
     const NoMariage m = F().Marier({}, autre, "1849");
-    B().R_MARIAG.ModifierListe(n, m, 'A');
+    B().R_MARIAG.ModifierListe(n, m, storage::ActionListe::Ajouter);
     CHECK(Dit("0 @I1@ INDI\n1 NAME Paul /Martin/\n1 SEX M\n1 BIRT\n2 DATE 1820\n0 @I2@ INDI\n"));
 }
 
 TEST_CASE_FIXTURE(Bureau,
                   "ExporterGedcom: the word of an attribute stands on its line, date or not") {
-    const NoOrdre n = F().Creer('H', "Martin", "Paul", "1820");
+    const NoOrdre n = F().Creer(Sexe::Homme, "Martin", "Paul", "1820");
     B().entete.SlotsIndividu[0].drapeau = '1';
     const std::string libelle = B().DefinitionIndividu().libelles[0];
     REQUIRE(libelle == "OCCU");

@@ -64,11 +64,11 @@ struct Bureau : doublures::EssaiImport {
 /// A family of which everything comes back.
 struct Famille : Bureau {
     Famille() {
-        const NoOrdre pere = F().Creer('H', "de la Motte", "Paul", "1820", "1890");
-        const NoOrdre mere = F().Creer('F', "Évrard"_1252, "Rose", "1825");
-        const NoOrdre fils = F().Creer('H', "de la Motte", "Luc", "1850");
-        const NoOrdre veuve = F().Creer('F', "Seul", "Zoé"_1252, "1851");
-        const NoOrdre fille = F().Creer('F', "Seul", "Eve", "1880");
+        const NoOrdre pere = F().Creer(Sexe::Homme, "de la Motte", "Paul", "1820", "1890");
+        const NoOrdre mere = F().Creer(Sexe::Femme, "Évrard"_1252, "Rose", "1825");
+        const NoOrdre fils = F().Creer(Sexe::Homme, "de la Motte", "Luc", "1850");
+        const NoOrdre veuve = F().Creer(Sexe::Femme, "Seul", "Zoé"_1252, "1851");
+        const NoOrdre fille = F().Creer(Sexe::Femme, "Seul", "Eve", "1880");
         B().R_NOM.EcrireNom(pere, "de la Motte;Paul;Marie;12/3;ABT");
         B().R_TEXTE.EcrireTexte(pere,
                                 "|de.la.Motte \xB6Paul.Marie $Brest ~Saint.Malo\r\n"
@@ -85,7 +85,7 @@ struct Famille : Bureau {
         const NoDocument d = B().NouveauDocument();
         B().R_IMAGE.EcrireDoc(d, {"Acte", "a.png", "Photo", "Vu aux archives"});
         B().R_TRI.AjouterDocument(d);
-        B().R_LSTIMG.ModifierListe(pere, d, 'A');
+        B().R_LSTIMG.ModifierListe(pere, d, storage::ActionListe::Ajouter);
         const NoEvenement e = B().NouvelEvenement();
         B().R_EVT.EcrireEvt(e, {.cleDate = -20000,
                                 .note = "Une note",
@@ -93,7 +93,7 @@ struct Famille : Bureau {
                                 .documents = std::vector<NoDocument>{d},
                                 .description = storage::DescriptionEvt{"Brest", "Acte", "CHR"}});
         B().R_TRI.AjouterEvt(e);
-        B().R_LSTEVT.ModifierListe(pere, e, 'A', "WITN");
+        B().R_LSTEVT.ModifierListe(pere, e, storage::ActionListe::Ajouter, "WITN");
     }
 };
 
@@ -107,8 +107,8 @@ TEST_CASE_FIXTURE(Famille, "Export again: a family with all that hangs on it is 
 }
 
 TEST_CASE_FIXTURE(Bureau, "Export again: persons take the numbers of their order") {
-    F().Creer('H', "B", "B", "1850");
-    F().Creer('H', "A", "A", "1820");
+    F().Creer(Sexe::Homme, "B", "B", "1850");
+    F().Creer(Sexe::Homme, "A", "A", "1820");
     DeuxFois();
     CHECK(Dit(premiere, "0 @I2@ INDI\n1 NAME A /A/\n"));
     CHECK(Dit(seconde, "0 @I1@ INDI\n1 NAME A /A/\n"));
@@ -116,10 +116,10 @@ TEST_CASE_FIXTURE(Bureau, "Export again: persons take the numbers of their order
 
 TEST_CASE_FIXTURE(Bureau,
                   "Export again: an unmarried pair becomes a union, which has all its children") {
-    const NoOrdre pere = F().Creer('H', "A", "A", "1820");
-    const NoOrdre mere = F().Creer('F', "B", "B", "1821");
-    F().Parents(F().Creer('H', "C", "C", "1850"), pere, mere);
-    F().Parents(F().Creer('H', "D", "D", "1851"), pere, mere);
+    const NoOrdre pere = F().Creer(Sexe::Homme, "A", "A", "1820");
+    const NoOrdre mere = F().Creer(Sexe::Femme, "B", "B", "1821");
+    F().Parents(F().Creer(Sexe::Homme, "C", "C", "1850"), pere, mere);
+    F().Parents(F().Creer(Sexe::Homme, "D", "D", "1851"), pere, mere);
     DeuxFois();
     CHECK(Dit(premiere,
               "0 @F1@ FAM\n1 HUSB @I1@\n1 WIFE @I2@\n1 CHIL @I3@\n"
@@ -130,7 +130,7 @@ TEST_CASE_FIXTURE(Bureau,
 }
 
 TEST_CASE_FIXTURE(Bureau, "Export again: a word longer than a line has a blank at its cut") {
-    const NoOrdre n = F().Creer('H', "A", "A", "1820");
+    const NoOrdre n = F().Creer(Sexe::Homme, "A", "A", "1820");
     B().R_TEXTE.EcrireTexte(n,
                             "|A \xB6"
                             "A\r\n" +
@@ -142,7 +142,7 @@ TEST_CASE_FIXTURE(Bureau, "Export again: a word longer than a line has a blank a
 }
 
 TEST_CASE_FIXTURE(Bureau, "Export again: an entry that the format has no tag for is in the note") {
-    const NoOrdre n = F().Creer('H', "A", "A", "1820");
+    const NoOrdre n = F().Creer(Sexe::Homme, "A", "A", "1820");
     B().motsCles.CreerType(NoMotCle{B().motsCles.Nombre() + 1}, {'!', "BATL", false, {}});
     B().entete.SlotsIndividu[0] = {'!', '1'};
     B().R_TEXTE.EcrireTexte(n,
@@ -171,8 +171,8 @@ TEST_CASE_FIXTURE(Bureau, "Export again: the description of the base is a docume
 }
 
 TEST_CASE_FIXTURE(Bureau, "Export again: a link of one side only stands on both") {
-    const NoOrdre a = F().Creer('H', "A", "A", "1820");
-    F().Creer('H', "B", "B", "1821");
+    const NoOrdre a = F().Creer(Sexe::Homme, "A", "A", "1820");
+    F().Creer(Sexe::Homme, "B", "B", "1821");
     F().Lier(a, NoOrdre{2}, "ami");
     DeuxFois();
     CHECK_FALSE(Dit(premiere, "1 ASSO @I1@\n"));
@@ -182,7 +182,7 @@ TEST_CASE_FIXTURE(Bureau, "Export again: a link of one side only stands on both"
 
 TEST_CASE_FIXTURE(Bureau,
                   "Export again: a keyword of a note stands in the order of the attributes") {
-    const NoOrdre n = F().Creer('H', "A", "A", "1820");
+    const NoOrdre n = F().Creer(Sexe::Homme, "A", "A", "1820");
     B().R_TEXTE.EcrireTexte(n,
                             "|A \xB6"
                             "A\r\nIl habita %Brest toujours.");
@@ -192,8 +192,8 @@ TEST_CASE_FIXTURE(Bureau,
 }
 
 TEST_CASE_FIXTURE(Bureau, "Export again: a parent of unknown sex is a man as a father") {
-    const NoOrdre pere = F().Creer('I', "A", "A", "1820");
-    F().Parents(F().Creer('I', "B", "B", "1850"), pere, {});
+    const NoOrdre pere = F().Creer(Sexe::Indetermine, "A", "A", "1820");
+    F().Parents(F().Creer(Sexe::Indetermine, "B", "B", "1850"), pere, {});
     DeuxFois();
     CHECK_FALSE(Dit(premiere, "1 SEX"));
     CHECK(Dit(seconde, "0 @I1@ INDI\n1 NAME A /A/\n1 SEX M\n"));
@@ -201,7 +201,7 @@ TEST_CASE_FIXTURE(Bureau, "Export again: a parent of unknown sex is a man as a f
 }
 
 TEST_CASE_FIXTURE(Bureau, "Export again: blank paragraphs and formats of a text are gone at once") {
-    const NoOrdre n = F().Creer('H', "A", "A", "1820");
+    const NoOrdre n = F().Creer(Sexe::Homme, "A", "A", "1820");
     B().R_TEXTE.EcrireTexte(n,
                             "|A \xB6"
                             "A\r\n{\\rtf1 un\\par\\par {\\b deux}}");
@@ -226,9 +226,9 @@ TEST_CASE_FIXTURE(Bureau, "Export again: a document in the middle of a table kee
 }
 
 TEST_CASE_FIXTURE(Bureau, "Export again: a family of one parent and one child, and of a widow") {
-    const NoOrdre mere = F().Creer('F', "A", "A", "1820");
-    F().Parents(F().Creer('H', "B", "B", "1850"), {}, mere);
-    F().Parents(F().Creer('H', "C", "C", "1851"), {}, mere);
+    const NoOrdre mere = F().Creer(Sexe::Femme, "A", "A", "1820");
+    F().Parents(F().Creer(Sexe::Homme, "B", "B", "1850"), {}, mere);
+    F().Parents(F().Creer(Sexe::Homme, "C", "C", "1851"), {}, mere);
     DeuxFois();
     CHECK(premiere == seconde);
     CHECK(Dit(premiere, "0 @F2@ FAM\n1 WIFE @I1@\n1 CHIL @I3@\n"));

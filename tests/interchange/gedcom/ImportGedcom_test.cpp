@@ -88,7 +88,7 @@ TEST_CASE_FIXTURE(EssaiImport, "Import: declining the sort leaves the order of c
     Importer(
         "0 @I1@ INDI\n1 NAME /Z/\n1 BIRT\n2 DATE 1900\n0 @I2@ INDI\n1 NAME /A/\n1 BIRT\n"
         "2 DATE 1800\n");
-    CHECK(base->entete.TypeTri == '0');
+    CHECK(base->entete.TypeTri == TypeTri::Creation);
     CHECK(base->R_TRI.IndividuAuRang(1) == NoOrdre{1});
     CHECK(base->R_TRI.RangIndividu(NoOrdre{2}) == 2);
 }
@@ -99,7 +99,7 @@ TEST_CASE_FIXTURE(EssaiImport,
     Importer(
         "0 @I1@ INDI\n1 NAME /Z/\n1 BIRT\n2 DATE 1800\n0 @I2@ INDI\n1 NAME /A/\n1 BIRT\n"
         "2 DATE 1900\n");
-    CHECK(base->entete.TypeTri == '1');
+    CHECK(base->entete.TypeTri == TypeTri::Naissance);
     CHECK(base->R_TRI.RangIndividu(NoOrdre{2}) == 2);
 }
 
@@ -228,7 +228,7 @@ TEST_CASE_FIXTURE(EssaiImport, "Import: without the setting of the sort nothing 
     session.parametres.generaux.triImport = false;
     Importer("0 @I1@ INDI\n1 NAME /Z/\n1 BIRT\n2 DATE 1900\n0 @I2@ INDI\n1 NAME /A/\n");
     CHECK(dialogue.questions.empty());
-    CHECK(base->entete.TypeTri == '0');
+    CHECK(base->entete.TypeTri == TypeTri::Creation);
     CHECK(base->R_TRI.IndividuAuRang(1) == NoOrdre{1});
 }
 

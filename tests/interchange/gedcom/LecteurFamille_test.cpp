@@ -82,8 +82,8 @@ TEST_CASE_FIXTURE(Famille, "A family: a later record replaces the parents it nam
 
 TEST_CASE_FIXTURE(Famille, "A family corrects the sex of its partners") {
     Importer("0 @I1@ INDI\n1 SEX F\n0 @I2@ INDI\n0 @F1@ FAM\n1 HUSB @I1@\n1 WIFE @I2@\n");
-    CHECK(base->R_SEXE.LireCellule(Un) == 'H');
-    CHECK(base->R_SEXE.LireCellule(Deux) == 'F');
+    CHECK(base->R_SEXE.LireCellule(Un) == Sexe::Homme);
+    CHECK(base->R_SEXE.LireCellule(Deux) == Sexe::Femme);
 }
 
 TEST_CASE_FIXTURE(Famille, "A family may stand in front of the persons it names") {

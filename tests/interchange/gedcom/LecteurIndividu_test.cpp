@@ -10,10 +10,10 @@ using doublures::EssaiImport;
 TEST_CASE_FIXTURE(EssaiImport,
                   "An individual: sex M is a man, any other value a woman, none neither") {
     Importer("0 @I1@ INDI\n1 SEX M\n0 @I2@ INDI\n1 SEX U\n0 @I3@ INDI\n1 SEX m\n0 @I4@ INDI\n");
-    CHECK(base->R_SEXE.LireCellule(NoOrdre{1}) == 'H');
-    CHECK(base->R_SEXE.LireCellule(NoOrdre{2}) == 'F');
-    CHECK(base->R_SEXE.LireCellule(NoOrdre{3}) == 'F');
-    CHECK(base->R_SEXE.LireCellule(NoOrdre{4}) == 'I');
+    CHECK(base->R_SEXE.LireCellule(NoOrdre{1}) == Sexe::Homme);
+    CHECK(base->R_SEXE.LireCellule(NoOrdre{2}) == Sexe::Femme);
+    CHECK(base->R_SEXE.LireCellule(NoOrdre{3}) == Sexe::Femme);
+    CHECK(base->R_SEXE.LireCellule(NoOrdre{4}) == Sexe::Indetermine);
     CHECK(importation.rapport.Nombre(Constat::Remplace, "INDI.SEX") == 2);
 }
 

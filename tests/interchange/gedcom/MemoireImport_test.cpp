@@ -14,8 +14,8 @@ namespace {
 struct Memoire : EssaiImport {
     Memoire() {
         Importer("0 @I1@ INDI\n0 @I2@ INDI\n");
-        familles.AjouterIndividu('H');
-        familles.AjouterIndividu('F');
+        familles.AjouterIndividu(Sexe::Homme);
+        familles.AjouterIndividu(Sexe::Femme);
         memoire.AjouterIndividu("Zola;Jean;;12/3", "1850", "texte un");
         memoire.AjouterIndividu("Abel;Anne;", "1840", "");
     }
@@ -52,12 +52,12 @@ TEST_CASE_FIXTURE(
 }
 
 TEST_CASE_FIXTURE(Memoire, "MemoireImport: knows whether the persons came in order") {
-    CHECK_FALSE(memoire.EstTriee('1', ReglesInitiales()));
-    CHECK_FALSE(memoire.EstTriee('2', ReglesInitiales()));
-    CHECK(memoire.EstTriee('0', ReglesInitiales()));
+    CHECK_FALSE(memoire.EstTriee(TypeTri::Naissance, ReglesInitiales()));
+    CHECK_FALSE(memoire.EstTriee(TypeTri::Nom, ReglesInitiales()));
+    CHECK(memoire.EstTriee(TypeTri::Creation, ReglesInitiales()));
     MemoireImport dansLOrdre{familles};
     dansLOrdre.AjouterIndividu("Zola;Jean;", "1830", "");
     dansLOrdre.AjouterIndividu("Abel;Anne;", "1840", "");
-    CHECK(dansLOrdre.EstTriee('1', ReglesInitiales()));
-    CHECK_FALSE(dansLOrdre.EstTriee('2', ReglesInitiales()));
+    CHECK(dansLOrdre.EstTriee(TypeTri::Naissance, ReglesInitiales()));
+    CHECK_FALSE(dansLOrdre.EstTriee(TypeTri::Nom, ReglesInitiales()));
 }

@@ -18,7 +18,7 @@ bool OuvrirGedcom(EssaiLgr& essai, const std::string& octets) {
     doublures::EcrireFichier(fichier, octets);
     essai.dialogue.reponses = {shell::Reponse::Oui};
     if (!ImporterVers(essai.session, fichier, base).issue) return false;
-    storage::AvancementMuet muet;
+    storage::ProgressionMuette muet;
     std::unique_ptr<storage::Base> ouverte = storage::OuvrirBase(essai.disque, base, muet).base;
     REQUIRE(ouverte != nullptr);
     essai.session.PoserBase(std::move(ouverte));

@@ -16,9 +16,9 @@ namespace {
 /// A couple with a child, a document and an event.
 struct Foyer : EssaiLgr {
     Foyer() {
-        jean = F().Creer('H', "Dupont", "Jean", "1820", "1890");
-        anne = F().Creer('F', "Le Goff", "Anne", "1825");
-        luc = F().Creer('H', "Dupont", "Luc", "1850");
+        jean = F().Creer(Sexe::Homme, "Dupont", "Jean", "1820", "1890");
+        anne = F().Creer(Sexe::Femme, "Le Goff", "Anne", "1825");
+        luc = F().Creer(Sexe::Homme, "Dupont", "Luc", "1850");
         F().Parents(luc, jean, anne);
         mariage = F().Marier(jean, anne, "1848");
         B().R_NOM.EcrireNom(jean, "Dupont;Jean;Yves;12/3;ABT");
@@ -28,7 +28,7 @@ struct Foyer : EssaiLgr {
         B().R_FINMAR.EcrireCellule(mariage, "1870");
         photo = Document("Une photo");
         B().R_IMAGE.EcrireDoc(photo, {"Une photo", "a/b.jpg", "PHOTO", "Au moulin.\r\nEn 1860."});
-        B().R_LSTIMG.ModifierListe(jean, photo, 'A');
+        B().R_LSTIMG.ModifierListe(jean, photo, storage::ActionListe::Ajouter);
         F().Lier(jean, anne, "voisin");
         bapteme = Evenement(-20000, "CHR");
         Participer(bapteme, luc, "CHIL");
@@ -112,7 +112,7 @@ TEST_CASE_FIXTURE(Foyer, "An exchange text: keywords, rows, name settings and in
 }
 
 TEST_CASE_FIXTURE(Foyer, "An exchange text: the persons stand in the order of the sort table") {
-    F().Creer('H', "Avant", "Tous", "1700");
+    F().Creer(Sexe::Homme, "Avant", "Tous", "1700");
     const std::string individus = Section(Exporter(), "[INDIVIDUS]", "[FIN INDIVIDUS]");
     CHECK(individus.starts_with(" 4 \nAvant;Tous;;1700;\n"));
 }
@@ -177,10 +177,10 @@ TEST_CASE_FIXTURE(Foyer, "A selection takes its own events and documents, a comp
 }
 
 TEST_CASE_FIXTURE(EssaiLgr, "A person with 201 unions is written with 200") {
-    const NoOrdre jean = F().Creer('H', "Dupont", "Jean", "1820");
+    const NoOrdre jean = F().Creer(Sexe::Homme, "Dupont", "Jean", "1820");
     std::string liste;
     for (int i = 0; i < 201; ++i) {
-        const NoOrdre femme = F().Creer('F', "Femme", std::to_string(i), "1820");
+        const NoOrdre femme = F().Creer(Sexe::Femme, "Femme", std::to_string(i), "1820");
         liste += NumVersChaine2(F().Marier(jean, femme).valeur);
     }
     B().R_MARIAG.EcrireListe(jean, liste);
@@ -201,7 +201,7 @@ TEST_CASE_FIXTURE(Foyer, "A line end inside a value of one line is a blank, and 
 
 TEST_CASE_FIXTURE(EssaiLgr, "The export shows its counts every 100 persons and ends when told to") {
     for (int i = 0; i < 250; ++i)
-        F().Creer('H', "Dupont", std::to_string(i), "1820");
+        F().Creer(Sexe::Homme, "Dupont", std::to_string(i), "1820");
     progression.textes.clear();
     const std::filesystem::path sortie = dossier / "sortie.lgr";
     CHECK(ExporterLgr(session, sortie, {}).issue.cause == shell::Cause::Fait);

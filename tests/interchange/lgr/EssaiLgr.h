@@ -32,7 +32,7 @@ struct EssaiLgr : FicheEssai {
         EcrireFichier(fichier, octets);
         importation = interchange::ImporterVers(session, fichier, chemin);
         if (!importation.issue) return;
-        storage::AvancementMuet muet;
+        storage::ProgressionMuette muet;
         neuve = storage::OuvrirBase(disque, chemin, muet).base;
         REQUIRE(neuve != nullptr);
     }
@@ -72,7 +72,7 @@ struct EssaiLgr : FicheEssai {
         std::vector<storage::LienEvenement> liens = B().R_EVT.Liens(e);
         liens.push_back({n, std::string{role}});
         B().R_EVT.EcrireEvt(e, {.liens = liens});
-        B().R_LSTEVT.ModifierListe(n, e, 'A', role);
+        B().R_LSTEVT.ModifierListe(n, e, storage::ActionListe::Ajouter, role);
     }
 
     static std::string EnLignes(std::string_view lignes) {

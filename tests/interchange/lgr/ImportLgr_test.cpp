@@ -49,7 +49,7 @@ TEST_CASE_FIXTURE(Lecture, "A new base: persons, parents, children and unions of
     REQUIRE(importation.issue);
     CHECK(Nom(1) == "Dupont;Jean;");
     CHECK(neuve->R_NAISS.LireCellule(NoOrdre{1}) == "1820");
-    CHECK(neuve->R_SEXE.LireCellule(NoOrdre{2}) == 'F');
+    CHECK(neuve->R_SEXE.LireCellule(NoOrdre{2}) == Sexe::Femme);
     CHECK(neuve->R_PERE.LireCellule(NoOrdre{3}) == NoOrdre{1});
     CHECK(neuve->R_ENFANT.Elements(NoOrdre{2}) == std::vector{NoOrdre{3}});
     CHECK(Unions(1) == Marie{NoMariage{1}});
@@ -70,7 +70,7 @@ TEST_CASE_FIXTURE(Lecture,
     CHECK(neuve->entete.NbTriIndividus == 1);
     CHECK(Nom(7) == "Dupont;Jean;");
     CHECK(Texte(7) == "");
-    CHECK(neuve->R_SEXE.LireCellule(NoOrdre{7}) == 'I');
+    CHECK(neuve->R_SEXE.LireCellule(NoOrdre{7}) == Sexe::Indetermine);
 }
 
 TEST_CASE_FIXTURE(Lecture, "A new base: dates of every form, and years in the place of places") {
@@ -237,7 +237,7 @@ TEST_CASE_FIXTURE(Lecture,
                                             "\n\n#\n[FIN EVENEMENTS]\n"))));
     REQUIRE(importation.issue);
     CHECK(Nom(1) == "H\xE9lias;;");
-    CHECK(neuve->R_EVT.LienEvt(NoEvenement{1}, 1) == NoOrdre{1});
+    CHECK(neuve->R_EVT.Liens(NoEvenement{1}).at(0).individu == NoOrdre{1});
 }
 
 TEST_CASE_FIXTURE(Lecture,
@@ -312,13 +312,13 @@ TEST_CASE_FIXTURE(Lecture, "The order of the file tells the order of the base") 
     };
     Lire("[INDIVIDUS]\n" + personne("2", "Abel", "1900") + personne("1", "Zola", "1800") +
          "[FIN INDIVIDUS]\n");
-    CHECK(neuve->entete.TypeTri == '2');
+    CHECK(neuve->entete.TypeTri == TypeTri::Nom);
     Lire("[INDIVIDUS]\n" + personne("1", "Zola", "1900") + personne("2", "Abel", "1800") +
          "[FIN INDIVIDUS]\n");
-    CHECK(neuve->entete.TypeTri == '0');
+    CHECK(neuve->entete.TypeTri == TypeTri::Creation);
     Lire("[INDIVIDUS]\n" + personne("3", "Zola", "1900") + personne("1", "Abel", "1800") +
          personne("2", "Caen", "1850") + "[FIN INDIVIDUS]\n");
-    CHECK(neuve->entete.TypeTri == '1');
+    CHECK(neuve->entete.TypeTri == TypeTri::Naissance);
     CHECK(neuve->R_TRI.individus.Numeros() == std::vector<std::uint16_t>{1, 2, 3});
 }
 

@@ -33,7 +33,7 @@ struct EssaiReleve : doublures::SessionEssai {
         texteRapport = ComposerRapport(rapport, releve, session);
         // What the preview tells is what the import does.
         CHECK(ComposerRapport(ExaminerReleve(session, releve), releve, session) == texteRapport);
-        storage::AvancementMuet muet;
+        storage::ProgressionMuette muet;
         base = storage::OuvrirBase(session.disque, chemin, muet).base;
         REQUIRE(base != nullptr);
         CHECK(doublures::Ecarts(*base) == "");
@@ -75,11 +75,11 @@ TEST_CASE_FIXTURE(EssaiReleve, "a baptism gives an event, the child, the father 
     CHECK(base->entete.NbTriIndividus == 3);
     CHECK(Nom(1) == "Dupont;Jean;Louis Marie;12/3");
     CHECK(Annee(1) == "1780");
-    CHECK(base->R_SEXE.LireCellule(NoOrdre{1}) == 'H');
+    CHECK(base->R_SEXE.LireCellule(NoOrdre{1}) == Sexe::Homme);
     CHECK(base->R_PERE.LireCellule(NoOrdre{1}) == NoOrdre{2});
     CHECK(base->R_MERE.LireCellule(NoOrdre{1}) == NoOrdre{3});
     CHECK(base->R_ENFANT.Elements(NoOrdre{2}) == std::vector{NoOrdre{1}});
-    CHECK(base->R_SEXE.LireCellule(NoOrdre{3}) == 'F');
+    CHECK(base->R_SEXE.LireCellule(NoOrdre{3}) == Sexe::Femme);
     CHECK(base->R_EVT.TypeEvt(NoEvenement{1}) == "CHR");
     CHECK(base->R_EVT.CleDateEvt(NoEvenement{1}) == DateVersSerie(DateCivile{12, 3, 1780}));
     CHECK(base->R_EVT.LieuEvt(NoEvenement{1}) == "Mer");
@@ -123,8 +123,8 @@ TEST_CASE_FIXTURE(EssaiReleve, "a year alone gives the date 01/01 and the year")
 
 TEST_CASE_FIXTURE(EssaiReleve, "a person of neither sex H nor F is stored with I and told") {
     Importer(Sorte::Bapteme, "1780;1;1;Mer;Dupont;Jean;?\n1780;1;1;Mer;Durand;Luc;\n");
-    CHECK(base->R_SEXE.LireCellule(NoOrdre{1}) == 'I');
-    CHECK(base->R_SEXE.LireCellule(NoOrdre{2}) == 'I');
+    CHECK(base->R_SEXE.LireCellule(NoOrdre{1}) == Sexe::Indetermine);
+    CHECK(base->R_SEXE.LireCellule(NoOrdre{2}) == Sexe::Indetermine);
     CHECK(Constats() == Messages{message::RapportSexeIncompris});
     CHECK(base->R_EVT.NoteEvt(NoEvenement{1}) == "Baptême\r\nEnfant Jean Dupont"_1252);
 }
@@ -212,7 +212,7 @@ TEST_CASE_FIXTURE(EssaiReleve, "ascendants are joined by their Sosa numbers, in 
     CHECK(storage::LieuNaissance(*base, NoOrdre{3}) == "Saint Malo");
     CHECK(storage::SlotsDe(*base, NoOrdre{3}).at(0).lieu == "forgeron");
     CHECK(storage::NoteDe(*base, NoOrdre{3}) == "né tard"_1252);
-    CHECK(base->R_SEXE.LireCellule(NoOrdre{3}) == 'H');
+    CHECK(base->R_SEXE.LireCellule(NoOrdre{3}) == Sexe::Homme);
     CHECK(base->entete.DernierEvenement == 0);
     CHECK(Constats() == Messages{message::RapportEnfantAbsentDuReleve, message::RapportSosaEnDouble,
                                  message::RapportSosaPasUnNombre});

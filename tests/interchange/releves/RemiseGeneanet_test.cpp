@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 /// A base with one person, and a tool that keeps how it was called.
 struct EssaiRemise : doublures::FicheEssai {
     EssaiRemise() {
-        F().Creer('H', "Dupont", "Jean", "1820");
+        F().Creer(Sexe::Homme, "Dupont", "Jean", "1820");
         session.parametres.generaux.geneanet = dossier / "outil";
     }
     void Remettre(const std::string& trouve = "perl") {

@@ -33,17 +33,17 @@ struct Acte : Conduite {
     Acte() { Nouvelle(chemin); }
 
     void TaperEpoux() const {
-        CreerSeul({"Le Goarant", "Yves", 'H', "3 mars", "1752", "Plouvern"});
+        CreerSeul({"Le Goarant", "Yves", Sexe::Homme, "3 mars", "1752", "Plouvern"});
         OuvrirFiche();
         {
             Enchainement formes;
-            Creation(formes, {"", "Jean", ' ', "", "1722", "", "", "1790"});
+            Creation(formes, {"", "Jean", Sexe::Vide, "", "1722", "", "", "1790"});
             Cliquer(Fiche(), "CmdCréPère");
         }
         CHECK(Foyer() == "N_Père");
         {
             Enchainement formes;
-            Creation(formes, {"Kerdoncuff", "Anne", ' ', "", "1726"})
+            Creation(formes, {"Kerdoncuff", "Anne", Sexe::Vide, "", "1726"})
                 .Boite(QMessageBox::Yes, QStringLiteral("créer une union avec Jean Le Goarant"));
             Cliquer(Fiche(), "CmdCréMère");
         }
@@ -53,7 +53,8 @@ struct Acte : Conduite {
     void TaperPremiereUnion() const {
         Page(2);
         Enchainement formes;
-        Creation(formes, {"Quémener", "Marie", ' ', "", "1755", "", "2 mai", "1784", "Plouvern"});
+        Creation(formes,
+                 {"Quémener", "Marie", Sexe::Vide, "", "1755", "", "2 mai", "1784", "Plouvern"});
         Cliquer(Fiche(), "CmdCréConjoint");
         CHECK(Foyer() == "TxtJMar");
         Remplir(Fiche(), "TxtJMar", "12/1");
@@ -66,7 +67,7 @@ struct Acte : Conduite {
     void TaperEpouse() const {
         {
             Enchainement formes;
-            Creation(formes, {"Tanguy", "Jeanne", ' ', "20 juin", "1760", "Saint-Brévan"});
+            Creation(formes, {"Tanguy", "Jeanne", Sexe::Vide, "20 juin", "1760", "Saint-Brévan"});
             Cliquer(Fiche(), "CmdCréConjoint");
         }
         Remplir(Fiche(), "TxtJMar", "14 février");
@@ -78,11 +79,11 @@ struct Acte : Conduite {
         REQUIRE(Fiche().Individu() == NoOrdre{Jeanne});
         {
             Enchainement formes;
-            Creation(formes, {"", "Hervé", ' ', "", "1730"});
+            Creation(formes, {"", "Hervé", Sexe::Vide, "", "1730"});
             Cliquer(Fiche(), "CmdCréPère");
         }
         Enchainement formes;
-        Creation(formes, {"Salaün", "Catherine", ' ', "", "1733", "", "", "1781"})
+        Creation(formes, {"Salaün", "Catherine", Sexe::Vide, "", "1733", "", "", "1781"})
             .Boite(QMessageBox::Yes, QStringLiteral("créer une union avec Hervé Tanguy"));
         Cliquer(Fiche(), "CmdCréMère");
     }
@@ -90,7 +91,7 @@ struct Acte : Conduite {
     /// Born of the bride before the marriage; the act names no father.
     void TaperEnfantNaturel() const {
         Devant(Fenetre());
-        CreerSeul({"Tanguy", "Corentin", 'H', "9 septembre", "1783", "Saint-Brévan"});
+        CreerSeul({"Tanguy", "Corentin", Sexe::Homme, "9 septembre", "1783", "Saint-Brévan"});
         Page(2);
         Enchainement formes;
         formes
@@ -138,8 +139,8 @@ struct Acte : Conduite {
             CHECK_FALSE(evenement.isVisible());
         });
         ChercherDansNoms(formes, "yves", "Époux");
-        Creation(formes, {"Abgrall", "Guillaume", 'H', "", "1740"});
-        Creation(formes, {"Morvan", "François", 'H', "", "1765"});
+        Creation(formes, {"Abgrall", "Guillaume", Sexe::Homme, "", "1740"});
+        Creation(formes, {"Morvan", "François", Sexe::Homme, "", "1765"});
         ChercherDansNoms(formes, "jean le", "Témoin");
         ChercherDansNoms(formes, "hervé", "Témoin");
         Cliquer(Fiche(), "CmdEvtAjout");
@@ -150,8 +151,8 @@ struct Acte : Conduite {
         Page(2);
         CliquerRangee(Controler<QTableView>(Fiche(), "L_Conjoint"), "Yves");
         for (const Personne& jumeau :
-             {Personne{"Le Goarant", "Marie Anne", 'F', "3 novembre", "1787", "Plouvern"},
-              Personne{"Le Goarant", "Pierre", 'H', "3 novembre", "1787", "Plouvern"}}) {
+             {Personne{"Le Goarant", "Marie Anne", Sexe::Femme, "3 novembre", "1787", "Plouvern"},
+              Personne{"Le Goarant", "Pierre", Sexe::Homme, "3 novembre", "1787", "Plouvern"}}) {
             Enchainement formes;
             formes.Fenetre("FrmCréation", [jumeau](QWidget& forme) {
                 CHECK(forme.focusWidget()->objectName() == "T_Nom");
@@ -239,7 +240,7 @@ struct Acte : Conduite {
 struct Attendu {
     Numero numero;
     const char* ligne;  ///< names, and days and months of birth and death
-    char sexe;
+    Sexe sexe;
     const char* naissance;
     const char* deces;
     std::uint32_t pere;
@@ -248,21 +249,23 @@ struct Attendu {
 };
 
 constexpr Attendu Personnes[] = {
-    {Yves, "Le Gouarant;Yves;;3/3;", 'H', "1752", "", Jean, Anne, "|Le.Gouarant ¶Yves $Plouvern"},
-    {Jean, "Le Goarant;Jean;", 'H', "1722", "1790", 0, 0, "|Le.Goarant ¶Jean"},
-    {Anne, "Kerdoncuff;Anne;", 'F', "1726", "", 0, 0, "|Kerdoncuff ¶Anne"},
-    {Marie, "Quémener;Marie;;;2/5", 'F', "1755", "1784", 0, 0, "|Quémener ¶Marie ~Plouvern"},
-    {Jeanne, "Tanguy;Jeanne;;20/6;", 'F', "1760", "", Herve, Catherine,
+    {Yves, "Le Gouarant;Yves;;3/3;", Sexe::Homme, "1752", "", Jean, Anne,
+     "|Le.Gouarant ¶Yves $Plouvern"},
+    {Jean, "Le Goarant;Jean;", Sexe::Homme, "1722", "1790", 0, 0, "|Le.Goarant ¶Jean"},
+    {Anne, "Kerdoncuff;Anne;", Sexe::Femme, "1726", "", 0, 0, "|Kerdoncuff ¶Anne"},
+    {Marie, "Quémener;Marie;;;2/5", Sexe::Femme, "1755", "1784", 0, 0,
+     "|Quémener ¶Marie ~Plouvern"},
+    {Jeanne, "Tanguy;Jeanne;;20/6;", Sexe::Femme, "1760", "", Herve, Catherine,
      "|Tanguy ¶Jeanne $Saint-Brévan"},
-    {Herve, "Tanguy;Hervé;", 'H', "1730", "", 0, 0, "|Tanguy ¶Hervé"},
-    {Catherine, "Salaün;Catherine;", 'F', "1733", "1781", 0, 0, "|Salaün ¶Catherine"},
-    {Corentin, "Tanguy;Corentin;;9/9;", 'H', "1783", "", Yves, Jeanne,
+    {Herve, "Tanguy;Hervé;", Sexe::Homme, "1730", "", 0, 0, "|Tanguy ¶Hervé"},
+    {Catherine, "Salaün;Catherine;", Sexe::Femme, "1733", "1781", 0, 0, "|Salaün ¶Catherine"},
+    {Corentin, "Tanguy;Corentin;;9/9;", Sexe::Homme, "1783", "", Yves, Jeanne,
      "|Tanguy ¶Corentin $Saint-Brévan"},
-    {Guillaume, "Abgrall;Guillaume;", 'H', "1740", "", 0, 0, "|Abgrall ¶Guillaume"},
-    {Francois, "Morvan;François;", 'H', "1765", "", 0, 0, "|Morvan ¶François"},
-    {MarieAnne, "Le Goarant;Marie Anne;;3/11;", 'F', "1787", "", Yves, Jeanne,
+    {Guillaume, "Abgrall;Guillaume;", Sexe::Homme, "1740", "", 0, 0, "|Abgrall ¶Guillaume"},
+    {Francois, "Morvan;François;", Sexe::Homme, "1765", "", 0, 0, "|Morvan ¶François"},
+    {MarieAnne, "Le Goarant;Marie Anne;;3/11;", Sexe::Femme, "1787", "", Yves, Jeanne,
      "|Le.Goarant ¶Marie.Anne $Plouvern"},
-    {Pierre, "Le Goarant;Pierre;;3/11;", 'H', "1787", "", Yves, Jeanne,
+    {Pierre, "Le Goarant;Pierre;;3/11;", Sexe::Homme, "1787", "", Yves, Jeanne,
      "|Le.Goarant ¶Pierre $Plouvern"},
 };
 
@@ -366,7 +369,7 @@ TEST_CASE_FIXTURE(Acte, "Quitting with an unsaved sheet asks: yes saves it into 
     }
     CHECK_FALSE(Fenetre().isVisible());
     storage::DisqueReel disque;
-    storage::AvancementMuet muet;
+    storage::ProgressionMuette muet;
     const auto lue = storage::OuvrirBase(disque, chemin, muet).base;
     REQUIRE(lue != nullptr);
     CHECK(lue->R_NOM.PrenomDe(NoOrdre{Yves}) == garde);

@@ -54,7 +54,7 @@ struct Toutes : FenetreEssai {
         fenetres.emplace_back(new FrmRapport{S(), {}, {}, &Fenetre()});
         fenetres.emplace_back(new FrmPalette{S(), Palette::Claire, &Fenetre()});
         fenetres.emplace_back(new FrmCalendrier{S(), &Fenetre()});
-        fenetres.emplace_back(new FrmPere{S(), NoOrdre{3}, 'H', &Fenetre()});
+        fenetres.emplace_back(new FrmPere{S(), NoOrdre{3}, Cote::Pere, &Fenetre()});
         fenetres.emplace_back(new FrmEnfants{S(), NoOrdre{3}, &Fenetre()});
         fenetres.emplace_back(new FrmConjoints{S(), NoOrdre{3}, &Fenetre()});
         fenetres.emplace_back(new FrmLiens{S(), NoOrdre{3}, &Fenetre()});

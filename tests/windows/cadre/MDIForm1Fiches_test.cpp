@@ -23,7 +23,7 @@ struct Bureau : FenetreEssai {
     /// A child of whom one parent is not known, shown in the chart.
     NoOrdre MontrerEnfant(NoOrdre pere, NoOrdre mere) const {
         doublures::FamilleEssai famille{*S().base};
-        const NoOrdre enfant = famille.Creer('F', "Martin", "Luce", "1870");
+        const NoOrdre enfant = famille.Creer(Sexe::Femme, "Martin", "Luce", "1870");
         famille.Parents(enfant, pere, mere);
         Fenetre().AllerA(enfant);
         return enfant;
@@ -163,7 +163,8 @@ TEST_CASE_FIXTURE(Bureau, "MnuSupprInd: refused with a family, done after a yes 
     RepondreBoite(QMessageBox::Ok);
     Action("MnuSupprInd").trigger();
     CHECK(EnCours() == 3);
-    const NoOrdre seul = doublures::FamilleEssai{*S().base}.Creer('I', "Seul", "Jean", "1900");
+    const NoOrdre seul =
+        doublures::FamilleEssai{*S().base}.Creer(Sexe::Indetermine, "Seul", "Jean", "1900");
     Fenetre().AllerA(seul);
     RepondreBoite(QMessageBox::Yes);
     Action("MnuSupprInd").trigger();

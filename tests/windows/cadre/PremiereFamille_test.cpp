@@ -264,7 +264,7 @@ void Lecteur::CreerEvenement() {
     });
     Cliquer(Fiche(), "CmdEvtAjout");
     REQUIRE(B().entete.DernierEvenement == 1);
-    CHECK(B().R_EVT.RoleEvt(NoEvenement{1}, 1) == "CHIL");
+    CHECK(B().R_EVT.Liens(NoEvenement{1}).at(0).role == "CHIL");
     Tourner();
 }
 

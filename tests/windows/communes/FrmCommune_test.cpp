@@ -38,7 +38,7 @@ Commune Lieu(const char* nom, const char* rattachement = "", const char* precisi
 }
 
 void Ecrire(const std::filesystem::path& fichier, const std::vector<Commune>& communes) {
-    storage::AvancementMuet muet;
+    storage::ProgressionMuette muet;
     std::string octets;
     REQUIRE(storage::ComposerLgx(communes, muet, octets));
     REQUIRE(shell::EcrireTout(fichier, octets));

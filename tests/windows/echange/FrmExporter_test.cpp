@@ -254,7 +254,7 @@ TEST_CASE_FIXTURE(Export,
                   "FrmExporter: births after 1900 are left out, and the rest of the base too") {
     DemarrerFamille();
     storage::Base& b = *S().base;
-    doublures::FamilleEssai{b}.Creer('H', "Martin", "Robert", "1901");
+    doublures::FamilleEssai{b}.Creer(Sexe::Homme, "Martin", "Robert", "1901");
     Ouvrir();
     Clic("OptBase(1)");
     CHECK(C<QWidget>("ChkComplet").isEnabled());
@@ -358,7 +358,7 @@ TEST_CASE_FIXTURE(Export, "MnuExporterSélectif: the list of the search is what 
 
 TEST_CASE_FIXTURE(Export, "FrmExporter: who is deleted meanwhile leaves the selection") {
     DemarrerFamille();
-    const NoOrdre seul = doublures::FamilleEssai{*S().base}.Creer('H', "Seul", "Marc");
+    const NoOrdre seul = doublures::FamilleEssai{*S().base}.Creer(Sexe::Homme, "Seul", "Marc");
     Fenetre().ExporterListe({NoOrdre{6}, seul});
     CHECK(Fiche().startsWith(QStringLiteral("Personnes\u00A0: 2 ")));
     AllerA(seul.valeur);
@@ -400,7 +400,7 @@ TEST_CASE_FIXTURE(Export,
     doublures::FamilleEssai famille{*S().base};
     const std::string prenoms(200, '\xE9');
     for (int i = 0; i < 60000; ++i)
-        famille.Creer('H', "Durand", prenoms, "1850", "1911");
+        famille.Creer(Sexe::Homme, "Durand", prenoms, "1850", "1911");
     doublures::EcrireFichier(dossier / "gros.ged", "former");
     Ouvrir();
     C<QComboBox>("CboJeu").setCurrentText(QStringLiteral("HTML"));

@@ -125,7 +125,7 @@ TEST_CASE_FIXTURE(Essai, "FrmDesEvt: a person made for a role is linked with it"
     auto texte = Repondre(QMessageBox::No);
     Cliquer("CmdMaj");
     CHECK(texte->contains("diffère de la fiche"));
-    CHECK(S().base->R_EVT.RoleEvt(e, 2) == "WITN");
+    CHECK(S().base->R_EVT.Liens(e).at(1).role == "WITN");
     CHECK(S().base->R_LSTEVT.NbElements(NoOrdre{9}) == 1);
 }
 

@@ -133,7 +133,7 @@ TEST_CASE_FIXTURE(Depots, "FrmMisajour: files that are dropped become documents 
         for (int i = 0; i < 200; ++i) {
             const NoDocument d = B().NouveauDocument();
             B().R_IMAGE.EcrireDoc(d, {"Photo", "", "", ""});
-            B().R_LSTIMG.ModifierListe(NoOrdre{3}, d, 'A');
+            B().R_LSTIMG.ModifierListe(NoOrdre{3}, d, storage::ActionListe::Ajouter);
         }
         const auto texte = RepondreBoite(QMessageBox::Ok);
         CHECK(Deposer(*Liste("LstImage").viewport(), *donnees));

@@ -11,7 +11,7 @@ using namespace dorvane::windows;
 namespace {
 
 struct HorsOrdre : Feuille {
-    NoOrdre seul = doublures::FamilleEssai{B()}.Creer('H', "Seul", "Jean", "1900");
+    NoOrdre seul = doublures::FamilleEssai{B()}.Creer(Sexe::Homme, "Seul", "Jean", "1900");
 
     void OuvrirSeul() {
         AllerA(seul.valeur);
@@ -97,7 +97,7 @@ TEST_CASE_FIXTURE(HorsOrdre, "FrmMisajour: a father who is not in the base can b
 
 TEST_CASE_FIXTURE(Conduite, "FrmMisajour: the last person of a base is deleted in the sheet") {
     Nouvelle(dossier / "Neuve.LGD");
-    CreerSeul({.nom = "Seul", .prenom = "Jean", .sexe = 'H', .anneeNaissance = "1900"});
+    CreerSeul({.nom = "Seul", .prenom = "Jean", .sexe = Sexe::Homme, .anneeNaissance = "1900"});
     OuvrirFiche();
     FrmMisajour& fiche = Fiche();
     {

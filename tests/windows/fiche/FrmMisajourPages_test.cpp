@@ -226,8 +226,8 @@ TEST_CASE_FIXTURE(Feuille, "FrmMisajour: events of the person are listed, opened
                             .liens = {{{NoOrdre{3}, "HUSB"}, {NoOrdre{4}, "WIFE"}}},
                             .description = storage::DescriptionEvt{"Rennes", "", "MARR"}});
     B().R_TRI.AjouterEvt(e);
-    B().R_LSTEVT.ModifierListe(NoOrdre{3}, e, 'A', "HUSB");
-    B().R_LSTEVT.ModifierListe(NoOrdre{4}, e, 'A', "WIFE");
+    B().R_LSTEVT.ModifierListe(NoOrdre{3}, e, storage::ActionListe::Ajouter, "HUSB");
+    B().R_LSTEVT.ModifierListe(NoOrdre{4}, e, storage::ActionListe::Ajouter, "WIFE");
     fiche->Recharger();
     Page(3);
     REQUIRE(Liste("GrdEvts").Lignes().size() == 1);
@@ -252,7 +252,7 @@ TEST_CASE_FIXTURE(Feuille, "FrmMisajour: documents of the person are listed, mov
         const NoDocument d = B().NouveauDocument();
         B().R_IMAGE.EcrireDoc(d, {titre, "absent.jpg", "", ""});
         B().R_TRI.AjouterDocument(d);
-        B().R_LSTIMG.ModifierListe(NoOrdre{3}, d, 'A');
+        B().R_LSTIMG.ModifierListe(NoOrdre{3}, d, storage::ActionListe::Ajouter);
     }
     fiche->Recharger();
     Page(4);

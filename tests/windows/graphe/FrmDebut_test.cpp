@@ -54,7 +54,7 @@ TEST_CASE_FIXTURE(FenetreEssai,
                                            "Jeanne Noël, Luc Martin, Marie Martin, Jules Martin"));
     const ContenuCase& paul = Graphe().Cases()[0]->Contenu();
     CHECK(paul.dates == "1820-1890");
-    CHECK(paul.sexe == 'H');
+    CHECK(paul.sexe == Sexe::Homme);
     CHECK(paul.bulle == "Paul Martin (1820-1890)");
     CHECK(Graphe().Cases()[0]->toolTip() == "Paul Martin (1820-1890)");
     QStringList unions;
@@ -224,9 +224,9 @@ TEST_CASE_FIXTURE(FenetreEssai, "FrmDébut: lines never cross boxes, in any pres
     std::vector<NoOrdre> tous{NoOrdre{3}};
     for (int k = 0; k < 70; ++k) {
         const NoOrdre parent = tous[hasard() % tous.size()];
-        const NoOrdre conjoint = famille.Creer('F', "Autre", "Une");
+        const NoOrdre conjoint = famille.Creer(Sexe::Femme, "Autre", "Une");
         if (hasard() % 3 != 0) famille.Marier(parent, conjoint, "1900");
-        const NoOrdre enfant = famille.Creer('H', "Martin", "Enfant");
+        const NoOrdre enfant = famille.Creer(Sexe::Homme, "Martin", "Enfant");
         famille.Parents(enfant, parent, hasard() % 4 == 0 ? NoOrdre{} : conjoint);
         tous.push_back(enfant);
     }

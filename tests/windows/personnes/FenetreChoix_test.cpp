@@ -47,7 +47,7 @@ struct Famille : FenetreEssai {
     void Peupler(int combien) const {
         doublures::FamilleEssai famille{B()};
         for (int i = 0; i < combien; ++i)
-            famille.Creer('H', "Nom" + std::to_string(100 + i), "P", "1780");
+            famille.Creer(Sexe::Homme, "Nom" + std::to_string(100 + i), "P", "1780");
     }
     /// A click on the row, then the double click that a user makes.
     static void DoubleCliquer(const QWidget& fenetre, int rangee) {
@@ -62,7 +62,7 @@ struct Famille : FenetreEssai {
 
 TEST_CASE_FIXTURE(
     Famille, "FrmPère: starts with the surname, shows marks, names, dates and the years in words") {
-    FrmPere fenetre{S(), NoOrdre{6}, 'H', &Fenetre()};
+    FrmPere fenetre{S(), NoOrdre{6}, Cote::Pere, &Fenetre()};
     fenetre.show();
     CHECK(fenetre.objectName() == QStringLiteral("FrmPère"));
     CHECK(fenetre.windowTitle() == QStringLiteral("Chercher le père de Luc Martin"));
@@ -86,7 +86,7 @@ TEST_CASE_FIXTURE(
 
 TEST_CASE_FIXTURE(Famille,
                   "FrmPère: what is typed is folded at each change, and the cursor stays") {
-    FrmPere fenetre{S(), NoOrdre{4}, 'F', &Fenetre()};
+    FrmPere fenetre{S(), NoOrdre{4}, Cote::Mere, &Fenetre()};
     fenetre.show();
     auto& nom = C<QLineEdit>(fenetre, "TxtNom");
     CHECK(nom.text() == "EVRARD");
@@ -104,7 +104,7 @@ TEST_CASE_FIXTURE(Famille,
 
 TEST_CASE_FIXTURE(Famille,
                   "FrmPère: a double click makes the link, with its questions, and closes") {
-    FrmPere fenetre{S(), NoOrdre{4}, 'H', &Fenetre()};
+    FrmPere fenetre{S(), NoOrdre{4}, Cote::Pere, &Fenetre()};
     fenetre.show();
     C<QLineEdit>(fenetre, "TxtNom").clear();
     CHECK(Noms(fenetre) == QStringList{"Louis Martin"});
@@ -118,7 +118,7 @@ TEST_CASE_FIXTURE(Famille,
 }
 
 TEST_CASE_FIXTURE(Famille, "FrmPère: a refusal keeps the window open") {
-    FrmPere fenetre{S(), NoOrdre{1}, 'H', &Fenetre()};
+    FrmPere fenetre{S(), NoOrdre{1}, Cote::Pere, &Fenetre()};
     fenetre.show();
     auto& nom = C<QLineEdit>(fenetre, "TxtNom");
     nom.clear();
@@ -138,7 +138,7 @@ TEST_CASE_FIXTURE(Famille, "FrmPère: a refusal keeps the window open") {
 TEST_CASE_FIXTURE(Famille,
                   "FrmPère: pages of 20, turned by buttons, keys and the ends of the list") {
     Peupler(45);
-    FrmPere fenetre{S(), NoOrdre{3}, 'H', &Fenetre()};
+    FrmPere fenetre{S(), NoOrdre{3}, Cote::Pere, &Fenetre()};
     fenetre.show();
     auto& nom = C<QLineEdit>(fenetre, "TxtNom");
     auto& grille = C<QTableView>(fenetre, "Grille1");
@@ -171,7 +171,7 @@ TEST_CASE_FIXTURE(Famille,
 }
 
 TEST_CASE_FIXTURE(Famille, "FrmPère: an empty list says why and what to do") {
-    FrmPere fenetre{S(), NoOrdre{6}, 'H', &Fenetre()};
+    FrmPere fenetre{S(), NoOrdre{6}, Cote::Pere, &Fenetre()};
     fenetre.show();
     auto& nom = C<QLineEdit>(fenetre, "TxtNom");
     const auto& vide = C<QLabel>(fenetre, "LblVide");
@@ -194,8 +194,8 @@ TEST_CASE_FIXTURE(Famille, "FrmPère: an empty list says why and what to do") {
 
 TEST_CASE_FIXTURE(Famille, "FrmPère: for a child without a year the window says who is offered") {
     doublures::FamilleEssai famille{B()};
-    const NoOrdre sans = famille.Creer('H', "Noir", "Jean", "");
-    const FrmPere fenetre{S(), sans, 'H', &Fenetre()};
+    const NoOrdre sans = famille.Creer(Sexe::Homme, "Noir", "Jean", "");
+    const FrmPere fenetre{S(), sans, Cote::Pere, &Fenetre()};
     CHECK(Texte(fenetre, "LblFenetre")
               .startsWith(QStringLiteral("L'année de naissance de Jean Noir n'est pas connue")));
 }
@@ -235,12 +235,12 @@ TEST_CASE_FIXTURE(
 
 TEST_CASE_FIXTURE(Famille, "A chooser keeps its columns for the next time, each window its own") {
     {
-        FrmPere fenetre{S(), NoOrdre{6}, 'H', &Fenetre()};
+        FrmPere fenetre{S(), NoOrdre{6}, Cote::Pere, &Fenetre()};
         fenetre.show();
         C<QTableView>(fenetre, "Grille1").setColumnHidden(2, true);
         QTest::keyClick(&fenetre, Qt::Key_Escape);
     }
-    const FrmPere encore{S(), NoOrdre{6}, 'F', &Fenetre()};
+    const FrmPere encore{S(), NoOrdre{6}, Cote::Mere, &Fenetre()};
     CHECK(C<QTableView>(encore, "Grille1").isColumnHidden(2));
     const FrmLiens autre{S(), NoOrdre{6}, &Fenetre()};
     CHECK_FALSE(C<QTableView>(autre, "Grille1").isColumnHidden(2));

@@ -56,7 +56,7 @@ struct Formulaire : FenetreEssai {
 
 TEST_CASE_FIXTURE(Formulaire,
                   "FrmCréation: typed and validated by keys, the person is made whole") {
-    Ouvrir({.nom = "Martin", .sexe = 'F'});
+    Ouvrir({.nom = "Martin", .sexe = Sexe::Femme});
     CHECK(Champ("T_Nom").text() == "Martin");
     CHECK(C<QRadioButton>("O_Sexe(1)").isChecked());
     // The surname stands: the first names are next.
@@ -75,7 +75,7 @@ TEST_CASE_FIXTURE(Formulaire,
     CHECK(fenetre->Individu() == suivant);
     storage::Base& lue = *S().base;
     CHECK(lue.R_NOM.LireTexte(suivant) == "Martin;Louise;;12/3;");
-    CHECK(lue.R_SEXE.LireCellule(suivant) == 'F');
+    CHECK(lue.R_SEXE.LireCellule(suivant) == Sexe::Femme);
     CHECK(lue.R_NAISS.LireCellule(suivant) == "1858");
     CHECK(storage::LieuNaissance(lue, suivant) == "Saint Malo");
     CHECK(storage::SlotsDe(lue, suivant)[0].lieu == "dentellière"_1252);
@@ -83,7 +83,7 @@ TEST_CASE_FIXTURE(Formulaire,
 
 TEST_CASE_FIXTURE(Formulaire,
                   "FrmCréation: Escape on an untouched form makes nobody, without a question") {
-    Ouvrir({.nom = "Martin", .sexe = 'H'});
+    Ouvrir({.nom = "Martin", .sexe = Sexe::Homme});
     QTest::keyClick(fenetre.get(), Qt::Key_Escape);
     CHECK_FALSE(fenetre->isVisible());
     CHECK_FALSE(fenetre->Individu());
@@ -123,7 +123,7 @@ TEST_CASE_FIXTURE(Formulaire,
 }
 
 TEST_CASE_FIXTURE(Formulaire, "FrmCréation: the sex that the caller wants cannot be changed") {
-    Ouvrir({.nom = "Martin", .sexe = 'H'});
+    Ouvrir({.nom = "Martin", .sexe = Sexe::Homme});
     CHECK(C<QRadioButton>("O_Sexe(0)").isChecked());
     CHECK_FALSE(C<QRadioButton>("O_Sexe(1)").isEnabled());
     CHECK_FALSE(C<QRadioButton>("O_Sexe(2)").isEnabled());
@@ -135,7 +135,7 @@ TEST_CASE_FIXTURE(Formulaire, "FrmCréation: left undetermined, the sex cell sta
     Taper("T_Nom", "Durand");
     Taper("T_Naiss", "1850");
     Entree();
-    CHECK(S().base->R_SEXE.LireCellule(suivant) == ' ');
+    CHECK(S().base->R_SEXE.LireCellule(suivant) == Sexe::Vide);
 }
 
 TEST_CASE_FIXTURE(Formulaire, "FrmCréation: the case of the base applies when a field is left") {

@@ -63,8 +63,8 @@ TEST_CASE_FIXTURE(
 }
 
 TEST_CASE_FIXTURE(Noms, "FrmNom: in a base by years TxPosition takes a year") {
-    S().base->entete.TypeTri = '1';
-    storage::AvancementMuet muet;
+    S().base->entete.TypeTri = TypeTri::Naissance;
+    storage::ProgressionMuette muet;
     S().base->R_TRI.TrierIndividus(muet);
     FrmNom fenetre{S(), {}, &Fenetre()};
     fenetre.show();
@@ -77,7 +77,7 @@ TEST_CASE_FIXTURE(
     Noms, "FrmNom: among some persons, and in a base by creation, there is no place to go to") {
     const FrmNom choix{S(), {{}, {}, {NoOrdre{4}, NoOrdre{1}}}, &Fenetre()};
     CHECK(C<QLineEdit>(choix, "TxPosition").isHidden());
-    S().base->entete.TypeTri = '0';
+    S().base->entete.TypeTri = TypeTri::Creation;
     const FrmNom tous{S(), {}, &Fenetre()};
     CHECK(C<QLineEdit>(tous, "TxPosition").isHidden());
     CHECK(C<QLabel>(tous, "LblPosition").isHidden());

@@ -132,7 +132,7 @@ TEST_CASE_FIXTURE(Bureau, "FrmParametre: a kind of event gets a role, and anothe
     Cliquer("CmdValider");
     const auto naissance = S().parametres.RolesEvenement("BIRT");
     REQUIRE(naissance.size() == static_cast<std::size_t>(nombre + 1));
-    CHECK(naissance.back() == shell::RoleEvenement{false, 'F', "Sage-femme"});
+    CHECK(naissance.back() == shell::RoleEvenement{false, Sexe::Femme, "Sage-femme"});
     CHECK(S().parametres.RolesEvenement("Tirage au sort").size() == 1);
 }
 

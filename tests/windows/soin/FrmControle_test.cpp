@@ -30,7 +30,7 @@ struct Controle : Faits<FrmControle> {
         qunsetenv("EDITOR");
         storage::Base& b = *S().base;
         b.R_NAISS.EcrireCellule(NoOrdre{6}, "1810");
-        b.R_SEXE.EcrireCellule(NoOrdre{7}, ' ');
+        b.R_SEXE.EcrireCellule(NoOrdre{7}, Sexe::Vide);
         b.R_NAISS.EcrireCellule(NoOrdre{8}, "");
     }
     ~Controle() { qputenv("PATH", chemins); }
@@ -80,7 +80,7 @@ struct Controle : Faits<FrmControle> {
         std::vector<std::uint16_t> rangs = b.R_TRI.individus.Numeros();
         for (int i = 0; i < nombre; ++i) {
             const NoOrdre n = b.NouvelIndividu();
-            b.R_SEXE.EcrireCellule(n, 'H');
+            b.R_SEXE.EcrireCellule(n, Sexe::Homme);
             b.R_NOM.EcrireNom(n, "ZOLA;Jean" + std::to_string(10000 + i) + ";;;");
             rangs.push_back(static_cast<std::uint16_t>(n.valeur));
         }
@@ -143,7 +143,7 @@ TEST_CASE_FIXTURE(Controle, "FrmControle: a kind, and words, narrow the list; bo
 
 TEST_CASE_FIXTURE(Controle, "FrmControle: numbers sort as numbers; the scan order comes back") {
     for (int i = 0; i < 4; ++i)
-        doublures::FamilleEssai{*S().base}.Creer('I', "Zola", "Jean");
+        doublures::FamilleEssai{*S().base}.Creer(Sexe::Indetermine, "Zola", "Jean");
     Lancer();
     QHeaderView& entete = *C<QTableView>("GrdAno").horizontalHeader();
     const QString ordre = Anomalies();
@@ -226,7 +226,7 @@ TEST_CASE_FIXTURE(Controle, "FrmControle: checked again, what was mended is gone
 TEST_CASE_FIXTURE(Controle, "FrmControle: a base without findings is told so at once") {
     S().base->R_NAISS.EcrireCellule(NoOrdre{6}, "1851");
     S().base->R_NAISS.EcrireCellule(NoOrdre{8}, "1861");
-    S().base->R_SEXE.EcrireCellule(NoOrdre{7}, 'F');
+    S().base->R_SEXE.EcrireCellule(NoOrdre{7}, Sexe::Femme);
     auto texte = Repondre(QMessageBox::Ok);
     Lancer();
     CHECK(*texte == QStringLiteral("Aucune anomalie n'a été trouvée"));
