@@ -3,6 +3,7 @@
 #include <QPixmap>
 
 #include "doublures/SessionEssai.h"
+#include "records/AccordEvenements.h"
 #include "records/Fiche.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"

@@ -2,6 +2,7 @@
 #include "app/DecrirePersonne.h"
 #include "app/Verbes.h"
 #include "messages/Outil.h"
+#include "records/AccordEvenements.h"
 #include "records/FicheDocument.h"
 #include "records/FicheEvenement.h"
 #include "records/NomsAffiches.h"

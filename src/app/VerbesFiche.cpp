@@ -1,6 +1,7 @@
 #include "app/CommandeBase.h"
 #include "app/Verbes.h"
 #include "messages/Outil.h"
+#include "records/AccordEvenements.h"
 #include "records/Famille.h"
 #include "records/Fiche.h"
 #include "records/Filiation.h"

@@ -15,6 +15,7 @@
 #include "values/SortesEvenement.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstddef>
 #include <optional>
 #include <vector>
@@ -23,8 +24,6 @@ namespace dorvane::records {
 namespace {
 
 using storage::LienEvenement;
-
-constexpr std::size_t TailleAnnee = 4;
 
 NoMessage MessageDe(MiroirFiche miroir) {
     switch (miroir) {
@@ -178,27 +177,6 @@ NoMariage UnionRacontee(storage::Base& base, const std::vector<storage::LienEven
                                                    : NoMariage{};
 }
 
-MiroirFiche MiroirDe(std::string_view type, std::string_view role) {
-    if (role == role::Enfant) {
-        if (type == tag::Naissance) return MiroirFiche::Naissance;
-        if (type == tag::Bapteme) return MiroirFiche::Bapteme;
-    }
-    if (role == role::Defunt) {
-        if (type == tag::Deces) return MiroirFiche::Deces;
-        if (type == tag::Inhumation) return MiroirFiche::Inhumation;
-    }
-    if (type == tag::Mariage && (role == role::Epoux || role == role::Epouse))
-        return MiroirFiche::Mariage;
-    return MiroirFiche::Aucun;
-}
-
-DateCoupee CouperDate(std::string_view date) {
-    if (date.size() <= TailleAnnee) return {{}, std::string{SansBlancs(date)}};
-    const std::size_t coupe = date.size() - TailleAnnee;
-    return {std::string{SansBlancs(date.substr(0, coupe))},
-            std::string{SansBlancs(date.substr(coupe))}};
-}
-
 bool EcrireRangees(shell::Session& session, NoOrdre individu, const RangeesSlots& rangees) {
     if (!session.base || !Existe(*session.base, individu)) return false;
     SaisieFiche fiche = ChargerFiche(session, individu);
@@ -211,7 +189,7 @@ bool EcrireRangees(shell::Session& session, NoOrdre individu, const RangeesSlots
 }
 
 void AccorderEvenements(shell::Session& session, NoOrdre individu) {
-    if (!session.base) return;
+    assert(session.base);
     // An event that moves changes the list of the person: it is read first.
     for (const LigneEvenement& ligne : EvenementsDe(session, individu)) {
         const MiroirFiche miroir =
@@ -230,7 +208,7 @@ void AccorderEvenements(shell::Session& session, NoOrdre individu) {
 }
 
 void AccorderFiches(shell::Session& session, NoEvenement evenement) {
-    if (!session.base) return;
+    assert(session.base);
     storage::Base& base = *session.base;
     const std::string type = base.R_EVT.TypeEvt(evenement);
     const std::vector<LienEvenement> liens = base.R_EVT.Liens(evenement);
@@ -262,6 +240,19 @@ void AccorderFiches(shell::Session& session, NoEvenement evenement) {
             ReporterFiche(session, lien.individu, miroir, fait);
         base.marques.AffichagePerime = true;
     }
+}
+
+IssueFiche ValiderFiche(shell::Session& session, SaisieFiche& saisie) {
+    const IssueFiche issue = EcrireFiche(session, saisie);
+    if (!issue.EstRefusee()) AccorderEvenements(session, issue.individu);
+    return issue;
+}
+
+IssueEvenement ValiderEvenement(shell::Session& session, SaisieEvenement& saisie) {
+    const IssueEvenement issue = EcrireSaisie(session, saisie);
+    if (issue.etat == IssueEvenement::Etat::Ecrit || issue.etat == IssueEvenement::Etat::Inchange)
+        AccorderFiches(session, saisie.evenement);
+    return issue;
 }
 
 }  // namespace dorvane::records

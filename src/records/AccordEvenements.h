@@ -1,10 +1,10 @@
 #pragma once
 
+#include "records/MiroirFiche.h"
 #include "records/SaisieEvenement.h"
 #include "records/SaisieFiche.h"
 #include "storage/Evenements.h"
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,12 +20,8 @@ class Base;
 
 namespace dorvane::records {
 
-/// What of a sheet an event repeats.
-enum class MiroirFiche : std::uint8_t { Aucun, Naissance, Bapteme, Deces, Inhumation, Mariage };
-
-/// By the tags of kind and role: birth and christening for the child, death and burial for the
-/// deceased, marriage for husband and wife.
-[[nodiscard]] MiroirFiche MiroirDe(std::string_view type, std::string_view role);
+/// What sheets and events say of the same facts, and the saving of either: it stands above both,
+/// and neither knows the other.
 
 /// Date and place as shown.
 struct DateEtLieu {
@@ -52,25 +48,24 @@ struct DateEtLieu {
                                       const std::vector<storage::LienEvenement>& liens,
                                       NoOrdre individu, std::string_view annee);
 
-/// The date of an event as a sheet holds it: day and month, and year.
-struct DateCoupee {
-    std::string jourMois{};
-    std::string annee{};
-    friend bool operator==(const DateCoupee&, const DateCoupee&) = default;
-};
-/// Cuts a date in words in front of its last four characters.
-[[nodiscard]] DateCoupee CouperDate(std::string_view date);
-
 /// Gives a person the values of the keyword rows; the note and the rest stay. False when they were
 /// so already. Nothing is offered to the events.
 bool EcrireRangees(shell::Session& session, NoOrdre individu, const RangeesSlots& rangees);
 
-/// After a sheet was saved: each event of the person that repeats it and differs is offered to be
-/// brought into line, one question each. Events are never changed without one.
+/// Each event of the person that repeats the sheet and differs is offered to be brought into line,
+/// one question each. Events are never changed without one. A base is open.
 void AccorderEvenements(shell::Session& session, NoOrdre individu);
 
-/// After an event was saved: the sheet of each person whom it mirrors is offered date and place of
-/// the event when they differ. Writes years, day and month, place, index and sort table.
+/// The sheet of each person whom the event mirrors is offered its date and place when they differ.
+/// Writes years, day and month, place, index and sort table. A base is open.
 void AccorderFiches(shell::Session& session, NoEvenement evenement);
+
+/// `C_Maj`: writes what differs as `EcrireFiche`, then offers the values to the events of the
+/// person that repeat them and differ, one question each.
+[[nodiscard]] IssueFiche ValiderFiche(shell::Session& session, SaisieFiche& saisie);
+
+/// Saves an event as `EcrireSaisie`, then offers date and place to the sheets that it mirrors. Not
+/// while a role is missing.
+[[nodiscard]] IssueEvenement ValiderEvenement(shell::Session& session, SaisieEvenement& saisie);
 
 }  // namespace dorvane::records

@@ -1,7 +1,6 @@
 #include "records/Fiche.h"
 
 #include "messages/Messages.h"
-#include "records/AccordEvenements.h"
 #include "records/ControleFiche.h"
 #include "records/Individus.h"
 #include "records/Liens.h"
@@ -293,11 +292,9 @@ bool FicheModifiee(shell::Session& session, const SaisieFiche& saisie) {
     return Nette(std::move(stockee)) != Nette(saisie);
 }
 
-IssueFiche ValiderFiche(shell::Session& session, SaisieFiche& saisie) {
+IssueFiche EcrireFiche(shell::Session& session, SaisieFiche& saisie) {
     if (!session.base || (saisie.individu && !DansLaBase(session, saisie.individu))) return {};
-    const IssueFiche issue = Validation{session, saisie}.Executer();
-    if (!issue.EstRefusee()) AccorderEvenements(session, issue.individu);
-    return issue;
+    return Validation{session, saisie}.Executer();
 }
 
 std::vector<Fratrie> FratrieDe(shell::Session& session, NoOrdre individu) {

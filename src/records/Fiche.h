@@ -25,11 +25,10 @@ namespace dorvane::records {
 /// typed.
 [[nodiscard]] bool FicheModifiee(shell::Session& session, const SaisieFiche& saisie);
 
-/// `C_Maj`: writes what differs, in a fixed order, then offers the values to the events of the
-/// person. A new person is made first. `saisie` comes back with its names spread over their fields
-/// and the number of a new person. After a refusal the fields are as they were; what had been
-/// written before it stays.
-[[nodiscard]] IssueFiche ValiderFiche(shell::Session& session, SaisieFiche& saisie);
+/// Writes what differs, in a fixed order. A new person is made first. `saisie` comes back with its
+/// names spread over their fields and the number of a new person. After a refusal the fields are as
+/// they were; what had been written before it stays.
+[[nodiscard]] IssueFiche EcrireFiche(shell::Session& session, SaisieFiche& saisie);
 
 /// Brothers and sisters: the other children of father and mother, by year of birth.
 struct Fratrie {

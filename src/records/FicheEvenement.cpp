@@ -2,7 +2,6 @@
 
 #include "messages/Faits.h"
 #include "messages/Messages.h"
-#include "records/AccordEvenements.h"
 #include "records/EcrireEvenement.h"
 #include "records/Incidents.h"
 #include "records/NomsAffiches.h"
@@ -146,7 +145,7 @@ bool EvenementModifie(shell::Session& session, const SaisieEvenement& saisie) {
                              date.value_or(session.base->R_EVT.CleDateEvt(saisie.evenement))));
 }
 
-IssueEvenement ValiderEvenement(shell::Session& session, SaisieEvenement& saisie) {
+IssueEvenement EcrireSaisie(shell::Session& session, SaisieEvenement& saisie) {
     using Etat = IssueEvenement::Etat;
     storage::Base& base = *session.base;
     if (SansBlancs(saisie.date).empty())
@@ -183,7 +182,6 @@ IssueEvenement ValiderEvenement(shell::Session& session, SaisieEvenement& saisie
         session.dialogue.Informer(shell::Msg(message::RoleNonAttribueOuInadapte));
         return {Etat::Incomplet, ChampEvenement::Liens};
     }
-    AccorderFiches(session, saisie.evenement);
     return {inchange ? Etat::Inchange : Etat::Ecrit, ChampEvenement::Aucun};
 }
 

@@ -28,9 +28,8 @@ namespace dorvane::records {
 
 /// Saves: refusals by message before anything is written; then only what differs is rewritten, the
 /// sort table and the lists of the persons follow, a new event gets its number in
-/// `saisie.evenement`, and the date stands in words; then the roles are checked, and the sheets are
-/// offered what the event says.
-[[nodiscard]] IssueEvenement ValiderEvenement(shell::Session& session, SaisieEvenement& saisie);
+/// `saisie.evenement`, and the date stands in words; then the roles are checked.
+[[nodiscard]] IssueEvenement EcrireSaisie(shell::Session& session, SaisieEvenement& saisie);
 
 /// Asks, then takes the event away from its persons and from the sort table. False: it stays.
 bool SupprimerEvenement(shell::Session& session, NoEvenement evenement);

@@ -1,5 +1,5 @@
-#include "records/AccordEvenements.h"
 #include "records/FicheEvenement.h"
+#include "records/MiroirFiche.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "values/MotsDates.h"

@@ -1,6 +1,7 @@
 #include "records/ControleBase.h"
 
 #include "messages/Messages.h"
+#include "records/AccordEvenements.h"
 #include "records/BureauSoin.h"
 #include "records/Fiche.h"
 #include "records/FicheEvenement.h"

@@ -1,6 +1,7 @@
 #include "records/FicheDocument.h"
 
 #include "messages/Messages.h"
+#include "records/AccordEvenements.h"
 #include "records/EssaiFamille.h"
 #include "records/FicheEvenement.h"
 #include "shell/FichierSur.h"

@@ -1,6 +1,7 @@
 #include "records/FicheEvenement.h"
 
 #include "messages/Messages.h"
+#include "records/AccordEvenements.h"
 #include "records/EssaiFamille.h"
 #include "values/Octets.h"
 

@@ -3,6 +3,7 @@
 #include "doublures/FicheEssai.h"
 #include "messages/Fiche.h"
 #include "messages/Messages.h"
+#include "records/AccordEvenements.h"
 #include "records/Individus.h"
 #include "records/Liens.h"
 #include "records/TexteFiche.h"

@@ -3,6 +3,7 @@
 #include "doublures/FicheEssai.h"
 #include "messages/Fiche.h"
 #include "messages/Messages.h"
+#include "records/AccordEvenements.h"
 #include "records/Fiche.h"
 #include "records/NomsAffiches.h"
 #include "shell/Numerotation.h"

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 
 #include "messages/Faits.h"
+#include "records/AccordEvenements.h"
 #include "records/FicheEvenement.h"
 #include "records/MotsUsuels.h"
 #include "records/NomsAffiches.h"

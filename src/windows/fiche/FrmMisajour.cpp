@@ -6,6 +6,7 @@
 
 #include "messages/Fiche.h"
 #include "messages/Messages.h"
+#include "records/AccordEvenements.h"
 #include "records/Famille.h"
 #include "records/Fiche.h"
 #include "records/Individus.h"

@@ -5,6 +5,7 @@
 #include <QTabWidget>
 #include <QToolButton>
 
+#include "records/AccordEvenements.h"
 #include "records/Fiche.h"
 #include "records/Liens.h"
 #include "windows/FeuilleEssai.h"

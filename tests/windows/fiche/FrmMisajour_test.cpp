@@ -5,6 +5,7 @@
 #include <QTabWidget>
 #include <QToolButton>
 
+#include "records/AccordEvenements.h"
 #include "records/Famille.h"
 #include "records/Fiche.h"
 #include "records/Individus.h"
