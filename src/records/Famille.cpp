@@ -16,11 +16,6 @@ NoMariage UnionDe(storage::Base& base, NoOrdre a, NoOrdre b) {
     return {};
 }
 
-NoOrdre PartenaireDe(storage::Base& base, NoOrdre individu, NoMariage mariage) {
-    const NoOrdre epoux = base.R_EPOUX.LireCellule(mariage);
-    return epoux == individu ? base.R_EPOUSE.LireCellule(mariage) : epoux;
-}
-
 bool Existe(storage::Base& base, NoOrdre individu) {
     if (!individu || individu.valeur > base.entete.DernierIndividu) return false;
     // Who was taken away has no name line; neither has a person without a name, who is rare.

@@ -1,18 +1,15 @@
 #pragma once
 
+#include "storage/Famille.h"
 #include "values/Numeros.h"
-
-namespace dorvane::storage {
-class Base;
-}
 
 namespace dorvane::records {
 
+using storage::LireParent;
+using storage::PartenaireDe;
+
 /// The union of two persons: the first one in the list of `a` whose partner is `b`; 0 for none.
 [[nodiscard]] NoMariage UnionDe(storage::Base& base, NoOrdre a, NoOrdre b);
-
-/// The partner of `individu` in a union; 0 when there is none.
-[[nodiscard]] NoOrdre PartenaireDe(storage::Base& base, NoOrdre individu, NoMariage mariage);
 
 /// A person of the base: its number has been given and it stands in the sort table.
 [[nodiscard]] bool Existe(storage::Base& base, NoOrdre individu);

@@ -107,24 +107,16 @@ void MajEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant,
     session.base->R_ENFANT.ModifierListe(parent, enfant, action);
 }
 
-NoOrdre LireParent(storage::Base& base, NoOrdre enfant, Cote cote) {
-    return (cote == Cote::Pere ? base.R_PERE : base.R_MERE).LireCellule(enfant);
-}
-
 bool EstAscendant(storage::Base& base, NoOrdre ancetre, NoOrdre individu) {
     std::unordered_set<std::uint32_t> vus;
-    std::vector<NoOrdre> restants{individu};
-    while (!restants.empty()) {
-        const NoOrdre n = restants.back();
-        restants.pop_back();
-        for (const Cote cote : Cotes) {
-            const NoOrdre parent = LireParent(base, n, cote);
+    return !storage::ParcourirFamille(individu, [&](NoOrdre n, std::vector<NoOrdre>& suivants) {
+        for (const NoOrdre parent : storage::ParentsDe(base, n)) {
             if (!parent) continue;
-            if (parent == ancetre) return true;
-            if (vus.insert(parent.valeur).second) restants.push_back(parent);
+            if (parent == ancetre) return false;
+            if (vus.insert(parent.valeur).second) suivants.push_back(parent);
         }
-    }
-    return false;
+        return true;
+    });
 }
 
 bool PeutEtreParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent) {

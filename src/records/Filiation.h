@@ -1,6 +1,7 @@
 #pragma once
 
 #include "storage/ActionListe.h"
+#include "storage/Famille.h"
 #include "values/Numeros.h"
 #include "values/Sexe.h"
 
@@ -26,8 +27,7 @@ namespace dorvane::records {
 void MajEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant,
                storage::ActionListe action);
 
-/// The parent of a child on a side; 0 for none.
-[[nodiscard]] NoOrdre LireParent(storage::Base& base, NoOrdre enfant, Cote cote);
+using storage::LireParent;
 
 /// `ancetre` stands somewhere above `individu`. A base that is damaged may go in circles: each
 /// person is looked at once.

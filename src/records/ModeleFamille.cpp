@@ -18,14 +18,6 @@ Generations Borner(Generations g) {
             std::clamp(g.descendantes, 0, MaxGenerations)};
 }
 
-/// Unions of a person in the order of the list, with their partners.
-std::vector<std::pair<NoMariage, NoOrdre>> Unions(storage::Base& base, NoOrdre individu) {
-    std::vector<std::pair<NoMariage, NoOrdre>> unions;
-    for (const NoMariage mariage : base.R_MARIAG.Elements(individu))
-        unions.emplace_back(mariage, PartenaireDe(base, individu, mariage));
-    return unions;
-}
-
 class Constructeur {
 public:
     Constructeur(storage::Base& base, Generations generations)
@@ -75,8 +67,7 @@ private:
     /// Goes up from a box; answers its place, which is also set.
     double Monter(std::size_t indice, bool autreFamille = false) {
         const CaseFamille enfant = cases_[indice];
-        const NoOrdre pere = base_.R_PERE.LireCellule(enfant.individu);
-        const NoOrdre mere = base_.R_MERE.LireCellule(enfant.individu);
+        const auto [pere, mere] = storage::ParentsDe(base_, enfant.individu);
         const bool parents = enfant.individu && (pere || mere);
         if (!parents || enfant.generation >= generations_.ascendantes || trop_) {
             cases_[indice].suite = parents;
@@ -99,7 +90,7 @@ private:
     std::vector<std::size_t> Marier(std::size_t indice) {
         std::vector<std::size_t> boites;
         const CaseFamille personne = cases_[indice];
-        for (const auto& [mariage, partenaire] : Unions(base_, personne.individu)) {
+        for (const auto& [mariage, partenaire] : storage::CouplesDe(base_, personne.individu)) {
             CaseFamille nouvelle{Existe(base_, partenaire) ? partenaire : NoOrdre{},
                                  Sorte::Conjoint, indice, personne.generation};
             nouvelle.mariage = mariage;
@@ -113,8 +104,8 @@ private:
     std::size_t DepartDe(std::size_t indice, NoOrdre enfant,
                          const std::vector<std::size_t>& conjoints) {
         const NoOrdre individu = cases_[indice].individu;
-        const NoOrdre pere = base_.R_PERE.LireCellule(enfant);
-        const NoOrdre autre = pere == individu ? base_.R_MERE.LireCellule(enfant) : pere;
+        const auto [pere, mere] = storage::ParentsDe(base_, enfant);
+        const NoOrdre autre = pere == individu ? mere : pere;
         for (const std::size_t conjoint : conjoints)
             if (autre && cases_[conjoint].individu == autre) return conjoint;
         return indice;
@@ -205,9 +196,9 @@ NoOrdre ParentDe(storage::Base& base, NoOrdre individu, Parente parente, NoOrdre
     const auto existant = [&base](NoOrdre n) { return Existe(base, n) ? n : NoOrdre{}; };
     switch (parente) {
         case Parente::Pere:
-            return existant(base.R_PERE.LireCellule(individu));
+            return existant(LireParent(base, individu, Cote::Pere));
         case Parente::Mere:
-            return existant(base.R_MERE.LireCellule(individu));
+            return existant(LireParent(base, individu, Cote::Mere));
         case Parente::Enfant:
             for (const NoOrdre enfant : base.R_ENFANT.Elements(individu))
                 if (existant(enfant)) return enfant;
@@ -216,7 +207,7 @@ NoOrdre ParentDe(storage::Base& base, NoOrdre individu, Parente parente, NoOrdre
             break;
     }
     std::vector<NoOrdre> conjoints;
-    for (const auto& [mariage, partenaire] : Unions(base, individu))
+    for (const auto& [mariage, partenaire] : storage::CouplesDe(base, individu))
         if (existant(partenaire)) conjoints.push_back(partenaire);
     if (conjoints.empty()) return {};
     const auto place = std::find(conjoints.begin(), conjoints.end(), apres);
@@ -231,9 +222,9 @@ std::vector<EntreeFamille> EntreesFamille(storage::Base& base, NoOrdre individu)
         if (Existe(base, n)) entrees.push_back({groupe, n});
     };
     ajouter(Groupe::Personne, individu);
-    ajouter(Groupe::Parents, base.R_PERE.LireCellule(individu));
-    ajouter(Groupe::Parents, base.R_MERE.LireCellule(individu));
-    for (const auto& [mariage, partenaire] : Unions(base, individu))
+    for (const NoOrdre parent : storage::ParentsDe(base, individu))
+        ajouter(Groupe::Parents, parent);
+    for (const auto& [mariage, partenaire] : storage::CouplesDe(base, individu))
         ajouter(Groupe::Conjoints, partenaire);
     for (const NoOrdre enfant : base.R_ENFANT.Elements(individu))
         ajouter(Groupe::Enfants, enfant);

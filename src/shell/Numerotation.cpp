@@ -1,8 +1,10 @@
 #include "shell/Numerotation.h"
 
 #include "storage/Base.h"
+#include "storage/Famille.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace dorvane::shell {
 
@@ -27,11 +29,16 @@ public:
         cujus_.numerosAsc.assign(1, 0);
         cujus_.numerosDesc.assign(1, {});
         if (!Existe(cujus_.individu)) return;
-        cujus_.numerosAsc.push_back(1);
-        Pointeur(cujus_.individu) = 1;
-        VisiterAscendant(base_.R_PERE.LireCellule(cujus_.individu), 2, 1);
-        VisiterAscendant(base_.R_MERE.LireCellule(cujus_.individu), 3, 1);
-        DescendreDe(cujus_.individu, std::string{}, 0);
+        storage::ParcourirFamille(Ascendant{cujus_.individu, 1, 0},
+                                  [this](const Ascendant& a, std::vector<Ascendant>& suivants) {
+                                      Monter(a, suivants);
+                                      return true;
+                                  });
+        storage::ParcourirFamille(Descendant{cujus_.individu, {}, 0, false},
+                                  [this](const Descendant& d, std::vector<Descendant>& suivants) {
+                                      if (d.profondeur == 0 || Inscrire(d)) Descendre(d, suivants);
+                                      return true;
+                                  });
     }
 
 private:
@@ -39,26 +46,35 @@ private:
         NoOrdre conjoint{};
         int compteur = 0;
     };
+    struct Ascendant {
+        NoOrdre individu;
+        std::int32_t numero;
+        int generation;
+    };
+    struct Descendant {
+        NoOrdre individu;
+        std::string numero;
+        int profondeur;
+        bool parentHomme;
+    };
 
     [[nodiscard]] bool Existe(NoOrdre n) const { return n && n.valeur < cujus_.sosa.size(); }
     [[nodiscard]] std::int32_t& Pointeur(NoOrdre n) { return cujus_.sosa[n.valeur]; }
 
-    void VisiterAscendant(NoOrdre n, std::int32_t numero, int generation) {
-        if (!Existe(n)) return;
-        std::int32_t& pointeur = Pointeur(n);
+    void Monter(const Ascendant& a, std::vector<Ascendant>& suivants) {
+        std::int32_t& pointeur = Pointeur(a.individu);
         if (pointeur > 0) {
             std::int32_t& deja = cujus_.numerosAsc[static_cast<std::size_t>(pointeur)];
-            if (deja < numero) return;
-            deja = numero;
+            if (deja < a.numero) return;
+            deja = a.numero;
         } else {
             pointeur = static_cast<std::int32_t>(cujus_.numerosAsc.size());
-            cujus_.numerosAsc.push_back(numero);
+            cujus_.numerosAsc.push_back(a.numero);
         }
-        if (generation >= DerniereGeneration) return;
-        const NoOrdre pere = base_.R_PERE.LireCellule(n);
-        const NoOrdre mere = base_.R_MERE.LireCellule(n);
-        VisiterAscendant(pere, 2 * numero, generation + 1);
-        VisiterAscendant(mere, 2 * numero + 1, generation + 1);
+        if (a.generation >= DerniereGeneration) return;
+        const auto [pere, mere] = storage::ParentsDe(base_, a.individu);
+        if (Existe(pere)) suivants.push_back({pere, 2 * a.numero, a.generation + 1});
+        if (Existe(mere)) suivants.push_back({mere, 2 * a.numero + 1, a.generation + 1});
     }
 
     [[nodiscard]] std::vector<Union> UnionsDe(NoOrdre n, bool homme) {
@@ -71,23 +87,21 @@ private:
         return unions;
     }
 
-    /// `prefixe` is no string of the table: the walk below moves those about.
-    void DescendreDe(NoOrdre parent, const std::string& prefixe, int profondeur) {
-        if (profondeur > DerniereProfondeur || ++visites_ > MaxVisites) return;
-        const bool homme = base_.R_SEXE.LireCellule(parent) == Sexe::Homme;
-        std::vector<Union> unions = UnionsDe(parent, homme);
+    void Descendre(const Descendant& parent, std::vector<Descendant>& suivants) {
+        if (parent.profondeur > DerniereProfondeur || ++visites_ > MaxVisites) return;
+        const bool homme = base_.R_SEXE.LireCellule(parent.individu) == Sexe::Homme;
+        std::vector<Union> unions = UnionsDe(parent.individu, homme);
         int commun = 0;
-        // Copied, for the walk below reads the lists of others.
-        const std::vector<NoOrdre> enfants = base_.R_ENFANT.Elements(parent);
+        const std::vector<NoOrdre> enfants = base_.R_ENFANT.Elements(parent.individu);
         for (std::size_t i = 0; i < std::min(enfants.size(), MaxEnfants); ++i) {
             const NoOrdre enfant = enfants[i];
             if (!Existe(enfant)) continue;
             const NoOrdre autre =
-                homme ? base_.R_MERE.LireCellule(enfant) : base_.R_PERE.LireCellule(enfant);
+                storage::LireParent(base_, enfant, homme ? Cote::Mere : Cote::Pere);
             const auto sienne = std::find_if(unions.begin(), unions.end(), [autre](const Union& u) {
                 return u.conjoint == autre;
             });
-            std::string numero = prefixe;
+            std::string numero = parent.numero;
             if (sienne == unions.end()) {
                 numero += '*' + std::to_string(++commun);
             } else {
@@ -95,23 +109,23 @@ private:
                     unions.size() == 1 ? '.' : static_cast<char>('a' + (sienne - unions.begin()));
                 numero += std::to_string(++sienne->compteur);
             }
-            if (Inscrire(enfant, numero, homme)) DescendreDe(enfant, numero, profondeur + 1);
+            suivants.push_back({enfant, std::move(numero), parent.profondeur + 1, homme});
         }
     }
 
     /// Gives a descendant its string. False when the walk does not go on below.
-    bool Inscrire(NoOrdre enfant, const std::string& numero, bool parentHomme) {
-        std::int32_t& pointeur = Pointeur(enfant);
-        if (pointeur != 0 && !parentHomme) return false;
+    bool Inscrire(const Descendant& enfant) {
+        std::int32_t& pointeur = Pointeur(enfant.individu);
+        if (pointeur != 0 && !enfant.parentHomme) return false;
         if (pointeur < 0) {
-            cujus_.numerosDesc[static_cast<std::size_t>(-pointeur)] = numero;
+            cujus_.numerosDesc[static_cast<std::size_t>(-pointeur)] = enfant.numero;
             return true;
         }
         // The reference person and the ascendants keep their Sosa number: a child of one's own who
         // is also one's ancestor stands in a base that is wrong.
         if (pointeur > 0) return false;
         pointeur = -static_cast<std::int32_t>(cujus_.numerosDesc.size());
-        cujus_.numerosDesc.push_back(numero);
+        cujus_.numerosDesc.push_back(enfant.numero);
         return true;
     }
 

@@ -1,8 +1,11 @@
 #include "interchange/commun/SelectionExport.h"
 
 #include "storage/Base.h"
+#include "storage/Famille.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace dorvane::interchange {
 
@@ -15,11 +18,6 @@ constexpr char Retenu = '3';
 constexpr char Collateral = '4';
 
 constexpr std::string_view DerniereNaissance = "1900";
-
-NoOrdre Conjoint(storage::Base& base, NoMariage m, NoOrdre n) {
-    const NoOrdre epoux = base.R_EPOUX.LireCellule(m);
-    return epoux == n ? base.R_EPOUSE.LireCellule(m) : epoux;
-}
 
 struct Etape {
     NoOrdre individu;
@@ -64,40 +62,34 @@ void SelectionExport::MarquerParente(NoOrdre depart, SensExport sens, std::uint3
 /// Depth first, the father's side before the mother's, the first child before the next: in a family
 /// where somebody is reached twice, the first way that leads to him counts.
 void SelectionExport::Parcourir(NoOrdre depart, SensExport sens, std::uint32_t generations) {
-    std::vector<Etape> pile{{depart, generations}};
-    std::vector<NoOrdre> suivants;
-    while (!pile.empty()) {
-        const Etape etape = pile.back();
-        pile.pop_back();
-        const NoOrdre n = etape.individu;
-        if (marques_[n.valeur] == Parcouru) continue;
-        marques_[n.valeur] = Parcouru;
-        for (const NoMariage m : base_.R_MARIAG.Elements(n))
-            if (const NoOrdre autre = Conjoint(base_, m, n);
-                Existe(autre) && marques_[autre.valeur] != Parcouru)
-                marques_[autre.valeur] = Retenu;
-        const std::vector<NoOrdre> parents{base_.R_PERE.LireCellule(n),
-                                           base_.R_MERE.LireCellule(n)};
-        const std::vector<NoOrdre> enfants = base_.R_ENFANT.Elements(n);
-        const bool montant = sens == SensExport::Ascendants;
-        for (const NoOrdre proche : montant ? enfants : parents)
-            if (Existe(proche) && marques_[proche.valeur] != Parcouru &&
-                marques_[proche.valeur] != Retenu)
-                marques_[proche.valeur] = Proche;
-        suivants = montant ? parents : enfants;
-        std::erase_if(suivants, [this](NoOrdre autre) {
-            return !Existe(autre) || marques_[autre.valeur] == Parcouru;
+    const bool montant = sens == SensExport::Ascendants;
+    const auto peutMarquer = [this](NoOrdre n) {
+        return Existe(n) && marques_[n.valeur] != Parcouru;
+    };
+    storage::ParcourirFamille(
+        Etape{depart, generations}, [&](const Etape& etape, std::vector<Etape>& suivantes) {
+            const NoOrdre n = etape.individu;
+            if (marques_[n.valeur] == Parcouru) return true;
+            marques_[n.valeur] = Parcouru;
+            for (const storage::Couple& couple : storage::CouplesDe(base_, n))
+                if (peutMarquer(couple.partenaire)) marques_[couple.partenaire.valeur] = Retenu;
+            const std::array<NoOrdre, 2> parents = storage::ParentsDe(base_, n);
+            const std::vector<NoOrdre> enfants = base_.R_ENFANT.Elements(n);
+            std::span<const NoOrdre> proches = enfants;
+            std::span<const NoOrdre> suite = parents;
+            if (!montant) std::swap(proches, suite);
+            for (const NoOrdre proche : proches)
+                if (peutMarquer(proche) && marques_[proche.valeur] != Retenu)
+                    marques_[proche.valeur] = Proche;
+            for (const NoOrdre autre : suite) {
+                if (!peutMarquer(autre)) continue;
+                if (etape.generations == 1)
+                    marques_[autre.valeur] = Proche;
+                else
+                    suivantes.push_back({autre, etape.generations - 1});
+            }
+            return true;
         });
-        if (etape.generations == 1) {
-            for (const NoOrdre autre : suivants)
-                marques_[autre.valeur] = Proche;
-            continue;
-        }
-        // The first of them is taken off the pile first.
-        std::ranges::reverse(suivants);
-        for (const NoOrdre autre : suivants)
-            pile.push_back({autre, etape.generations - 1});
-    }
 }
 
 void SelectionExport::FixerMarques() {
