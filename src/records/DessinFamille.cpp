@@ -1,17 +1,15 @@
-#include "windows/graphe/DessinFamille.h"
+#include "records/DessinFamille.h"
 
 #include "storage/Base.h"
-#include "windows/controles/Unicode.h"
+#include "values/Comparaison.h"
 
 #include <algorithm>
 #include <map>
 
-namespace dorvane::windows {
+namespace dorvane::records {
 
 namespace {
 
-using records::CaseFamille;
-using records::ModeleFamille;
 using Sorte = CaseFamille::Sorte;
 
 constexpr MesuresGraphe Mesures[] = {
@@ -26,6 +24,14 @@ constexpr double Retrait = 18;
 /// An unknown person is a small box.
 constexpr double LargeurInconnu = 0.36;
 
+/// The smallest rectangle around both.
+Rectangle Autour(const Rectangle& a, const Rectangle& b) {
+    const double gauche = std::min(a.gauche, b.gauche);
+    const double haut = std::min(a.haut, b.haut);
+    return {gauche, haut, std::max(a.Droite(), b.Droite()) - gauche,
+            std::max(a.Bas(), b.Bas()) - haut};
+}
+
 class Dessinateur {
 public:
     Dessinateur(storage::Base& base, const ModeleFamille& modele, const MesuresGraphe& mesures)
@@ -34,7 +40,8 @@ public:
     DessinFamille Dessiner() {
         for (const CaseFamille& c : cases_) {
             dessin_.boites.push_back(Boite(c));
-            dessin_.cadre |= dessin_.boites.back();
+            const Rectangle& boite = dessin_.boites.back();
+            dessin_.cadre = dessin_.boites.size() == 1 ? boite : Autour(dessin_.cadre, boite);
         }
         for (std::size_t i = 1; i < cases_.size(); ++i) {
             if (cases_[i].sorte == Sorte::Conjoint) TracerCouple(i);
@@ -51,7 +58,7 @@ private:
         return c.generation * (m_.largeur + m_.gouttiere) - m_.largeur / 2;
     }
 
-    [[nodiscard]] QRectF Boite(const CaseFamille& c) const {
+    [[nodiscard]] Rectangle Boite(const CaseFamille& c) const {
         double largeur = m_.largeur;
         if (!c.individu)
             largeur *= LargeurInconnu;
@@ -61,39 +68,38 @@ private:
         return {Gauche(c), milieu - m_.hauteur / 2, largeur, m_.hauteur};
     }
 
-    [[nodiscard]] QString Annee(NoMariage mariage) const {
-        return TexteVersQt(base_.R_DEBMAR.LireCellule(mariage)).trimmed();
+    [[nodiscard]] std::string Annee(NoMariage mariage) const {
+        return std::string{SansBlancs(base_.R_DEBMAR.LireCellule(mariage))};
     }
 
-    static QPointF CoteDroit(const QRectF& boite) { return {boite.right(), boite.center().y()}; }
-    static QPointF CoteGauche(const QRectF& boite) { return {boite.left(), boite.center().y()}; }
+    static Point CoteDroit(const Rectangle& boite) { return {boite.Droite(), boite.Milieu().y}; }
+    static Point CoteGauche(const Rectangle& boite) { return {boite.gauche, boite.Milieu().y}; }
 
-    void Relier(QPointF de, double x, QPointF vers) {
-        dessin_.traits.push_back({de, QPointF{x, de.y()}, QPointF{x, vers.y()}, vers});
+    void Relier(Point de, double x, Point vers) {
+        dessin_.traits.push_back({de, Point{x, de.y}, Point{x, vers.y}, vers});
     }
 
     /// The line of a couple leaves the person below, and comes to the spouse from the right.
     void TracerCouple(std::size_t i) {
         const CaseFamille& personne = cases_[cases_[i].parent];
-        const QRectF& dessus = dessin_.boites[cases_[i].parent];
-        const QRectF& boite = dessin_.boites[i];
+        const Rectangle& dessus = dessin_.boites[cases_[i].parent];
+        const Rectangle& boite = dessin_.boites[i];
         const double x = Gauche(personne) + m_.largeur - Retrait / 2;
-        Relier({x, dessus.bottom()}, x, CoteDroit(boite));
-        const double vide =
-            (records::EcartConjoints - 1) * m_.hauteur + records::EcartConjoints * m_.ecart;
+        Relier({x, dessus.Bas()}, x, CoteDroit(boite));
+        const double vide = (EcartConjoints - 1) * m_.hauteur + EcartConjoints * m_.ecart;
         dessin_.unions.push_back(
-            {QPointF{boite.left() + (m_.largeur - Retrait) / 2, boite.top() - vide / 2},
+            {Point{boite.gauche + (m_.largeur - Retrait) / 2, boite.haut - vide / 2},
              Annee(cases_[i].mariage)});
     }
 
     void TracerParent(std::size_t i) {
-        const QRectF& enfant = dessin_.boites[cases_[i].parent];
-        const double x = enfant.right() + m_.gouttiere / 2;
+        const Rectangle& enfant = dessin_.boites[cases_[i].parent];
+        const double x = enfant.Droite() + m_.gouttiere / 2;
         Relier(CoteDroit(enfant), x, CoteGauche(dessin_.boites[i]));
         // The couple is named once, by the second of the two boxes.
         const bool second = i > 0 && cases_[i].mariage && cases_[i].parent != i - 1;
         if (second)
-            dessin_.unions.push_back({QPointF{x, enfant.center().y()}, Annee(cases_[i].mariage)});
+            dessin_.unions.push_back({Point{x, enfant.Milieu().y}, Annee(cases_[i].mariage)});
     }
 
     /// Each other parent has a line of its own between the generations.
@@ -130,4 +136,4 @@ DessinFamille DessinerFamille(storage::Base& base, const ModeleFamille& modele,
     return Dessinateur{base, modele, mesures}.Dessiner();
 }
 
-}  // namespace dorvane::windows
+}  // namespace dorvane::records

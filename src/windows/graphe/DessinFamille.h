@@ -4,7 +4,7 @@
 #include <QRectF>
 #include <QString>
 
-#include "records/ModeleFamille.h"
+#include "records/DessinFamille.h"
 
 #include <array>
 #include <vector>
@@ -15,20 +15,8 @@ class Session;
 
 namespace dorvane::windows {
 
-/// Measures of one presentation, in pixels at scale 1.
-struct MesuresGraphe {
-    double largeur;    ///< of a box
-    double hauteur;    ///< of a box
-    double ecart;      ///< between two boxes of a generation
-    double gouttiere;  ///< between two generations
-    int tailleNom;     ///< pixels
-    int tailleDates;   ///< pixels
-    bool uneLigne;     ///< dates stand behind the name instead of below it
-    bool vignette;     ///< a box has room for a picture
-};
-
-/// `presentation` 1 to 4; others count as 2.
-[[nodiscard]] const MesuresGraphe& MesuresDe(int presentation);
+using records::MesuresDe;
+using records::MesuresGraphe;
 
 /// A line between two boxes: from a side, along the middle between generations, to a side.
 using Trait = std::array<QPointF, 4>;
@@ -39,8 +27,8 @@ struct EtiquetteUnion {
     QString annee;
 };
 
-/// Where everything stands. Descendants are on the left, ascendants on the right of the current
-/// person, whose box has its middle at the origin.
+/// The drawing in the points of Qt. Descendants are on the left, ascendants on the right of the
+/// current person, whose box has its middle at the origin.
 struct DessinFamille {
     std::vector<QRectF> boites;  ///< one for each box of the model
     std::vector<Trait> traits;
@@ -48,8 +36,7 @@ struct DessinFamille {
     QRectF cadre;  ///< around all boxes
 };
 
-[[nodiscard]] DessinFamille DessinerFamille(storage::Base& base,
-                                            const records::ModeleFamille& modele,
-                                            const MesuresGraphe& mesures);
+[[nodiscard]] DessinFamille DessinerEnQt(storage::Base& base, const records::ModeleFamille& modele,
+                                         const MesuresGraphe& mesures);
 
 }  // namespace dorvane::windows

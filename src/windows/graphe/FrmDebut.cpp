@@ -137,7 +137,7 @@ void FrmDebut::Construire() {
         modele_ =
             records::ConstruireFamille(*session_.base, session_.PersonneEnCours, generations_);
     if (modele_.cases.empty()) return;
-    dessin_ = DessinerFamille(*session_.base, modele_, style_.mesures);
+    dessin_ = DessinerEnQt(*session_.base, modele_, style_.mesures);
     scene_.addItem(new FondGraphique{dessin_, style_});
     cases_.reserve(modele_.cases.size());
     for (std::size_t i = 0; i < modele_.cases.size(); ++i) {
