@@ -10,6 +10,7 @@
 #include "storage/Base.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstdint>
 #include <optional>
 #include <unordered_set>
@@ -104,6 +105,8 @@ bool ConfirmerRetraitParent(shell::Session& session, NoOrdre enfant, Cote cote, 
 
 void MajEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant,
                storage::ActionListe action) {
+    assert(action == storage::ActionListe::Supprimer ||
+           session.base->R_ENFANT.NbElements(parent) < storage::MaxElements);
     session.base->R_ENFANT.ModifierListe(parent, enfant, action);
 }
 
@@ -120,6 +123,7 @@ bool EstAscendant(storage::Base& base, NoOrdre ancetre, NoOrdre individu) {
 }
 
 bool PeutEtreParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent) {
+    assert(session.base);
     const NoMessage motif = MotifContre(*session.base, enfant, cote, parent);
     return !motif || Refuser(session, Nommer(session, motif, parent, enfant));
 }

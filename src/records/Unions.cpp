@@ -8,6 +8,7 @@
 #include "shell/Session.h"
 #include "storage/Base.h"
 
+#include <cassert>
 #include <string>
 #include <utility>
 
@@ -30,6 +31,8 @@ bool APlace(shell::Session& session, NoOrdre individu) {
 
 void MajMariage(shell::Session& session, NoOrdre individu, NoMariage mariage,
                 storage::ActionListe action) {
+    assert(action == storage::ActionListe::Supprimer ||
+           session.base->R_MARIAG.NbElements(individu) < storage::MaxElements);
     session.base->R_MARIAG.ModifierListe(individu, mariage, action);
     session.base->marques.AffichagePerime = true;
 }

@@ -4,6 +4,7 @@
 #include "storage/Famille.h"
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
 namespace dorvane::shell {
@@ -146,6 +147,7 @@ std::string Libelle(Session& session, const DeCujus& cujus, bool premier) {
 }  // namespace
 
 void NumeroterDeCujus(Session& session, int k) {
+    assert(k == 1 || k == 2);
     DeCujus& cujus = session.deCujus[k == 1 ? 0 : 1];
     cujus.perime = false;
     cujus.sosa.clear();

@@ -4,6 +4,7 @@
 #include "values/Numeros.h"
 #include "values/Sexe.h"
 
+#include <cassert>
 #include <string>
 #include <string_view>
 
@@ -70,6 +71,7 @@ public:
     }
     /// `n` is not 0. Out of reach nothing is written: the callers keep the limits.
     void EcrireCellule(Cle n, typename Forme::Argument valeur) {
+        assert(n);
         if (char* cellule = CelluleEcrite(n.valeur)) Forme::Ecrire(cellule, valeur);
     }
 };

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <cstddef>
 
 namespace dorvane {
@@ -122,6 +123,7 @@ private:
 }  // namespace
 
 std::string_view TexteSansRtf(std::string_view texte, std::string& tampon) {
+    assert(texte.data() < tampon.data() || texte.data() > tampon.data() + tampon.size());
     std::size_t segment = texte.find(TeteRtf);
     if (segment == std::string_view::npos) return texte;
 

@@ -4,12 +4,14 @@
 #include "values/Octets.h"
 
 #include <algorithm>
+#include <cassert>
 #include <string>
 #include <utility>
 
 namespace dorvane::interchange {
 
 void FamillesImport::AjouterIndividu(Sexe sexe) {
+    assert(sexe != Sexe::Vide);
     personnes_.emplace_back().sexe = sexe;
 }
 

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <iterator>
 #include <utility>
 
@@ -148,6 +149,7 @@ void FicheGedcom::AjouterNote(std::string_view valeur) {
 }
 
 void FicheGedcom::AjouterApresLibelle(std::string_view valeur) {
+    assert(EnEvenement());
     Notes().append("\r\n").append(libelle_).append(" - ").append(valeur);
     courant_ = &Notes();
     courantTient_ = false;
