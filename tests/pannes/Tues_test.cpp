@@ -1,21 +1,21 @@
 // A real process that edits and commits on the real disk is killed at a moment of chance; what is
 // opened again is one of its commits, at least the last one that it had announced.
 #include "doublures/DossierTemporaire.h"
+#include "doublures/EcouteFichiers.h"
 #include "doublures/Inventaire.h"
 #include "doublures/SeanceEssai.h"
 #include "storage/Base.h"
 #include "storage/DisqueReel.h"
 
+#include <poll.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
-#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <random>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include <doctest/doctest.h>
@@ -62,6 +62,7 @@ TEST_CASE(
         CAPTURE(essai);
         const std::filesystem::path chemin =
             dossier.chemin / ("b" + std::to_string(essai) + ".LGD");
+        const doublures::EcouteFichiers ecoute{dossier.chemin};
         std::array<int, 2> tube{};
         REQUIRE(::pipe(tube.data()) == 0);
         const pid_t fils = ::fork();
@@ -74,11 +75,19 @@ TEST_CASE(
         ::close(tube[1]);
         std::size_t annonces = 0;
         char octet = 0;
-        // Lets it come to a commit of chance, then strikes some microseconds later.
+        // Lets it come to a commit of chance, then strikes some changes of files later.
         const std::size_t jusque = 1 + hasard() % NbCommits;
-        while (annonces < jusque && ::read(tube[0], &octet, 1) == 1)
+        const std::size_t apres = hasard() % 12;
+        std::size_t changements = 0;
+        while (annonces < jusque || changements < apres) {
+            ecoute.Attendre(tube[0]);
+            const std::size_t vus = ecoute.Compter();
+            if (annonces >= jusque) changements += vus;
+            pollfd pret{tube[0], POLLIN, 0};
+            if (::poll(&pret, 1, 0) == 0) continue;
+            if (::read(tube[0], &octet, 1) != 1) break;
             ++annonces;
-        std::this_thread::sleep_for(std::chrono::microseconds(hasard() % 3000));
+        }
         ::kill(fils, SIGKILL);
         while (::read(tube[0], &octet, 1) == 1)
             ++annonces;

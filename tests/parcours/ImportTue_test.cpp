@@ -1,12 +1,10 @@
-// `dorvane-outil importer --remplacer` as built, killed at moments of chance: what stands under the
-// name of the base is the old one or the new one, whole, and the next import is not locked out.
+// `dorvane-outil importer --remplacer` as built, killed at changes of files drawn by chance: what
+// stands under the name of the base is the old one or the new one, whole, and the next import is
+// not locked out.
 #include "parcours/PosteTue.h"
 
-#include <chrono>
-#include <csignal>
 #include <random>
 #include <string>
-#include <thread>
 
 #include <doctest/doctest.h>
 
@@ -15,17 +13,16 @@ using namespace dorvane::parcours;
 
 namespace {
 
-using Horloge = std::chrono::steady_clock;
-
 struct Poste : PosteTue {
     Poste() {
         EcrireFichier(dossier / "ancien.ged", GedcomDe(300));
         EcrireFichier(dossier / "nouveau.ged", GedcomDe(12000));
     }
-    /// Starts an import over the base.
-    [[nodiscard]] pid_t Lancer(const char* fichier) const {
-        return PosteTue::Lancer({"importer", (dossier / fichier).string(), "--base",
-                                 (dossier / "b.LGD").string(), "--remplacer", "--trier"});
+    /// An import over the base, killed at a moment; 0 never.
+    [[nodiscard]] Fin Lancer(const char* fichier, std::size_t moment = 0) const {
+        return Courir({"importer", (dossier / fichier).string(), "--base",
+                       (dossier / "b.LGD").string(), "--remplacer", "--trier"},
+                      moment);
     }
     /// How many persons the base lists; -1 when it cannot be opened.
     int Compter() const {
@@ -42,12 +39,11 @@ struct Poste : PosteTue {
 }  // namespace
 
 TEST_CASE_FIXTURE(Poste, "Killed in an import that replaces: the old base or the new one, whole") {
-    REQUIRE(Attendre(Lancer("ancien.ged")) == 0);
+    REQUIRE(Lancer("ancien.ged").statut == 0);
     const std::string ancienne = LireFichier(dossier / "b.LGD");
-    const auto debut = Horloge::now();
-    REQUIRE(Attendre(Lancer("nouveau.ged")) == 0);
-    const auto duree =
-        std::chrono::duration_cast<std::chrono::microseconds>(Horloge::now() - debut).count();
+    const Fin entier = Lancer("nouveau.ged");
+    REQUIRE(entier.statut == 0);
+    REQUIRE(entier.changements > 3);
     REQUIRE(Compter() == 12000);
 
     std::mt19937 hasard{11};
@@ -55,11 +51,8 @@ TEST_CASE_FIXTURE(Poste, "Killed in an import that replaces: the old base or the
     for (int essai = 0; essai < 40; ++essai) {
         CAPTURE(essai);
         EcrireFichier(dossier / "b.LGD", ancienne);
-        const pid_t fils = Lancer("nouveau.ged");
-        std::this_thread::sleep_for(
-            std::chrono::microseconds(hasard() % static_cast<std::uint32_t>(duree + duree / 10)));
-        ::kill(fils, SIGKILL);
-        const bool fini = Attendre(fils) == 0;
+        const std::size_t moment = 1 + hasard() % entier.changements;
+        const bool fini = Lancer("nouveau.ged", moment).statut == 0;
         tues += fini ? 0 : 1;
         const int lus = Compter();
         CHECK((lus == 300 || lus == 12000));
@@ -67,6 +60,6 @@ TEST_CASE_FIXTURE(Poste, "Killed in an import that replaces: the old base or the
     }
     CHECK(tues > 5);
     // What the dead have left behind stands in nobody's way.
-    CHECK(Attendre(Lancer("ancien.ged")) == 0);
+    CHECK(Lancer("ancien.ged").statut == 0);
     CHECK(Compter() == 300);
 }

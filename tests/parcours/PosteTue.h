@@ -1,11 +1,15 @@
 #pragma once
 
 #include "doublures/DossierTemporaire.h"
+#include "doublures/EcouteFichiers.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
+#include <csignal>
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -30,29 +34,50 @@ struct PosteTue {
         setenv("XDG_CONFIG_HOME", (dossier / "config").c_str(), 1);
         setenv("XDG_CACHE_HOME", (dossier / "cache").c_str(), 1);
     }
-    /// Starts the tool in silence; the caller waits for it or kills it.
-    [[nodiscard]] static pid_t Lancer(std::vector<std::string> arguments) {
+    /// What came of a run.
+    struct Fin {
+        int statut = -1;            ///< exit status; -1 for a program that was killed
+        std::size_t changements{};  ///< of files in the folder
+    };
+
+    /// Runs the tool in silence, and kills it at a change of a file in the folder: the `moment`-th;
+    /// 0 never.
+    [[nodiscard]] Fin Courir(std::vector<std::string> arguments, std::size_t moment = 0) const {
         arguments.insert(arguments.begin(), OUTIL);
         std::vector<char*> pointeurs;
         for (std::string& argument : arguments)
             pointeurs.push_back(argument.data());
         pointeurs.push_back(nullptr);
+        const doublures::EcouteFichiers ecoute{dossier.chemin};
+        // Its end is held by the program alone: it closes with it.
+        std::array<int, 2> tube{};
+        REQUIRE(::pipe(tube.data()) == 0);
         const pid_t fils = ::fork();
         REQUIRE(fils >= 0);
         if (fils == 0) {
             const int nulle = ::open("/dev/null", O_RDWR);
             ::dup2(nulle, 1);
             ::dup2(nulle, 2);
+            ::close(tube[0]);
             ::execv(OUTIL, pointeurs.data());
             ::_exit(127);
         }
-        return fils;
-    }
-    /// The exit status; -1 for a program that was killed.
-    static int Attendre(pid_t fils) {
+        ::close(tube[1]);
+        Fin fin;
+        pollfd bout{tube[0], POLLIN, 0};
+        while (::poll(&bout, 1, 0) == 0) {
+            ecoute.Attendre(tube[0]);
+            fin.changements += ecoute.Compter();
+            if (moment != 0 && fin.changements >= moment) {
+                ::kill(fils, SIGKILL);
+                break;
+            }
+        }
+        ::close(tube[0]);
         int statut = 0;
         ::waitpid(fils, &statut, 0);
-        return WIFEXITED(statut) ? WEXITSTATUS(statut) : -1;
+        if (WIFEXITED(statut)) fin.statut = WEXITSTATUS(statut);
+        return fin;
     }
 
     doublures::DossierTemporaire dossier;

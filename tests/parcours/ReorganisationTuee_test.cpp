@@ -1,12 +1,10 @@
-// `dorvane-outil reorganiser` as built, killed at moments of chance: what stands under the name of
-// the base is the old one or the new one, byte for byte, and the next run is not locked out.
+// `dorvane-outil reorganiser` as built, killed at changes of files drawn by chance: what stands
+// under the name of the base is the old one or the new one, byte for byte, and the next run is not
+// locked out.
 #include "parcours/PosteTue.h"
 
-#include <chrono>
-#include <csignal>
 #include <random>
 #include <string>
-#include <thread>
 
 #include <doctest/doctest.h>
 
@@ -15,11 +13,9 @@ using namespace dorvane::parcours;
 
 namespace {
 
-using Horloge = std::chrono::steady_clock;
-
 struct Poste : PosteTue {
-    [[nodiscard]] pid_t Lancer() const {
-        return PosteTue::Lancer({"reorganiser", (dossier / "b.LGD").string()});
+    [[nodiscard]] Fin Lancer(std::size_t moment = 0) const {
+        return Courir({"reorganiser", (dossier / "b.LGD").string()}, moment);
     }
 };
 
@@ -31,10 +27,9 @@ TEST_CASE_FIXTURE(Poste, "Killed in a reorganisation: the old base or the new on
                                  "' && '" OUTIL "' importer b.ged --base b.LGD > /dev/null 2>&1";
     REQUIRE(std::system(importer.c_str()) == 0);
     const std::string ancienne = LireFichier(dossier / "b.LGD");
-    const auto debut = Horloge::now();
-    REQUIRE(Attendre(Lancer()) == 0);
-    const auto duree =
-        std::chrono::duration_cast<std::chrono::microseconds>(Horloge::now() - debut).count();
+    const Fin entier = Lancer();
+    REQUIRE(entier.statut == 0);
+    REQUIRE(entier.changements > 3);
     const std::string nouvelle = LireFichier(dossier / "b.LGD");
     REQUIRE(nouvelle != ancienne);
 
@@ -43,11 +38,8 @@ TEST_CASE_FIXTURE(Poste, "Killed in a reorganisation: the old base or the new on
     for (int essai = 0; essai < 40; ++essai) {
         CAPTURE(essai);
         EcrireFichier(dossier / "b.LGD", ancienne);
-        const pid_t fils = Lancer();
-        std::this_thread::sleep_for(
-            std::chrono::microseconds(hasard() % static_cast<std::uint32_t>(duree + duree / 10)));
-        ::kill(fils, SIGKILL);
-        const bool fini = Attendre(fils) == 0;
+        const std::size_t moment = 1 + hasard() % entier.changements;
+        const bool fini = Lancer(moment).statut == 0;
         tues += fini ? 0 : 1;
         const std::string reste = LireFichier(dossier / "b.LGD");
         CHECK((reste == ancienne || reste == nouvelle));
@@ -56,7 +48,7 @@ TEST_CASE_FIXTURE(Poste, "Killed in a reorganisation: the old base or the new on
     CHECK(tues > 5);
     // What the dead have left behind stands in nobody's way.
     EcrireFichier(dossier / "b.LGD", ancienne);
-    CHECK(Attendre(Lancer()) == 0);
+    CHECK(Lancer().statut == 0);
     CHECK(LireFichier(dossier / "b.LGD") == nouvelle);
     CHECK(LireFichier(dossier / "b.SAV") == ancienne);
 }
