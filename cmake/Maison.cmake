@@ -89,8 +89,10 @@ endfunction()
 
 # The tests of the folder that calls, tests/<folder>, in one program and one ctest entry of its name;
 # those of windows in one entry for each source.
+# VOISIN: the suite "voisin" of them wants files of other programs beside the sources; it is an entry
+# of its own, which shows as skipped where they are missing.
 function(maison_tests)
-    cmake_parse_arguments(T "QT" "DELAI" "SOURCES;DEPEND" ${ARGN})
+    cmake_parse_arguments(T "QT;VOISIN" "DELAI" "SOURCES;DEPEND" ${ARGN})
     file(RELATIVE_PATH nom ${PROJECT_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR})
     maison_cibles(cible ${nom})
     set(cible tests_${cible})
@@ -128,7 +130,13 @@ function(maison_tests)
         endforeach()
     else()
         list(APPEND essais ${nom})
-        add_test(NAME ${nom} COMMAND ${cible})
+        add_test(NAME ${nom} COMMAND ${cible} --test-suite-exclude=voisin)
+    endif()
+    if(T_VOISIN)
+        list(APPEND essais ${nom}/voisin)
+        add_test(NAME ${nom}/voisin COMMAND ${cible} --test-suite=voisin)
+        set_tests_properties(${nom}/voisin PROPERTIES
+            SKIP_REGULAR_EXPRESSION "skipped: the files of other programs")
     endif()
     set_tests_properties(${essais} PROPERTIES TIMEOUT ${T_DELAI} ENVIRONMENT "${ENVIRONNEMENT_TESTS}")
 endfunction()

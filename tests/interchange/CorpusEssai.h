@@ -16,9 +16,15 @@ namespace dorvane::doublures {
 /// A row of a table with a heading, by column.
 using Rang = std::map<std::string, std::string>;
 
+/// Our own files: several character sets, line ends and habits, with an "index.tsv" of what they
+/// hold.
+inline std::filesystem::path CorpusMaison() {
+    return std::filesystem::path{DONNEES_TESTS} / "corpus";
+}
+
 /// Where the files of other programs lie: "data/gedcom" of a folder beside the sources. Empty when
-/// there is none.
-inline std::filesystem::path DossierCorpus() {
+/// there is none; the tests of the suite "voisin" then say that they were skipped.
+inline std::filesystem::path CorpusVoisin() {
     std::error_code erreur;
     const std::filesystem::path autour = std::filesystem::path{RACINE_SOURCES}.parent_path();
     for (const auto& voisin : std::filesystem::directory_iterator{autour, erreur}) {

@@ -42,6 +42,32 @@ void Montrer(const AllerRetour& compte) {
         MESSAGE(nombre, " ", regle);
 }
 
+void VerifierCorpus(Bureau& bureau, const std::filesystem::path& corpus) {
+    AllerRetour::Compte somme;
+    std::map<std::string, std::size_t> regles;
+    for (const doublures::Rang& rang : doublures::LireIndex(corpus / "index.tsv")) {
+        const std::string& nom = rang.at("file");
+        CAPTURE(nom);
+        const std::string avant =
+            doublures::LireFichierOuGz(corpus / nom, bureau.dossier / "brouillon");
+        bureau.ImporterOctets(avant);
+        if (!bureau.importation.issue) continue;
+        const std::string apres = bureau.Exporter();
+        const AllerRetour compte{avant, apres, bureau.importation.rapport};
+        CHECK(compte.Texte() == "");
+        const AllerRetour::Compte total = compte.Total();
+        somme.valeurs += total.valeurs;
+        somme.revenues += total.revenues;
+        somme.partagees += total.partagees;
+        for (const auto& [regle, nombre] : compte.Changees())
+            regles[regle.substr(0, regle.find(':'))] += nombre;
+    }
+    MESSAGE("values ", somme.valeurs, ", back ", somme.revenues, ", with the partners ",
+            somme.partagees);
+    for (const auto& [regle, nombre] : regles)
+        MESSAGE(nombre, " ", regle);
+}
+
 }  // namespace
 
 TEST_CASE_FIXTURE(Bureau, "Round trip: 10000 persons come back with their values") {
@@ -63,34 +89,17 @@ TEST_CASE_FIXTURE(Bureau, "Round trip: 10000 persons come back with their values
     }
 }
 
-TEST_CASE_FIXTURE(Bureau, "Round trip: the files of other programs, none lost without a word") {
-    const std::filesystem::path corpus = doublures::DossierCorpus();
-    if (corpus.empty()) {
-        MESSAGE("skipped: the files of other programs are not beside the sources");
-        return;
+TEST_CASE_FIXTURE(Bureau, "Round trip: no value of a file is lost without a word") {
+    VerifierCorpus(*this, doublures::CorpusMaison());
+}
+
+TEST_SUITE("voisin") {
+    TEST_CASE_FIXTURE(Bureau, "Round trip: the files of other programs, none lost without a word") {
+        if (const std::filesystem::path corpus = doublures::CorpusVoisin(); !corpus.empty())
+            VerifierCorpus(*this, corpus);
+        else
+            MESSAGE("skipped: the files of other programs are not beside the sources");
     }
-    AllerRetour::Compte somme;
-    std::map<std::string, std::size_t> regles;
-    for (const doublures::Rang& rang : doublures::LireIndex(corpus / "index.tsv")) {
-        const std::string& nom = rang.at("file");
-        CAPTURE(nom);
-        const std::string avant = doublures::LireFichierOuGz(corpus / nom, dossier / "brouillon");
-        ImporterOctets(avant);
-        if (!importation.issue) continue;
-        const std::string apres = Exporter();
-        const AllerRetour compte{avant, apres, importation.rapport};
-        CHECK(compte.Texte() == "");
-        const AllerRetour::Compte total = compte.Total();
-        somme.valeurs += total.valeurs;
-        somme.revenues += total.revenues;
-        somme.partagees += total.partagees;
-        for (const auto& [regle, nombre] : compte.Changees())
-            regles[regle.substr(0, regle.find(':'))] += nombre;
-    }
-    MESSAGE("values ", somme.valeurs, ", back ", somme.revenues, ", with the partners ",
-            somme.partagees);
-    for (const auto& [regle, nombre] : regles)
-        MESSAGE(nombre, " ", regle);
 }
 
 TEST_CASE_FIXTURE(Bureau, "Round trip: the file that DORVANE_ALLER_RETOUR names") {

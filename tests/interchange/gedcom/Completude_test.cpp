@@ -347,21 +347,31 @@ private:
     std::string manques_;
 };
 
-}  // namespace
-
-TEST_CASE_FIXTURE(EssaiImport,
-                  "Completeness: each value of a foreign file is in its record or in the report") {
-    const std::filesystem::path corpus = doublures::DossierCorpus();
-    if (corpus.empty()) {
-        MESSAGE("skipped: the files of other programs are not beside the sources");
-        return;
-    }
+void VerifierCorpus(EssaiImport& essai, const std::filesystem::path& corpus) {
     for (const doublures::Rang& rang : doublures::LireIndex(corpus / "index.tsv")) {
         const std::string& nom = rang.at("file");
         CAPTURE(nom);
-        dialogue.reponses = {shell::Reponse::Oui};
-        const std::string octets = doublures::LireFichierOuGz(corpus / nom, dossier / "brouillon");
-        ImporterOctets(octets);
-        if (importation.issue) CHECK(Verificateur{*this, octets}.Verifier() == "");
+        essai.dialogue.reponses = {shell::Reponse::Oui};
+        const std::string octets =
+            doublures::LireFichierOuGz(corpus / nom, essai.dossier / "brouillon");
+        essai.ImporterOctets(octets);
+        if (essai.importation.issue) CHECK(Verificateur{essai, octets}.Verifier() == "");
+    }
+}
+
+}  // namespace
+
+TEST_CASE_FIXTURE(EssaiImport,
+                  "Completeness: each value of a file is in its record or in the report") {
+    VerifierCorpus(*this, doublures::CorpusMaison());
+}
+
+TEST_SUITE("voisin") {
+    TEST_CASE_FIXTURE(EssaiImport,
+                      "Completeness: each value of a foreign file is in its record or told") {
+        if (const std::filesystem::path corpus = doublures::CorpusVoisin(); !corpus.empty())
+            VerifierCorpus(*this, corpus);
+        else
+            MESSAGE("skipped: the files of other programs are not beside the sources");
     }
 }

@@ -25,6 +25,19 @@ bool OuvrirGedcom(EssaiLgr& essai, const std::string& octets) {
     return true;
 }
 
+/// The bases made of the files of a corpus come back from their exchange texts.
+void VerifierCorpus(EssaiLgr& essai, const std::filesystem::path& corpus) {
+    for (const doublures::Rang& rang : doublures::LireIndex(corpus / "index.tsv")) {
+        const std::string& nom = rang.at("file");
+        CAPTURE(nom);
+        // The largest take long and hold nothing that the others do not.
+        if (std::stoul("0" + rang.at("bytes")) > 3000000) continue;
+        const std::string octets =
+            doublures::LireFichierOuGz(corpus / nom, essai.dossier / "brouillon");
+        if (OuvrirGedcom(essai, octets)) CHECK(essai.AllerRetour() == "");
+    }
+}
+
 }  // namespace
 
 TEST_CASE_FIXTURE(EssaiLgr, "Round trip: an empty base") {
@@ -40,20 +53,29 @@ TEST_CASE_FIXTURE(EssaiLgr, "Round trip: the family of the example") {
     CHECK(B().entete.NbTriIndividus > 10);
 }
 
-TEST_CASE_FIXTURE(EssaiLgr, "Round trip: the files of other programs") {
-    const std::filesystem::path corpus = doublures::DossierCorpus();
-    if (corpus.empty()) {
-        MESSAGE("skipped: the files of other programs are not beside the sources");
-        return;
-    }
-    for (const doublures::Rang& rang : doublures::LireIndex(corpus / "index.tsv")) {
-        const std::string& nom = rang.at("file");
-        CAPTURE(nom);
-        // The largest take long and hold nothing that the others do not.
-        if (std::stoul("0" + rang.at("bytes")) > 3000000) continue;
-        if (!OuvrirGedcom(*this, doublures::LireFichierOuGz(corpus / nom, dossier / "brouillon")))
-            continue;
-        CHECK(AllerRetour() == "");
+TEST_CASE_FIXTURE(EssaiLgr, "Round trip: bases made of the files of several programs") {
+    VerifierCorpus(*this, doublures::CorpusMaison());
+}
+
+TEST_CASE_FIXTURE(EssaiLgr, "Round trip: an exchange text comes back byte for byte") {
+    const std::string avant = doublures::LireFichier(doublures::CorpusMaison() / "lignee.lgr");
+    REQUIRE(!avant.empty());
+    Importer(avant);
+    REQUIRE(importation.issue);
+    session.PoserBase(std::move(neuve));
+    // The settings in front are those of the session.
+    const auto base = [](const std::string& texte) {
+        return texte.substr(texte.find("[FIN INI]"));
+    };
+    CHECK(base(Exporter()) == base(avant));
+}
+
+TEST_SUITE("voisin") {
+    TEST_CASE_FIXTURE(EssaiLgr, "Round trip: the files of other programs") {
+        if (const std::filesystem::path corpus = doublures::CorpusVoisin(); !corpus.empty())
+            VerifierCorpus(*this, corpus);
+        else
+            MESSAGE("skipped: the files of other programs are not beside the sources");
     }
 }
 
