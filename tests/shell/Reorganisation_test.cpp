@@ -99,7 +99,8 @@ TEST_CASE_FIXTURE(Bureau, "MnuReorganiser: a sheet that stays open stops it befo
 }
 
 TEST_CASE_FIXTURE(Bureau, "Reorganisation: what was not saved yet is in the new file") {
-    const NoOrdre n = doublures::FamilleEssai{*session.base}.Creer('H', "NOUVEAU", "Paul", "1850");
+    const NoOrdre n =
+        doublures::FamilleEssai{*session.base}.Creer(Sexe::Homme, "NOUVEAU", "Paul", "1850");
     REQUIRE(ReorganiserBase(session, false).cause == Cause::Fait);
     CHECK(session.base->R_NOM.NomDe(n) == "NOUVEAU");
     CHECK(Octets().find("NOUVEAU;Paul") != std::string::npos);

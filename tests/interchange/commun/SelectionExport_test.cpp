@@ -198,7 +198,7 @@ TEST_CASE_FIXTURE(Bureau, "SelectionExport: who was born after 1900 is left out,
 }
 
 TEST_CASE_FIXTURE(Bureau, "SelectionExport: a whole base goes with all its events and documents") {
-    const NoOrdre n = F().Creer('H', "Nom", "P");
+    const NoOrdre n = F().Creer(Sexe::Homme, "Nom", "P");
     SelectionExport selection{B()};
     SUBCASE("unless somebody is left out") {
         selection.MarquerTous();
