@@ -372,7 +372,8 @@ private:
                 records::LierPersonne(session_, e, Individu(), Role());
                 break;
             case 1:
-                records::DelierPersonne(session_, e, B().R_EVT.Liens(e).at(0).individu, {});
+                if (const auto liens = B().R_EVT.Liens(e); !liens.empty())
+                    records::DelierPersonne(session_, e, liens.front().individu, {});
                 break;
             default:
                 records::DeplacerLien(session_, e, 1 + Tirer(3), Tirer(2) == 0 ? -1 : 1);

@@ -22,7 +22,9 @@ struct Bal : EssaiFamille {
         const auto rang = ProchainRole(session, saisie);
         return rang ? RolesDe(session, saisie)[*rang].label : "-";
     }
-    void Tenir(const char* role) { saisie.liens.push_back({Creer('H', "A", "A", "1800"), role}); }
+    void Tenir(const char* role) {
+        saisie.liens.push_back({Creer(Sexe::Homme, "A", "A", "1800"), role});
+    }
 
     SaisieEvenement saisie;
 };

@@ -331,7 +331,7 @@ TEST_CASE_FIXTURE(Foyer,
     CHECK(LireIniTexte(texte, "Deux", "Clé") == "accent");
     CHECK(LireIniTexte(texte, "Un", "egal") == "a=b");
     CHECK(LireIniTexte(texte, "Un", "vide") == "");
-    CHECK(LireIniTexte(texte, "Un", "sans") == std::nullopt);
+    CHECK(LireIniTexte(texte, "Un", "sans") == "");
     CHECK(LireIniTexte(texte, "Trois", "cle") == std::nullopt);
 }
 

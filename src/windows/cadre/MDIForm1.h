@@ -18,10 +18,12 @@ class QStackedWidget;
 class QToolBar;
 class QTranslator;
 
+namespace dorvane {
+struct Phrase;
+}
 namespace dorvane::shell {
 class Session;
-struct Phrase;
-}  // namespace dorvane::shell
+}
 
 namespace dorvane::windows {
 
@@ -57,7 +59,7 @@ public:
     void Annoncer(const QString& texte);
 
     /// `texte` in code page 1252.
-    void MontrerRapport(const shell::Phrase& titre, const std::string& texte);
+    void MontrerRapport(const Phrase& titre, const std::string& texte);
 
     /// The first start asks for the colours of the chart, once.
     void DemanderPalette();

@@ -61,7 +61,7 @@ TEST_CASE_FIXTURE(Trois, "PreparationExport: another list takes the place of all
 
 TEST_CASE_FIXTURE(doublures::FicheEssai,
                   "PreparationExport: whom the base does not have is left out of list and walks") {
-    const NoOrdre louis = F().Creer('H', "Martin", "Louis", "1790");
+    const NoOrdre louis = F().Creer(Sexe::Homme, "Martin", "Louis", "1790");
     const NoOrdre absent{louis.valeur + 1};
     PreparationExport preparation;
     preparation.Prendre({absent, louis});
