@@ -21,6 +21,9 @@ int Atelier::Ouvrir(const std::filesystem::path& chemin) {
     storage::ResultatOuverture resultat = storage::OuvrirBase(session.disque, chemin, progression);
     const shell::Issue issue = shell::Dire(dialogue, shell::IssueDOuverture(resultat.etat, chemin));
     if (!issue) return Statut(issue);
+    if (!resultat.journalEcarte.empty())
+        dialogue.Informer(
+            shell::Msg(message::JournalMisDeCote, shell::CheminAffiche(resultat.journalEcarte)));
     session.CheminBase = shell::CheminEntier(chemin);
     session.NomBase = shell::DeriverChemins(session.CheminBase).nom;
     session.PoserBase(std::move(resultat.base));

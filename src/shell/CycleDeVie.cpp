@@ -78,6 +78,54 @@ Issue DireEnregistrement(Session& session, bool fait) {
                                                               session.CheminBase)));
 }
 
+/// What became of the changes of a base that is about to be closed.
+enum class Garde {
+    Faite,       ///< saved, or there were none
+    Abandonnee,  ///< the user gives them up here: they are lost, or stand in another file
+    Refusee,     ///< the base stays open
+};
+
+/// Writes the base with all its changes into a file that the user chooses. False when he gives up
+/// or the system refuses, which he is told.
+bool EnregistrerAilleurs(Session& session) {
+    const std::optional<fs::path> choisi = session.dialogue.ChoisirFichier(
+        {DemandeFichier::Sorte::Enregistrer, Msg(message::TitreEnregistrerAilleurs),
+         std::string{FiltreBase}, ".LGD", session.CheminBase.parent_path()});
+    if (!choisi) return false;
+    const fs::path cible = CheminEntier(*choisi);
+    fs::path aCote = cible;
+    aCote += ".nouveau";
+    if (cible != session.CheminBase && session.base->EnregistrerCopie(session.disque, aCote) &&
+        storage::SupprimerJournal(session.disque, cible) && session.disque.Renommer(aCote, cible)) {
+        session.disque.ViderDossier(cible);
+        session.dialogue.Annoncer(MsgChemin(message::EtatCopieEnregistree, cible));
+        return true;
+    }
+    if (session.disque.Existe(aCote)) static_cast<void>(session.disque.Supprimer(aCote));
+    session.dialogue.Informer(MsgChemin(message::CopieNonEnregistree, cible));
+    return false;
+}
+
+/// Saves before a close. While the system refuses, the user saves elsewhere, gives up or stays.
+Garde GarderAvantFermeture(Session& session) {
+    if (!session.base->marques.Modifie() || session.base->Enregistrer()) return Garde::Faite;
+    Phrase texte = MsgChemin(message::FermerSansEnregistrer, session.CheminBase);
+    texte.suite = message::ChoixSansEnregistrer;
+    const Question question{texte, Msg(message::TitreEnregistrementRefuse), Boutons::OuiNonAnnuler,
+                            Reponse::Annuler, true};
+    for (;;) {
+        switch (session.dialogue.Demander(question)) {
+            case Reponse::Oui:
+                if (EnregistrerAilleurs(session)) return Garde::Abandonnee;
+                break;
+            case Reponse::Non:
+                return Garde::Abandonnee;
+            case Reponse::Annuler:
+                return Garde::Refusee;
+        }
+    }
+}
+
 /// The commit of the open base with its bookkeeping, without the tests of a menu command.
 Issue Enregistrer(Session& session) {
     if (!session.base || !session.base->marques.Modifie()) return Issue::Faite();
@@ -136,6 +184,12 @@ Issue IssueDOuverture(storage::Ouverture etat, const fs::path& chemin) {
             return Issue::Refusee(MsgChemin(message::BaseOccupee, chemin));
         case storage::Ouverture::PasUneBase:
             return Issue::Refusee(MsgChemin(message::FichierPasUneBase, chemin));
+        case storage::Ouverture::JournalIllisible:
+            return Issue::ParSysteme(
+                MsgChemin(message::JournalIllisible, storage::CheminJournal(chemin)));
+        case storage::Ouverture::JournalDAutrui:
+            return Issue::Refusee(
+                MsgChemin(message::JournalDUneAutreBase, storage::CheminJournal(chemin)));
         case storage::Ouverture::Refusee:
             return Issue::ParSysteme(MsgChemin(message::AccesBaseRefuse, chemin));
         case storage::Ouverture::Abimee:
@@ -159,20 +213,26 @@ Issue OuvrirBase(Session& session) {
         resultat = storage::OuvrirBase(session.disque, session.CheminBase, session.progression);
         if (resultat.base) session.PoserBase(std::move(resultat.base));
     }
+    if (!resultat.journalEcarte.empty())
+        session.dialogue.Informer(MsgChemin(message::JournalMisDeCote, resultat.journalEcarte));
     return Dire(session.dialogue, IssueDOuverture(resultat.etat, session.CheminBase));
 }
 
 Issue FermerEtMemoriser(Session& session) {
     if (!session.base) return Issue::Faite();
+    SauverReglagesBase(session);
+    const Garde garde = GarderAvantFermeture(session);
+    if (garde == Garde::Refusee) return Issue::Arretee();
     bool fait = false;
     {
         const Attente attente{session.progression};
-        SauverReglagesBase(session);
         session.TypeTri = session.base->entete.TypeTri;
-        fait = session.base->Fermer();
+        if (garde == Garde::Faite) fait = session.base->Fermer();
         session.PoserBase(nullptr);
     }
     if (!session.parametres.MemoriserHistorique(session.CheminBase)) DireReglagesRefuses(session);
+    // The file on the disk waits for its journal: the user knows.
+    if (garde == Garde::Abandonnee) return Issue::ParSysteme();
     return DireEnregistrement(session, fait);
 }
 
@@ -180,12 +240,12 @@ Issue Clore(Session& session) {
     if (!session.base) return Issue::Faite();
     session.ecran.FermerFenetres();
     Issue issue = FermerEtMemoriser(session);
-    Oublier(session);
+    if (!session.base) Oublier(session);
     return issue;
 }
 
 Issue OuvrirChemin(Session& session, const fs::path& chemin) {
-    Clore(session);
+    if (Issue close = Clore(session); session.base) return close;
     session.ecran.FermerFenetres();
     PoserChemins(session, CheminEntier(chemin));
     session.PersonneEnCours = NoOrdre{};

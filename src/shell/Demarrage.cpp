@@ -101,8 +101,12 @@ void Arret(Session& session) {
 }
 
 bool ConfirmerSortie(Session& session) {
-    return CommandePermise(session) &&
-           session.dialogue.Confirmer(Msg(message::ConfirmerQuitterDorvane));
+    if (!CommandePermise(session) ||
+        !session.dialogue.Confirmer(Msg(message::ConfirmerQuitterDorvane)))
+        return false;
+    // What the system refuses to save can still be kept from being lost.
+    Clore(session);
+    return !session.BaseOuverte();
 }
 
 void OuvrirFichierDepose(Session& session, const fs::path& chemin) {

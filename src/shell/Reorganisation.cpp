@@ -172,7 +172,7 @@ Issue ReorganiserBase(Session& session, bool sauvegarder) {
         }
     // The session has no base while the work yields: nobody can change what is being copied.
     if (Issue fermee = FermerEtMemoriser(session); !fermee) {
-        Oublier(session);
+        if (!session.base) Oublier(session);
         session.ecran.Actualiser();
         return fermee;
     }

@@ -77,6 +77,7 @@ Issue Sauvegarder(Session& session) {
     if (issue && !copiee)
         issue = Dire(session.dialogue,
                      Issue::ParSysteme(MsgChemin(message::SauvegardeNonEcriteBaseFermee, cible)));
+    if (session.base) return issue;
     if (!copiee || !OuvrirBase(session)) {
         session.ecran.FermerFenetres();
         Oublier(session);
@@ -107,7 +108,7 @@ Issue MnuRestauration(Session& session) {
                     Issue::Refusee(MsgChemin(message::FichierPasUneBase, source)));
     if (!CiblePermise(session, cible)) return Issue::Arretee();
 
-    Clore(session);
+    if (Issue close = Clore(session); session.base) return close;
     ReprendreAvantRemplacement(session, cible);
     Issue issue = Dire(session.dialogue, Restaurer(session, source, cible));
     if (issue) return OuvrirChemin(session, cible);

@@ -41,7 +41,10 @@ Base::Base(Disque& disque, std::filesystem::path chemin, std::unique_ptr<Verrou>
       chemin_{std::move(chemin)},
       verrou_{std::move(verrou)} {}
 
-Base::~Base() = default;
+Base::~Base() {
+    // A new base that was never committed.
+    if (!provisoire_.empty()) static_cast<void>(disque_.Supprimer(provisoire_));
+}
 
 void Base::AllouerSuiteIndividus() {
     entete.PosSuiteIndividus = volume.Ajouter(std::string(TailleSuiteIndividus, '\0'));
@@ -121,11 +124,30 @@ void Base::InitColonnes() {
 
 bool Base::Enregistrer() {
     if (!marques.Modifie()) return !EnDefaut();
-    ViderColonnes();
-    if (!EcrireEnTete()) return false;
+    // The tables of sorting forget that they were changed once they are handed over.
+    marques.ModifBase = true;
+    if (!volume.Commettre(PreparerEnTete())) return false;
+    volume.ProtegerZones(ZonesDuCommit());
+    if (!PrendreSaPlace()) return false;
     entete.marque = MarqueCourante;
     marques.ModifBase = false;
     return true;
+}
+
+bool Base::PrendreSaPlace() {
+    if (provisoire_.empty()) return true;
+    // A journal of the file that goes would be replayed over this one.
+    if (!SupprimerJournal(disque_, chemin_)) return false;
+    if (disque_.Existe(chemin_)) disque_.DonnerDroits(provisoire_, chemin_);
+    if (!disque_.Renommer(provisoire_, chemin_)) return false;
+    provisoire_.clear();
+    disque_.ViderDossier(chemin_);
+    return true;
+}
+
+bool Base::EnregistrerCopie(Disque& disque, const std::filesystem::path& chemin) {
+    marques.ModifBase = marques.Modifie();
+    return volume.CopierVers(disque, chemin, PreparerEnTete());
 }
 
 bool Base::ViderSurDisque() {
@@ -137,13 +159,6 @@ bool Base::Fermer() {
     const bool fait = Enregistrer();
     verrou_.reset();
     return fait;
-}
-
-std::filesystem::path CheminJournal(const std::filesystem::path& base) {
-    constexpr std::size_t TailleExtension = 3;
-    std::string chemin = base.string();
-    chemin.resize(chemin.size() - std::min(chemin.size(), TailleExtension));
-    return {chemin + "LOG"};
 }
 
 bool SupprimerJournal(Disque& disque, const std::filesystem::path& base) {

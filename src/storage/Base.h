@@ -24,11 +24,13 @@ namespace dorvane::storage {
 
 enum class Ouverture {
     Faite,
-    Introuvable,  ///< no such file
-    Refusee,      ///< the system refuses to open, write or lock it
-    Occupee,      ///< another program has it open
-    PasUneBase,   ///< bears no version mark; nothing was written to it
-    Abimee,       ///< a journal is there and could not be replayed
+    Introuvable,       ///< no such file
+    Refusee,           ///< the system refuses to open, write or lock it
+    Occupee,           ///< another program has it open
+    PasUneBase,        ///< bears no version mark; nothing was written to it
+    Abimee,            ///< a journal is there and could not be replayed
+    JournalIllisible,  ///< a journal is there and cannot be read: it stays, nothing was written
+    JournalDAutrui,    ///< the journal is that of another base of the folder: it stays
 };
 
 /// What a new base starts with.
@@ -95,14 +97,18 @@ public:
     [[nodiscard]] DefinitionSlots DefinitionMariage();
 
     /// Commits if any mark is set; the base stays open. False when the system refused: the file,
-    /// once opened again, is the previous commit, and this object can only be given up.
+    /// once opened again, is the previous commit, while this object keeps all that was changed and
+    /// may be asked again once there is room.
     [[nodiscard]] bool Enregistrer();
+    /// Writes the base as it stands, changes included, into a new file at `chemin`; this one stays
+    /// as it is. False when the system refuses; no file is left.
+    [[nodiscard]] bool EnregistrerCopie(Disque& disque, const std::filesystem::path& chemin);
     /// Commits and gives up file and lock. Nothing may be called afterwards. False as above.
     [[nodiscard]] bool Fermer();
     /// Returns once what the file holds is on the disk itself, as closing and opening it again
     /// would. Changes no byte and commits nothing. False when the system refuses.
     [[nodiscard]] bool ViderSurDisque();
-    /// A write was refused: nothing more can be saved.
+    /// The system has refused something since the last commit.
     [[nodiscard]] bool EnDefaut() const { return volume.EnDefaut(); }
 
     [[nodiscard]] const std::filesystem::path& Chemin() const { return chemin_; }
@@ -121,13 +127,17 @@ private:
     /// the blocks that are left.
     [[nodiscard]] std::uint64_t VerifierRepertoires(std::uint64_t taille);
     void ViderColonnes();
-    [[nodiscard]] bool EcrireEnTete();
+    /// Gives all that waits to the volume; answers the 200 bytes of the header.
+    [[nodiscard]] std::string PreparerEnTete();
+    [[nodiscard]] bool PrendreSaPlace();
     void EcrireRepertoiresEvt();
     void AllouerSuiteIndividus();
     [[nodiscard]] std::vector<Zone> ZonesDuCommit() const;
 
     Disque& disque_;
     std::filesystem::path chemin_;
+    /// Where the file of a new base stands until its first commit; empty afterwards.
+    std::filesystem::path provisoire_;
     std::unique_ptr<Verrou> verrou_;
 };
 
@@ -135,6 +145,9 @@ struct ResultatOuverture {
     Ouverture etat = Ouverture::Refusee;
     std::unique_ptr<Base> base;  ///< set when `etat` is `Faite`
     bool reprise = false;        ///< a journal of a session that died was replayed
+    /// Where a journal was put that belongs to a later state of the base, of which an older copy
+    /// stands here; empty: there was none.
+    std::filesystem::path journalEcarte{};
 };
 
 /// Opens the file at `chemin`: lock, version mark, journal, header, sort tables. `disque` outlives
@@ -142,16 +155,13 @@ struct ResultatOuverture {
 [[nodiscard]] ResultatOuverture OuvrirBase(Disque& disque, const std::filesystem::path& chemin,
                                            Progression& progression);
 
-/// Makes a new base at `chemin`; a file that is there is emptied, a journal beside it removed. The
-/// file is a base from its first commit on.
+/// Makes a new base, which takes the place of what stands at `chemin` and of a journal beside it at
+/// its first commit; until then it is written beside, and goes when it is given up.
 [[nodiscard]] ResultatOuverture NouvelleBase(Disque& disque, const std::filesystem::path& chemin,
                                              const OptionsBase& options);
 
 /// Removes the journal that lies beside a base which is about to be replaced: it belongs to no one
 /// and must not be replayed. False when there is one and the system refuses.
 [[nodiscard]] bool SupprimerJournal(Disque& disque, const std::filesystem::path& base);
-
-/// The journal of a base: its last three letters replaced by "LOG".
-[[nodiscard]] std::filesystem::path CheminJournal(const std::filesystem::path& base);
 
 }  // namespace dorvane::storage

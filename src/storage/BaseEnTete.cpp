@@ -222,7 +222,8 @@ void Base::EcrireRepertoiresEvt() {
     ecrire(entete.PosRepLstEvt, R_LSTEVT.repertoire);
 }
 
-bool Base::EcrireEnTete() {
+std::string Base::PreparerEnTete() {
+    ViderColonnes();
     const auto allouer = [&](Position& position, bool besoin, std::uint32_t taille) {
         if (besoin && !position) position = volume.Ajouter(std::string(taille, '\0'));
         return std::string(besoin ? taille : 0, '\0');
@@ -253,9 +254,7 @@ bool Base::EcrireEnTete() {
         volume.EcrireBloc(entete.PosSuiteIndex,
                           R_INDEX.repertoire.Octets(EntreesIndex, EntreesSuiteIndex));
     EcrireRepertoiresEvt();
-    if (!volume.Commettre(ComposerEnTete(entete, volume.FinFichier()))) return false;
-    volume.ProtegerZones(ZonesDuCommit());
-    return true;
+    return ComposerEnTete(entete, volume.FinFichier());
 }
 
 std::vector<Zone> Base::ZonesDuCommit() const {

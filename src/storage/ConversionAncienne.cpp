@@ -174,7 +174,8 @@ bool ConvertirAncienne(Base& base, const ConversionsTextes& conversions, Progres
                   [&](std::uint32_t m) { conversion.ConvertirMariage(NoMariage{m}); }) &&
         Parcourir(progression, std::min(base.entete.DernierEvenement, MaxEvenements),
                   [&](std::uint32_t e) { conversion.ConvertirEvenement(NoEvenement{e}); });
-    if (!fait) return false;
+    // What could not be read would be converted to nothing.
+    if (!fait || base.EnDefaut()) return false;
     base.entete.LibellesNeutres = true;
     base.marques.ModifBase = true;
     return true;

@@ -46,7 +46,8 @@ public:
                                       DecalageDe(debut) + static_cast<off_t>(lus));
             if (n < 0 && errno == EINTR) continue;
             // A commit made of bytes that could not be read would be worse than none.
-            if (n < 0) defaut_ = true;
+            const std::uint64_t ici = debut.valeur - 1ULL + lus;
+            if (n < 0 || (n == 0 && ici < Taille())) Retenir(Defaut::Lecture);
             if (n <= 0) break;
             lus += static_cast<std::size_t>(n);
         }
@@ -56,36 +57,42 @@ public:
 
     void Ecrire(Position debut, std::span<const char> octets) override {
         std::size_t ecrits = 0;
-        while (!defaut_ && ecrits < octets.size()) {
+        while (!EnDefaut() && ecrits < octets.size()) {
             const ssize_t n =
                 ::pwrite(descripteur_.Fd(), octets.data() + ecrits, octets.size() - ecrits,
                          DecalageDe(debut) + static_cast<off_t>(ecrits));
             if (n < 0 && errno == EINTR) continue;
             if (n <= 0)
-                defaut_ = true;
+                Retenir(Defaut::Ecriture);
             else
                 ecrits += static_cast<std::size_t>(n);
         }
     }
 
     void Vider() override {
-        if (!defaut_ && ::fsync(descripteur_.Fd()) != 0) defaut_ = true;
+        if (!EnDefaut() && ::fsync(descripteur_.Fd()) != 0) Retenir(Defaut::Vidage);
     }
 
     [[nodiscard]] std::uint64_t Taille() override {
         struct stat etat {};
         if (::fstat(descripteur_.Fd(), &etat) != 0) {
-            defaut_ = true;
+            Retenir(Defaut::Lecture);
             return 0;
         }
         return static_cast<std::uint64_t>(etat.st_size);
     }
 
-    [[nodiscard]] bool EnDefaut() const override { return defaut_; }
+    [[nodiscard]] Defaut DefautDe() const override { return defaut_; }
+
+    void Reprendre() override {
+        if (defaut_ != Defaut::Lecture) defaut_ = Defaut::Aucun;
+    }
 
 private:
+    void Retenir(Defaut defaut) { defaut_ = std::max(defaut_, defaut); }
+
     Descripteur descripteur_;
-    bool defaut_ = false;
+    Defaut defaut_ = Defaut::Aucun;
 };
 
 class VerrouReel final : public Verrou {
@@ -110,13 +117,16 @@ bool EncoreEnPlace(int fd, const std::filesystem::path& chemin) {
 }
 
 constexpr mode_t Droits = 0666;  // less what the user's mask takes away
+constexpr mode_t DroitsGardes = 0777;
 
 }  // namespace
 
 std::unique_ptr<Fichier> DisqueReel::Ouvrir(const std::filesystem::path& chemin,
                                             ModeOuverture mode) {
     const int acces = mode == ModeOuverture::LectureSeule ? O_RDONLY : O_RDWR;
-    const int creation = mode == ModeOuverture::Creer ? O_CREAT | O_TRUNC : 0;
+    const bool nouveau = mode == ModeOuverture::Creer || mode == ModeOuverture::Neuf;
+    const int creation = nouveau ? O_CREAT | O_EXCL | O_NOFOLLOW : 0;
+    if (mode == ModeOuverture::Creer) ::unlink(chemin.c_str());
     Descripteur descripteur{
         ::open(chemin.c_str(), acces | creation | O_CLOEXEC | O_NONBLOCK, Droits)};
     struct stat etat {};
@@ -153,8 +163,18 @@ bool DisqueReel::Copier(const std::filesystem::path& de, const std::filesystem::
         copie->Ecrire(ici, std::span{tampon}.first(lus));
         fait += lus;
     }
+    DonnerDroits(vers, de);
     copie->Vider();
     return !source->EnDefaut() && !copie->EnDefaut();
+}
+
+void DisqueReel::DonnerDroits(const std::filesystem::path& chemin,
+                              const std::filesystem::path& comme) {
+    struct stat etat {};
+    if (::stat(comme.c_str(), &etat) != 0) return;
+    // The owner first: giving a file away takes special rights off it.
+    static_cast<void>(::lchown(chemin.c_str(), etat.st_uid, etat.st_gid));
+    static_cast<void>(::chmod(chemin.c_str(), etat.st_mode & DroitsGardes));
 }
 
 bool DisqueReel::ViderDossier(const std::filesystem::path& fichier) {
@@ -172,8 +192,12 @@ ResultatVerrou DisqueReel::Verrouiller(const std::filesystem::path& base) {
     chemin += ".verrou";
     constexpr int Essais = 100;
     for (int essai = 0; essai < Essais; ++essai) {
-        Descripteur descripteur{::open(chemin.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, Droits)};
-        if (!descripteur) return {EtatVerrou::Refuse, nullptr};
+        // For writing, as network file systems ask; a pipe that stands there holds nobody up.
+        Descripteur descripteur{
+            ::open(chemin.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, Droits)};
+        struct stat etat {};
+        if (!descripteur || ::fstat(descripteur.Fd(), &etat) != 0 || !S_ISREG(etat.st_mode))
+            return {EtatVerrou::Refuse, nullptr};
         if (::flock(descripteur.Fd(), LOCK_EX | LOCK_NB) != 0) {
             if (errno == EINTR) continue;
             return {errno == EWOULDBLOCK ? EtatVerrou::Occupe : EtatVerrou::Refuse, nullptr};

@@ -15,6 +15,8 @@ public:
                                 const std::filesystem::path& vers) override;
     [[nodiscard]] bool Copier(const std::filesystem::path& de,
                               const std::filesystem::path& vers) override;
+    void DonnerDroits(const std::filesystem::path& chemin,
+                      const std::filesystem::path& comme) override;
     bool ViderDossier(const std::filesystem::path& fichier) override;
     [[nodiscard]] ResultatVerrou Verrouiller(const std::filesystem::path& base) override;
 };

@@ -1,6 +1,6 @@
 // One record: Num4 position, 1000 bytes.
 // A seal: Num4 last byte of the commit + 1, then the mark, Num4 number of records behind it, 8
-// bytes checksum of these records, zeros.
+// bytes checksum of these records, Num2 length of the base's file name and the name, zeros.
 #include "storage/Journal.h"
 
 #include "values/Octets.h"
@@ -32,24 +32,33 @@ private:
     std::uint64_t valeur_ = 0xCBF29CE484222325ULL;
 };
 
-std::string ComposerSceau(std::uint32_t finCommise, std::uint32_t nombre, const Somme& somme) {
+std::string ComposerSceau(std::uint32_t finCommise, std::uint32_t nombre, const Somme& somme,
+                          std::string_view base) {
     std::string fiche = NumVersChaine4(finCommise + 1);
     fiche += MarqueSceau;
     fiche += NumVersChaine4(nombre) + somme.Octets();
+    fiche += NumVersChaine2(static_cast<std::uint32_t>(base.size()));
+    fiche += base;
     fiche.resize(Journal::TailleFiche, '\0');
     return fiche;
 }
 
 struct Sceau {
+    std::uint32_t finCommise = 0;
     std::uint32_t nombre = 0;
     std::string somme;
+    std::string base;
 };
 
 std::optional<Sceau> LireSceau(std::string_view fiche) {
     std::string_view reste = fiche.substr(4);
     if (!reste.starts_with(MarqueSceau)) return std::nullopt;
     reste.remove_prefix(MarqueSceau.size());
-    return Sceau{Chaine4VersNum(reste), std::string{reste.substr(4, 8)}};
+    constexpr std::size_t AvantNom = 14;
+    const std::size_t longueur =
+        std::min<std::size_t>(Chaine2VersNum(reste.substr(12, 2)), reste.size() - AvantNom);
+    return Sceau{Chaine4VersNum(fiche) - 1, Chaine4VersNum(reste), std::string{reste.substr(4, 8)},
+                 std::string{reste.substr(AvantNom, longueur)}};
 }
 
 /// Reads whole records by their number, from 0, some hundreds at a time.
@@ -118,8 +127,11 @@ void PourImages(Fichier& fichier, Faire faire) {
 
 }  // namespace
 
-Journal::Journal(Disque& disque, std::filesystem::path chemin)
-    : disque_{disque}, chemin_{std::move(chemin)} {}
+Journal::Journal(Disque& disque, const std::filesystem::path& base)
+    : disque_{disque},
+      chemin_{CheminJournal(base)},
+      // No system gives names of more than 255 bytes.
+      nomBase_{base.filename().native().substr(0, 255)} {}
 
 void Journal::Prendre(Fichier& base, Position debut, std::uint32_t longueur) {
     std::string image(TailleImage, '\0');
@@ -137,35 +149,71 @@ void Journal::Prendre(Fichier& base, Position debut, std::uint32_t longueur) {
 
 bool Journal::Ecrire(std::uint32_t finCommise) {
     if (lot_.empty()) return true;
-    if (!fichier_) fichier_ = disque_.Ouvrir(chemin_, ModeOuverture::Creer);
+    // A journal that stands there now is that of another program.
+    if (!fichier_) fichier_ = disque_.Ouvrir(chemin_, ModeOuverture::Neuf);
     if (!fichier_) return false;
     Somme somme;
     somme.Ajouter(lot_);
     const auto nombre = static_cast<std::uint32_t>(lot_.size() / TailleFiche);
-    lot_.insert(0, ComposerSceau(finCommise, nombre, somme));
-    if (fin_ + lot_.size() >= 0xFFFFFFFFU) return false;
-    fichier_->Ecrire(Position{static_cast<std::uint32_t>(fin_ + 1)}, lot_);
+    const std::string envoi = ComposerSceau(finCommise, nombre, somme, nomBase_) + lot_;
+    const std::uint64_t fin = fin_ + envoi.size();
+    if (fin >= 0xFFFFFFFFU) return false;
+    fichier_->Ecrire(Position{static_cast<std::uint32_t>(fin_ + 1)}, envoi);
     fichier_->Vider();
-    fin_ += lot_.size();
+    if (fichier_->EnDefaut()) return false;
+    // A file whose name a power cut can take away would undo nothing. A system that cannot flush a
+    // folder keeps that promise otherwise or not at all.
+    if (!nomme_) disque_.ViderDossier(chemin_);
+    nomme_ = true;
+    fin_ = fin;
     lot_.clear();
-    return !fichier_->EnDefaut();
+    return true;
 }
 
 bool Journal::Supprimer() {
     lot_.clear();
+    if (fichier_) {
+        if (!disque_.Supprimer(chemin_) && disque_.Existe(chemin_)) return false;
+        fichier_.reset();
+        // The removal has happened, for everybody; a folder that cannot be flushed does not undo
+        // it.
+        disque_.ViderDossier(chemin_);
+    }
     pris_.clear();
     fin_ = 0;
-    if (!fichier_) return true;
-    fichier_.reset();
-    if (!disque_.Supprimer(chemin_)) return false;
-    // The removal has happened, for everybody; a folder that cannot be flushed does not undo it.
-    disque_.ViderDossier(chemin_);
+    nomme_ = false;
     return true;
 }
 
-std::uint32_t RejouerJournal(Disque& disque, const std::filesystem::path& chemin, Fichier& base) {
+std::filesystem::path CheminJournal(const std::filesystem::path& base) {
+    constexpr std::size_t TailleExtension = 3;
+    std::string chemin = base.string();
+    chemin.resize(chemin.size() - std::min(chemin.size(), TailleExtension));
+    return {chemin + "LOG"};
+}
+
+EtatJournal ExaminerJournal(Disque& disque, const std::filesystem::path& chemin) {
+    constexpr std::size_t TailleEnTete = 200;
+    EtatJournal etat;
     const std::unique_ptr<Fichier> journal = disque.Ouvrir(chemin, ModeOuverture::LectureSeule);
-    if (!journal) return 0;
+    if (!journal) return etat;
+    if (Lecteur lecteur{*journal}; lecteur.Nombre() != 0) {
+        if (const std::optional<Sceau> sceau = LireSceau(lecteur.Fiche(0))) {
+            etat.base = sceau->base;
+            etat.finCommise = sceau->finCommise;
+        }
+    }
+    PourImages(*journal, [&](Position position, std::string_view image) {
+        if (position == Position{1}) etat.enTete = image.substr(0, TailleEnTete);
+    });
+    etat.lisible = !journal->EnDefaut();
+    return etat;
+}
+
+std::optional<std::uint32_t> RejouerJournal(Disque& disque, const std::filesystem::path& chemin,
+                                            Fichier& base) {
+    const std::unique_ptr<Fichier> journal = disque.Ouvrir(chemin, ModeOuverture::LectureSeule);
+    if (!journal) return std::nullopt;
     const std::uint64_t taille = base.Taille();
     std::uint32_t rejouees = 0;
     PourImages(*journal, [&](Position position, std::string_view image) {
@@ -173,18 +221,8 @@ std::uint32_t RejouerJournal(Disque& disque, const std::filesystem::path& chemin
         base.Ecrire(position, image);
         ++rejouees;
     });
+    if (journal->EnDefaut()) return std::nullopt;
     return rejouees;
-}
-
-std::string MarqueDuJournal(Disque& disque, const std::filesystem::path& chemin) {
-    constexpr std::size_t TailleMarque = 30;
-    const std::unique_ptr<Fichier> journal = disque.Ouvrir(chemin, ModeOuverture::LectureSeule);
-    std::string marque;
-    if (!journal) return marque;
-    PourImages(*journal, [&](Position position, std::string_view image) {
-        if (position == Position{1}) marque = image.substr(0, TailleMarque);
-    });
-    return marque;
 }
 
 }  // namespace dorvane::storage

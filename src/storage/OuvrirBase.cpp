@@ -1,6 +1,7 @@
 #include "messages/Messages.h"
 #include "storage/Base.h"
 #include "values/Marqueurs.h"
+#include "values/Octets.h"
 #include "values/SortesEvenement.h"
 
 #include <algorithm>
@@ -38,15 +39,42 @@ std::string LireMarque(Fichier& fichier) {
     return marque;
 }
 
-/// Replays and removes the journal, if there is one. False when that is not possible.
+/// Whether the journal leads back to a later state than that of the file: an older copy was put in
+/// its place. A base never becomes shorter, nor does its header tell so.
+bool EstPosterieur(const EtatJournal& journal, Fichier& fichier) {
+    if (fichier.Taille() < journal.finCommise) return true;
+    constexpr std::size_t PlaceFin = 30;
+    if (journal.enTete.size() < TailleEnTete) return false;
+    std::string octets(TailleEnTete, '\0');
+    fichier.Lire(Position{1}, octets);
+    const auto fin = [](std::string_view enTete) {
+        return Chaine4VersNum(enTete.substr(PlaceFin, 4));
+    };
+    return PorteMarque(octets) && fin(octets) < fin(journal.enTete);
+}
+
+/// Puts the journal aside under a name that nothing replays. False when the system refuses.
+bool EcarterJournal(Disque& disque, const std::filesystem::path& journal,
+                    std::filesystem::path& ecarte) {
+    ecarte = journal;
+    ecarte += ".ancien";
+    for (int rang = 2; disque.Existe(ecarte); ++rang) {
+        ecarte = journal;
+        ecarte += ".ancien" + std::to_string(rang);
+    }
+    if (!disque.Renommer(journal, ecarte)) return false;
+    disque.ViderDossier(journal);
+    return true;
+}
+
+/// Replays and removes the journal. False when that is not possible.
 bool Reprendre(Disque& disque, const std::filesystem::path& journal, Fichier& fichier,
                Progression& progression, bool& reprise) {
-    if (!disque.Existe(journal)) return true;
     const CadreProgression cadre{progression, Msg(message::TitreRecuperationBase),
                                  Msg(message::EtatRetourEtatPrecedent)};
-    RejouerJournal(disque, journal, fichier);
+    const bool rejoue = RejouerJournal(disque, journal, fichier).has_value();
     fichier.Vider();
-    reprise = !fichier.EnDefaut() && disque.Supprimer(journal);
+    reprise = rejoue && !fichier.EnDefaut() && disque.Supprimer(journal);
     if (reprise) disque.ViderDossier(journal);
     return reprise;
 }
@@ -64,7 +92,7 @@ struct Ouvreur {
                                       std::unique_ptr<Fichier> fichier) {
         // The end of the file is known once header and directories are read.
         const std::uint64_t taille = std::min<std::uint64_t>(fichier->Taille(), 0xFFFFFFFEU);
-        auto volume = std::make_unique<Volume>(disque, std::move(fichier), CheminJournal(chemin),
+        auto volume = std::make_unique<Volume>(disque, std::move(fichier), chemin,
                                                static_cast<std::uint32_t>(taille), false);
         auto base = std::make_unique<Base>(disque, chemin, std::move(verrou), std::move(volume));
         base->InitColonnes();
@@ -81,7 +109,8 @@ struct Ouvreur {
         return base;
     }
 
-    static void Remplir(Base& base, const OptionsBase& options) {
+    static void Remplir(Base& base, const OptionsBase& options, std::filesystem::path provisoire) {
+        base.provisoire_ = std::move(provisoire);
         base.InitColonnes();
         base.entete.TypeTri = options.TypeTri;
         base.entete.OptPrenomUnique = options.OptPrenomUnique;
@@ -110,29 +139,43 @@ ResultatOuverture OuvrirBase(Disque& disque, const std::filesystem::path& chemin
     if (verrou.etat != EtatVerrou::Pris) return {EtatDuVerrou(verrou.etat), nullptr};
     std::unique_ptr<Fichier> fichier = disque.Ouvrir(chemin, ModeOuverture::LireEcrire);
     if (!fichier) return {Ouverture::Refusee, nullptr};
-    const std::filesystem::path journal = CheminJournal(chemin);
+    const std::filesystem::path cheminJournal = CheminJournal(chemin);
+    const bool aReprendre = disque.Existe(cheminJournal);
+    const EtatJournal journal = aReprendre ? ExaminerJournal(disque, cheminJournal) : EtatJournal{};
     // A commit that was cut may have left half a mark; the journal then holds the whole one.
-    if (!PorteMarque(LireMarque(*fichier)) && !PorteMarque(MarqueDuJournal(disque, journal)))
-        return {Ouverture::PasUneBase, nullptr};
-    bool reprise = false;
-    if (!Reprendre(disque, journal, *fichier, progression, reprise))
-        return {Ouverture::Abimee, nullptr};
+    const bool marquee = PorteMarque(LireMarque(*fichier));
+    if (aReprendre && !journal.lisible) return {Ouverture::JournalIllisible, nullptr};
+    if (!marquee && !PorteMarque(journal.enTete)) return {Ouverture::PasUneBase, nullptr};
+    ResultatOuverture resultat;
+    if (aReprendre) {
+        const std::string nom = chemin.filename().native().substr(0, 255);
+        if (!journal.base.empty() && journal.base != nom &&
+            disque.Existe(chemin.parent_path() / journal.base))
+            return {Ouverture::JournalDAutrui, nullptr};
+        const bool pret =
+            EstPosterieur(journal, *fichier)
+                ? EcarterJournal(disque, cheminJournal, resultat.journalEcarte)
+                : Reprendre(disque, cheminJournal, *fichier, progression, resultat.reprise);
+        if (!pret) return {Ouverture::Abimee, nullptr};
+    }
     if (!PorteMarque(LireMarque(*fichier))) return {Ouverture::PasUneBase, nullptr};
-    return {Ouverture::Faite,
-            Ouvreur::Lire(disque, chemin, std::move(verrou.verrou), std::move(fichier)), reprise};
+    resultat.base = Ouvreur::Lire(disque, chemin, std::move(verrou.verrou), std::move(fichier));
+    if (resultat.base->EnDefaut()) return {Ouverture::Refusee, nullptr};
+    resultat.etat = Ouverture::Faite;
+    return resultat;
 }
 
 ResultatOuverture NouvelleBase(Disque& disque, const std::filesystem::path& chemin,
                                const OptionsBase& options) {
     ResultatVerrou verrou = disque.Verrouiller(chemin);
     if (verrou.etat != EtatVerrou::Pris) return {EtatDuVerrou(verrou.etat), nullptr};
-    if (!SupprimerJournal(disque, chemin)) return {Ouverture::Refusee, nullptr};
-    std::unique_ptr<Fichier> fichier = disque.Ouvrir(chemin, ModeOuverture::Creer);
+    std::filesystem::path provisoire = chemin;
+    provisoire += ".nouveau";
+    std::unique_ptr<Fichier> fichier = disque.Ouvrir(provisoire, ModeOuverture::Creer);
     if (!fichier) return {Ouverture::Refusee, nullptr};
-    auto volume = std::make_unique<Volume>(disque, std::move(fichier), CheminJournal(chemin),
-                                           FinNouvelle, true);
+    auto volume = std::make_unique<Volume>(disque, std::move(fichier), chemin, FinNouvelle, true);
     auto base = std::make_unique<Base>(disque, chemin, std::move(verrou.verrou), std::move(volume));
-    Ouvreur::Remplir(*base, options);
+    Ouvreur::Remplir(*base, options, std::move(provisoire));
     return {Ouverture::Faite, std::move(base)};
 }
 

@@ -306,19 +306,18 @@ BilanReorganisation ReorganiserVers(Disque& disque, Base& source, const std::fil
     const CadreProgression cadre{progression, Msg(message::TitreReorganisationBase),
                                  Litteral("Contrôle Documents"_1252)};
     {
-        // Nothing of the new file is overwritten: there is no journal.
-        auto volume = std::make_unique<Volume>(disque, std::move(fichier), std::filesystem::path{},
-                                               FinZoneFixe, true);
-        volume->ProtegerZones({});
+        auto volume = std::make_unique<Volume>(disque, std::move(fichier), vers, FinZoneFixe, true);
         Base cible{disque, vers, nullptr, std::move(volume)};
         cible.InitColonnes();
         bilan.issue = Copie{source, cible, progression}.Faire(bilan);
         bilan.tailleApres = cible.volume.FinFichier();
         const std::string entete = ComposerEnTete(cible.entete, cible.volume.FinFichier());
-        if (bilan.issue == IssueReorganisation::Faite &&
-            !Relire(disque, vers, entete, bilan.tailleApres))
+        // What could not be read was copied as nothing.
+        if (source.EnDefaut() || (bilan.issue == IssueReorganisation::Faite &&
+                                  !Relire(disque, vers, entete, bilan.tailleApres)))
             bilan.issue = IssueReorganisation::Refusee;
     }
+    if (bilan.issue == IssueReorganisation::Faite) disque.DonnerDroits(vers, source.Chemin());
     if (bilan.issue == IssueReorganisation::Faite)
         progression.Phase(Litteral("Réorganisation terminée"_1252));
     else

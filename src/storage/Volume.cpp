@@ -11,23 +11,20 @@ constexpr std::uint64_t TailleMax = 0xFFFFFFFFU;  // positions have 4 bytes
 
 }  // namespace
 
-Volume::Volume(Disque& disque, std::unique_ptr<Fichier> fichier, std::filesystem::path journal,
+Volume::Volume(Disque& disque, std::unique_ptr<Fichier> fichier, const std::filesystem::path& base,
                std::uint32_t finFichier, bool nouveau)
     : fichier_{std::move(fichier)},
-      journal_{disque, std::move(journal)},
+      journal_{disque, base},
       finFichier_{finFichier},
       finCommise_{nouveau ? 0 : finFichier},
       pages_{std::make_unique_for_overwrite<char[]>(TaillePage * NbPages)},
       noPage_(NbPages),
-      taillePage_(NbPages) {
-    // The image of a header without a mark: until the first commit is whole the file is no base.
-    if (nouveau) zones_ = {{Position{1}, 200}};
-}
+      taillePage_(NbPages) {}
 
 Volume::~Volume() = default;
 
 bool Volume::EnDefaut() const {
-    return defaut_ || fichier_->EnDefaut();
+    return refuse_ || plein_ || fichier_->EnDefaut();
 }
 
 void Volume::OublierPages(std::uint64_t debut, std::uint64_t longueur) {
@@ -116,12 +113,13 @@ std::string Volume::LireTexte(Position debut, std::size_t limite, bool* trouve, 
 
 Position Volume::Ajouter(std::string_view debut, std::string_view suite) {
     const std::uint64_t taille = debut.size() + suite.size();
-    if (finFichier_ + taille >= TailleMax) defaut_ = true;
-    if (EnDefaut()) return {};
+    if (finFichier_ + taille >= TailleMax || (EnDefaut() && queue_.size() + taille > MaxRefus))
+        plein_ = true;
+    if (plein_) return {};
     queue_.append(debut).append(suite);
     const Position position{finFichier_ + 1};
     finFichier_ += static_cast<std::uint32_t>(taille);
-    if (queue_.size() >= maxQueue_) ViderQueue();
+    if (queue_.size() >= maxQueue_ && !EnDefaut()) ViderQueue();
     return position;
 }
 
@@ -137,17 +135,15 @@ void Volume::EcrireFichier(Position debut, std::string_view octets) {
 void Volume::ViderQueue() {
     if (queue_.empty()) return;
     EcrireFichier(Position{finFichier_ - static_cast<std::uint32_t>(queue_.size()) + 1}, queue_);
-    queue_.clear();
+    if (!fichier_->EnDefaut()) queue_.clear();
 }
 
 void Volume::EcrireBloc(Position debut, std::string_view octets) {
-    if (!debut || octets.empty() || EnDefaut()) return;
+    if (!debut || octets.empty()) return;
     OublierBloc(debut);
-    if (debut.valeur <= finCommise_) {
-        std::string& bloc = blocs_[debut.valeur];
-        tailleBlocs_ = tailleBlocs_ - bloc.size() + octets.size();
-        bloc = octets;
-        if (tailleBlocs_ > maxAttente_) ViderBlocs();
+    if (debut.valeur <= finCommise_ || blocs_.contains(debut.valeur)) {
+        Retenir(debut, octets);
+        if (tailleBlocs_ > maxAttente_ && !EnDefaut()) ViderBlocs();
         return;
     }
     // Allocated in this transaction: in the tail, or already written beyond the last commit.
@@ -156,6 +152,7 @@ void Volume::EcrireBloc(Position debut, std::string_view octets) {
     if (decalage < debutQueue) {
         const std::string_view avant = octets.substr(0, debutQueue - decalage);
         EcrireFichier(debut, avant);
+        if (fichier_->EnDefaut()) Retenir(debut, octets);
         octets.remove_prefix(avant.size());
         if (!octets.empty()) queue_.replace(0, std::min(octets.size(), queue_.size()), octets);
     } else if (decalage + octets.size() <= finFichier_) {
@@ -183,6 +180,12 @@ void Volume::LireBloc(Position debut, std::span<char> octets) {
     if (nouveau) tailleBlocsLus_ += octets.size();
 }
 
+void Volume::Retenir(Position debut, std::string_view octets) {
+    std::string& bloc = blocs_[debut.valeur];
+    tailleBlocs_ = tailleBlocs_ - bloc.size() + octets.size();
+    bloc = octets;
+}
+
 void Volume::OublierBloc(Position debut) {
     const auto lu = blocsLus_.find(debut.valeur);
     if (lu == blocsLus_.end()) return;
@@ -202,16 +205,17 @@ bool Volume::Journaliser() {
             journal_.Prendre(*fichier_, zone.debut, zone.longueur);
     for (const auto& [position, octets] : blocs_) {
         const Position debut{position};
-        if (!journal_.Contient(debut) && !Protegee(debut, octets.size()))
+        if (position <= finCommise_ && !journal_.Contient(debut) && !Protegee(debut, octets.size()))
             journal_.Prendre(*fichier_, debut, static_cast<std::uint32_t>(octets.size()));
     }
-    if (fichier_->EnDefaut() || !journal_.Ecrire(finCommise_)) defaut_ = true;
-    return !defaut_;
+    if (fichier_->EnDefaut() || !journal_.Ecrire(finCommise_)) refuse_ = true;
+    return !refuse_;
 }
 
 void Volume::EcrireBlocs() {
     for (const auto& [position, octets] : blocs_)
         EcrireFichier(Position{position}, octets);
+    if (fichier_->EnDefaut()) return;
     blocs_.clear();
     tailleBlocs_ = 0;
 }
@@ -221,7 +225,12 @@ void Volume::ViderBlocs() {
 }
 
 bool Volume::Commettre(std::string_view entete) {
-    if (EnDefaut()) return false;
+    if (EnDefaut()) {
+        if (plein_ || fichier_->DefautDe() > Defaut::Ecriture) return false;
+        refuse_ = false;
+        fichier_->Reprendre();
+        journal_.Reprendre();
+    }
     if (!Journaliser()) return false;
     ViderQueue();
     EcrireBlocs();
@@ -229,11 +238,32 @@ bool Volume::Commettre(std::string_view entete) {
     fichier_->Vider();
     if (EnDefaut()) return false;
     if (!journal_.Supprimer()) {
-        defaut_ = true;
+        refuse_ = true;
         return false;
     }
     finCommise_ = finFichier_;
     return true;
+}
+
+bool Volume::CopierVers(Disque& disque, const std::filesystem::path& chemin,
+                        std::string_view entete) {
+    const std::unique_ptr<Fichier> copie = disque.Ouvrir(chemin, ModeOuverture::Creer);
+    if (!copie) return false;
+    std::string tampon(1U << 18U, '\0');
+    for (std::uint64_t fait = 0; fait < finFichier_ && !copie->EnDefaut();) {
+        const Position ici{static_cast<std::uint32_t>(fait + 1)};
+        const std::size_t taille = std::min<std::uint64_t>(tampon.size(), finFichier_ - fait);
+        if (Lire(ici, std::span{tampon}.first(taille)) != taille) break;
+        copie->Ecrire(ici, std::span{tampon}.first(taille));
+        fait += taille;
+    }
+    for (const auto& [position, octets] : blocs_)
+        copie->Ecrire(Position{position}, octets);
+    copie->Ecrire(Position{1}, entete);
+    copie->Vider();
+    if (!copie->EnDefaut() && copie->Taille() == finFichier_) return true;
+    static_cast<void>(disque.Supprimer(chemin));
+    return false;
 }
 
 }  // namespace dorvane::storage

@@ -28,16 +28,21 @@ struct Zone {
 /// Appended bytes lie beyond the end of the last commit and wait in a tail of about 1 MB; they need
 /// no image. Blocks that the last commit knows wait in memory (2 MB at most) until the commit; when
 /// there are too many, their images go to the journal, the journal is flushed, and only then are
-/// they overwritten. Nothing is appended once a write has been refused.
+/// they overwritten.
+///
+/// When the system refuses a write, all that waits goes on waiting, in memory (64 MB of appended
+/// bytes at most), and the next commit tries again: once there is room nothing is lost. When a
+/// reading or a flush fails, nobody knows what the disk holds: no commit follows, but a copy may
+/// still be made.
 ///
 /// Reading goes through pages of 4 KB (16 MB of them at most, taken as they are touched) and, for
 /// blocks, through copies of whole blocks (6 MB at most), so that a walk in any order asks the
 /// system for each byte about once.
 class Volume {
 public:
-    /// `disque` outlives the volume. `finFichier` is the last byte in use; `nouveau`: there is no
-    /// commit to come back to.
-    Volume(Disque& disque, std::unique_ptr<Fichier> fichier, std::filesystem::path journal,
+    /// `base` names the journal. `disque` outlives the volume. `finFichier` is the last byte in
+    /// use; `nouveau`: there is no commit to come back to, and no journal before the first one.
+    Volume(Disque& disque, std::unique_ptr<Fichier> fichier, const std::filesystem::path& base,
            std::uint32_t finFichier, bool nouveau);
     ~Volume();
     Volume(const Volume&) = delete;
@@ -60,7 +65,8 @@ public:
     /// The same, added to `sortie`. True when `fin` was seen.
     bool LireTexteDans(std::string& sortie, Position debut, std::size_t limite, char fin = '#');
 
-    /// Appends and answers the position; 0 when the file is full (4 GB) or has refused a write.
+    /// Appends and answers the position; 0 when the file is full (4 GB), or when too much waits
+    /// for a disk that refuses.
     Position Ajouter(std::string_view octets);
     /// The same for two pieces that stand behind each other, such as a text and its "#".
     Position Ajouter(std::string_view debut, std::string_view suite);
@@ -73,13 +79,19 @@ public:
     /// The areas of the last commit whose images must be taken before anything is overwritten.
     void ProtegerZones(std::vector<Zone> zones) { zones_ = std::move(zones); }
 
-    /// Ends the transaction: all that waits, then `entete` at position 1. False when a write was
-    /// refused: the file on the disk, once reopened, is the previous commit.
+    /// Ends the transaction: all that waits, then `entete` at position 1. False when the system
+    /// refused: the file on the disk, once reopened, is the previous commit, and this may be called
+    /// again.
     [[nodiscard]] bool Commettre(std::string_view entete);
+    /// Writes what the commit of `entete` would leave into a new file at `chemin`, on another disk
+    /// perhaps. False when the system refuses; the file is then gone.
+    [[nodiscard]] bool CopierVers(Disque& disque, const std::filesystem::path& chemin,
+                                  std::string_view entete);
 
     /// Flushes what has been written; what waits in memory goes on waiting.
     void ViderSurDisque() { fichier_->Vider(); }
 
+    /// A write, a reading or a flush has been refused since the last commit.
     [[nodiscard]] bool EnDefaut() const;
     /// How many bytes may wait in memory: appended ones, and overwritten blocks.
     void FixerTampons(std::size_t queue, std::size_t attente) {
@@ -94,12 +106,15 @@ private:
     static constexpr std::size_t NbPages = 4096;
     static constexpr std::size_t MaxBlocsLus = 6U << 20U;
     static constexpr std::size_t PagesParLecture = 16;
+    static constexpr std::size_t MaxRefus = 64U << 20U;
 
     /// Bytes of one page of the file, from an offset on.
     std::string_view Page(std::uint64_t decalage);
     /// What stands at an offset, in the file or in the tail; as much as lies together.
     std::string_view Morceau(std::uint64_t decalage);
     void OublierBloc(Position debut);
+    /// Keeps a block that waits to be written.
+    void Retenir(Position debut, std::string_view octets);
     void OublierPages(std::uint64_t debut, std::uint64_t longueur);
     void EcrireFichier(Position debut, std::string_view octets);
     void ViderQueue();
@@ -118,7 +133,8 @@ private:
     std::size_t maxQueue_ = 1U << 20U;
     std::size_t maxAttente_ = 2U << 20U;
     std::vector<Zone> zones_;
-    bool defaut_ = false;
+    bool refuse_ = false;  ///< the journal: may be tried again
+    bool plein_ = false;   ///< something could not be kept: no commit follows
 
     std::unordered_map<std::uint32_t, std::string> blocsLus_;  ///< read cache of whole blocks
     std::size_t tailleBlocsLus_ = 0;

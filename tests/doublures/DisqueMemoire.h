@@ -34,10 +34,13 @@ public:
     int lectures = 0;
     std::uint64_t octetsLus = 0;
     Panne panne = Panne::Aucune;
-    int panneA = 0;                          ///< the operation that fails, counted from 1; 0: none
+    int lectureRefusee = 0;  ///< the reading that fails, counted from 1 in `lectures`; 0: none
+    int panneA = 0;          ///< the operation that fails, counted from 1; 0: none
     std::uint64_t capacite = 512ULL << 20U;  ///< a write past this is refused
 
     [[nodiscard]] bool Mort() const { return mort_; }
+    /// There is room again.
+    void FaireDeLaPlace() { plein_ = false; }
 
     [[nodiscard]] std::string Octets(const std::filesystem::path& chemin) const {
         const auto place = noms_.find(chemin.string());
@@ -82,19 +85,14 @@ public:
     [[nodiscard]] std::unique_ptr<Fichier> Ouvrir(const std::filesystem::path& chemin,
                                                   ModeOuverture mode) override {
         const auto place = noms_.find(chemin.string());
-        if (mode != ModeOuverture::Creer)
-            return place == noms_.end()
-                       ? nullptr
-                       : std::make_unique<FichierMemoire>(*this, chemin.string(), place->second);
+        if (mode == ModeOuverture::Neuf && place != noms_.end()) return nullptr;
+        if (mode != ModeOuverture::Creer && mode != ModeOuverture::Neuf)
+            return place == noms_.end() ? nullptr
+                                        : std::make_unique<FichierMemoire>(*this, place->second);
         if (!Agir()) return nullptr;
-        if (place != noms_.end()) {
-            place->second->attente.push_back({0, {}, true});
-            place->second->octets.clear();
-            return std::make_unique<FichierMemoire>(*this, chemin.string(), place->second);
-        }
         auto contenu = std::make_shared<Contenu>();
         noms_[chemin.string()] = contenu;
-        return std::make_unique<FichierMemoire>(*this, chemin.string(), contenu);
+        return std::make_unique<FichierMemoire>(*this, contenu);
     }
     [[nodiscard]] bool Existe(const std::filesystem::path& chemin) override {
         return noms_.contains(chemin.string());
@@ -115,6 +113,8 @@ public:
         Poser(vers, noms_[de.string()]->octets);
         return true;
     }
+    void DonnerDroits(const std::filesystem::path& /*chemin*/,
+                      const std::filesystem::path& /*comme*/) override {}
     bool ViderDossier(const std::filesystem::path& /*fichier*/) override {
         ++vidages;
         if (!Agir()) return false;
@@ -193,10 +193,14 @@ private:
 
     class FichierMemoire final : public Fichier {
     public:
-        FichierMemoire(DisqueMemoire& disque, std::string nom, std::shared_ptr<Contenu> contenu)
-            : disque_{disque}, nom_{std::move(nom)}, contenu_{std::move(contenu)} {}
+        FichierMemoire(DisqueMemoire& disque, std::shared_ptr<Contenu> contenu)
+            : disque_{disque}, contenu_{std::move(contenu)} {}
         std::size_t Lire(Position debut, std::span<char> octets) override {
-            ++disque_.lectures;
+            if (++disque_.lectures == disque_.lectureRefusee) {
+                defaut_ = Defaut::Lecture;
+                std::fill(octets.begin(), octets.end(), '\0');
+                return 0;
+            }
             const std::string& tout = contenu_->octets;
             const std::size_t decalage = std::min<std::size_t>(debut.valeur - 1U, tout.size());
             const std::size_t lus = std::min(octets.size(), tout.size() - decalage);
@@ -206,14 +210,14 @@ private:
             return lus;
         }
         void Ecrire(Position debut, std::span<const char> octets) override {
-            if (defaut_) return;
+            if (EnDefaut()) return;
             ++disque_.ecritures;
             bool moitie = false;
             std::string_view vue{octets.data(), octets.size()};
             const std::uint64_t decalage = debut.valeur - 1ULL;
             const bool tient = decalage + vue.size() <= disque_.capacite;
             if (!tient || !disque_.Agir(&moitie)) {
-                defaut_ = true;
+                Retenir(Defaut::Ecriture);
                 if (!moitie) return;
                 vue = vue.substr(0, vue.size() / 2);
             }
@@ -221,26 +225,27 @@ private:
             contenu_->attente.push_back({decalage, std::string{vue}, false});
         }
         void Vider() override {
-            if (defaut_) return;
+            if (EnDefaut()) return;
             ++disque_.vidages;
             if (!disque_.Agir()) {
-                defaut_ = true;
+                Retenir(Defaut::Vidage);
                 return;
             }
             contenu_->durable = contenu_->octets;
             contenu_->attente.clear();
-            const auto place = disque_.noms_.find(nom_);
-            if (place != disque_.noms_.end() && place->second == contenu_)
-                disque_.durables_[nom_] = contenu_;
         }
         [[nodiscard]] std::uint64_t Taille() override { return contenu_->octets.size(); }
-        [[nodiscard]] bool EnDefaut() const override { return defaut_; }
+        [[nodiscard]] Defaut DefautDe() const override { return defaut_; }
+        void Reprendre() override {
+            if (defaut_ != Defaut::Lecture) defaut_ = Defaut::Aucun;
+        }
 
     private:
+        void Retenir(Defaut defaut) { defaut_ = std::max(defaut_, defaut); }
+
         DisqueMemoire& disque_;
-        std::string nom_;
         std::shared_ptr<Contenu> contenu_;
-        bool defaut_ = false;
+        Defaut defaut_ = Defaut::Aucun;
     };
 
     class VerrouMemoire final : public Verrou {

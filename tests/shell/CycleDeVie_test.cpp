@@ -133,6 +133,7 @@ TEST_CASE_FIXTURE(Bureau,
     EcrireFichier(dossier / "Famille.LOG", std::string(1004, 'x'));
     Nouveau(famille);
     CHECK(session.base->entete.DernierIndividu == 0);
+    REQUIRE(session.base->Enregistrer());
     CHECK_FALSE(fs::exists(dossier / "Famille.LOG"));
     CHECK_FALSE(session.deCujus[0].individu);
 }

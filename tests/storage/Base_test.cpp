@@ -67,7 +67,7 @@ TEST_CASE_FIXTURE(Essai, "Enregistrer: a changed field of the header survives") 
 
 TEST_CASE_FIXTURE(
     Essai,
-    "Enregistrer: one edited person costs at most three flushes whatever the size of the base") {
+    "Enregistrer: one edited person costs at most four flushes whatever the size of the base") {
     int operations[2] = {0, 0};
     const std::uint32_t tailles[2] = {10, 4000};
     for (int i = 0; i < 2; ++i) {
@@ -83,7 +83,8 @@ TEST_CASE_FIXTURE(
         base->R_TEXTE.EcrireTexte(n, "|DURAND $Brest\r\nune note");
         REQUIRE(base->Enregistrer());
         operations[i] = disque->operations - debut;
-        CHECK(disque->vidages - vidages == 3);
+        // The journal, its name, the file, the removal of the journal.
+        CHECK(disque->vidages - vidages == 4);
     }
     CHECK(operations[0] == operations[1]);
     CHECK(operations[0] <= 14);
@@ -120,10 +121,9 @@ TEST_CASE_FIXTURE(
     REQUIRE(base->Enregistrer());
     Creer("MARTIN;Paul", "1860");
     disque->panne = Panne::Refus;
-    disque->panneA = disque->operations + 4;
+    disque->panneA = disque->operations + 2;
     CHECK_FALSE(base->Enregistrer());
     CHECK(base->EnDefaut());
-    CHECK_FALSE(base->Enregistrer());
     base.reset();
     Ouvrir();
     CHECK(base->entete.NbTriIndividus == 1);

@@ -3,6 +3,7 @@
 #include "doublures/DossierTemporaire.h"
 #include "storage/Base.h"
 
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -115,4 +116,32 @@ TEST_CASE_FIXTURE(Scene, "A base on the real disk leaves no journal and no lock 
     resultat = OuvrirBase(disque, chemin, muet);
     REQUIRE(resultat.base);
     CHECK(resultat.base->R_NOM.PrenomDe(NoOrdre{1}) == "Paul");
+}
+
+TEST_CASE_FIXTURE(Scene,
+                  "DisqueReel: a new file takes the place of a link, not of what it leads to") {
+    std::ofstream{Chemin("autre")} << "autre";
+    std::filesystem::create_symlink(Chemin("autre"), Chemin("neuf"));
+    CHECK(disque.Ouvrir(Chemin("neuf"), ModeOuverture::Neuf) == nullptr);
+    REQUIRE(disque.Ouvrir(Chemin("neuf"), ModeOuverture::Creer) != nullptr);
+    CHECK(std::filesystem::is_regular_file(std::filesystem::symlink_status(Chemin("neuf"))));
+    CHECK(std::filesystem::file_size(Chemin("autre")) == 5);
+}
+
+TEST_CASE_FIXTURE(Scene, "DisqueReel: a copy keeps the rights of its source") {
+    namespace fs = std::filesystem;
+    std::ofstream{Chemin("a")} << "a";
+    fs::permissions(Chemin("a"), fs::perms::owner_read | fs::perms::owner_write |
+                                     fs::perms::group_read | fs::perms::group_write);
+    CHECK(disque.Copier(Chemin("a"), Chemin("b")));
+    CHECK(fs::status(Chemin("b")).permissions() == fs::status(Chemin("a")).permissions());
+}
+
+TEST_CASE_FIXTURE(Scene, "Lock: a pipe or a link under its name refuses at once") {
+    const std::filesystem::path tube = Chemin("base.LGD.verrou");
+    REQUIRE(::mkfifo(tube.c_str(), 0600) == 0);
+    CHECK(disque.Verrouiller(Chemin("base.LGD")).etat == EtatVerrou::Refuse);
+    std::filesystem::create_symlink(Chemin("ailleurs"), Chemin("deux.LGD.verrou"));
+    CHECK(disque.Verrouiller(Chemin("deux.LGD")).etat == EtatVerrou::Refuse);
+    CHECK_FALSE(disque.Existe(Chemin("ailleurs")));
 }

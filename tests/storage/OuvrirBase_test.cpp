@@ -74,13 +74,15 @@ TEST_CASE("OuvrirBase: a file without a version mark is refused and not touched"
     CHECK(OuvrirBase(disque, "absent.LGD", muet).etat == Ouverture::Introuvable);
 }
 
-TEST_CASE_FIXTURE(Essai, "NouvelleBase: a leftover journal is removed, never replayed") {
+TEST_CASE_FIXTURE(
+    Essai, "NouvelleBase: a leftover journal goes at the first commit and is never replayed") {
     REQUIRE(base->Fermer());
     base.reset();
     disque->Poser(CheminLog, NumVersChaine4(1) + std::string(1000, 'y'));
     base = std::move(NouvelleBase(*disque, Chemin, {}).base);
-    CHECK_FALSE(disque->Existe(CheminLog));
     Creer("DURAND;Jean", "1850");
+    REQUIRE(base->Enregistrer());
+    CHECK_FALSE(disque->Existe(CheminLog));
     Rouvrir();
     CHECK(base->R_NOM.NomDe(NoOrdre{1}) == "DURAND");
 }

@@ -22,9 +22,9 @@ struct Scene {
     void Ouvrir() {
         volume.reset();
         std::unique_ptr<Fichier> fichier = disque->Ouvrir("x.LGD", ModeOuverture::LireEcrire);
-        RejouerJournal(*disque, "x.LOG", *fichier);
+        if (disque->Existe("x.LOG")) CHECK(RejouerJournal(*disque, "x.LOG", *fichier).has_value());
         (void)disque->Supprimer("x.LOG");
-        volume = std::make_unique<Volume>(*disque, std::move(fichier), "x.LOG", fin, false);
+        volume = std::make_unique<Volume>(*disque, std::move(fichier), "x.LGD", fin, false);
         volume->ProtegerZones({{Position{1}, ZoneFixe}});
     }
     [[nodiscard]] std::string Lire(std::uint32_t position, std::size_t taille) const {
@@ -106,9 +106,9 @@ TEST_CASE_FIXTURE(Scene, "Volume: images are flushed before any block is overwri
     REQUIRE(volume->Commettre(std::string(200, 'h')));
     const std::string avant = Fichier_();
     volume->FixerTampons(1U << 20U, 0);
-    // The write of the journal, its flush, then the block: the power goes at the last.
+    // The journal made and written, both flushed, then the block: the power goes at the last.
     disque->panne = Panne::Arret;
-    disque->panneA = disque->operations + 4;
+    disque->panneA = disque->operations + 5;
     volume->EcrireBloc(bloc, std::string(2000, 'b'));
     CHECK(disque->Mort());
     CHECK(Fichier_() == avant);
@@ -118,15 +118,33 @@ TEST_CASE_FIXTURE(Scene, "Volume: images are flushed before any block is overwri
     }
 }
 
-TEST_CASE_FIXTURE(Scene, "Volume: nothing is appended once a write has been refused") {
+TEST_CASE_FIXTURE(Scene,
+                  "Volume: once a write has been refused, what is appended waits and is read") {
     volume->FixerTampons(10, 10);
-    disque->panne = Panne::Refus;
+    disque->panne = Panne::Plein;
+    disque->panneA = disque->operations + 1;
+    const Position premier = volume->Ajouter("0123456789");
+    CHECK(volume->EnDefaut());
+    const Position second = volume->Ajouter("abcdefghijk");
+    CHECK(Lire(premier.valeur, 10) == "0123456789");
+    CHECK(Lire(second.valeur, 11) == "abcdefghijk");
+    CHECK_FALSE(volume->Commettre(std::string(200, 'h')));
+    disque->FaireDeLaPlace();
+    CHECK(volume->Commettre(std::string(200, 'h')));
+    CHECK(Fichier_().substr(premier.valeur - 1) == "0123456789abcdefghijk");
+}
+
+TEST_CASE_FIXTURE(Scene, "Volume: what waits for a disk that refuses has a limit, which is told") {
+    volume->FixerTampons(10, 10);
+    disque->panne = Panne::Plein;
     disque->panneA = disque->operations + 1;
     (void)volume->Ajouter("0123456789");
-    CHECK(volume->EnDefaut());
-    const std::uint32_t apres = volume->FinFichier();
-    CHECK(volume->Ajouter("x") == Position{});
-    CHECK(volume->FinFichier() == apres);
+    const std::string morceau(1U << 20U, 'm');
+    int pris = 0;
+    while (pris < 1000 && volume->Ajouter(morceau))
+        ++pris;
+    CHECK(pris == 63);
+    disque->FaireDeLaPlace();
     CHECK_FALSE(volume->Commettre(std::string(200, 'h')));
 }
 

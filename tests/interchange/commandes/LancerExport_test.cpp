@@ -5,7 +5,8 @@
 #include "messages/Export.h"
 #include "messages/Exporter.h"
 #include "messages/Messages.h"
-#include "shell/FichierSur.h"
+#include "shell//FichierSur.h"
+#include "storage/Base.h"
 
 #include <string>
 
@@ -225,6 +226,8 @@ TEST_CASE_FIXTURE(Depart, "LancerExport: the open base is never written over") {
     Vers("Famille.LGD");
     // The extension is added: the base is safe by its name already.
     CHECK(LancerExport(session, {}).fichier == dossier / "Famille.LGD.ged");
+    session.base->marques.ModifBase = true;
+    REQUIRE(session.base->Enregistrer());
     std::filesystem::create_symlink(session.CheminBase, dossier / "lien.ged");
     Vers("lien.ged");
     dialogue.entendu.clear();

@@ -43,6 +43,9 @@ public:
     bool Copier(const std::filesystem::path& de, const std::filesystem::path& vers) override {
         return reel_.Copier(de, vers);
     }
+    void DonnerDroits(const std::filesystem::path& c, const std::filesystem::path& comme) override {
+        reel_.DonnerDroits(c, comme);
+    }
     bool ViderDossier(const std::filesystem::path& c) override { return reel_.ViderDossier(c); }
     storage::ResultatVerrou Verrouiller(const std::filesystem::path& c) override {
         return reel_.Verrouiller(c);
