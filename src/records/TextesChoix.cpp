@@ -27,7 +27,7 @@ shell::Phrase TexteTitre(shell::Session& session, const Choix& choix) {
     switch (choix.Demande().sorte) {
         case SorteChoix::Parent:
             return Msg(choix.Demande().sexe == Sexe::Homme ? message::TitreChercherPere
-                                                   : message::TitreChercherMere,
+                                                           : message::TitreChercherMere,
                        nom);
         case SorteChoix::Enfant:
             return Msg(message::TitreChercherEnfant, nom);

@@ -11,11 +11,11 @@ namespace dorvane::doublures {
 class ProgressionScript final : public storage::Progression {
 public:
     std::vector<Phrase> titres;
-    std::vector<Phrase> textes;  ///< first texts and phases, in order
-    std::uint32_t pas = 0;              ///< calls of `Avancer`
-    std::uint32_t annulerAu = 0;        ///< the call that answers no; 0: never
-    int cadres = 0;                     ///< frames shown now
-    int sabliers = 0;                   ///< wait cursors held now
+    std::vector<Phrase> textes;   ///< first texts and phases, in order
+    std::uint32_t pas = 0;        ///< calls of `Avancer`
+    std::uint32_t annulerAu = 0;  ///< the call that answers no; 0: never
+    int cadres = 0;               ///< frames shown now
+    int sabliers = 0;             ///< wait cursors held now
     int sabliersVus = 0;
     std::function<void()> aChaquePas;  ///< what the user does meanwhile
 

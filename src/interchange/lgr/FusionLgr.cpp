@@ -194,8 +194,7 @@ private:
 /// Everything up to the first change of the base.
 shell::Issue Preparer(shell::Session& session, std::string& octets, const std::string& nom,
                       ContenuLgr& contenu, RapportImport& rapport) {
-    shell::Issue abandon =
-        shell::Issue::Arretee(shell::Msg(message::InfoIntegrationAbandonnee));
+    shell::Issue abandon = shell::Issue::Arretee(shell::Msg(message::InfoIntegrationAbandonnee));
     shell::Issue lecture = LireContenuLgr(session, octets, nom, contenu, rapport);
     if (lecture.cause == shell::Cause::Arrete) return abandon;
     if (!lecture) return lecture;
