@@ -214,7 +214,7 @@ void CaseGraphique::PeindreSuite(QPainter& peintre) const {
     }
 }
 
-FondGraphique::FondGraphique(const DessinFamille& dessin, const StyleGraphe& style)
+FondGraphique::FondGraphique(const DessinQt& dessin, const StyleGraphe& style)
     : unions_{dessin.unions}, cadre_{dessin.cadre.adjusted(-80, -40, 80, 40)}, style_{style} {
     for (const Trait& trait : dessin.traits)
         AjouterTrait(chemin_, trait);

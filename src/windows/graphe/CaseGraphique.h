@@ -7,7 +7,7 @@
 #include <QString>
 
 #include "values/Sexe.h"
-#include "windows/graphe/DessinFamille.h"
+#include "windows/graphe/DessinQt.h"
 #include "windows/graphe/PaletteGraphe.h"
 
 namespace dorvane::windows {
@@ -72,7 +72,7 @@ private:
 class FondGraphique final : public QGraphicsItem {
 public:
     /// `style` outlives the item.
-    FondGraphique(const DessinFamille& dessin, const StyleGraphe& style);
+    FondGraphique(const DessinQt& dessin, const StyleGraphe& style);
 
     [[nodiscard]] QRectF boundingRect() const override { return cadre_; }
     void paint(QPainter* peintre, const QStyleOptionGraphicsItem* option, QWidget* widget) override;

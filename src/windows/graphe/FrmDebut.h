@@ -7,7 +7,7 @@
 #include "records/ModeleFamille.h"
 #include "values/Sexe.h"
 #include "windows/graphe/CaseGraphique.h"
-#include "windows/graphe/DessinFamille.h"
+#include "windows/graphe/DessinQt.h"
 #include "windows/graphe/PaletteGraphe.h"
 
 #include <vector>
@@ -53,7 +53,7 @@ public:
     void PoserPalette(Palette palette);
 
     [[nodiscard]] const records::ModeleFamille& Modele() const { return modele_; }
-    [[nodiscard]] const DessinFamille& Dessin() const { return dessin_; }
+    [[nodiscard]] const DessinQt& Dessin() const { return dessin_; }
 
     /// `Circle1`: the boxes in the order of the model.
     [[nodiscard]] const std::vector<CaseGraphique*>& Cases() const { return cases_; }
@@ -131,7 +131,7 @@ private:
     shell::Session& session_;
     QGraphicsScene scene_;
     records::ModeleFamille modele_;
-    DessinFamille dessin_;
+    DessinQt dessin_;
     StyleGraphe style_;
     Palette palette_ = Palette::Claire;
     records::Generations generations_;

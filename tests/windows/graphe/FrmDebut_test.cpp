@@ -233,7 +233,7 @@ TEST_CASE_FIXTURE(FenetreEssai, "FrmDébut: lines never cross boxes, in any pres
     for (int presentation = 1; presentation <= 4; ++presentation) {
         for (const NoOrdre n : tous) {
             const auto modele = records::ConstruireFamille(*S().base, n, {5, 5});
-            const DessinFamille dessin = DessinerEnQt(*S().base, modele, MesuresDe(presentation));
+            const DessinQt dessin = DessinerEnQt(*S().base, modele, MesuresDe(presentation));
             for (const Trait& trait : dessin.traits) {
                 const bool croise =
                     std::any_of(dessin.boites.begin(), dessin.boites.end(),

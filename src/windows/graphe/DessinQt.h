@@ -29,14 +29,14 @@ struct EtiquetteUnion {
 
 /// The drawing in the points of Qt. Descendants are on the left, ascendants on the right of the
 /// current person, whose box has its middle at the origin.
-struct DessinFamille {
+struct DessinQt {
     std::vector<QRectF> boites;  ///< one for each box of the model
     std::vector<Trait> traits;
     std::vector<EtiquetteUnion> unions;
     QRectF cadre;  ///< around all boxes
 };
 
-[[nodiscard]] DessinFamille DessinerEnQt(storage::Base& base, const records::ModeleFamille& modele,
-                                         const MesuresGraphe& mesures);
+[[nodiscard]] DessinQt DessinerEnQt(storage::Base& base, const records::ModeleFamille& modele,
+                                    const MesuresGraphe& mesures);
 
 }  // namespace dorvane::windows

@@ -1,4 +1,4 @@
-#include "windows/graphe/DessinFamille.h"
+#include "windows/graphe/DessinQt.h"
 
 #include "windows/controles/Unicode.h"
 
@@ -16,10 +16,10 @@ QRectF EnQt(const records::Rectangle& r) {
 
 }  // namespace
 
-DessinFamille DessinerEnQt(storage::Base& base, const records::ModeleFamille& modele,
-                           const MesuresGraphe& mesures) {
+DessinQt DessinerEnQt(storage::Base& base, const records::ModeleFamille& modele,
+                      const MesuresGraphe& mesures) {
     const records::DessinFamille lu = records::DessinerFamille(base, modele, mesures);
-    DessinFamille dessin;
+    DessinQt dessin;
     for (const records::Rectangle& boite : lu.boites)
         dessin.boites.push_back(EnQt(boite));
     for (const auto& [de, a, b, vers] : lu.traits)
