@@ -9,6 +9,7 @@
 #include "storage/Base.h"
 
 #include <cassert>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -81,13 +82,14 @@ NoMariage CreerUnion(shell::Session& session, NoOrdre individu, NoOrdre partenai
     if (!PeutAvoirConjoint(session, individu, Provenance::Cherche) ||
         !PeutUnir(session, individu, partenaire))
         return {};
+    const std::optional<Cote> cote = CoteDuSexe(base.R_SEXE.LireCellule(individu));
     // `PeutAvoirConjoint` has asked for a known sex.
-    const Cote cote = CoteDuSexe(base.R_SEXE.LireCellule(individu)).value();
-    const NoMariage mariage = cote == Cote::Pere ? EcrireUnion(session, individu, partenaire)
-                                                 : EcrireUnion(session, partenaire, individu);
+    if (!cote) return {};
+    const NoMariage mariage = *cote == Cote::Pere ? EcrireUnion(session, individu, partenaire)
+                                                  : EcrireUnion(session, partenaire, individu);
     if (!mariage) return {};
-    ProposerEnfants(session, individu, AutreCote(cote), partenaire, false);
-    ProposerEnfants(session, partenaire, cote, individu, false);
+    ProposerEnfants(session, individu, AutreCote(*cote), partenaire, false);
+    ProposerEnfants(session, partenaire, *cote, individu, false);
     return mariage;
 }
 

@@ -27,7 +27,7 @@ struct Scene {
         famille.Parents(luc, paul, anne);
         famille.Marier(paul, anne, "1848");
     }
-    [[nodiscard]] DessinFamille Dessiner(NoOrdre individu, const MesuresGraphe& mesures) {
+    [[nodiscard]] DessinFamille Dessiner(NoOrdre individu, const MesuresGraphe& mesures) const {
         return DessinerFamille(*base, ConstruireFamille(*base, individu, {1, 1}), mesures);
     }
 };
