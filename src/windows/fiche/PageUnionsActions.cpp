@@ -11,6 +11,8 @@
 #include "windows/personnes/FrmCreation.h"
 #include "windows/personnes/FrmEnfants.h"
 
+#include <optional>
+
 namespace dorvane::windows {
 
 void PageUnions::RelierUnions() {
@@ -60,9 +62,10 @@ void PageUnions::ChercherConjoint() {
 void PageUnions::CreerConjoint() {
     if (!Fiche().Preparer()) return;
     if (!records::PeutAvoirConjoint(S(), Individu(), records::Provenance::Cree)) return;
+    const std::optional<Cote> sien = CoteDuSexe(S().base->R_SEXE.LireCellule(Individu()));
     // `PeutAvoirConjoint` has asked for a known sex.
-    const Cote sien = CoteDuSexe(S().base->R_SEXE.LireCellule(Individu())).value();
-    const Sexe sexe = SexeDuCote(AutreCote(sien));
+    if (!sien) return;
+    const Sexe sexe = SexeDuCote(AutreCote(*sien));
     const NoOrdre partenaire = FrmCreation::Creer(S(), {.nom = {}, .sexe = sexe}, window());
     if (partenaire) Unir(partenaire);
 }

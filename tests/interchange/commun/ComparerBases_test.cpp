@@ -109,7 +109,7 @@ TEST_CASE_FIXTURE(Jumelles, "ComparerBases: lists of a person") {
 
 TEST_CASE_FIXTURE(Jumelles, "ComparerBases: unions") {
     using storage::Base;
-    constexpr NoMariage Un{1};
+    static constexpr NoMariage Un{1};
     SUBCASE("partners") {
         Voit("wife", [](Base& b) { b.R_EPOUSE.EcrireCellule(Un, NoOrdre{4}); });
         Voit("husband", [](Base& b) { b.R_EPOUX.EcrireCellule(Un, Luc); });
@@ -129,7 +129,7 @@ TEST_CASE_FIXTURE(Jumelles, "ComparerBases: unions") {
 
 TEST_CASE_FIXTURE(Jumelles, "ComparerBases: events and documents") {
     using storage::Base;
-    constexpr NoEvenement Un{1};
+    static constexpr NoEvenement Un{1};
     SUBCASE("date and note") {
         Voit("date of event", [](Base& b) { b.R_EVT.EcrireEvt(Un, {.cleDate = 5}); });
         Voit("note of event", [](Base& b) { b.R_EVT.EcrireEvt(Un, {.note = "x"}); });
@@ -157,7 +157,7 @@ TEST_CASE_FIXTURE(Jumelles, "ComparerBases: events and documents") {
         Voit("document is missing", [](Base& b) { b.R_TRI.RetirerDocument(NoDocument{1}); });
     }
     SUBCASE("a document") {
-        constexpr NoDocument D{1};
+        static constexpr NoDocument D{1};
         Voit("title of document", [](Base& b) { b.R_IMAGE.EcrireDoc(D, {"x", "", "", ""}); });
         Voit("file of document", [](Base& b) { b.R_IMAGE.EcrireDoc(D, {"Photo", "f", "", ""}); });
         Voit("kind of document", [](Base& b) { b.R_IMAGE.EcrireDoc(D, {"Photo", "", "t", ""}); });
