@@ -27,7 +27,7 @@ constexpr std::size_t NbEvenements = 29;
 consteval std::array<Mot, NbEvenements> TagsUsuels() {
     std::array<Mot, NbEvenements> tags;
     std::size_t n = 0;
-    for (const SorteEvenement& sorte : SortesEvenement)
+    for (const SorteConnue& sorte : SortesEvenement)
         if (sorte.A(UsageSorte::Usuelle)) tags[n++] = sorte.tag;
     return tags;
 }

@@ -47,9 +47,9 @@ enum class UsageSorte : unsigned {
 };
 
 /// One kind of event.
-class SorteEvenement {
+class SorteConnue {
 public:
-    consteval SorteEvenement(std::string_view nom, std::initializer_list<UsageSorte> usages)
+    consteval SorteConnue(std::string_view nom, std::initializer_list<UsageSorte> usages)
         : tag{nom} {
         for (const UsageSorte usage : usages)
             usages_ |= static_cast<unsigned>(usage);
@@ -68,7 +68,7 @@ namespace detail {
 
 consteval auto FaireSortes() {
     using enum UsageSorte;
-    return std::to_array<SorteEvenement>({
+    return std::to_array<SorteConnue>({
         {tag::Naissance, {Usuelle, Source}},
         {tag::Inhumation, {Usuelle, MotCle, Source, Individuelle}},
         {tag::Bapteme, {Usuelle, MotCle, Source}},
@@ -111,7 +111,7 @@ inline constexpr auto SortesEvenement = detail::FaireSortes();
 
 /// The kind exists and is known for that.
 [[nodiscard]] constexpr bool EstSorte(std::string_view tag, UsageSorte usage) {
-    for (const SorteEvenement& sorte : SortesEvenement)
+    for (const SorteConnue& sorte : SortesEvenement)
         if (sorte.tag == tag && sorte.A(usage)) return true;
     return false;
 }
