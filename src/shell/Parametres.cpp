@@ -13,7 +13,6 @@ namespace dorvane::shell {
 namespace {
 
 constexpr std::string_view Defaut = "Defaut";
-constexpr std::size_t TailleHistorique = 5;
 
 /// Puts the text of a key into a field of its type.
 void Prendre(std::uint32_t& champ, std::string_view utf8) {

@@ -6,6 +6,7 @@
 #include "values/Sexe.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -25,6 +26,9 @@ struct Lieux {
 /// holds a ".mes", else "../share/dorvane" beside it; "dorvane" under `XDG_CONFIG_HOME` (or
 /// "~/.config") and `XDG_CACHE_HOME` (or "~/.cache").
 [[nodiscard]] Lieux LieuxDuSysteme();
+
+/// Most bases that are remembered as opened before.
+inline constexpr std::size_t TailleHistorique = 5;
 
 /// One of the four sizes of the family chart.
 struct Presentation {
@@ -97,7 +101,7 @@ struct ReglagesGeneraux {
     std::string jeuExport;
     Affichage affichage;                            ///< what a new base starts with
     std::vector<Particule> particules;              ///< their order matters
-    std::vector<std::filesystem::path> historique;  ///< at most 5, most recent first
+    std::vector<std::filesystem::path> historique;  ///< `TailleHistorique` at most, newest first
 };
 
 /// The options of one base, in memory; texts in code page 1252.

@@ -8,6 +8,7 @@
 #include "messages/Exporter.h"
 #include "messages/Messages.h"
 #include "messages/Releve.h"
+#include "shell/Parametres.h"
 #include "shell/Session.h"
 #include "windows/cadre/FrmCalendrier.h"
 #include "windows/cadre/MDIForm1.h"
@@ -18,6 +19,7 @@
 #include "windows/personnes/FrmRecherche.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace dorvane::windows {
 
@@ -30,7 +32,6 @@ constexpr Besoin Calme{.calme = true};
 constexpr Besoin BaseMontree{.base = BesoinBase::Montree};
 constexpr Besoin UneBase{.base = BesoinBase::Ouverte};
 constexpr Besoin BaseAuCalme{.base = BesoinBase::Ouverte, .calme = true};
-constexpr Besoin Personne{.base = BesoinBase::Ouverte, .personne = true};
 constexpr Besoin Numerotes1{.base = BesoinBase::Ouverte, .deCujus = 1};
 constexpr Besoin Numerotes2{.base = BesoinBase::Ouverte, .deCujus = 2};
 constexpr int SansBouton = Commande::SansBouton;
@@ -87,23 +88,23 @@ bool MDIForm1::FenetresMontrees(const MDIForm1& fenetre) {
     return fenetre.session_.parametres.generaux.barreFenetres;
 }
 
-const Commande MDIForm1::Table[] = {
+constexpr Commande MDIForm1::Table[] = {
     Menu("", Fichier, message::MenuFichier),
-    Entree(Fichier, "MnuNouveau", message::MenuNouvelleBase, "Ctrl+N", 0, Calme,
+    Entree(Fichier, "MnuNouveau", message::MenuNouvelleBase, "Ctrl+N", 0, Rien,
            Appel<&MDIForm1::Nouveau>),
-    Entree(Fichier, "MnuOuvrir", message::MenuOuvrirBase, "Ctrl+O", 1, Calme,
+    Entree(Fichier, "MnuOuvrir", message::MenuOuvrirBase, "Ctrl+O", 1, Rien,
            Appel<&MDIForm1::Ouvrir>),
-    Entree(Fichier, "MnuFermer", message::MenuFermerBase, "Ctrl+W", 2, BaseAuCalme,
+    Entree(Fichier, "MnuFermer", message::MenuFermerBase, "Ctrl+W", 2, BaseMontree,
            Appel<&MDIForm1::Fermer>),
     Trait(Fichier),
-    Entree(Fichier, "MnuEnregistrer", message::MenuEnregistrerBase, "Ctrl+S", 3, BaseAuCalme,
+    Entree(Fichier, "MnuEnregistrer", message::MenuEnregistrerBase, "Ctrl+S", 3, BaseMontree,
            Appel<&MDIForm1::Enregistrer>),
-    Entree(Fichier, "MnuSauvegarde", message::MenuSauvegarder, "Ctrl+B", 4, BaseAuCalme,
+    Entree(Fichier, "MnuSauvegarde", message::MenuSauvegarder, "Ctrl+B", 4, BaseMontree,
            Appel<&MDIForm1::Sauvegarde>),
-    Entree(Fichier, "MnuRestauration", message::MenuRestaurerSauvegarde, "Ctrl+R", 5, Calme,
+    Entree(Fichier, "MnuRestauration", message::MenuRestaurerSauvegarde, "Ctrl+R", 5, Rien,
            Appel<&MDIForm1::Restauration>),
     Trait(Fichier),
-    Entree(Fichier, "MnuImporter", message::MenuImporter, "Ctrl+I", 10, Calme,
+    Entree(Fichier, "MnuImporter", message::MenuImporter, "Ctrl+I", 10, Rien,
            Appel<&MDIForm1::Importer>),
     Menu(Fichier, Releves, message::MenuReleves),
     Entree(Releves, "MnuBaptème", message::MenuReleveBaptemes, "", SansBouton, Calme,
@@ -124,11 +125,11 @@ const Commande MDIForm1::Table[] = {
     Entree(Fichier, "MnuGénéanet", message::MenuRemettreAGeneanet, "", SansBouton, UneBase,
            Appel<&MDIForm1::Geneanet>),
     Trait(Fichier, "TraitHistorique"),
-    Entree(Fichier, "MnuHisto(0)", {}, "", SansBouton, Calme, Appel<&MDIForm1::Histo, 0>),
-    Entree(Fichier, "MnuHisto(1)", {}, "", SansBouton, Calme, Appel<&MDIForm1::Histo, 1>),
-    Entree(Fichier, "MnuHisto(2)", {}, "", SansBouton, Calme, Appel<&MDIForm1::Histo, 2>),
-    Entree(Fichier, "MnuHisto(3)", {}, "", SansBouton, Calme, Appel<&MDIForm1::Histo, 3>),
-    Entree(Fichier, "MnuHisto(4)", {}, "", SansBouton, Calme, Appel<&MDIForm1::Histo, 4>),
+    Entree(Fichier, "MnuHisto(0)", {}, "", SansBouton, Rien, Appel<&MDIForm1::Histo, 0>),
+    Entree(Fichier, "MnuHisto(1)", {}, "", SansBouton, Rien, Appel<&MDIForm1::Histo, 1>),
+    Entree(Fichier, "MnuHisto(2)", {}, "", SansBouton, Rien, Appel<&MDIForm1::Histo, 2>),
+    Entree(Fichier, "MnuHisto(3)", {}, "", SansBouton, Rien, Appel<&MDIForm1::Histo, 3>),
+    Entree(Fichier, "MnuHisto(4)", {}, "", SansBouton, Rien, Appel<&MDIForm1::Histo, 4>),
     Trait(Fichier),
     Entree(Fichier, "MnuQuitter", message::MenuQuitter, "Ctrl+Q", SansBouton, Rien,
            Appel<&MDIForm1::Quitter>),
@@ -143,7 +144,7 @@ const Commande MDIForm1::Table[] = {
     Entree(DeLaPersonne, "MnuNoms", message::MenuTousLesNoms, "Ctrl+L", 9, BaseAuCalme,
            Appel<&MDIForm1::Noms>),
     Trait(DeLaPersonne),
-    Entree(DeLaPersonne, "MnuModif", message::MenuModifierFiche, "F2", 17, Personne,
+    Entree(DeLaPersonne, "MnuModif", message::MenuModifierFiche, "F2", 17, UneBase,
            Appel<&MDIForm1::Modifier>),
     Entree(DeLaPersonne, "MnuNouvInd", message::MenuNouvellePersonne, "Ctrl+Shift+N", 18,
            BaseAuCalme, Appel<&MDIForm1::NouvelIndividu>),
@@ -214,9 +215,9 @@ const Commande MDIForm1::Table[] = {
     Menu(Outils, Soin, message::MenuEntretienBase),
     Entree(Soin, "MnuControle", message::MenuControlerBase, "", SansBouton, BaseAuCalme,
            Appel<&MDIForm1::Controle>),
-    Entree(Soin, "MnuDépannage", message::MenuDepannerBase, "", SansBouton, BaseAuCalme,
+    Entree(Soin, "MnuDépannage", message::MenuDepannerBase, "", SansBouton, BaseMontree,
            Appel<&MDIForm1::Depannage>),
-    Entree(Soin, "MnuRéorganiser", message::MenuReorganiserBase, "", SansBouton, BaseAuCalme,
+    Entree(Soin, "MnuRéorganiser", message::MenuReorganiserBase, "", SansBouton, BaseMontree,
            Appel<&MDIForm1::Reorganiser>),
     Trait(Outils),
     Entree(Outils, "MnuParametres", message::MenuReglages, "Ctrl+,", 26, Calme,
@@ -226,6 +227,12 @@ const Commande MDIForm1::Table[] = {
 };
 
 std::span<const Commande> MDIForm1::Commandes() {
+    static_assert(
+        std::ranges::count_if(Table,
+                              [](const Commande& rangee) {
+                                  return std::string_view{rangee.nom}.starts_with("MnuHisto(");
+                              }) == shell::TailleHistorique,
+        "one entry for each base that is remembered");
     return Table;
 }
 

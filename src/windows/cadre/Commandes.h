@@ -16,16 +16,20 @@ class MDIForm1;
 /// screen stays, and so do the entries.
 enum class BesoinBase : std::uint8_t {
     Aucune,
-    Montree,  ///< that one is shown; the entry is disabled without
+    /// That one is shown; the entry is disabled without. Its function looks by itself whether it is
+    /// open, and tells when a job has closed it.
+    Montree,
     Ouverte,  ///< besides, that it is open when the command is chosen: nothing happens without
 };
 
 /// What a command needs.
 struct Besoin {
     BesoinBase base = BesoinBase::Aucune;
-    bool personne = false;  ///< a current person: nothing happens without
-    bool calme = false;     ///< no long job runs and no sheet is unsaved: asked when it is chosen
-    int deCujus = 0;        ///< 1 or 2: that reference person, numbered; disabled without
+    /// No long job runs and no sheet is unsaved: asked when it is chosen, before its function is
+    /// called. Only where the function does not begin with `CommandePermise` itself: nobody is told
+    /// twice.
+    bool calme = false;
+    int deCujus = 0;  ///< 1 or 2: that reference person, numbered; disabled without
 };
 
 /// What there is, as far as commands need it.

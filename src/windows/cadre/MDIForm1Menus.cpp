@@ -6,6 +6,7 @@
 
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
+#include "shell/Parametres.h"
 #include "shell/Session.h"
 #include "windows/cadre/MDIForm1.h"
 #include "windows/controles/Icones.h"
@@ -76,7 +77,6 @@ void MDIForm1::Executer(const Commande& commande) {
     const Besoin& besoin = commande.besoin;
     if (besoin.calme && !shell::CommandePermise(session_)) return;
     if (besoin.base == BesoinBase::Ouverte && !session_.base) return;
-    if (besoin.personne && !session_.PersonneEnCours) return;
     commande.faire(*this);
 }
 
@@ -118,9 +118,8 @@ void MDIForm1::PoserLangues() {
 void MDIForm1::PoserHistorique() {
     const auto& chemins = session_.parametres.generaux.historique;
     ActionNommee(QStringLiteral("TraitHistorique"))->setVisible(!chemins.empty());
-    for (std::size_t i = 0;; ++i) {
+    for (std::size_t i = 0; i < shell::TailleHistorique; ++i) {
         QAction* action = ActionNommee(QStringLiteral("MnuHisto(%1)").arg(i));
-        if (action == nullptr) return;
         action->setVisible(i < chemins.size());
         if (i >= chemins.size()) continue;
         const QString nom = CheminVersQt(chemins[i].stem()).replace(u'&', QStringLiteral("&&"));

@@ -6,13 +6,16 @@
 #include <QToolBar>
 
 #include "messages/Messages.h"
+#include "storage/Base.h"
 #include "windows/Essai.h"
 #include "windows/controles/FenetreFille.h"
 #include "windows/controles/Legendes.h"
 
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 using namespace dorvane;
@@ -37,6 +40,12 @@ struct Tableau : FenetreEssai {
                      : action->menu()      ? action->menu()->objectName()
                                            : action->objectName());
         return noms;
+    }
+    /// Chooses a command, and whether exactly one box told that it cannot be done now.
+    bool DitRefus(const char* nom) {
+        const auto texte = RepondreBoite(QMessageBox::Ok);
+        Action(nom).trigger();
+        return texte->startsWith(QStringLiteral("Opération impossible"));
     }
 };
 
@@ -202,22 +211,44 @@ TEST_CASE_FIXTURE(Tableau, "MDIForm1: an entry that needs quiet is refused while
     for (const Commande& rangee : MDIForm1::Commandes()) {
         if (!rangee.besoin.calme || !Action(rangee.nom).isEnabled()) continue;
         CAPTURE(std::string{rangee.nom});
-        const auto texte = RepondreBoite(QMessageBox::Ok);
-        Action(rangee.nom).trigger();
-        CHECK(texte->startsWith(QStringLiteral("Opération impossible")));
+        CHECK(DitRefus(rangee.nom));
     }
     CHECK(S().BaseOuverte());
 }
 
-TEST_CASE_FIXTURE(Tableau, "MDIForm1: an entry that needs a person does nothing in an empty base") {
+TEST_CASE_FIXTURE(Tableau,
+                  "MDIForm1: what asks for quiet by itself tells it once, and is no row "
+                  "that needs it") {
+    DemarrerFamille();
+    const shell::CadreProgression cadre{S().progression,
+                                        shell::Msg(message::TitreReorganisationBase),
+                                        shell::Msg(message::TitreReorganisationBase)};
+    const std::set<std::string> sansBase{"MnuNouveau",  "MnuOuvrir",   "MnuRestauration",
+                                         "MnuImporter", "MnuHisto(0)", "MnuHisto(1)",
+                                         "MnuHisto(2)", "MnuHisto(3)", "MnuHisto(4)"};
+    const std::set<std::string> deLaBase{"MnuFermer", "MnuEnregistrer", "MnuSauvegarde",
+                                         "MnuDépannage", "MnuRéorganiser"};
+    for (const Commande& rangee : MDIForm1::Commandes()) {
+        const bool montree = deLaBase.count(rangee.nom) != 0;
+        if (!montree && sansBase.count(rangee.nom) == 0) continue;
+        CAPTURE(std::string{rangee.nom});
+        CHECK_FALSE(rangee.besoin.calme);
+        CHECK(DitRefus(rangee.nom));
+        if (!montree) continue;
+        // A job may have closed the base for a while: that is told as well.
+        std::unique_ptr<storage::Base> fermee = std::move(S().base);
+        CHECK(DitRefus(rangee.nom));
+        S().base = std::move(fermee);
+    }
+    CHECK(S().BaseOuverte());
+}
+
+TEST_CASE_FIXTURE(Tableau, "MDIForm1: no sheet is opened in an empty base") {
     Demarrer({});
     RepondreFichier(dossier / "Neuve");
     Action("MnuNouveau").trigger();
     REQUIRE(S().BaseOuverte());
     REQUIRE_FALSE(S().PersonneEnCours);
-    for (const Commande& rangee : MDIForm1::Commandes()) {
-        if (!rangee.besoin.personne) continue;
-        Action(rangee.nom).trigger();
-        CHECK(Fenetre().findChild<FenetreFille*>() == nullptr);
-    }
+    Action("MnuModif").trigger();
+    CHECK(Fenetre().findChild<FenetreFille*>() == nullptr);
 }
