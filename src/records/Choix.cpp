@@ -62,22 +62,6 @@ bool Vit(std::string_view deces, std::string_view naissance) {
     return !Connue(deces) || deces > naissance;
 }
 
-std::vector<std::string> Couper(std::string_view texte) {
-    std::vector<std::string> mots;
-    for (std::size_t i = 0; i < texte.size();) {
-        const std::size_t fin = std::min(texte.find(' ', i), texte.size());
-        if (fin > i) mots.emplace_back(texte.substr(i, fin - i));
-        i = fin + 1;
-    }
-    return mots;
-}
-
-bool ContientTout(std::string_view texte, const std::vector<std::string>& mots) {
-    return std::all_of(mots.begin(), mots.end(), [texte](const std::string& mot) {
-        return texte.find(mot) != std::string_view::npos;
-    });
-}
-
 NoOrdre NumeroTape(std::string_view filtre) {
     filtre = SansBlancs(filtre);
     const bool chiffres = !filtre.empty() && filtre.size() <= 5 &&
@@ -108,7 +92,7 @@ Choix::Choix(shell::Session& session, const DemandeChoix& demande)
 
 void Choix::Filtrer(std::string_view filtre) {
     filtre_ = Replie(filtre);
-    mots_ = Couper(filtre_);
+    mots_ = CouperEnMots(filtre_);
     numero_ = NumeroTape(filtre_);
     Recommencer();
 }

@@ -124,6 +124,22 @@ int CompareReplies(std::string_view a, std::string_view b) {
     return a.size() < b.size() ? -1 : 1;
 }
 
+std::vector<std::string> CouperEnMots(std::string_view texte) {
+    std::vector<std::string> mots;
+    for (std::size_t i = 0; i < texte.size();) {
+        const std::size_t fin = std::min(texte.find(' ', i), texte.size());
+        if (fin > i) mots.emplace_back(texte.substr(i, fin - i));
+        i = fin + 1;
+    }
+    return mots;
+}
+
+bool ContientTout(std::string_view texte, const std::vector<std::string>& mots) {
+    return std::ranges::all_of(mots, [texte](const std::string& mot) {
+        return texte.find(mot) != std::string_view::npos;
+    });
+}
+
 std::string_view SansBlancsAGauche(std::string_view texte) {
     const std::size_t debut = texte.find_first_not_of(' ');
     return debut == std::string_view::npos ? texte.substr(texte.size()) : texte.substr(debut);

@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace dorvane {
 
@@ -29,6 +30,13 @@ void ReplieDans(std::string& sortie, std::string_view texte);
 
 /// Compares the comparison forms of two texts without making them: below 0, 0 or above 0.
 [[nodiscard]] int CompareReplies(std::string_view a, std::string_view b);
+
+/// What stands between the blanks of a text, in order; nothing is folded.
+[[nodiscard]] std::vector<std::string> CouperEnMots(std::string_view texte);
+
+/// Every one of `mots` stands somewhere in `texte`, also inside a longer word; true without words.
+/// Bytes are compared: text and words are in one form, folded to pass over case and accents.
+[[nodiscard]] bool ContientTout(std::string_view texte, const std::vector<std::string>& mots);
 
 /// `texte` without its outer blanks. A blank is the byte 32 alone: tabs, line ends and the
 /// no-break space stay. The views live as long as `texte`.

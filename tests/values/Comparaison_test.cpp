@@ -2,6 +2,9 @@
 
 #include "values/Texte1252.h"
 
+#include <string>
+#include <vector>
+
 #include <doctest/doctest.h>
 
 using namespace dorvane;
@@ -108,6 +111,27 @@ TEST_CASE("EstNumerique: an optional sign and digits, and nothing else") {
         CHECK_MESSAGE(EstNumerique(oui), oui);
     for (const std::string_view non : {"", " ", "-", "+", "18?", "1 2", "--1", "1.5", "1e3", "\t1"})
         CHECK_MESSAGE(!EstNumerique(non), non);
+}
+
+TEST_CASE("CouperEnMots: what stands between blanks, and nothing for blanks alone") {
+    CHECK(CouperEnMots("").empty());
+    CHECK(CouperEnMots("   ").empty());
+    CHECK(CouperEnMots("Martin") == std::vector<std::string>{"Martin"});
+    CHECK(CouperEnMots("  Jean-Paul   Martin ") == std::vector<std::string>{"Jean-Paul", "Martin"});
+    CHECK(CouperEnMots("a\tb c") == std::vector<std::string>{"a\tb", "c"});
+}
+
+TEST_CASE("ContientTout: every word anywhere in the text, in any order, byte for byte") {
+    const std::string texte = "LOUIS JEAN MARTIN";
+    CHECK(ContientTout(texte, {}));
+    CHECK(ContientTout("", {}));
+    CHECK(ContientTout(texte, {"MARTIN", "LOUIS"}));
+    CHECK(ContientTout(texte, {"ART", "OUI"}));
+    CHECK(ContientTout(texte, {"LOUIS JEAN"}));
+    CHECK_FALSE(ContientTout(texte, {"LOUIS", "PAUL"}));
+    CHECK_FALSE(ContientTout(texte, {"LOUIS MARTIN"}));
+    CHECK_FALSE(ContientTout(texte, {"louis"}));
+    CHECK_FALSE(ContientTout("", {"A"}));
 }
 
 TEST_CASE("RemplacerTout: what has been put in is not searched again") {

@@ -27,9 +27,10 @@ void ModeleListe::Poser(std::vector<std::uint32_t> numeros) {
 }
 
 void ModeleListe::Filtrer(const QString& filtre) {
-    mots_.clear();
-    for (const QString& mot : filtre.split(u' ', Qt::SkipEmptyParts))
-        mots_.push_back(Replie(QtVersTexte(mot).octets));
+    // Folded word by word: the two halves of "Jean-Paul" stay side by side.
+    mots_ = CouperEnMots(QtVersTexte(filtre).octets);
+    for (std::string& mot : mots_)
+        mot = Replie(mot);
     beginResetModel();
     Composer();
     endResetModel();
@@ -52,10 +53,7 @@ void ModeleListe::Composer() {
                 replies_.push_back(Replie(TexteFiltre(numero)));
         }
         for (std::size_t i = 0; i < tous_.size(); ++i)
-            if (std::all_of(mots_.begin(), mots_.end(), [&](const std::string& mot) {
-                    return replies_[i].find(mot) != std::string::npos;
-                }))
-                montres_.push_back(tous_[i]);
+            if (ContientTout(replies_[i], mots_)) montres_.push_back(tous_[i]);
     }
     Ranger();
 }
