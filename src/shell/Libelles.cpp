@@ -1,6 +1,7 @@
 #include "shell/Libelles.h"
 
 #include "messages/Messages.h"
+#include "values/SortesEvenement.h"
 
 #include <algorithm>
 
@@ -11,17 +12,17 @@ namespace {
 // The order matters: two tags may have one label, and the first one wins.
 constexpr RangTag Tags[] = {
     // Persons and family
-    {"BIRT", message::TagBIRT},
-    {"BURI", message::TagBURI},
-    {"CHR", message::TagCHR},
-    {"DEAT", message::TagDEAT},
-    {"MARR", message::TagMARR},
-    {"CHIL", message::TagCHIL},
-    {"FATH", message::TagFATH},
-    {"MOTH", message::TagMOTH},
-    {"HUSB", message::TagHUSB},
-    {"WIFE", message::TagWIFE},
-    {"DEAD", message::TagDEAD},
+    {tag::Naissance, message::TagBIRT},
+    {tag::Inhumation, message::TagBURI},
+    {tag::Bapteme, message::TagCHR},
+    {tag::Deces, message::TagDEAT},
+    {tag::Mariage, message::TagMARR},
+    {role::Enfant, message::TagCHIL},
+    {role::Pere, message::TagFATH},
+    {role::Mere, message::TagMOTH},
+    {role::Epoux, message::TagHUSB},
+    {role::Epouse, message::TagWIFE},
+    {role::Defunt, message::TagDEAD},
     {"WIDR", message::TagWIDR},
     {"WIDW", message::TagWIDW},
     {"SON", message::TagSON},
@@ -45,11 +46,11 @@ constexpr RangTag Tags[] = {
     {"DEAP", message::TagDEAP},
     {"MARP", message::TagMARP},
     {"BURP", message::TagBURP},
-    {"BIRN", message::TagBIRN},
-    {"FNAM", message::TagFNAM},
+    {tag::Nom, message::TagBIRN},
+    {tag::Prenom, message::TagFNAM},
     {"NICK", message::TagNICK},
     {"SURN", message::TagSURN},
-    {"OCCU", message::TagOCCU},
+    {tag::Profession, message::TagOCCU},
     // Events
     {"ADOP", message::TagADOP},
     {"ANUL", message::TagANUL},
@@ -59,7 +60,7 @@ constexpr RangTag Tags[] = {
     {"CENS", message::TagCENS},
     {"CONF", message::TagCONF},
     {"CREM", message::TagCREM},
-    {"DIV", message::TagDIV},
+    {tag::Divorce, message::TagDIV},
     {"DIVF", message::TagDIVF},
     {"EMIG", message::TagEMIG},
     {"ENDL", message::TagENDL},
@@ -71,7 +72,7 @@ constexpr RangTag Tags[] = {
     {"MAIN", message::TagMAIN},
     {"MARB", message::TagMARB},
     {"MARC", message::TagMARC},
-    {"MARL", message::TagMARL},
+    {tag::Contrat, message::TagMARL},
     {"NATU", message::TagNATU},
     {"ORDN", message::TagORDN},
     {"PROB", message::TagPROB},
@@ -95,25 +96,25 @@ constexpr RangTag Tags[] = {
     // Others
     {"AUTH", message::TagAUTH},
     {"ADDR", message::TagADDR},
-    {"RESI", message::TagRESI},
+    {tag::Residence, message::TagRESI},
     {"TITL", message::TagTITL},
     {"PEDI", message::TagPEDI},
     {"CAST", message::TagCAST},
     {"DSCR", message::TagDSCR},
     {"EDUC", message::TagEDUC},
     {"GIVN", message::TagGIVN},
-    {"OTHR", message::TagOTHR},
+    {tag::Autre, message::TagOTHR},
     {"NPFX", message::TagNPFX},
     {"SPFX", message::TagSPFX},
     {"NSFX", message::TagNSFX},
     {"PROP", message::TagPROP},
     {"PUBL", message::TagPUBL},
     {"RELI", message::TagRELI},
-    {"FATN", message::TagFATN},
-    {"MOTN", message::TagMOTN},
+    {tag::NomDuPere, message::TagFATN},
+    {tag::NomDeLaMere, message::TagMOTN},
     {"NATI", message::TagNATI},
-    {"NUMB", message::TagNUMB},
-    {"OFNM", message::TagOFNM},
+    {tag::Numeros, message::TagNUMB},
+    {tag::AutresPrenoms, message::TagOFNM},
     // Our own
     {"BATL", message::TagBATL},
     {"TREA", message::TagTREA},
@@ -151,7 +152,7 @@ constexpr RangTag Tags[] = {
     {"HEIS", message::TagHEIS},
     {"SIRE", message::TagSIRE},
     {"LADY", message::TagLADY},
-    {"RELA", message::TagRELA},
+    {tag::Relation, message::TagRELA},
     {"EVEN", message::TagEVEN},
 };
 

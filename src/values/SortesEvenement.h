@@ -25,6 +25,7 @@ inline constexpr std::string_view Numeros = "NUMB";
 inline constexpr std::string_view Profession = "OCCU";
 inline constexpr std::string_view Residence = "RESI";
 inline constexpr std::string_view Autre = "OTHR";
+inline constexpr std::string_view Relation = "RELA";  ///< heading of the usual words for roles
 }  // namespace tag
 
 /// The tags of roles in an event that the program itself knows.
@@ -34,6 +35,7 @@ inline constexpr std::string_view Pere = "FATH";
 inline constexpr std::string_view Mere = "MOTH";
 inline constexpr std::string_view Epoux = "HUSB";
 inline constexpr std::string_view Epouse = "WIFE";
+inline constexpr std::string_view Conjoint = "SPOU";
 inline constexpr std::string_view Defunt = "DEAD";
 }  // namespace role
 

@@ -7,6 +7,7 @@
 #include "storage/Textes.h"
 #include "values/Comparaison.h"
 #include "values/Dates.h"
+#include "values/SortesEvenement.h"
 
 #include <algorithm>
 
@@ -141,7 +142,7 @@ void LecteurAnnexes::LireTypeDeSource(std::string_view valeur) {
     valeur = SansBlancs(valeur);
     if (valeur.size() >= 2 && valeur.front() == '(' && valeur.back() == ')')
         valeur = SansBlancs(valeur.substr(1, valeur.size() - 2));
-    if (valeur == "BAPM" || valeur == "CHRA") valeur = "CHR";
+    if (valeur == "BAPM" || valeur == "CHRA") valeur = tag::Bapteme;
     evenement_.description.type = contexte_.textes.Tag(valeur);
 }
 

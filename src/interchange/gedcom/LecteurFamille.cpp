@@ -5,6 +5,7 @@
 #include "storage/Textes.h"
 #include "values/Comparaison.h"
 #include "values/Marqueurs.h"
+#include "values/SortesEvenement.h"
 #include "values/Texte1252.h"
 
 #include <algorithm>
@@ -172,9 +173,9 @@ bool LecteurFamille::LireSousLigne(const LigneGedcom& ligne) {
 /// Both partners take part in the events that the union cites.
 void LecteurFamille::Participer() {
     for (const Source& source : sources_) {
-        if (epoux_) liens_.Participer(epoux_, source.cle, "HUSB", source.ligne);
+        if (epoux_) liens_.Participer(epoux_, source.cle, role::Epoux, source.ligne);
         if (epouse_ && epouse_ != epoux_)
-            liens_.Participer(epouse_, source.cle, "WIFE", source.ligne);
+            liens_.Participer(epouse_, source.cle, role::Epouse, source.ligne);
         if (source.role)
             liens_.NommerDernierRole(*source.role,
                                      (epoux_ ? 1U : 0U) + (epouse_ && epouse_ != epoux_ ? 1U : 0U));

@@ -3,6 +3,7 @@
 #include "messages/Messages.h"
 #include "storage/Textes.h"
 #include "values/Comparaison.h"
+#include "values/SortesEvenement.h"
 
 #include <algorithm>
 #include <iterator>
@@ -105,10 +106,10 @@ bool LecteurIndividu::LireEvenement(const LigneGedcom& ligne) {
             return true;
         case "BAPM"_tag:
         case "CHRA"_tag:
-            fiche_.OuvrirSlot(ligne, "CHR", "CHR", true);
+            fiche_.OuvrirSlot(ligne, tag::Bapteme, tag::Bapteme, true);
             return true;
         case "BAPL"_tag:
-            fiche_.OuvrirSlot(ligne, "BAPL", "CHR", true);
+            fiche_.OuvrirSlot(ligne, "BAPL", tag::Bapteme, true);
             return true;
         case "TITL"_tag:
             // A reference is a document, as a NOTE has them.

@@ -28,7 +28,8 @@ constexpr std::array<std::string_view, 14> Attributs{"RESI", "CAST", "DSCR", "ED
 /// Tags that the format has beside those of the kinds of events.
 constexpr std::array<std::string_view, 3> AutresEvenements{"BAPM", "CHRA", "BAPL"};
 constexpr std::string_view AutreEvenementDeFamille = "MARS";
-constexpr std::array<std::string_view, 6> Roles{"CHIL", "HUSB", "WIFE", "MOTH", "FATH", "SPOU"};
+constexpr std::array<std::string_view, 6> Roles{role::Enfant, role::Epoux, role::Epouse,
+                                                role::Mere,   role::Pere,  role::Conjoint};
 
 template <std::size_t N>
 bool Contient(const std::array<std::string_view, N>& mots, std::string_view mot) {
@@ -212,7 +213,7 @@ void RedactionGedcom::EcrireRubrique(std::string_view tag, const storage::Valeur
         return;
     }
     // A christening has always gone out as a baptism, and comes back as what it was.
-    const std::string_view connu = individu && tag == "CHR" ? "BAPM" : tag;
+    const std::string_view connu = individu && tag == tag::Bapteme ? "BAPM" : tag;
     if (individu ? EstEvenement(connu) : EstEvenementDeFamille(tag)) {
         sortie_.Ligne(1, connu);
         sortie_.Valeur(2, "DATE", date);

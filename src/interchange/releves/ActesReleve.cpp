@@ -11,9 +11,11 @@
 
 #include <algorithm>
 #include <charconv>
+#include <initializer_list>
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -181,7 +183,7 @@ private:
         AjouterLigne(texte, "", Champ(col::BapRemarques));
         Inscrire({std::string{tag::Bapteme}, date.serie, Champ(col::BapLieu),
                   NomComplet(nom, prenoms), texte},
-                 {{n, "CHIL"}, {pere, "FATH"}, {mere, "MOTH"}});
+                 {{n, role::Enfant}, {pere, role::Pere}, {mere, role::Mere}});
         return true;
     }
 
@@ -242,12 +244,12 @@ private:
         std::string titre = epoux.nom;
         Ajouter(titre, epoux.nom.empty() ? "" : " - ", epouse.nom);
         Inscrire({std::string{tag::Mariage}, date.serie, Champ(col::MarLieu), titre, texte},
-                 {{epoux.n, "HUSB"},
-                  {epouse.n, "WIFE"},
-                  {epoux.pere, "FATH"},
-                  {epoux.mere, "MOTH"},
-                  {epouse.pere, "FATH"},
-                  {epouse.mere, "MOTH"}});
+                 {{epoux.n, role::Epoux},
+                  {epouse.n, role::Epouse},
+                  {epoux.pere, role::Pere},
+                  {epoux.mere, role::Mere},
+                  {epouse.pere, role::Pere},
+                  {epouse.mere, role::Mere}});
         return true;
     }
 
@@ -289,7 +291,10 @@ private:
             ++rapport_.unions;
         Inscrire({std::string{tag::Inhumation}, date.serie, Champ(col::SepLieu),
                   NomComplet(defunt.nom, defunt.prenoms), TexteSepulture(defunt.sexe)},
-                 {{n, "DEAD"}, {pere, "FATH"}, {mere, "MOTH"}, {conjoint, "SPOU"}});
+                 {{n, role::Defunt},
+                  {pere, role::Pere},
+                  {mere, role::Mere},
+                  {conjoint, role::Conjoint}});
         return true;
     }
 
@@ -318,12 +323,17 @@ private:
         return texte;
     }
 
+    struct Participant {
+        NoOrdre individu;
+        std::string_view role;
+    };
     /// An event with those of its participants who are there.
-    void Inscrire(const EvenementActe& evenement,
-                  std::vector<storage::LienEvenement> participants) {
-        std::erase_if(participants,
-                      [](const storage::LienEvenement& lien) { return !lien.individu; });
-        ecrivain_.CreerEvenement(evenement, participants);
+    void Inscrire(const EvenementActe& evenement, std::initializer_list<Participant> participants) {
+        std::vector<storage::LienEvenement> liens;
+        for (const Participant& participant : participants)
+            if (participant.individu)
+                liens.push_back({participant.individu, std::string{participant.role}});
+        ecrivain_.CreerEvenement(evenement, liens);
     }
 
     bool LireAscendant() {

@@ -51,10 +51,10 @@ void CompteActes::CreerEvenement(const EvenementActe& /*evenement*/,
 EcrivainReleve::EcrivainReleve(storage::Base& base, SorteReleve sorte)
     : base_{base}, marqueurs_{base}, slots_{marqueurs_} {
     std::vector<std::string_view> premiers{tag::Prenom};
-    if (sorte != SorteReleve::Ascendance) premiers.emplace_back("OFNM");
+    if (sorte != SorteReleve::Ascendance) premiers.emplace_back(tag::AutresPrenoms);
     premiers.emplace_back(tag::Nom);
     if (sorte == SorteReleve::Sepulture) premiers.emplace_back(tag::Inhumation);
-    if (sorte != SorteReleve::Ascendance) marqueAutres_ = marqueurs_.Marqueur("OFNM");
+    if (sorte != SorteReleve::Ascendance) marqueAutres_ = marqueurs_.Marqueur(tag::AutresPrenoms);
     if (sorte == SorteReleve::Sepulture)
         static_cast<void>(slots_.Trouver(tag::Inhumation, tag::Inhumation, true));
     if (sorte == SorteReleve::Ascendance)

@@ -10,6 +10,7 @@
 #include "records/NomsAffiches.h"
 #include "shell/Libelles.h"
 #include "shell/Session.h"
+#include "values/SortesEvenement.h"
 #include "windows/controles/ChampSuivi.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/Remplaces.h"
@@ -20,7 +21,7 @@ namespace dorvane::windows {
 QStringList MotsDeLiens(const shell::Session& session) {
     QStringList mots;
     for (const std::string& mot :
-         records::ListerMotsUsuels(session, shell::LibelleDeTag(session.catalogue, "RELA")))
+         records::ListerMotsUsuels(session, shell::LibelleDeTag(session.catalogue, tag::Relation)))
         mots << TexteVersQt(mot);
     return mots;
 }

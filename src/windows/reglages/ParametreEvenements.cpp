@@ -13,6 +13,7 @@
 #include "shell/Libelles.h"
 #include "shell/Session.h"
 #include "values/Comparaison.h"
+#include "values/SortesEvenement.h"
 #include "windows/controles/ChampSuivi.h"
 #include "windows/controles/Icones.h"
 #include "windows/controles/Legendes.h"
@@ -144,7 +145,7 @@ void ParametreEvenements::AjouterRole(const shell::RoleEvenement& role) {
     libelle->setFrame(false);
     libelle->setAccessibleName(TexteEcran(S(), message::ColonneRoleReglages));
     for (const std::string& mot :
-         records::ListerMotsUsuels(S(), shell::LibelleDeTag(S().catalogue, "RELA")))
+         records::ListerMotsUsuels(S(), shell::LibelleDeTag(S().catalogue, tag::Relation)))
         libelle->addItem(TexteVersQt(mot));
     libelle->setEditText(Affiche(role.label));
     auto* sexe = new QComboBox;
