@@ -5,6 +5,8 @@
 #include "shell/Parametres.h"
 
 #include <cstddef>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -57,6 +59,12 @@ bool DeplacerLien(shell::Session& session, NoEvenement evenement, std::size_t ra
 /// The compulsory roles of the kind that nobody has.
 [[nodiscard]] std::vector<shell::RoleEvenement> RolesManquants(shell::Session& session,
                                                                const SaisieEvenement& saisie);
+
+/// Which of `roles`, those of `RolesDe`, the next person of an event is proposed: the first
+/// compulsory one that nobody has, else the first that nobody has, else the last; none when there
+/// is no role.
+[[nodiscard]] std::optional<std::size_t> ProchainRole(const SaisieEvenement& saisie,
+                                                      std::span<const shell::RoleEvenement> roles);
 
 /// Does the person have the sex that the role asks for? Roles that the kind does not know fit all.
 [[nodiscard]] bool RoleConvient(shell::Session& session, std::string_view type,

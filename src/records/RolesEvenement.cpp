@@ -45,6 +45,20 @@ std::vector<RoleEvenement> RolesManquants(shell::Session& session, const SaisieE
     return manquants;
 }
 
+std::optional<std::size_t> ProchainRole(const SaisieEvenement& saisie,
+                                        std::span<const RoleEvenement> roles) {
+    if (roles.empty()) return std::nullopt;
+    const auto libre = [&saisie](const RoleEvenement& role) { return !Tenu(saisie, role.label); };
+    auto place = std::ranges::find_if(
+        roles, [&libre](const RoleEvenement& role) { return role.principal && libre(role); });
+    // A label may stand twice, once for each sex, and its first place is proposed.
+    if (place != roles.end())
+        place = std::ranges::find(roles, place->label, &RoleEvenement::label);
+    else
+        place = std::ranges::find_if(roles, libre);
+    return static_cast<std::size_t>((place == roles.end() ? place - 1 : place) - roles.begin());
+}
+
 bool RoleConvient(shell::Session& session, std::string_view type, const LienEvenement& lien) {
     // A label may stand twice, once for each sex.
     bool connu = false;

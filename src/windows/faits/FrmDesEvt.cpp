@@ -10,11 +10,12 @@
 #include "records/FicheEvenement.h"
 #include "records/MotsUsuels.h"
 #include "records/NomsAffiches.h"
-#include "records/RolesProposes.h"
+#include "records/TagSaisi.h"
 #include "shell/Libelles.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "values/Comparaison.h"
+#include "values/SortesEvenement.h"
 #include "windows/controles/ChampSuivi.h"
 #include "windows/controles/Completeur.h"
 #include "windows/controles/FrmTexte.h"
@@ -189,16 +190,17 @@ void FrmDesEvt::RemplirTypes() {
 void FrmDesEvt::RemplirRoles() {
     const QSignalBlocker muet{ui_->CboRole};
     ui_->CboRole->clear();
-    for (const shell::RoleEvenement& role : records::RolesDe(S(), saisie_))
+    const std::vector<shell::RoleEvenement> roles = records::RolesDe(S(), saisie_);
+    for (const shell::RoleEvenement& role : roles)
         ui_->CboRole->addItem(TexteVersQt(shell::LibelleDeTag(S().catalogue, role.label)),
                               QByteArray::fromStdString(role.label));
     // Behind the roles of the kind, the usual words of relations: witness, godfather, guardian...
     for (const std::string& mot :
-         records::ListerMotsUsuels(S(), shell::LibelleDeTag(S().catalogue, "RELA")))
+         records::ListerMotsUsuels(S(), shell::LibelleDeTag(S().catalogue, tag::Relation)))
         if (ui_->CboRole->findText(TexteVersQt(mot)) < 0)
             ui_->CboRole->addItem(TexteVersQt(mot), QByteArray::fromStdString(
                                                         shell::TagDeLibelle(S().catalogue, mot)));
-    const std::optional<std::size_t> propose = records::ProchainRole(S(), saisie_);
+    const std::optional<std::size_t> propose = records::ProchainRole(saisie_, roles);
     ui_->CboRole->setCurrentIndex(propose ? static_cast<int>(*propose) : -1);
 }
 

@@ -1,8 +1,8 @@
-#include "records/RolesProposes.h"
-
 #include "records/EssaiFamille.h"
 #include "records/FicheEvenement.h"
 
+#include <optional>
+#include <string>
 #include <vector>
 
 using namespace dorvane;
@@ -19,8 +19,9 @@ struct Bal : EssaiFamille {
     }
     /// The label that is proposed; "-" for none.
     std::string Propose() {
-        const auto rang = ProchainRole(session, saisie);
-        return rang ? RolesDe(session, saisie)[*rang].label : "-";
+        const std::vector<shell::RoleEvenement> roles = RolesDe(session, saisie);
+        const std::optional<std::size_t> rang = ProchainRole(saisie, roles);
+        return rang ? roles[*rang].label : "-";
     }
     void Tenir(const char* role) {
         saisie.liens.push_back({Creer(Sexe::Homme, "A", "A", "1800"), role});
@@ -28,8 +29,6 @@ struct Bal : EssaiFamille {
 
     SaisieEvenement saisie;
 };
-
-const std::vector<TagOffert> Offerts{{"Bapt\xEAme", "CHR"}, {"bapteme", "AUTRE"}, {"Bal", "Bal"}};
 
 }  // namespace
 
@@ -57,15 +56,5 @@ TEST_CASE_FIXTURE(Bal, "ProchainRole: a role that the kind does not know stands 
 TEST_CASE_FIXTURE(EssaiFamille, "ProchainRole: an event without roles proposes none") {
     SaisieEvenement saisie;
     saisie.type = "Orage";
-    CHECK_FALSE(ProchainRole(session, saisie).has_value());
-}
-
-TEST_CASE_FIXTURE(EssaiFamille, "TagSaisi: an entry whatever its case and accents, the first one") {
-    CHECK(TagSaisi(session, Offerts, " BAPTEME ") == "CHR");
-    CHECK(TagSaisi(session, Offerts, "bal") == "Bal");
-}
-
-TEST_CASE_FIXTURE(EssaiFamille, "TagSaisi: else the user's own word, without blanks around it") {
-    CHECK(TagSaisi(session, Offerts, " Ch\xE2teau ") == "Ch\xE2teau");
-    CHECK(TagSaisi(session, Offerts, "").empty());
+    CHECK_FALSE(ProchainRole(saisie, RolesDe(session, saisie)).has_value());
 }

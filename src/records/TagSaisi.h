@@ -1,9 +1,5 @@
 #pragma once
 
-#include "records/SaisieEvenement.h"
-
-#include <cstddef>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,11 +9,6 @@ class Session;
 }
 
 namespace dorvane::records {
-
-/// Which of `RolesDe` the next person of an event is proposed: the first compulsory one that nobody
-/// has, else the first that nobody has, else the last; none when there is no role.
-[[nodiscard]] std::optional<std::size_t> ProchainRole(shell::Session& session,
-                                                      const SaisieEvenement& saisie);
 
 /// A kind or a role as a list offers it, in code page 1252.
 struct TagOffert {
