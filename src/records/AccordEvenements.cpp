@@ -132,6 +132,63 @@ std::optional<DateEtLieu> LireMiroir(shell::Session& session, NoOrdre individu,
     return LireUnion(session, session.base->R_MARIAG.ElementListe(individu, 1));
 }
 
+/// Each event of the person that repeats the sheet and differs is offered to be brought into line,
+/// one question each.
+void AccorderEvenements(shell::Session& session, NoOrdre individu) {
+    assert(session.base);
+    // An event that moves changes the list of the person: it is read first.
+    for (const LigneEvenement& ligne : EvenementsDe(session, individu)) {
+        const MiroirFiche miroir =
+            MiroirDe(session.base->R_EVT.TypeEvt(ligne.evenement), ligne.role);
+        const std::optional<DateEtLieu> fiche = LireMiroir(session, individu, miroir);
+        if (!fiche || Pareils(*fiche, LireEvenement(session, ligne.evenement))) continue;
+        if (!session.dialogue.Confirmer(shell::Msg(MessageDe(miroir)),
+                                        shell::Msg(message::TitreMajEvenements)))
+            continue;
+        SaisieEvenement saisie = ChargerEvenement(session, ligne.evenement);
+        saisie.date = fiche->date;
+        saisie.lieu = fiche->lieu;
+        // A refusal has been told; the event then stays as it is.
+        static_cast<void>(ValiderEvenement(session, saisie));
+    }
+}
+
+/// The sheet of each person whom the event mirrors is offered its date and place when they differ.
+void AccorderFiches(shell::Session& session, NoEvenement evenement) {
+    assert(session.base);
+    storage::Base& base = *session.base;
+    const std::string type = base.R_EVT.TypeEvt(evenement);
+    const std::vector<LienEvenement> liens = base.R_EVT.Liens(evenement);
+    const DateEtLieu fait = LireEvenement(session, evenement);
+    std::vector<NoMariage> vues;
+    for (const LienEvenement& lien : liens) {
+        const MiroirFiche miroir = MiroirDe(type, lien.role);
+        if (miroir == MiroirFiche::Aucun || !Existe(base, lien.individu)) continue;
+        NoMariage mariage{};
+        std::optional<DateEtLieu> fiche;
+        if (miroir == MiroirFiche::Mariage) {
+            mariage = UnionRacontee(base, liens, lien.individu, CouperDate(fait.date).annee);
+            // Husband and wife share the union: one question.
+            if (!mariage || std::find(vues.begin(), vues.end(), mariage) != vues.end()) continue;
+            vues.push_back(mariage);
+            fiche = LireUnion(session, mariage);
+        } else {
+            fiche = LireFiche(session, lien.individu, miroir);
+        }
+        if (!fiche || Pareils(*fiche, fait)) continue;
+        // The title tells whose sheet.
+        const std::string nom{SansBlancs(NomEtDates(session, lien.individu))};
+        if (!session.dialogue.Confirmer(shell::Msg(message::ProposerReporterEvenementSurFiche),
+                                        shell::Litteral(nom)))
+            continue;
+        if (mariage)
+            ReporterUnion(session, mariage, fait);
+        else
+            ReporterFiche(session, lien.individu, miroir, fait);
+        base.marques.AffichagePerime = true;
+    }
+}
+
 }  // namespace
 
 bool MemeLieu(std::string_view a, std::string_view b) {
@@ -186,60 +243,6 @@ bool EcrireRangees(shell::Session& session, NoOrdre individu, const RangeesSlots
     if (texte == session.base->R_TEXTE.LireTexte(individu)) return false;
     EcrireTexteIndividu(session, individu, texte);
     return true;
-}
-
-void AccorderEvenements(shell::Session& session, NoOrdre individu) {
-    assert(session.base);
-    // An event that moves changes the list of the person: it is read first.
-    for (const LigneEvenement& ligne : EvenementsDe(session, individu)) {
-        const MiroirFiche miroir =
-            MiroirDe(session.base->R_EVT.TypeEvt(ligne.evenement), ligne.role);
-        const std::optional<DateEtLieu> fiche = LireMiroir(session, individu, miroir);
-        if (!fiche || Pareils(*fiche, LireEvenement(session, ligne.evenement))) continue;
-        if (!session.dialogue.Confirmer(shell::Msg(MessageDe(miroir)),
-                                        shell::Msg(message::TitreMajEvenements)))
-            continue;
-        SaisieEvenement saisie = ChargerEvenement(session, ligne.evenement);
-        saisie.date = fiche->date;
-        saisie.lieu = fiche->lieu;
-        // A refusal has been told; the event then stays as it is.
-        static_cast<void>(ValiderEvenement(session, saisie));
-    }
-}
-
-void AccorderFiches(shell::Session& session, NoEvenement evenement) {
-    assert(session.base);
-    storage::Base& base = *session.base;
-    const std::string type = base.R_EVT.TypeEvt(evenement);
-    const std::vector<LienEvenement> liens = base.R_EVT.Liens(evenement);
-    const DateEtLieu fait = LireEvenement(session, evenement);
-    std::vector<NoMariage> vues;
-    for (const LienEvenement& lien : liens) {
-        const MiroirFiche miroir = MiroirDe(type, lien.role);
-        if (miroir == MiroirFiche::Aucun || !Existe(base, lien.individu)) continue;
-        NoMariage mariage{};
-        std::optional<DateEtLieu> fiche;
-        if (miroir == MiroirFiche::Mariage) {
-            mariage = UnionRacontee(base, liens, lien.individu, CouperDate(fait.date).annee);
-            // Husband and wife share the union: one question.
-            if (!mariage || std::find(vues.begin(), vues.end(), mariage) != vues.end()) continue;
-            vues.push_back(mariage);
-            fiche = LireUnion(session, mariage);
-        } else {
-            fiche = LireFiche(session, lien.individu, miroir);
-        }
-        if (!fiche || Pareils(*fiche, fait)) continue;
-        // The title tells whose sheet.
-        const std::string nom{SansBlancs(NomEtDates(session, lien.individu))};
-        if (!session.dialogue.Confirmer(shell::Msg(message::ProposerReporterEvenementSurFiche),
-                                        shell::Litteral(nom)))
-            continue;
-        if (mariage)
-            ReporterUnion(session, mariage, fait);
-        else
-            ReporterFiche(session, lien.individu, miroir, fait);
-        base.marques.AffichagePerime = true;
-    }
 }
 
 IssueFiche ValiderFiche(shell::Session& session, SaisieFiche& saisie) {

@@ -52,20 +52,13 @@ struct DateEtLieu {
 /// so already. Nothing is offered to the events.
 bool EcrireRangees(shell::Session& session, NoOrdre individu, const RangeesSlots& rangees);
 
-/// Each event of the person that repeats the sheet and differs is offered to be brought into line,
-/// one question each. Events are never changed without one. A base is open.
-void AccorderEvenements(shell::Session& session, NoOrdre individu);
-
-/// The sheet of each person whom the event mirrors is offered its date and place when they differ.
-/// Writes years, day and month, place, index and sort table. A base is open.
-void AccorderFiches(shell::Session& session, NoEvenement evenement);
-
 /// `C_Maj`: writes what differs as `EcrireFiche`, then offers the values to the events of the
-/// person that repeat them and differ, one question each.
+/// person that repeat them and differ, one question each. Events are never changed without one.
 [[nodiscard]] IssueFiche ValiderFiche(shell::Session& session, SaisieFiche& saisie);
 
-/// Saves an event as `EcrireSaisie`, then offers date and place to the sheets that it mirrors. Not
-/// while a role is missing.
+/// Saves an event as `EcrireSaisie`, then offers date and place to the sheet of each person whom it
+/// mirrors when they differ: years, day and month, place, index and sort table follow. Not while a
+/// role is missing.
 [[nodiscard]] IssueEvenement ValiderEvenement(shell::Session& session, SaisieEvenement& saisie);
 
 }  // namespace dorvane::records

@@ -33,6 +33,28 @@ Champ ChampLePlusLong(const SaisieFiche& saisie) {
         ->champ;
 }
 
+/// The message that names a field for the user; none for one that has no name.
+NoMessage LibelleDeChamp(Champ champ) {
+    switch (champ) {
+        case Champ::Nom:
+            return message::ChampNom;
+        case Champ::Prenom:
+            return message::ChampPrenoms;
+        case Champ::AutrePrenom:
+            return message::ChampAutresPrenoms;
+        case Champ::JourMoisNaissance:
+            return message::ChampJourMoisNaissance;
+        case Champ::JourMoisDeces:
+            return message::ChampJourMoisDeces;
+        case Champ::Aucun:
+        case Champ::Sexe:
+        case Champ::AnneeNaissance:
+        case Champ::Lien:
+            break;
+    }
+    return {};
+}
+
 }  // namespace
 
 Champ ControlerFiche(shell::Session& session, const SaisieFiche& saisie) {
@@ -55,27 +77,6 @@ Champ ControlerFiche(shell::Session& session, const SaisieFiche& saisie) {
         return long_;
     }
     return champ;
-}
-
-NoMessage LibelleDeChamp(Champ champ) {
-    switch (champ) {
-        case Champ::Nom:
-            return message::ChampNom;
-        case Champ::Prenom:
-            return message::ChampPrenoms;
-        case Champ::AutrePrenom:
-            return message::ChampAutresPrenoms;
-        case Champ::JourMoisNaissance:
-            return message::ChampJourMoisNaissance;
-        case Champ::JourMoisDeces:
-            return message::ChampJourMoisDeces;
-        case Champ::Aucun:
-        case Champ::Sexe:
-        case Champ::AnneeNaissance:
-        case Champ::Lien:
-            break;
-    }
-    return {};
 }
 
 std::string CelluleDe(std::string_view annee) {

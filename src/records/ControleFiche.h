@@ -17,9 +17,6 @@ inline constexpr std::size_t MaxLigneNom = 1000;
 /// for their record stop (`Nom` or the longest name or date). `Aucun` when all is well.
 [[nodiscard]] Champ ControlerFiche(shell::Session& session, const SaisieFiche& saisie);
 
-/// The message that names a field for the user; none for one that has no name.
-[[nodiscard]] NoMessage LibelleDeChamp(Champ champ);
-
 /// A year as its cell is compared and written: trimmed, at most 4 characters.
 [[nodiscard]] std::string CelluleDe(std::string_view annee);
 

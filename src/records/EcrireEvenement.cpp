@@ -2,6 +2,7 @@
 
 #include "messages/Faits.h"
 #include "messages/Messages.h"
+#include "records/Famille.h"
 #include "records/FicheEvenement.h"
 #include "records/Filiation.h"
 #include "records/NomsAffiches.h"

@@ -5,7 +5,14 @@
 
 namespace dorvane::records {
 
+/// The kernel that walks a family, for `records` and all that stands above it: parents, couples in
+/// their order, the walk. Children in their order are `R_ENFANT`. Below, `storage/Famille.h` itself
+/// is called.
+using storage::Couple;
+using storage::CouplesDe;
 using storage::LireParent;
+using storage::ParcourirFamille;
+using storage::ParentsDe;
 using storage::PartenaireDe;
 
 /// The union of two persons: the first one in the list of `a` whose partner is `b`; 0 for none.

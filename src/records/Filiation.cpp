@@ -35,6 +35,20 @@ bool ListeALEnfant(storage::Base& base, NoOrdre parent, NoOrdre enfant) {
     return std::find(enfants.begin(), enfants.end(), enfant) != enfants.end();
 }
 
+/// `ancetre` stands somewhere above `individu`. A base that is damaged may go in circles: each
+/// person is looked at once.
+bool EstAscendant(storage::Base& base, NoOrdre ancetre, NoOrdre individu) {
+    std::unordered_set<std::uint32_t> vus;
+    return !ParcourirFamille(individu, [&](NoOrdre n, std::vector<NoOrdre>& suivants) {
+        for (const NoOrdre parent : ParentsDe(base, n)) {
+            if (!parent) continue;
+            if (parent == ancetre) return false;
+            if (vus.insert(parent.valeur).second) suivants.push_back(parent);
+        }
+        return true;
+    });
+}
+
 /// Why the person cannot become the parent; none when nothing stands in the way.
 NoMessage MotifContre(storage::Base& base, NoOrdre enfant, Cote cote, NoOrdre parent) {
     if (!Existe(base, enfant) || !Existe(base, parent)) return message::PersonneAbsenteDeLaBase;
@@ -45,6 +59,19 @@ NoMessage MotifContre(storage::Base& base, NoOrdre enfant, Cote cote, NoOrdre pa
         !ListeALEnfant(base, parent, enfant))
         return message::MaximumEnfantsPersonneAtteint;
     return {};
+}
+
+/// Writes both sides of a link that `PeutEtreParent` allows, and takes the child out of the list of
+/// the parent who stood there. Asks nothing.
+void LierParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent) {
+    storage::Base& base = *session.base;
+    const NoOrdre ancien = LireParent(base, enfant, cote);
+    if (ancien) MajEnfant(session, ancien, enfant, storage::ActionListe::Supprimer);
+    // A damaged base may hold the child in the list without the cell: it must not stand there
+    // twice.
+    MajEnfant(session, parent, enfant, storage::ActionListe::Supprimer);
+    EcrireParent(base, enfant, cote, parent);
+    MajEnfant(session, parent, enfant, storage::ActionListe::Ajouter);
 }
 
 /// Asks whether `parent` is the parent of the child on a side where nobody stands, and makes the
@@ -60,6 +87,14 @@ bool ProposerParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre 
     if (!PeutEtreParent(session, enfant, cote, parent)) return false;
     LierParent(session, enfant, cote, parent);
     return true;
+}
+
+/// Warns, without blocking, when the parent died in a year before that of the child's birth.
+void AvertirDeces(shell::Session& session, NoOrdre parent, NoOrdre enfant) {
+    storage::Base& base = *session.base;
+    if (base.R_DECES.LireCellule(parent).empty()) return;
+    if (base.R_DECES.AnneeTri(parent) < base.R_NAISS.AnneeTri(enfant))
+        session.dialogue.Informer(Msg(message::DecesParentAvantNaissanceEnfant));
 }
 
 /// Who stands beside the person on the other side of a union; 0 for none.
@@ -110,33 +145,10 @@ void MajEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant,
     session.base->R_ENFANT.ModifierListe(parent, enfant, action);
 }
 
-bool EstAscendant(storage::Base& base, NoOrdre ancetre, NoOrdre individu) {
-    std::unordered_set<std::uint32_t> vus;
-    return !storage::ParcourirFamille(individu, [&](NoOrdre n, std::vector<NoOrdre>& suivants) {
-        for (const NoOrdre parent : storage::ParentsDe(base, n)) {
-            if (!parent) continue;
-            if (parent == ancetre) return false;
-            if (vus.insert(parent.valeur).second) suivants.push_back(parent);
-        }
-        return true;
-    });
-}
-
 bool PeutEtreParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent) {
     assert(session.base);
     const NoMessage motif = MotifContre(*session.base, enfant, cote, parent);
     return !motif || Refuser(session, Nommer(session, motif, parent, enfant));
-}
-
-void LierParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent) {
-    storage::Base& base = *session.base;
-    const NoOrdre ancien = LireParent(base, enfant, cote);
-    if (ancien) MajEnfant(session, ancien, enfant, storage::ActionListe::Supprimer);
-    // A damaged base may hold the child in the list without the cell: it must not stand there
-    // twice.
-    MajEnfant(session, parent, enfant, storage::ActionListe::Supprimer);
-    EcrireParent(base, enfant, cote, parent);
-    MajEnfant(session, parent, enfant, storage::ActionListe::Ajouter);
 }
 
 bool DonnerParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent) {
@@ -233,13 +245,6 @@ bool RetirerEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant) {
     if (pere || mere) EcrireParent(base, enfant, cote, {});
     MajEnfant(session, parent, enfant, storage::ActionListe::Supprimer);
     return true;
-}
-
-void AvertirDeces(shell::Session& session, NoOrdre parent, NoOrdre enfant) {
-    storage::Base& base = *session.base;
-    if (base.R_DECES.LireCellule(parent).empty()) return;
-    if (base.R_DECES.AnneeTri(parent) < base.R_NAISS.AnneeTri(enfant))
-        session.dialogue.Informer(Msg(message::DecesParentAvantNaissanceEnfant));
 }
 
 void ProposerEnfants(shell::Session& session, NoOrdre autre, Cote cote, NoOrdre parent,

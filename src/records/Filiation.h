@@ -1,16 +1,11 @@
 #pragma once
 
 #include "storage/ActionListe.h"
-#include "storage/Famille.h"
 #include "values/Numeros.h"
 #include "values/Sexe.h"
 
 namespace dorvane::shell {
 class Session;
-}
-
-namespace dorvane::storage {
-class Base;
 }
 
 namespace dorvane::records {
@@ -27,20 +22,10 @@ namespace dorvane::records {
 void MajEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant,
                storage::ActionListe action);
 
-using storage::LireParent;
-
-/// `ancetre` stands somewhere above `individu`. A base that is damaged may go in circles: each
-/// person is looked at once.
-[[nodiscard]] bool EstAscendant(storage::Base& base, NoOrdre ancetre, NoOrdre individu);
-
 /// `parent` may become the parent of `enfant` on this side: a person of that sex, not the child
 /// itself nor a descendant of it, with room in the list. Else the reason is told.
 [[nodiscard]] bool PeutEtreParent(shell::Session& session, NoOrdre enfant, Cote cote,
                                   NoOrdre parent);
-
-/// Writes both sides of a link that `PeutEtreParent` allows, and takes the child out of the list of
-/// the parent who stood there. Asks nothing.
-void LierParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre parent);
 
 /// Gives the child a parent who was chosen among the persons of the base (`C_Rechpère`,
 /// `C_Rechmère`): replaces the one who stands there, offers a union with the other parent, the
@@ -76,12 +61,9 @@ void LierParent(shell::Session& session, NoOrdre enfant, Cote cote, NoOrdre pare
 /// Takes a child away, after a question (`CmdSupEnft`).
 [[nodiscard]] bool RetirerEnfant(shell::Session& session, NoOrdre parent, NoOrdre enfant);
 
-/// Warns, without blocking, when the parent died in a year before that of the child's birth.
-void AvertirDeces(shell::Session& session, NoOrdre parent, NoOrdre enfant);
-
 /// Asks, child by child, whether `parent` is the parent on this side of those children of `autre`
 /// who have none there, and links the ones for whom the user says yes. `avertir`: each of them
-/// gets the warning of `AvertirDeces`.
+/// is warned of, without blocking, when `parent` died in a year before that of its birth.
 void ProposerEnfants(shell::Session& session, NoOrdre autre, Cote cote, NoOrdre parent,
                      bool avertir);
 

@@ -67,7 +67,7 @@ private:
     /// Goes up from a box; answers its place, which is also set.
     double Monter(std::size_t indice, bool autreFamille = false) {
         const CaseFamille enfant = cases_[indice];
-        const auto [pere, mere] = storage::ParentsDe(base_, enfant.individu);
+        const auto [pere, mere] = ParentsDe(base_, enfant.individu);
         const bool parents = enfant.individu && (pere || mere);
         if (!parents || enfant.generation >= generations_.ascendantes || trop_) {
             cases_[indice].suite = parents;
@@ -90,7 +90,7 @@ private:
     std::vector<std::size_t> Marier(std::size_t indice) {
         std::vector<std::size_t> boites;
         const CaseFamille personne = cases_[indice];
-        for (const auto& [mariage, partenaire] : storage::CouplesDe(base_, personne.individu)) {
+        for (const auto& [mariage, partenaire] : CouplesDe(base_, personne.individu)) {
             CaseFamille nouvelle{Existe(base_, partenaire) ? partenaire : NoOrdre{},
                                  Sorte::Conjoint, indice, personne.generation};
             nouvelle.mariage = mariage;
@@ -104,7 +104,7 @@ private:
     std::size_t DepartDe(std::size_t indice, NoOrdre enfant,
                          const std::vector<std::size_t>& conjoints) {
         const NoOrdre individu = cases_[indice].individu;
-        const auto [pere, mere] = storage::ParentsDe(base_, enfant);
+        const auto [pere, mere] = ParentsDe(base_, enfant);
         const NoOrdre autre = pere == individu ? mere : pere;
         for (const std::size_t conjoint : conjoints)
             if (autre && cases_[conjoint].individu == autre) return conjoint;
@@ -207,7 +207,7 @@ NoOrdre ParentDe(storage::Base& base, NoOrdre individu, Parente parente, NoOrdre
             break;
     }
     std::vector<NoOrdre> conjoints;
-    for (const auto& [mariage, partenaire] : storage::CouplesDe(base, individu))
+    for (const auto& [mariage, partenaire] : CouplesDe(base, individu))
         if (existant(partenaire)) conjoints.push_back(partenaire);
     if (conjoints.empty()) return {};
     const auto place = std::find(conjoints.begin(), conjoints.end(), apres);
@@ -222,9 +222,9 @@ std::vector<EntreeFamille> EntreesFamille(storage::Base& base, NoOrdre individu)
         if (Existe(base, n)) entrees.push_back({groupe, n});
     };
     ajouter(Groupe::Personne, individu);
-    for (const NoOrdre parent : storage::ParentsDe(base, individu))
+    for (const NoOrdre parent : ParentsDe(base, individu))
         ajouter(Groupe::Parents, parent);
-    for (const auto& [mariage, partenaire] : storage::CouplesDe(base, individu))
+    for (const auto& [mariage, partenaire] : CouplesDe(base, individu))
         ajouter(Groupe::Conjoints, partenaire);
     for (const NoOrdre enfant : base.R_ENFANT.Elements(individu))
         ajouter(Groupe::Enfants, enfant);

@@ -43,6 +43,16 @@ struct Scene : EssaiFamille {
             base.R_LSTEVT.ModifierListe(lien.individu, e, storage::ActionListe::Ajouter, lien.role);
         return e;
     }
+    /// The sheet as it stands, saved: what events say of the same is compared.
+    void EnregistrerFiche(NoOrdre n) {
+        SaisieFiche fiche = ChargerFiche(session, n);
+        CHECK_FALSE(ValiderFiche(session, fiche).EstRefusee());
+    }
+    /// The event as it stands, saved: what sheets say of the same is compared.
+    void EnregistrerEvenement(NoEvenement e) {
+        SaisieEvenement saisie = ChargerEvenement(session, e);
+        CHECK(ValiderEvenement(session, saisie).etat == IssueEvenement::Etat::Inchange);
+    }
     [[nodiscard]] std::string Date(NoEvenement e) { return LigneDe(session, e).date; }
     [[nodiscard]] std::string Lieu(NoEvenement e) { return LigneDe(session, e).lieu; }
     /// "12 mars 1820, Brest" of a birth or a death.
@@ -84,31 +94,30 @@ TEST_CASE("MiroirDe: kinds and roles are told by their tags") {
         CHECK(MiroirDe(type, role) == MiroirFiche::Aucun);
 }
 
-TEST_CASE_FIXTURE(Scene,
-                  "AccorderEvenements: an event that says what the sheet says asks nothing") {
+TEST_CASE_FIXTURE(Scene, "ValiderFiche: an event that says what the sheet says asks nothing") {
     Evenement("BIRT", "12/3/1820", "Brest", {{paul, "CHIL"}});
-    AccorderEvenements(session, paul);
+    EnregistrerFiche(paul);
     CHECK(Dit().empty());
 }
 
 TEST_CASE_FIXTURE(Scene,
-                  "AccorderEvenements: a birth that differs is brought into line after a yes, "
+                  "ValiderFiche: a birth that differs is brought into line after a yes, "
                   "never without") {
     const NoEvenement e = Evenement("BIRT", "13/3/1820", "Lorient", {{paul, "CHIL"}});
-    AccorderEvenements(session, paul);
+    EnregistrerFiche(paul);
     CHECK(dialogue.titres.back().no == message::TitreMajEvenements);
     CHECK(Dit() == Mots{"ProposerMajEvenementNaissance"});
     CHECK(Date(e) == "13 mars 1820");
     Repondre({Oui});
-    AccorderEvenements(session, paul);
+    EnregistrerFiche(paul);
     CHECK(Dit() == Mots{"ProposerMajEvenementNaissance"});
     CHECK(Date(e) == "12 mars 1820");
     CHECK(Lieu(e) == "Brest");
-    AccorderEvenements(session, paul);
+    EnregistrerFiche(paul);
     CHECK(Dit().empty());
 }
 
-TEST_CASE_FIXTURE(Scene, "AccorderEvenements: the sheet asks when it is saved") {
+TEST_CASE_FIXTURE(Scene, "ValiderFiche: the sheet asks when it is saved") {
     const NoEvenement e = Evenement("BIRT", "12/3/1820", "Brest", {{paul, "CHIL"}});
     SaisieFiche fiche = ChargerFiche(session, paul);
     fiche.lieuNaissance = "Quimper";
@@ -118,14 +127,14 @@ TEST_CASE_FIXTURE(Scene, "AccorderEvenements: the sheet asks when it is saved") 
     CHECK(Lieu(e) == "Quimper");
 }
 
-TEST_CASE_FIXTURE(Scene, "AccorderEvenements: a witness of a birth is not compared") {
+TEST_CASE_FIXTURE(Scene, "ValiderFiche: a witness of a birth is not compared") {
     Evenement("BIRT", "1/1/1900", "Ailleurs", {{paul, "WITN"}});
-    AccorderEvenements(session, paul);
+    EnregistrerFiche(paul);
     CHECK(Dit().empty());
 }
 
 TEST_CASE_FIXTURE(Scene,
-                  "AccorderEvenements: each kind has its own question, in the order of the "
+                  "ValiderFiche: each kind has its own question, in the order of the "
                   "events") {
     Marier(louis, rose, "1815");
     Evenement("BIRT", "1/1/1801", "a", {{louis, "CHIL"}});
@@ -133,49 +142,49 @@ TEST_CASE_FIXTURE(Scene,
     Evenement("MARR", "1/1/1803", "c", {{louis, "HUSB"}, {rose, "WIFE"}});
     Evenement("DEAT", "1/1/1804", "d", {{louis, "DEAD"}});
     Evenement("BURI", "1/1/1805", "e", {{louis, "DEAD"}});
-    AccorderEvenements(session, louis);
+    EnregistrerFiche(louis);
     CHECK(Dit() == Mots{"ProposerMajEvenementNaissance", "ProposerMajEvenementBapteme",
                         "ProposerMajEvenementMariage", "ProposerMajEvenementDeces",
                         "ProposerMajEvenementInhumation"});
-    AccorderEvenements(session, rose);
+    EnregistrerFiche(rose);
     CHECK(Dit() == Mots{"ProposerMajEvenementMariage"});
 }
 
-TEST_CASE_FIXTURE(Scene,
-                  "AccorderEvenements: a marriage is compared only by who has exactly one union") {
+TEST_CASE_FIXTURE(Scene, "ValiderFiche: a marriage is compared only by who has exactly one union") {
     Evenement("MARR", "1/1/1803", "c", {{louis, "HUSB"}});
-    AccorderEvenements(session, louis);
+    EnregistrerFiche(louis);
     CHECK(Dit().empty());
     Marier(louis, rose, "1815");
     Marier(louis, Creer(Sexe::Femme, "Noir", "Anne"), "1830");
-    AccorderEvenements(session, louis);
+    EnregistrerFiche(louis);
     CHECK(Dit().empty());
 }
 
-TEST_CASE_FIXTURE(Scene, "AccorderEvenements: a kind whose row the base does not have is left") {
+TEST_CASE_FIXTURE(Scene, "ValiderFiche: a kind whose row the base does not have is left") {
     base.entete.SlotsIndividu[1].symbole = ' ';
     Evenement("CHR", "1/1/1802", "b", {{louis, "CHIL"}});
     Evenement("BURI", "1/1/1802", "b", {{louis, "DEAD"}});
-    AccorderEvenements(session, louis);
+    EnregistrerFiche(louis);
     CHECK(Dit().empty());
 }
 
 TEST_CASE_FIXTURE(Scene,
-                  "AccorderEvenements: a sheet without a whole date cannot move an event; the "
+                  "ValiderFiche: a sheet without a whole date cannot move an event; the "
                   "reason is told") {
     const NoEvenement e = Evenement("BIRT", "3/4/1790", "Brest", {{louis, "CHIL"}});
     const NoEvenement mort = Evenement("DEAT", "3/4/1860", "Brest", {{louis, "DEAD"}});
     Repondre({Oui, Oui});
-    AccorderEvenements(session, louis);
+    EnregistrerFiche(louis);
     CHECK(Dit() == Mots{"ProposerMajEvenementNaissance", "DateEvenementInvalide",
                         "ProposerMajEvenementDeces", "DateEvenementVide"});
     CHECK(Date(e) == "3 avril 1790");
     CHECK(Date(mort) == "3 avril 1860");
 }
 
-TEST_CASE_FIXTURE(SceneParAnnee,
-                  "AccorderFiches: a yes gives the sheet year, day and month, and place, with all "
-                  "that hangs on the year") {
+TEST_CASE_FIXTURE(
+    SceneParAnnee,
+    "ValiderEvenement: a yes gives the sheet year, day and month, and place, with all "
+    "that hangs on the year") {
     const NoOrdre jeanne = Creer(Sexe::Femme, "Martin", "Jeanne", "1822");
     Parents(jeanne, louis, rose);
     SaisieEvenement saisie = NouvelEvenement(paul, "CHIL");
@@ -208,21 +217,21 @@ TEST_CASE_FIXTURE(SceneParAnnee,
     }
 }
 
-TEST_CASE_FIXTURE(Scene, "AccorderFiches: a place without a word takes the token away") {
+TEST_CASE_FIXTURE(Scene, "ValiderEvenement: a place without a word takes the token away") {
     const NoEvenement e = Evenement("BIRT", "12/3/1820", "", {{paul, "CHIL"}});
     Repondre({Oui});
-    AccorderFiches(session, e);
+    EnregistrerEvenement(e);
     CHECK(Naissance(paul) == "12 mars 1820, ");
     CHECK(base.R_TEXTE.LireTexte(paul).find('$') == std::string_view::npos);
 }
 
-TEST_CASE_FIXTURE(Scene, "AccorderFiches: a death, a christening and a burial") {
+TEST_CASE_FIXTURE(Scene, "ValiderEvenement: a death, a christening and a burial") {
     const NoEvenement mort = Evenement("DEAT", "4/5/1880", "Nantes", {{paul, "DEAD"}});
     const NoEvenement bapteme = Evenement("CHR", "14/3/1820", "Brest", {{paul, "CHIL"}});
     const NoEvenement tombe = Evenement("BURI", "6/5/1880", "Rennes", {{paul, "DEAD"}});
     Repondre({Oui, Oui, Oui});
     for (const NoEvenement e : {mort, bapteme, tombe})
-        AccorderFiches(session, e);
+        EnregistrerEvenement(e);
     CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche", "ProposerReporterEvenementSurFiche",
                         "ProposerReporterEvenementSurFiche"});
     CHECK(Deces(paul) == "4 mai 1880, Nantes");
@@ -230,78 +239,79 @@ TEST_CASE_FIXTURE(Scene, "AccorderFiches: a death, a christening and a burial") 
     CHECK(Rangee(paul, 1) == "14 mars 1820, Brest");
     CHECK(Rangee(paul, 2) == "6 mai 1880, Rennes");
     for (const NoEvenement e : {mort, bapteme, tombe})
-        AccorderFiches(session, e);
-    AccorderEvenements(session, paul);
+        EnregistrerEvenement(e);
+    EnregistrerFiche(paul);
     CHECK(Dit().empty());
 }
 
-TEST_CASE_FIXTURE(Scene, "AccorderFiches: husband and wife share one union and one question") {
+TEST_CASE_FIXTURE(Scene, "ValiderEvenement: husband and wife share one union and one question") {
     const NoMariage m = Marier(louis, rose, "1815");
     const NoEvenement e =
         Evenement("MARR", "4/5/1816", "Vannes", {{louis, "HUSB"}, {rose, "WIFE"}});
-    AccorderFiches(session, e);
+    EnregistrerEvenement(e);
     CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche"});
     CHECK(base.R_DEBMAR.LireCellule(m) == "1815");
     Repondre({Oui});
-    AccorderFiches(session, e);
+    EnregistrerEvenement(e);
     CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche"});
     CHECK(base.R_DEBMAR.LireCellule(m) == "1816");
     CHECK(storage::DateMariageBrute(base, m) == "4/5");
     CHECK(storage::LieuMariage(base, m) == "Vannes");
-    AccorderFiches(session, e);
-    AccorderEvenements(session, rose);
+    EnregistrerEvenement(e);
+    EnregistrerFiche(rose);
     CHECK(Dit().empty());
 }
 
-TEST_CASE_FIXTURE(Scene, "AccorderFiches: a couple that married twice is told apart by the year") {
+TEST_CASE_FIXTURE(Scene,
+                  "ValiderEvenement: a couple that married twice is told apart by the year") {
     const NoMariage premiere = Marier(louis, rose, "1815");
     const NoMariage seconde = Marier(louis, rose, "1830");
     const NoEvenement e =
         Evenement("MARR", "4/5/1830", "Vannes", {{louis, "HUSB"}, {rose, "WIFE"}});
     Repondre({Oui});
-    AccorderFiches(session, e);
+    EnregistrerEvenement(e);
     CHECK(storage::LieuMariage(base, premiere).empty());
     CHECK(storage::LieuMariage(base, seconde) == "Vannes");
     CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche"});
 }
 
-TEST_CASE_FIXTURE(Scene, "AccorderFiches: persons without a union have nothing to compare") {
-    AccorderFiches(session,
-                   Evenement("MARR", "4/5/1816", "Vannes", {{louis, "HUSB"}, {rose, "WIFE"}}));
+TEST_CASE_FIXTURE(Scene, "ValiderEvenement: persons without a union have nothing to compare") {
+    EnregistrerEvenement(
+        Evenement("MARR", "4/5/1816", "Vannes", {{louis, "HUSB"}, {rose, "WIFE"}}));
     CHECK(Dit().empty());
 }
 
-TEST_CASE_FIXTURE(Scene, "AccorderFiches: dots that a sheet cannot hold are no difference") {
+TEST_CASE_FIXTURE(Scene, "ValiderEvenement: dots that a sheet cannot hold are no difference") {
     const NoEvenement e = Evenement("BIRT", "12/3/1820", "St. Malo", {{paul, "CHIL"}});
     Repondre({Oui});
-    AccorderFiches(session, e);
+    EnregistrerEvenement(e);
     CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche"});
-    AccorderFiches(session, e);
-    AccorderEvenements(session, paul);
+    EnregistrerEvenement(e);
+    EnregistrerFiche(paul);
     CHECK(Dit().empty());
 }
 
-TEST_CASE_FIXTURE(Scene, "AccorderFiches: twins are asked for one by one") {
+TEST_CASE_FIXTURE(Scene, "ValiderEvenement: twins are asked for one by one") {
     const NoOrdre luc = Creer(Sexe::Homme, "Martin", "Luc", "1820");
     const NoEvenement e =
         Evenement("BIRT", "13/3/1820", "Brest", {{paul, "CHIL"}, {luc, "CHIL"}, {louis, "WITN"}});
     Repondre({Non, Oui});
-    AccorderFiches(session, e);
+    EnregistrerEvenement(e);
     CHECK(dialogue.titres.back().valeur == "Luc Martin (o1820)");
     CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche", "ProposerReporterEvenementSurFiche"});
     CHECK(Naissance(paul) == "12 mars 1820, Brest");
     CHECK(Naissance(luc) == "13 mars 1820, Brest");
 }
 
-TEST_CASE_FIXTURE(Scene, "AccorderFiches: the same holds in an English session") {
+TEST_CASE_FIXTURE(Scene, "ValiderEvenement: the same holds in an English session") {
     REQUIRE(shell::ChoisirLangue(session, "English"));
     const NoEvenement e = Evenement("BIRT", "13 March 1820", "Brest", {{paul, "CHIL"}});
     Repondre({Oui});
-    AccorderFiches(session, e);
+    EnregistrerEvenement(e);
     CHECK(Dit() == Mots{"ProposerReporterEvenementSurFiche"});
     CHECK(base.R_NOM.JourMoisNaissance(paul) == "13/3");
     CHECK(Naissance(paul) == "13 March 1820, Brest");
-    AccorderEvenements(session, paul);
+    EnregistrerFiche(paul);
     CHECK(Dit().empty());
 }
 

@@ -1,7 +1,7 @@
 #include "interchange/commun/SelectionExport.h"
 
+#include "records/Famille.h"
 #include "storage/Base.h"
-#include "storage/Famille.h"
 
 #include <algorithm>
 #include <array>
@@ -66,14 +66,14 @@ void SelectionExport::Parcourir(NoOrdre depart, SensExport sens, std::uint32_t g
     const auto peutMarquer = [this](NoOrdre n) {
         return Existe(n) && marques_[n.valeur] != Parcouru;
     };
-    storage::ParcourirFamille(
+    records::ParcourirFamille(
         Etape{depart, generations}, [&](const Etape& etape, std::vector<Etape>& suivantes) {
             const NoOrdre n = etape.individu;
             if (marques_[n.valeur] == Parcouru) return true;
             marques_[n.valeur] = Parcouru;
-            for (const storage::Couple& couple : storage::CouplesDe(base_, n))
+            for (const records::Couple& couple : records::CouplesDe(base_, n))
                 if (peutMarquer(couple.partenaire)) marques_[couple.partenaire.valeur] = Retenu;
-            const std::array<NoOrdre, 2> parents = storage::ParentsDe(base_, n);
+            const std::array<NoOrdre, 2> parents = records::ParentsDe(base_, n);
             const std::vector<NoOrdre> enfants = base_.R_ENFANT.Elements(n);
             std::span<const NoOrdre> proches = enfants;
             std::span<const NoOrdre> suite = parents;

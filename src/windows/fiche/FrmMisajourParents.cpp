@@ -2,6 +2,7 @@
 #include "ui_FrmMisajour.h"
 
 #include "messages/Fiche.h"
+#include "records/Famille.h"
 #include "records/Filiation.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
