@@ -65,7 +65,8 @@ void PlaceDunNom(benchmark::State& etat) {
     for (const std::uint16_t n : base.R_TRI.individus.Numeros())
         tous.emplace_back(n);
     for (auto _ : etat)
-        benchmark::DoNotOptimize(records::PositionDans(base, tous, "MARTIN"));
+        benchmark::DoNotOptimize(records::PositionDans(
+            base, tous.size(), [&tous](std::size_t i) { return tous[i]; }, "MARTIN"));
 }
 BENCHMARK(PlaceDunNom)->Unit(benchmark::kMillisecond);
 

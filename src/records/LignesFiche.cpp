@@ -63,14 +63,10 @@ private:
     }
 
     void LirePersonne() {
-        const Sexe sexe = base_.R_SEXE.LireCellule(n_);
-        const NoMessage messageSexe = sexe == Sexe::Homme   ? message::SexeMasculin
-                                      : sexe == Sexe::Femme ? message::SexeFeminin
-                                                            : message::SexeIndetermine;
         Ajouter(session_.Message(message::Personne),
                 Enumerer({session_.catalogue.Composer(
                               shell::Msg(message::NumeroDePersonne, std::to_string(n_.valeur))),
-                          session_.Message(messageSexe)}));
+                          session_.Message(MessageDuSexe(base_.R_SEXE.LireCellule(n_)))}));
         Ajouter(Libelle(tag::Naissance),
                 Enumerer({DateNaissance(session_, n_), storage::LieuNaissance(base_, n_)}));
         Ajouter(Libelle(tag::Deces),

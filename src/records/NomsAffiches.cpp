@@ -1,5 +1,6 @@
 #include "records/NomsAffiches.h"
 
+#include "messages/Messages.h"
 #include "records/Famille.h"
 #include "shell/Numerotation.h"
 #include "storage/Base.h"
@@ -24,6 +25,28 @@ void AjouterNumero(shell::Session& session, NoOrdre n, int k, const SortieValeur
     std::string texte{k == 1 ? '[' : '{'};
     texte.append(numero).push_back(k == 1 ? ']' : '}');
     sortie(texte);
+}
+
+/// What a keyword says of a person: the place or the plain word, or the date of a dated one that
+/// has no place. `tag` is the label of the keyword as stored; empty when it is not declared.
+std::string ValeurMotCle(shell::Session& session, NoOrdre n, std::string_view tag) {
+    if (!Existe(session, n) || tag.empty()) return {};
+    storage::Base& base = *session.base;
+    NoMotCle trouve{};
+    for (std::uint32_t k = 1; k <= base.motsCles.Nombre() && !trouve; ++k)
+        if (base.motsCles.LibelleType(NoMotCle{k}).libelle == tag) trouve = NoMotCle{k};
+    if (!trouve) return {};
+
+    const char symbole = base.motsCles.LibelleType(trouve).symbole;
+    const storage::Slots& slots = base.entete.SlotsIndividu;
+    for (std::size_t i = 0; i < storage::NbSlots(slots); ++i) {
+        if (slots[i].symbole != symbole) continue;
+        const storage::TableSlots lus = storage::SlotsDe(base, n);
+        if (i >= lus.size()) return {};
+        return lus[i].lieu.empty() ? DateAffichee(session, lus[i].jourMois, lus[i].annee)
+                                   : lus[i].lieu;
+    }
+    return storage::LireLieu(base.R_TEXTE.LireTexte(n), symbole);
 }
 
 /// What a token of the template stands for.
@@ -96,32 +119,17 @@ std::string NumerosAffiches(shell::Session& session, NoOrdre n) {
                        });
 }
 
-std::string ValeurMotCle(shell::Session& session, NoOrdre n, std::string_view tag) {
-    if (!Existe(session, n) || tag.empty()) return {};
-    storage::Base& base = *session.base;
-    NoMotCle trouve{};
-    for (std::uint32_t k = 1; k <= base.motsCles.Nombre() && !trouve; ++k)
-        if (base.motsCles.LibelleType(NoMotCle{k}).libelle == tag) trouve = NoMotCle{k};
-    if (!trouve) return {};
-
-    const char symbole = base.motsCles.LibelleType(trouve).symbole;
-    const storage::Slots& slots = base.entete.SlotsIndividu;
-    for (std::size_t i = 0; i < storage::NbSlots(slots); ++i) {
-        if (slots[i].symbole != symbole) continue;
-        const storage::TableSlots lus = storage::SlotsDe(base, n);
-        if (i >= lus.size()) return {};
-        return lus[i].lieu.empty() ? DateAffichee(session, lus[i].jourMois, lus[i].annee)
-                                   : lus[i].lieu;
-    }
-    return storage::LireLieu(base.R_TEXTE.LireTexte(n), symbole);
-}
-
 std::string DateAffichee(const shell::Session& session, std::string_view jourMois,
                          std::string_view annee) {
     std::string date{SansBlancs(CvtDateAffichage(jourMois, session.Mots()))};
     annee = SansBlancs(annee);
     if (!date.empty() && !annee.empty()) date.push_back(' ');
     return date.append(annee);
+}
+
+NoMessage MessageDuSexe(Sexe sexe) {
+    if (sexe == Sexe::Homme) return message::SexeMasculin;
+    return sexe == Sexe::Femme ? message::SexeFeminin : message::SexeIndetermine;
 }
 
 std::string DateNaissance(shell::Session& session, NoOrdre n) {

@@ -2,6 +2,7 @@
 
 #include "shell/Session.h"
 #include "values/Numeros.h"
+#include "values/Sexe.h"
 
 #include <string>
 #include <string_view>
@@ -26,13 +27,12 @@ namespace dorvane::records {
 /// The numbers of a person for the two `De Cujus`: "[5] {.1a2}"; empty when there is none.
 [[nodiscard]] std::string NumerosAffiches(shell::Session& session, NoOrdre n);
 
-/// What a keyword says of a person: the place or the plain word, or the date of a dated one that
-/// has no place. `tag` is the label of the keyword as stored; empty when it is not declared.
-[[nodiscard]] std::string ValeurMotCle(shell::Session& session, NoOrdre n, std::string_view tag);
-
 /// A stored day-month text and a year as the user reads them: "12 mars 1820", "vers 1820".
 [[nodiscard]] std::string DateAffichee(const shell::Session& session, std::string_view jourMois,
                                        std::string_view annee);
+
+/// The word for a sex; that for an undetermined one for all that is not known.
+[[nodiscard]] NoMessage MessageDuSexe(Sexe sexe);
 
 [[nodiscard]] std::string DateNaissance(shell::Session& session, NoOrdre n);
 [[nodiscard]] std::string DateDeces(shell::Session& session, NoOrdre n);

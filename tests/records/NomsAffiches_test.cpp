@@ -1,6 +1,7 @@
 #include "records/NomsAffiches.h"
 
 #include "doublures/SessionEssai.h"
+#include "messages/Messages.h"
 #include "shell/CycleDeVie.h"
 #include "shell/Demarrage.h"
 #include "shell/Numerotation.h"
@@ -141,6 +142,13 @@ TEST_CASE_FIXTURE(Famille, "Displayed dates are in the words of the catalogue in
     B().R_TXTMAR.EcrireTexte(m, "1/5 @Paris");
     CHECK(DateMariage(session, m) == "1st May 1845");
     CHECK(DateMariage(session, NoMariage{7}).empty());
+}
+
+TEST_CASE("MessageDuSexe: a sex that is not known has the word of an undetermined one") {
+    CHECK(MessageDuSexe(Sexe::Homme) == message::SexeMasculin);
+    CHECK(MessageDuSexe(Sexe::Femme) == message::SexeFeminin);
+    for (const Sexe sexe : {Sexe::Indetermine, Sexe::Vide, static_cast<Sexe>('X')})
+        CHECK(MessageDuSexe(sexe) == message::SexeIndetermine);
 }
 
 TEST_CASE_FIXTURE(Famille,

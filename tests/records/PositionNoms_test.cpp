@@ -18,7 +18,11 @@ struct Famille : EssaiFamille {
     }
     /// The number of the person found.
     [[nodiscard]] std::uint32_t A(std::string_view texte) {
-        return ordre[PositionDans(base, ordre, texte)].valeur;
+        return ordre[Place(ordre.size(), texte)].valeur;
+    }
+    [[nodiscard]] std::size_t Place(std::size_t nombre, std::string_view texte) {
+        return PositionDans(
+            base, nombre, [this](std::size_t i) { return ordre.at(i); }, texte);
     }
     std::vector<NoOrdre> ordre;
 };
@@ -58,5 +62,5 @@ TEST_CASE_FIXTURE(ParNaissance, "By years of birth the text is a year") {
 TEST_CASE_FIXTURE(ParCreation,
                   "By creation there is no key, and no base gives no answer past its persons") {
     CHECK(A("Zola") == 1);
-    CHECK(PositionDans(base, {}, "Zola") == 0);
+    CHECK(Place(0, "Zola") == 0);
 }

@@ -4,7 +4,6 @@
 #include <QMimeData>
 
 #include "messages/Dorvane.h"
-#include "messages/Messages.h"
 #include "records/NomsAffiches.h"
 #include "records/PositionNoms.h"
 #include "shell/Session.h"
@@ -62,11 +61,10 @@ bool ModeleNoms::Positionnable() const {
 
 int ModeleNoms::Position(const QString& texte) const {
     if (rowCount({}) == 0 || !S().base) return -1;
-    std::vector<NoOrdre> montres;
-    montres.reserve(static_cast<std::size_t>(rowCount({})));
-    for (int rangee = 0; rangee < rowCount({}); ++rangee)
-        montres.push_back(Individu(rangee));
-    return static_cast<int>(records::PositionDans(*S().base, montres, QtVersTexte(texte).octets));
+    return static_cast<int>(records::PositionDans(
+        *S().base, static_cast<std::size_t>(rowCount({})),
+        [this](std::size_t rangee) { return Individu(static_cast<int>(rangee)); },
+        QtVersTexte(texte).octets));
 }
 
 QVariant ModeleNoms::Autre(std::uint32_t numero, int colonne, int role) const {
@@ -106,12 +104,8 @@ QString ModeleNoms::Bulle(NoOrdre individu, int colonne) const {
                                    : mere       ? message::BulleMereConnue
                                                 : message::BulleParentsInconnus);
         }
-        case Sexe: {
-            const dorvane::Sexe sexe = S().base->R_SEXE.LireCellule(individu);
-            return TexteEcran(S(), sexe == dorvane::Sexe::Homme   ? message::SexeMasculin
-                                   : sexe == dorvane::Sexe::Femme ? message::SexeFeminin
-                                                                  : message::SexeIndetermine);
-        }
+        case Sexe:
+            return TexteEcran(S(), records::MessageDuSexe(S().base->R_SEXE.LireCellule(individu)));
         case Famille: {
             switch (FamilleDe(individu)) {
                 case EtatFamille::UnionsEtEnfants:
