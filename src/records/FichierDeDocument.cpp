@@ -1,5 +1,6 @@
 #include "records/FichierDeDocument.h"
 
+#include "messages/Faits.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "values/Texte1252.h"
@@ -32,6 +33,25 @@ std::filesystem::path FichierDeDocument(const std::filesystem::path& base,
 
 std::filesystem::path FichierDeDocument(const shell::Session& session, NoDocument document) {
     return FichierDeDocument(session.CheminBase, session.base->R_IMAGE.FichierDoc(document));
+}
+
+EtatDocument EtatDe(const std::filesystem::path& base, const storage::Document& document) {
+    return {NatureDe(document), FichierDeDocument(base, document.fichier)};
+}
+
+NoMessage MessageDEtat(const EtatDocument& etat) {
+    switch (etat.nature) {
+        case NatureDocument::Rien:
+            return message::SansFichier;
+        case NatureDocument::Adresse:
+            return message::AdresseWeb;
+        case NatureDocument::Courriel:
+            return message::AdresseElectronique;
+        case NatureDocument::Lien:
+        case NatureDocument::Fichier:
+            break;
+    }
+    return etat.Absent() ? message::FichierAbsent : NoMessage{};
 }
 
 }  // namespace dorvane::records

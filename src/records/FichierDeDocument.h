@@ -1,5 +1,6 @@
 #pragma once
 
+#include "records/FicheDocument.h"
 #include "values/Numeros.h"
 
 #include <filesystem>
@@ -19,5 +20,24 @@ namespace dorvane::records {
 /// The file of a document of the open base; empty when it is not there.
 [[nodiscard]] std::filesystem::path FichierDeDocument(const shell::Session& session,
                                                       NoDocument document);
+
+/// What there is of a document.
+struct EtatDocument {
+    NatureDocument nature = NatureDocument::Rien;
+    /// The file of its name, whatever its nature; empty when there is none.
+    std::filesystem::path fichier{};
+
+    /// A file or a link that is not there.
+    [[nodiscard]] bool Absent() const {
+        return fichier.empty() &&
+               (nature == NatureDocument::Fichier || nature == NatureDocument::Lien);
+    }
+    friend bool operator==(const EtatDocument&, const EtatDocument&) = default;
+};
+[[nodiscard]] EtatDocument EtatDe(const std::filesystem::path& base,
+                                  const storage::Document& document);
+
+/// The word for a document that has no file to show; none for a file that is there.
+[[nodiscard]] NoMessage MessageDEtat(const EtatDocument& etat);
 
 }  // namespace dorvane::records

@@ -159,39 +159,19 @@ void FrmDesImage::SuivreFichier() {
 }
 
 void FrmDesImage::MontrerApercu() {
-    NoMessage message{};
+    const records::EtatDocument etat = records::EtatDe(S().CheminBase, saisie_.valeurs);
+    NoMessage message = records::MessageDEtat(etat);
     QPixmap image;
-    switch (records::NatureDe(saisie_.valeurs)) {
-        case NatureDocument::Rien:
-            message = message::SansFichier;
-            break;
-        case NatureDocument::Adresse:
-            message = message::AdresseWeb;
-            break;
-        case NatureDocument::Courriel:
-            message = message::AdresseElectronique;
-            break;
-        case NatureDocument::Lien:
-        case NatureDocument::Fichier: {
-            std::filesystem::path fichier =
-                records::FichierDeDocument(S().CheminBase, saisie_.valeurs.fichier);
-            if (fichier.empty()) {
-                message = message::FichierAbsent;
-                break;
-            }
-            if (records::NatureDe(saisie_.valeurs) == NatureDocument::Lien)
-                fichier = records::LireLien(fichier);
-            image = VignetteDeFichier(fichier, CoteApercu);
-            if (image.isNull()) message = message::AucunApercu;
-            break;
-        }
+    if (!message) {
+        const bool lien = etat.nature == NatureDocument::Lien;
+        image =
+            VignetteDeFichier(lien ? records::LireLien(etat.fichier) : etat.fichier, CoteApercu);
+        if (image.isNull()) message = message::AucunApercu;
     }
     ui_->LblApercu->setPixmap(image);
     if (image.isNull()) ui_->LblApercu->setText(TexteEcran(S(), message));
-    ui_->LblAvis->setText(message == message::FichierAbsent
-                              ? TexteEcran(S(), message::FichierPasASaPlace)
-                              : QString{});
-    ui_->LblAvis->setVisible(message == message::FichierAbsent);
+    ui_->LblAvis->setText(etat.Absent() ? TexteEcran(S(), message::FichierPasASaPlace) : QString{});
+    ui_->LblAvis->setVisible(etat.Absent());
     Avertir(*ui_->LblAvis);
 }
 

@@ -5,7 +5,6 @@
 
 #include "messages/Faits.h"
 #include "records/FicheDocument.h"
-#include "records/FichierDeDocument.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 #include "windows/controles/Icones.h"
@@ -15,16 +14,13 @@
 
 namespace dorvane::windows {
 
-using records::NatureDocument;
-
 namespace {
 
-/// The drawing for a document without a picture, by its state.
-const char* NomIcone(NoMessage etat) {
-    if (etat == message::FichierAbsent) return "FichierAbsent";
-    if (etat == message::AdresseWeb) return "Adresse";
-    if (etat == message::AdresseElectronique) return "Courriel";
-    return "Fichier";
+/// The drawing for a document without a picture.
+const char* NomIcone(const records::EtatDocument& etat) {
+    if (etat.Absent()) return "FichierAbsent";
+    if (etat.nature == records::NatureDocument::Adresse) return "Adresse";
+    return etat.nature == records::NatureDocument::Courriel ? "Courriel" : "Fichier";
 }
 
 }  // namespace
@@ -39,19 +35,8 @@ std::vector<std::uint32_t> ModeleDocuments::Numeros(const shell::Session& sessio
     return {tri.begin(), tri.end()};
 }
 
-NoMessage ModeleDocuments::MessageEtat(NoDocument document) const {
-    switch (records::NatureDe(S().base->R_IMAGE.LireDoc(document))) {
-        case NatureDocument::Rien:
-            return message::SansFichier;
-        case NatureDocument::Adresse:
-            return message::AdresseWeb;
-        case NatureDocument::Courriel:
-            return message::AdresseElectronique;
-        case NatureDocument::Lien:
-        case NatureDocument::Fichier:
-            break;
-    }
-    return records::FichierDeDocument(S(), document).empty() ? message::FichierAbsent : NoMessage{};
+records::EtatDocument ModeleDocuments::EtatDe(NoDocument document) const {
+    return records::EtatDe(S().CheminBase, S().base->R_IMAGE.LireDoc(document));
 }
 
 std::string ModeleDocuments::Texte(std::uint32_t numero, int colonne) const {
@@ -64,7 +49,7 @@ std::string ModeleDocuments::Texte(std::uint32_t numero, int colonne) const {
         case Fichier:
             return S().base->R_IMAGE.FichierDoc(document);
         default: {
-            const NoMessage message = MessageEtat(document);
+            const NoMessage message = records::MessageDEtat(EtatDe(document));
             std::string etat = message ? S().Message(message) : std::string{};
             if (S().base->entete.DocBase == document)
                 etat += (etat.empty() ? "" : ", ") + S().Message(message::DocumentTitreDeLaBase);
@@ -76,10 +61,10 @@ std::string ModeleDocuments::Texte(std::uint32_t numero, int colonne) const {
 QVariant ModeleDocuments::Autre(std::uint32_t numero, int colonne, int role) const {
     const NoDocument document{numero};
     if (role == Qt::DecorationRole && colonne == Titre) {
-        const QPixmap vignette =
-            VignetteDeFichier(records::FichierDeDocument(S(), document), CoteVignette);
+        const records::EtatDocument etat = EtatDe(document);
+        const QPixmap vignette = VignetteDeFichier(etat.fichier, CoteVignette);
         if (!vignette.isNull()) return vignette;
-        return Icone(NomIcone(MessageEtat(document)));
+        return Icone(NomIcone(etat));
     }
     // The whole title, with what stands behind its slash.
     if (role == Qt::ToolTipRole && colonne == Titre)

@@ -2,6 +2,7 @@
 
 #include <QAbstractTableModel>
 
+#include "records/FichierDeDocument.h"
 #include "values/Numeros.h"
 #include "windows/controles/ModeleListe.h"
 
@@ -29,7 +30,7 @@ protected:
     [[nodiscard]] QVariant Autre(std::uint32_t numero, int colonne, int role) const override;
 
 private:
-    [[nodiscard]] NoMessage MessageEtat(NoDocument document) const;
+    [[nodiscard]] records::EtatDocument EtatDe(NoDocument document) const;
 };
 
 }  // namespace dorvane::windows

@@ -61,14 +61,12 @@ void PageDocuments::Charger(NoOrdre individu, bool /*garder*/) {
             ligne.textes << TexteVersQt(records::TitreAffiche(lu))
                          << TexteVersQt(shell::LibelleDeTag(S().catalogue, lu.type))
                          << TexteVersQt(lu.fichier);
-            const std::filesystem::path fichier = records::FichierDeDocument(S(), document);
-            const records::NatureDocument nature = records::NatureDe(lu);
-            if (fichier.empty() && (nature == records::NatureDocument::Fichier ||
-                                    nature == records::NatureDocument::Lien)) {
+            const records::EtatDocument etat = records::EtatDe(S().CheminBase, lu);
+            if (etat.Absent()) {
                 ligne.icone = Icone("FichierAbsent");
                 ligne.textes.last() +=
                     QStringLiteral(" \u2013 ") + TexteEcran(S(), message::FichierAbsent);
-            } else if (const QPixmap vignette = VignetteDeFichier(fichier, CoteVignette);
+            } else if (const QPixmap vignette = VignetteDeFichier(etat.fichier, CoteVignette);
                        !vignette.isNull()) {
                 ligne.icone = QIcon{vignette};
             }
