@@ -4,6 +4,9 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+#include "windows/controles/Unicode.h"
+#include "windows/graphe/EnQt.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -25,26 +28,25 @@ QColor Meler(const QColor& a, const QColor& b, double part) {
 }
 
 /// A line with its corners rounded as far as there is room.
-void AjouterTrait(QPainterPath& chemin, const Trait& trait) {
+void AjouterTrait(QPainterPath& chemin, const records::Trait& trait) {
     constexpr double Arrondi = 9;
-    chemin.moveTo(trait[0]);
-    const double vertical = trait[2].y() - trait[1].y();
-    const double r =
-        std::min({Arrondi, std::abs(vertical) / 2, std::abs(trait[1].x() - trait[0].x()),
-                  std::abs(trait[3].x() - trait[2].x())});
+    chemin.moveTo(EnQt(trait[0]));
+    const double vertical = trait[2].y - trait[1].y;
+    const double r = std::min({Arrondi, std::abs(vertical) / 2, std::abs(trait[1].x - trait[0].x),
+                               std::abs(trait[3].x - trait[2].x)});
     if (r < 1) {
         for (std::size_t i = 1; i < trait.size(); ++i)
-            chemin.lineTo(trait[i]);
+            chemin.lineTo(EnQt(trait[i]));
         return;
     }
     const double sens = vertical > 0 ? r : -r;
-    const double avant = trait[1].x() > trait[0].x() ? r : -r;
-    const double apres = trait[3].x() > trait[2].x() ? r : -r;
-    chemin.lineTo(trait[1].x() - avant, trait[1].y());
-    chemin.quadTo(trait[1], QPointF{trait[1].x(), trait[1].y() + sens});
-    chemin.lineTo(trait[2].x(), trait[2].y() - sens);
-    chemin.quadTo(trait[2], QPointF{trait[2].x() + apres, trait[2].y()});
-    chemin.lineTo(trait[3]);
+    const double avant = trait[1].x > trait[0].x ? r : -r;
+    const double apres = trait[3].x > trait[2].x ? r : -r;
+    chemin.lineTo(trait[1].x - avant, trait[1].y);
+    chemin.quadTo(EnQt(trait[1]), QPointF{trait[1].x, trait[1].y + sens});
+    chemin.lineTo(trait[2].x, trait[2].y - sens);
+    chemin.quadTo(EnQt(trait[2]), QPointF{trait[2].x + apres, trait[2].y});
+    chemin.lineTo(EnQt(trait[3]));
 }
 
 }  // namespace
@@ -65,7 +67,7 @@ CaseGraphique::CaseGraphique(std::size_t indice, const records::CaseFamille& mod
 }
 
 void CaseGraphique::PreparerTextes() {
-    const MesuresGraphe& m = style_.mesures;
+    const records::MesuresGraphe& m = style_.mesures;
     const double cote = m.tailleNom + 2.0;
     QRectF reste = boite_.adjusted(Marge, 0, -Marge, 0);
     if (!contenu_.vignette.isNull()) reste.setLeft(reste.left() + m.hauteur - 2 * Marge + Marge);
@@ -214,10 +216,12 @@ void CaseGraphique::PeindreSuite(QPainter& peintre) const {
     }
 }
 
-FondGraphique::FondGraphique(const DessinQt& dessin, const StyleGraphe& style)
-    : unions_{dessin.unions}, cadre_{dessin.cadre.adjusted(-80, -40, 80, 40)}, style_{style} {
-    for (const Trait& trait : dessin.traits)
+FondGraphique::FondGraphique(const records::DessinFamille& dessin, const StyleGraphe& style)
+    : cadre_{EnQt(dessin.cadre).adjusted(-80, -40, 80, 40)}, style_{style} {
+    for (const records::Trait& trait : dessin.traits)
         AjouterTrait(chemin_, trait);
+    for (const records::EtiquetteUnion& etiquette : dessin.unions)
+        unions_.push_back({EnQt(etiquette.centre), TexteVersQt(etiquette.annee)});
 }
 
 void FondGraphique::paint(QPainter* peintre, const QStyleOptionGraphicsItem* /*option*/,

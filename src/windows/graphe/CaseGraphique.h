@@ -6,8 +6,8 @@
 #include <QPixmap>
 #include <QString>
 
+#include "records/DessinFamille.h"
 #include "values/Sexe.h"
-#include "windows/graphe/DessinQt.h"
 #include "windows/graphe/PaletteGraphe.h"
 
 namespace dorvane::windows {
@@ -15,7 +15,7 @@ namespace dorvane::windows {
 /// What all boxes of a chart share.
 struct StyleGraphe {
     PaletteGraphe palette;
-    MesuresGraphe mesures{};
+    records::MesuresGraphe mesures{};
     QFont nom;
     QFont dates;
     bool proportionnel = true;  ///< a name too long for its box is written smaller
@@ -72,12 +72,17 @@ private:
 class FondGraphique final : public QGraphicsItem {
 public:
     /// `style` outlives the item.
-    FondGraphique(const DessinQt& dessin, const StyleGraphe& style);
+    FondGraphique(const records::DessinFamille& dessin, const StyleGraphe& style);
 
     [[nodiscard]] QRectF boundingRect() const override { return cadre_; }
     void paint(QPainter* peintre, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
 private:
+    /// The year of a union, in the middle of `centre`; empty when it is not known.
+    struct EtiquetteUnion {
+        QPointF centre;
+        QString annee;
+    };
     void PeindreUnion(QPainter& peintre, const EtiquetteUnion& etiquette) const;
 
     QPainterPath chemin_;

@@ -86,8 +86,9 @@ void FrmDebut::ChangerGenerations(records::Generations generations) {
 StyleGraphe FrmDebut::FaireStyle() const {
     const shell::Affichage& affichage = session_.parametres.base.affichage;
     const shell::Presentation& presentation = affichage.Courante();
-    StyleGraphe style{FairePalette(palette_, affichage), MesuresDe(affichage.typePresentation),
-                      font(), font(), presentation.proportionnel};
+    StyleGraphe style{FairePalette(palette_, affichage),
+                      records::MesuresDe(affichage.typePresentation), font(), font(),
+                      presentation.proportionnel};
     if (style.palette.policesReglees) {
         style.nom.setFamily(TexteVersQt(presentation.nomPolice));
         style.dates.setFamily(style.nom.family());
@@ -137,12 +138,12 @@ void FrmDebut::Construire() {
         modele_ =
             records::ConstruireFamille(*session_.base, session_.PersonneEnCours, generations_);
     if (modele_.cases.empty()) return;
-    dessin_ = DessinerEnQt(*session_.base, modele_, style_.mesures);
+    dessin_ = records::DessinerFamille(*session_.base, modele_, style_.mesures);
     scene_.addItem(new FondGraphique{dessin_, style_});
     cases_.reserve(modele_.cases.size());
     for (std::size_t i = 0; i < modele_.cases.size(); ++i) {
         const records::CaseFamille& c = modele_.cases[i];
-        cases_.push_back(new CaseGraphique{i, c, dessin_.boites[i], LireCase(c), style_});
+        cases_.push_back(new CaseGraphique{i, c, CaseScene(i), LireCase(c), style_});
         scene_.addItem(cases_.back());
     }
 }
@@ -154,7 +155,7 @@ void FrmDebut::Actualiser() {
     bool connue = false;
     for (const CaseGraphique* boite : cases_)
         if (!connue && montree_ && boite->Individu() == session_.PersonneEnCours) {
-            depuis.centre -= dessin_.boites[boite->Indice()].center();
+            depuis.centre -= CaseScene(boite->Indice()).center();
             connue = true;
         }
     const bool autre = montree_ != session_.PersonneEnCours;
@@ -212,7 +213,7 @@ void FrmDebut::Arreter() {
 QPointF FrmDebut::CentreVoulu() const {
     const QSizeF vue = QSizeF{viewport()->size()} / Echelle();
     const double bord = Bord / Echelle();
-    const QRectF cadre = dessin_.cadre.adjusted(-bord, -bord, bord, bord);
+    const QRectF cadre = Cadre().adjusted(-bord, -bord, bord, bord);
     const auto placer = [](double debut, double fin, double taille) {
         if (fin - debut <= taille) return (debut + fin) / 2;
         return std::clamp(0.0, debut + taille / 2, fin - taille / 2);
@@ -224,7 +225,7 @@ QPointF FrmDebut::CentreVoulu() const {
 /// As many boxes in height as the presentation asks for; more when all of them fit.
 double FrmDebut::EchelleVoulue() const {
     if (cases_.empty()) return 1;
-    const MesuresGraphe& m = style_.mesures;
+    const records::MesuresGraphe& m = style_.mesures;
     const double rangs =
         std::max(1.0, session_.parametres.base.affichage.Courante().nombreCases / 2.0);
     const double parCases = viewport()->height() / (rangs * (m.hauteur + m.ecart));
@@ -233,20 +234,20 @@ double FrmDebut::EchelleVoulue() const {
 
 /// The scale at which the whole chart is seen.
 double FrmDebut::EchelleEntiere() const {
-    return std::min((viewport()->width() - 2 * Bord) / std::max(1.0, dessin_.cadre.width()),
-                    (viewport()->height() - 2 * Bord) / std::max(1.0, dessin_.cadre.height()));
+    return std::min((viewport()->width() - 2 * Bord) / std::max(1.0, dessin_.cadre.largeur),
+                    (viewport()->height() - 2 * Bord) / std::max(1.0, dessin_.cadre.hauteur));
 }
 
 /// The ground goes on around the chart, so that any box can come under the pointer.
 void FrmDebut::Etendre() {
     const double x = viewport()->width() / Echelle();
     const double y = viewport()->height() / Echelle();
-    scene_.setSceneRect(dessin_.cadre.adjusted(-x, -y, x, y));
+    scene_.setSceneRect(Cadre().adjusted(-x, -y, x, y));
 }
 
 bool FrmDebut::Echelonner(double facteur) {
     const double nouvelle = Echelle() * facteur;
-    const double cote = std::max(dessin_.cadre.width(), dessin_.cadre.height());
+    const double cote = std::max(dessin_.cadre.largeur, dessin_.cadre.hauteur);
     if (facteur > 1 && cote * nouvelle >= SurfaceMax) return false;
     if (facteur < 1 && nouvelle < EchelleMin) return false;
     Arreter();
@@ -275,17 +276,17 @@ void FrmDebut::Ajuster() {
     if (cases_.empty()) return;
     Arreter();
     ajuste_ = false;
-    Poser({dessin_.cadre.center(), std::clamp(EchelleEntiere(), EchelleMin, EchelleAisee)});
+    Poser({EnQt(dessin_.cadre.Milieu()), std::clamp(EchelleEntiere(), EchelleMin, EchelleAisee)});
 }
 
 QRect FrmDebut::CaseEcran(std::size_t indice) const {
-    return mapFromScene(dessin_.boites[indice]).boundingRect();
+    return mapFromScene(CaseScene(indice)).boundingRect();
 }
 
 CaseGraphique* FrmDebut::CaseSous(const QPoint& point) const {
     const QPointF scene = mapToScene(point);
     for (CaseGraphique* boite : cases_)
-        if (dessin_.boites[boite->Indice()].contains(scene)) return boite;
+        if (CaseScene(boite->Indice()).contains(scene)) return boite;
     return nullptr;
 }
 

@@ -4,10 +4,11 @@
 #include <QGraphicsView>
 #include <QVariantAnimation>
 
+#include "records/DessinFamille.h"
 #include "records/ModeleFamille.h"
 #include "values/Sexe.h"
 #include "windows/graphe/CaseGraphique.h"
-#include "windows/graphe/DessinQt.h"
+#include "windows/graphe/EnQt.h"
 #include "windows/graphe/PaletteGraphe.h"
 
 #include <vector>
@@ -53,12 +54,15 @@ public:
     void PoserPalette(Palette palette);
 
     [[nodiscard]] const records::ModeleFamille& Modele() const { return modele_; }
-    [[nodiscard]] const DessinQt& Dessin() const { return dessin_; }
+    [[nodiscard]] const records::DessinFamille& Dessin() const { return dessin_; }
 
     /// `Circle1`: the boxes in the order of the model.
     [[nodiscard]] const std::vector<CaseGraphique*>& Cases() const { return cases_; }
 
-    /// Where a box stands in the viewport.
+    /// Where a box stands in the scene, and in the viewport.
+    [[nodiscard]] QRectF CaseScene(std::size_t indice) const {
+        return EnQt(dessin_.boites[indice]);
+    }
     [[nodiscard]] QRect CaseEcran(std::size_t indice) const;
 
     [[nodiscard]] double Echelle() const { return transform().m11(); }
@@ -74,8 +78,7 @@ Q_SIGNALS:
     void personneDemandee(quint32 individu);
     /// A double click on the current person, or Enter.
     void ficheDemandee(quint32 individu);
-    /// A click on the box of a parent who is not known, at a point of the screen. on that
-    /// side.
+    /// A click on the box of a parent who is not known, on that side, at a point of the screen.
     void parentDemande(quint32 enfant, Cote cote, const QPoint& point);
     /// A person was dropped on such a box.
     void parentDepose(quint32 enfant, Cote cote, quint32 parent);
@@ -107,6 +110,8 @@ private:
     };
 
     void Construire();
+    /// Around all boxes, in the scene.
+    [[nodiscard]] QRectF Cadre() const { return EnQt(dessin_.cadre); }
     [[nodiscard]] StyleGraphe FaireStyle() const;
     [[nodiscard]] ContenuCase LireCase(const records::CaseFamille& modele) const;
     [[nodiscard]] CaseGraphique* CaseSous(const QPoint& point) const;
@@ -131,7 +136,7 @@ private:
     shell::Session& session_;
     QGraphicsScene scene_;
     records::ModeleFamille modele_;
-    DessinQt dessin_;
+    records::DessinFamille dessin_;
     StyleGraphe style_;
     Palette palette_ = Palette::Claire;
     records::Generations generations_;

@@ -4,6 +4,8 @@
 #include <QWheelEvent>
 
 #include "windows/Essai.h"
+#include "windows/controles/Unicode.h"
+#include "windows/graphe/EnQt.h"
 
 #include <algorithm>
 #include <random>
@@ -34,10 +36,10 @@ void DoubleClic(FrmDebut& graphe, std::size_t indice) {
 }
 
 /// A line runs through a box, not only along its edge.
-bool Traverse(const Trait& trait, const QRectF& boite) {
+bool Traverse(const records::Trait& trait, const QRectF& boite) {
     const QRectF dedans = boite.adjusted(1, 1, -1, -1);
     for (std::size_t i = 1; i < trait.size(); ++i) {
-        const QRectF segment = QRectF{trait[i - 1], trait[i]}.normalized();
+        const QRectF segment = QRectF{EnQt(trait[i - 1]), EnQt(trait[i])}.normalized();
         if (segment.right() > dedans.left() && segment.left() < dedans.right() &&
             segment.bottom() > dedans.top() && segment.top() < dedans.bottom())
             return true;
@@ -58,8 +60,8 @@ TEST_CASE_FIXTURE(FenetreEssai,
     CHECK(paul.bulle == "Paul Martin (1820-1890)");
     CHECK(Graphe().Cases()[0]->toolTip() == "Paul Martin (1820-1890)");
     QStringList unions;
-    for (const EtiquetteUnion& etiquette : Graphe().Dessin().unions)
-        unions << etiquette.annee;
+    for (const records::EtiquetteUnion& etiquette : Graphe().Dessin().unions)
+        unions << TexteVersQt(etiquette.annee);
     unions.sort();
     CHECK(unions.join(u' ') == "1815 1850 1860");
 }
@@ -67,11 +69,11 @@ TEST_CASE_FIXTURE(FenetreEssai,
 TEST_CASE_FIXTURE(FenetreEssai,
                   "FrmDébut: ascendants stand on the right, descendants on the left") {
     DemarrerFamille();
-    const auto& boites = Graphe().Dessin().boites;
-    CHECK(boites[IndiceDe(Graphe(), 1)].left() > boites[0].right());
-    CHECK(boites[IndiceDe(Graphe(), 6)].right() < boites[0].left());
-    CHECK(boites[IndiceDe(Graphe(), 4)].top() > boites[0].bottom());
-    CHECK(boites[0].center() == QPointF{0, 0});
+    const auto boite = [this](std::size_t indice) { return Graphe().CaseScene(indice); };
+    CHECK(boite(IndiceDe(Graphe(), 1)).left() > boite(0).right());
+    CHECK(boite(IndiceDe(Graphe(), 6)).right() < boite(0).left());
+    CHECK(boite(IndiceDe(Graphe(), 4)).top() > boite(0).bottom());
+    CHECK(boite(0).center() == QPointF{0, 0});
 }
 
 TEST_CASE_FIXTURE(FenetreEssai, "FrmDébut: a double click moves to the person of a box") {
@@ -147,8 +149,8 @@ TEST_CASE_FIXTURE(FenetreEssai,
     CHECK(Graphe().Echelle() == doctest::Approx(depart));
     for (int i = 0; i < 30; ++i)
         Graphe().Agrandir();
-    const QRectF cadre = Graphe().Dessin().cadre;
-    const double surface = std::max(cadre.width(), cadre.height()) * Graphe().Echelle();
+    const records::Rectangle& cadre = Graphe().Dessin().cadre;
+    const double surface = std::max(cadre.largeur, cadre.hauteur) * Graphe().Echelle();
     CHECK(surface < 32000);
     CHECK(surface * 1.5 >= 32000);
     CHECK_FALSE(Graphe().Agrandir());
@@ -203,8 +205,8 @@ TEST_CASE_FIXTURE(FenetreEssai, "FrmDébut: each presentation has its boxes and 
         QTest::keyClick(&Graphe(), static_cast<Qt::Key>(Qt::Key_0 + i), Qt::AltModifier);
         CHECK(S().parametres.base.affichage.typePresentation == i);
         CHECK(Graphe().Generations() == attendues[i - 1]);
-        CHECK(Graphe().Dessin().boites[0].height() < hauteur);
-        hauteur = Graphe().Dessin().boites[0].height();
+        CHECK(Graphe().Dessin().boites[0].hauteur < hauteur);
+        hauteur = Graphe().Dessin().boites[0].hauteur;
     }
 }
 
@@ -233,11 +235,12 @@ TEST_CASE_FIXTURE(FenetreEssai, "FrmDébut: lines never cross boxes, in any pres
     for (int presentation = 1; presentation <= 4; ++presentation) {
         for (const NoOrdre n : tous) {
             const auto modele = records::ConstruireFamille(*S().base, n, {5, 5});
-            const DessinQt dessin = DessinerEnQt(*S().base, modele, MesuresDe(presentation));
-            for (const Trait& trait : dessin.traits) {
-                const bool croise =
-                    std::any_of(dessin.boites.begin(), dessin.boites.end(),
-                                [&](const QRectF& boite) { return Traverse(trait, boite); });
+            const records::DessinFamille dessin =
+                records::DessinerFamille(*S().base, modele, records::MesuresDe(presentation));
+            for (const records::Trait& trait : dessin.traits) {
+                const bool croise = std::any_of(
+                    dessin.boites.begin(), dessin.boites.end(),
+                    [&](const records::Rectangle& boite) { return Traverse(trait, EnQt(boite)); });
                 CHECK_FALSE(croise);
             }
         }
