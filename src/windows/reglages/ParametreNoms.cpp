@@ -36,6 +36,8 @@ constexpr std::array Jetons{tag::Prenom,  tag::Nom,       tag::AutresPrenoms,
 constexpr std::array<NoMessage, 6> MessagesJetons{
     message::ElementPrenoms,       message::ElementNom,       message::ElementAutresPrenoms,
     message::ElementNumeroDeCujus, message::ElementNomDuPere, message::ElementNomDeLaMere};
+/// The orders of persons, as their options stand on the page.
+constexpr std::array Tris{TypeTri::Creation, TypeTri::Naissance, TypeTri::Nom};
 constexpr int JetonsAuPlus = 10;
 constexpr NoMessage MessagesCasses[] = {message::CasseCommeTape, message::CasseMajuscules,
                                         message::CasseInitiales};
@@ -159,8 +161,10 @@ void ParametreNoms::MontrerExemple() {
 }
 
 void ParametreNoms::Charger(const shell::Reglages& r) {
-    const int tri = static_cast<char>(r.typeTri) - '0';
-    tris_[static_cast<std::size_t>(qBound(0, tri, 2))]->setChecked(true);
+    // A byte that is no order counts as the order next to it.
+    const auto tri =
+        static_cast<std::size_t>(std::ranges::lower_bound(Tris, r.typeTri) - Tris.begin());
+    tris_[std::min(tri, Tris.size() - 1)]->setChecked(true);
     QList<ListeOrdonnee::Entree> entrees;
     for (const std::string& jeton : LireModeleNom(r.generaux.affichageNom)) {
         const QString valeur = TexteVersQt(jeton);
@@ -180,7 +184,7 @@ void ParametreNoms::Charger(const shell::Reglages& r) {
 
 std::size_t ParametreNoms::Lire(shell::Reglages& r) {
     for (std::size_t i = 0; i < tris_.size(); ++i)
-        if (tris_[i]->isChecked()) r.typeTri = static_cast<TypeTri>('0' + i);
+        if (tris_[i]->isChecked()) r.typeTri = Tris[i];
     // A template without tokens would leave every person without a name.
     if (const std::string modele = Modele(); !modele.empty()) r.generaux.affichageNom = modele;
     r.base.conversionNom = CasseDe(*casses_[0]);
