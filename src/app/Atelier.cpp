@@ -18,13 +18,14 @@ Atelier::Atelier(const std::string& langue)
 }
 
 int Atelier::Ouvrir(const std::filesystem::path& chemin) {
-    storage::ResultatOuverture resultat = storage::OuvrirBase(session.disque, chemin, progression);
+    const std::filesystem::path reel = shell::CheminEntier(chemin);
+    storage::ResultatOuverture resultat = storage::OuvrirBase(session.disque, reel, progression);
     const shell::Issue issue = shell::Dire(dialogue, shell::IssueDOuverture(resultat.etat, chemin));
     if (!issue) return Statut(issue);
     if (!resultat.journalEcarte.empty())
         dialogue.Informer(
             shell::Msg(message::JournalMisDeCote, shell::CheminAffiche(resultat.journalEcarte)));
-    session.CheminBase = shell::CheminEntier(chemin);
+    session.CheminBase = reel;
     session.NomBase = shell::DeriverChemins(session.CheminBase).nom;
     session.PoserBase(std::move(resultat.base));
     session.parametres.LireParametresBase(session.CheminBase);
@@ -37,7 +38,7 @@ int Atelier::Fermer() {
     session.PoserBase(nullptr);
     if (fermee) return Fait;
     dialogue.Informer(
-        shell::Msg(message::EnregistrementBaseEchoue, shell::CheminAffiche(session.CheminBase)));
+        shell::Msg(message::FermetureBaseNonEnregistree, shell::CheminAffiche(session.CheminBase)));
     return RefusSysteme;
 }
 

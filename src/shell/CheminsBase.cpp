@@ -1,4 +1,6 @@
 #include "shell/CycleDeVie.h"
+#include "storage/Journal.h"
+#include "values/Comparaison.h"
 
 #include <algorithm>
 
@@ -26,8 +28,23 @@ fs::path AuPremierPoint(const fs::path& chemin, std::string_view extension) {
 
 fs::path CheminEntier(const fs::path& chemin) {
     std::error_code erreur;
-    const fs::path entier = fs::absolute(chemin, erreur);
-    return (erreur ? chemin : entier).lexically_normal();
+    const fs::path reel = fs::weakly_canonical(fs::absolute(chemin, erreur), erreur);
+    return erreur ? fs::absolute(chemin, erreur).lexically_normal() : reel;
+}
+
+std::string ExtensionDe(const fs::path& chemin) {
+    return EnMinuscules(chemin.extension().native());
+}
+
+bool EstFichierDeBase(const fs::path& fichier, const fs::path& base) {
+    if (base.empty()) return false;
+    fs::path verrou = base;
+    verrou += ".verrou";
+    const fs::path siens[] = {base, storage::CheminJournal(base), CheminSauvegarde(base), verrou};
+    return std::ranges::any_of(siens, [&fichier](const fs::path& sien) {
+        std::error_code erreur;
+        return fichier == sien || fs::equivalent(fichier, sien, erreur);
+    });
 }
 
 CheminsBase DeriverChemins(const fs::path& base) {

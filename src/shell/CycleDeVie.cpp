@@ -72,10 +72,9 @@ void ReprendreReglages(Session& session) {
 }
 
 /// After a commit that was refused the file holds the one before. Told.
-Issue DireEnregistrement(Session& session, bool fait) {
+Issue DireEnregistrement(Session& session, bool fait, NoMessage refus) {
     if (fait) return Issue::Faite();
-    return Dire(session.dialogue, Issue::ParSysteme(MsgChemin(message::EnregistrementBaseEchoue,
-                                                              session.CheminBase)));
+    return Dire(session.dialogue, Issue::ParSysteme(MsgChemin(refus, session.CheminBase)));
 }
 
 /// What became of the changes of a base that is about to be closed.
@@ -85,6 +84,22 @@ enum class Garde {
     Refusee,     ///< the base stays open
 };
 
+/// Writes the base with all its changes to `cible`, which is the file of no open base.
+bool EcrireCopie(Session& session, const fs::path& cible) {
+    storage::Disque& disque = session.disque;
+    const storage::ResultatVerrou verrou = disque.Verrouiller(cible);
+    if (verrou.etat != storage::EtatVerrou::Pris) return false;
+    fs::path aCote = cible;
+    aCote += ".nouveau";
+    if (!session.base->EnregistrerCopie(disque, aCote)) return false;
+    if (!storage::SupprimerJournal(disque, cible) || !disque.Renommer(aCote, cible)) {
+        static_cast<void>(disque.Supprimer(aCote));
+        return false;
+    }
+    disque.ViderDossier(cible);
+    return true;
+}
+
 /// Writes the base with all its changes into a file that the user chooses. False when he gives up
 /// or the system refuses, which he is told.
 bool EnregistrerAilleurs(Session& session) {
@@ -93,17 +108,12 @@ bool EnregistrerAilleurs(Session& session) {
          std::string{FiltreBase}, ".LGD", session.CheminBase.parent_path()});
     if (!choisi) return false;
     const fs::path cible = CheminEntier(*choisi);
-    fs::path aCote = cible;
-    aCote += ".nouveau";
-    if (cible != session.CheminBase && session.base->EnregistrerCopie(session.disque, aCote) &&
-        storage::SupprimerJournal(session.disque, cible) && session.disque.Renommer(aCote, cible)) {
-        session.disque.ViderDossier(cible);
+    const bool faite = !EstFichierDeBase(cible, session.CheminBase) && EcrireCopie(session, cible);
+    if (faite)
         session.dialogue.Annoncer(MsgChemin(message::EtatCopieEnregistree, cible));
-        return true;
-    }
-    if (session.disque.Existe(aCote)) static_cast<void>(session.disque.Supprimer(aCote));
-    session.dialogue.Informer(MsgChemin(message::CopieNonEnregistree, cible));
-    return false;
+    else
+        session.dialogue.Informer(MsgChemin(message::CopieNonEnregistree, cible));
+    return faite;
 }
 
 /// Saves before a close. While the system refuses, the user saves elsewhere, gives up or stays.
@@ -133,7 +143,7 @@ Issue Enregistrer(Session& session) {
     SauverReglagesBase(session);
     const bool fait = session.base->Enregistrer();
     if (!session.parametres.MemoriserHistorique(session.CheminBase)) DireReglagesRefuses(session);
-    return DireEnregistrement(session, fait);
+    return DireEnregistrement(session, fait, message::EnregistrementBaseEchoue);
 }
 
 }  // namespace
@@ -190,18 +200,21 @@ Issue IssueDOuverture(storage::Ouverture etat, const fs::path& chemin) {
         case storage::Ouverture::JournalDAutrui:
             return Issue::Refusee(
                 MsgChemin(message::JournalDUneAutreBase, storage::CheminJournal(chemin)));
+        case storage::Ouverture::NomReserve:
+            return Issue::Refusee(MsgChemin(message::NomDeFichierReserve, chemin.filename()));
         case storage::Ouverture::Refusee:
-            return Issue::ParSysteme(MsgChemin(message::AccesBaseRefuse, chemin));
         case storage::Ouverture::Abimee:
             break;
     }
-    return Issue::Refusee(MsgChemin(message::AccesBaseRefuse, chemin));
+    return Issue::ParSysteme(MsgChemin(message::AccesBaseRefuse, chemin));
 }
 
 Issue IssueDeCreation(storage::Ouverture etat, const fs::path& chemin) {
     if (etat == storage::Ouverture::Faite) return Issue::Faite();
     if (etat == storage::Ouverture::Occupee)
         return Issue::Refusee(MsgChemin(message::BaseOccupee, chemin));
+    if (etat == storage::Ouverture::NomReserve)
+        return Issue::Refusee(MsgChemin(message::NomDeFichierReserve, chemin.filename()));
     return Issue::ParSysteme(MsgChemin(message::CreationBaseRefusee, chemin));
 }
 
@@ -233,7 +246,7 @@ Issue FermerEtMemoriser(Session& session) {
     if (!session.parametres.MemoriserHistorique(session.CheminBase)) DireReglagesRefuses(session);
     // The file on the disk waits for its journal: the user knows.
     if (garde == Garde::Abandonnee) return Issue::ParSysteme();
-    return DireEnregistrement(session, fait);
+    return DireEnregistrement(session, fait, message::FermetureBaseNonEnregistree);
 }
 
 Issue Clore(Session& session) {
@@ -271,13 +284,14 @@ Issue MnuNouveau(Session& session) {
     const fs::path depart = session.CheminBase;
     Issue fermee = Clore(session);
     session.ecran.Actualiser();
-    if (!fermee) return fermee;
+    if (session.base) return fermee;
     const std::optional<fs::path> choisi = session.dialogue.ChoisirFichier(
         {DemandeFichier::Sorte::Enregistrer, {}, std::string{FiltreBase}, ".LGD", depart});
     if (!choisi) return Issue::Arretee();
 
     const fs::path chemin = CheminEntier(*choisi);
     const ReglagesGeneraux& generaux = session.parametres.generaux;
+    ReprendreAvantRemplacement(session, chemin);
     storage::ResultatOuverture resultat = storage::NouvelleBase(
         session.disque, chemin, {session.TypeTri, generaux.motClePrenom, generaux.motCleNom});
     if (!resultat.base) return Dire(session.dialogue, IssueDeCreation(resultat.etat, chemin));

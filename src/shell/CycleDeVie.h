@@ -13,7 +13,8 @@ enum class Ouverture;
 
 namespace dorvane::shell {
 
-/// The absolute form of a path: settings know a base by it.
+/// The absolute path of the file that a name leads to, links followed: lock, journal, backup,
+/// history and settings know a base by it. A file that is not there yet is named by its folder.
 [[nodiscard]] std::filesystem::path CheminEntier(const std::filesystem::path& chemin);
 
 /// The paths that follow from the path of a base.
@@ -31,6 +32,14 @@ struct CheminsBase {
 
 /// The path of the base that a backup restores: cut at the first dot of the name, then ".LGD".
 [[nodiscard]] std::filesystem::path CheminRestauration(const std::filesystem::path& sauvegarde);
+
+/// What follows the last dot of a file name, with the dot, in small letters: ".ged". Empty without.
+[[nodiscard]] std::string ExtensionDe(const std::filesystem::path& chemin);
+
+/// `fichier` is the base at `base`, its journal, its backup or its lock, by whatever name: nothing
+/// else may be written there. False for an empty `base`.
+[[nodiscard]] bool EstFichierDeBase(const std::filesystem::path& fichier,
+                                    const std::filesystem::path& base);
 
 /// A temporary file of the session in the working folder: `debut`, the name of the base, ".tmp".
 [[nodiscard]] std::filesystem::path FichierTemporaire(const Session& session,

@@ -67,12 +67,6 @@ void EssayerTravail(Session& session) {
     static_cast<void>(session.parametres.SauverTravail());
 }
 
-/// ".lgd" in capitals; a path shorter than an extension has none.
-std::string Extension(const fs::path& chemin) {
-    const std::string& texte = chemin.native();
-    return texte.size() < 4 ? std::string{} : EnMajuscules(texte.substr(texte.size() - 4));
-}
-
 }  // namespace
 
 void Demarrage(Session& session, const fs::path& fichier) {
@@ -85,11 +79,12 @@ void Demarrage(Session& session, const fs::path& fichier) {
     if (!fichier.empty()) OuvrirFichierDepose(session, fichier);
 }
 
-void Arret(Session& session) {
+bool Arret(Session& session) {
     const fs::path temporaires[] = {FichierTemporaire(session, "Crit"),
                                     FichierTemporaire(session, "Suit")};
     const bool aSupprimer = !session.CheminBase.empty();
     Clore(session);
+    if (session.base) return false;
     if (!session.parametres.SauverParametres() && !session.sansReglages) {
         session.sansReglages = true;
         session.dialogue.Informer(Msg(message::ReglagesNonEnregistres));
@@ -98,21 +93,18 @@ void Arret(Session& session) {
     if (aSupprimer)
         for (const fs::path& temporaire : temporaires)
             fs::remove(temporaire, erreur);
+    return true;
 }
 
 bool ConfirmerSortie(Session& session) {
-    if (!CommandePermise(session) ||
-        !session.dialogue.Confirmer(Msg(message::ConfirmerQuitterDorvane)))
-        return false;
-    // What the system refuses to save can still be kept from being lost.
-    Clore(session);
-    return !session.BaseOuverte();
+    return CommandePermise(session) &&
+           session.dialogue.Confirmer(Msg(message::ConfirmerQuitterDorvane));
 }
 
 void OuvrirFichierDepose(Session& session, const fs::path& chemin) {
-    const std::string extension = Extension(chemin);
-    const bool base = extension == ".LGD";
-    if (!base && extension != ".LGR" && extension != ".GED") return;
+    const std::string extension = ExtensionDe(chemin);
+    const bool base = extension == ".lgd";
+    if (!base && extension != ".lgr" && extension != ".ged") return;
     if (!session.disque.Existe(chemin)) return;
     if (base)
         MnuOuvrir(session, chemin);
@@ -125,7 +117,7 @@ std::vector<Langue> LanguesOffertes(const Session& session) {
     std::error_code erreur;
     for (fs::directory_iterator i{session.parametres.lieux.repertoire, erreur}, fin;
          !erreur && i != fin; i.increment(erreur)) {
-        if (EnMinuscules(i->path().extension().native()) != ".mes") continue;
+        if (ExtensionDe(i->path()) != ".mes") continue;
         const std::string nom = i->path().stem().native();
         // The caption may differ from the name on disk; only the name opens the file.
         std::string libelle = Utf8VersTexte(nom).octets;

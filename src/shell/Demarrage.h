@@ -19,8 +19,9 @@ struct Langue {
 /// `fichier` is not empty. Called once.
 void Demarrage(Session& session, const std::filesystem::path& fichier = {});
 
-/// Closes the base, saves the settings, deletes the temporary files of the session. Called once.
-void Arret(Session& session);
+/// Closes the base, saves the settings, deletes the temporary files of the session. False when the
+/// base cannot be saved and the user stays: nothing has ended, and it may be asked again.
+bool Arret(Session& session);
 
 /// The program may end: no long job runs, the person sheet is closed, and the user says yes.
 [[nodiscard]] bool ConfirmerSortie(Session& session);

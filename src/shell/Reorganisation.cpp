@@ -135,7 +135,9 @@ Issue Reecrire(Session& session, const fs::path& chemin, storage::BilanReorganis
     if (!ouverte.base) return IssueDOuverture(ouverte.etat, chemin);
     storage::Base& source = *ouverte.base;
     if (!storage::ConvertirAncienne(source, ConversionsDe(session), session.progression))
-        return Issue::Arretee();
+        return source.EnDefaut()
+                   ? Issue::ParSysteme(MsgChemin(message::NouveauFichierNonEcrit, nouveau))
+                   : Issue::Arretee();
     bilan = storage::ReorganiserVers(session.disque, source, nouveau, session.progression);
     if (bilan.issue == IssueReorganisation::Abandonnee) return Issue::Arretee();
     if (bilan.issue == IssueReorganisation::TropAbimee)

@@ -42,8 +42,12 @@ Base::Base(Disque& disque, std::filesystem::path chemin, std::unique_ptr<Verrou>
       verrou_{std::move(verrou)} {}
 
 Base::~Base() {
-    // A new base that was never committed.
+    AbandonnerProvisoire();
+}
+
+void Base::AbandonnerProvisoire() {
     if (!provisoire_.empty()) static_cast<void>(disque_.Supprimer(provisoire_));
+    provisoire_.clear();
 }
 
 void Base::AllouerSuiteIndividus() {
@@ -127,8 +131,12 @@ bool Base::Enregistrer() {
     // The tables of sorting forget that they were changed once they are handed over.
     marques.ModifBase = true;
     if (!volume.Commettre(PreparerEnTete())) return false;
+    if (!PrendreSaPlace()) {
+        // Under the name stands another file still: it must not be given a journal of this one.
+        volume.OublierCommit();
+        return false;
+    }
     volume.ProtegerZones(ZonesDuCommit());
-    if (!PrendreSaPlace()) return false;
     entete.marque = MarqueCourante;
     marques.ModifBase = false;
     return true;
@@ -157,6 +165,8 @@ bool Base::ViderSurDisque() {
 
 bool Base::Fermer() {
     const bool fait = Enregistrer();
+    // Another program may take the same name as soon as the lock is given back.
+    AbandonnerProvisoire();
     verrou_.reset();
     return fait;
 }
@@ -164,6 +174,7 @@ bool Base::Fermer() {
 bool SupprimerJournal(Disque& disque, const std::filesystem::path& base) {
     const std::filesystem::path journal = CheminJournal(base);
     if (!disque.Existe(journal)) return true;
+    if (EstDAutrui(disque, ExaminerJournal(disque, journal), base)) return false;
     if (!disque.Supprimer(journal)) return false;
     disque.ViderDossier(journal);
     return true;

@@ -31,6 +31,7 @@ enum class Ouverture {
     Abimee,            ///< a journal is there and could not be replayed
     JournalIllisible,  ///< a journal is there and cannot be read: it stays, nothing was written
     JournalDAutrui,    ///< the journal is that of another base of the folder: it stays
+    NomReserve,        ///< bears a name that the program gives to files of its own
 };
 
 /// What a new base starts with.
@@ -130,6 +131,8 @@ private:
     /// Gives all that waits to the volume; answers the 200 bytes of the header.
     [[nodiscard]] std::string PreparerEnTete();
     [[nodiscard]] bool PrendreSaPlace();
+    /// Takes the file of a new base away that was never committed.
+    void AbandonnerProvisoire();
     void EcrireRepertoiresEvt();
     void AllouerSuiteIndividus();
     [[nodiscard]] std::vector<Zone> ZonesDuCommit() const;
@@ -150,6 +153,10 @@ struct ResultatOuverture {
     std::filesystem::path journalEcarte{};
 };
 
+/// Whether a name is of those that the program gives to what lies beside a base: journal, backup,
+/// lock, working files, in capitals or not. A base of that name would be taken for one of them.
+[[nodiscard]] bool EstNomReserve(const std::filesystem::path& chemin);
+
 /// Opens the file at `chemin`: lock, version mark, journal, header, sort tables. `disque` outlives
 /// the base. `progression` shows the replay of a journal.
 [[nodiscard]] ResultatOuverture OuvrirBase(Disque& disque, const std::filesystem::path& chemin,
@@ -161,7 +168,8 @@ struct ResultatOuverture {
                                              const OptionsBase& options);
 
 /// Removes the journal that lies beside a base which is about to be replaced: it belongs to no one
-/// and must not be replayed. False when there is one and the system refuses.
+/// and must not be replayed. False when there is one and the system refuses, or when it is that of
+/// another base of the folder.
 [[nodiscard]] bool SupprimerJournal(Disque& disque, const std::filesystem::path& base);
 
 }  // namespace dorvane::storage

@@ -20,7 +20,8 @@ struct ConversionsTextes {
 /// Brings the labels and the dates in words of a base with `LibellesNeutres` "0" to the neutral
 /// form, with the word index: keywords, links, roles, kinds of event, lines of slots, days and
 /// months. Nothing is written before the commit, however much it is: the caller may give the base
-/// up and the file is as it was. False when the user gave up. Nothing for a neutral base.
+/// up and the file is as it was. False when the user gave up, or when a reading failed: the base is
+/// then `EnDefaut`. Nothing for a neutral base.
 [[nodiscard]] bool ConvertirAncienne(Base& base, const ConversionsTextes& conversions,
                                      Progression& progression);
 

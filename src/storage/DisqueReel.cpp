@@ -119,6 +119,15 @@ bool EncoreEnPlace(int fd, const std::filesystem::path& chemin) {
 constexpr mode_t Droits = 0666;  // less what the user's mask takes away
 constexpr mode_t DroitsGardes = 0777;
 
+/// For writing, as network file systems ask; only to read where a dead program of another user left
+/// the file. A pipe that stands there holds nobody up.
+Descripteur OuvrirVerrou(const std::filesystem::path& chemin) {
+    constexpr int Toujours = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    const int fd = ::open(chemin.c_str(), O_RDWR | O_CREAT | Toujours, Droits);
+    return Descripteur{fd < 0 && errno == EACCES ? ::open(chemin.c_str(), O_RDONLY | Toujours)
+                                                 : fd};
+}
+
 }  // namespace
 
 std::unique_ptr<Fichier> DisqueReel::Ouvrir(const std::filesystem::path& chemin,
@@ -192,9 +201,7 @@ ResultatVerrou DisqueReel::Verrouiller(const std::filesystem::path& base) {
     chemin += ".verrou";
     constexpr int Essais = 100;
     for (int essai = 0; essai < Essais; ++essai) {
-        // For writing, as network file systems ask; a pipe that stands there holds nobody up.
-        Descripteur descripteur{
-            ::open(chemin.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, Droits)};
+        Descripteur descripteur = OuvrirVerrou(chemin);
         struct stat etat {};
         if (!descripteur || ::fstat(descripteur.Fd(), &etat) != 0 || !S_ISREG(etat.st_mode))
             return {EtatVerrou::Refuse, nullptr};

@@ -32,6 +32,11 @@ private:
     std::uint64_t valeur_ = 0xCBF29CE484222325ULL;
 };
 
+/// No system gives names of more than 255 bytes, nor does a seal.
+std::string NomDansLeSceau(const std::filesystem::path& base) {
+    return base.filename().native().substr(0, 255);
+}
+
 std::string ComposerSceau(std::uint32_t finCommise, std::uint32_t nombre, const Somme& somme,
                           std::string_view base) {
     std::string fiche = NumVersChaine4(finCommise + 1);
@@ -128,10 +133,7 @@ void PourImages(Fichier& fichier, Faire faire) {
 }  // namespace
 
 Journal::Journal(Disque& disque, const std::filesystem::path& base)
-    : disque_{disque},
-      chemin_{CheminJournal(base)},
-      // No system gives names of more than 255 bytes.
-      nomBase_{base.filename().native().substr(0, 255)} {}
+    : disque_{disque}, chemin_{CheminJournal(base)}, nomBase_{NomDansLeSceau(base)} {}
 
 void Journal::Prendre(Fichier& base, Position debut, std::uint32_t longueur) {
     std::string image(TailleImage, '\0');
@@ -208,6 +210,11 @@ EtatJournal ExaminerJournal(Disque& disque, const std::filesystem::path& chemin)
     });
     etat.lisible = !journal->EnDefaut();
     return etat;
+}
+
+bool EstDAutrui(Disque& disque, const EtatJournal& journal, const std::filesystem::path& base) {
+    return !journal.base.empty() && journal.base != NomDansLeSceau(base) &&
+           disque.Existe(base.parent_path() / journal.base);
 }
 
 std::optional<std::uint32_t> RejouerJournal(Disque& disque, const std::filesystem::path& chemin,

@@ -74,6 +74,11 @@ struct EtatJournal {
 };
 [[nodiscard]] EtatJournal ExaminerJournal(Disque& disque, const std::filesystem::path& chemin);
 
+/// Whether a journal found beside `base` is that of another base of the folder: "x.LGD" and "x.lgd"
+/// have theirs under one name.
+[[nodiscard]] bool EstDAutrui(Disque& disque, const EtatJournal& journal,
+                              const std::filesystem::path& base);
+
 /// Brings `base` back to its last commit with the journal at `chemin`, which stays where it is.
 /// Records that name position 0 or one past the end of `base` are skipped, a torn last one is
 /// dropped. Answers how many images were written back; nothing when the journal could not be read.

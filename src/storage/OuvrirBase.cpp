@@ -1,10 +1,13 @@
 #include "messages/Messages.h"
 #include "storage/Base.h"
+#include "values/Comparaison.h"
 #include "values/Marqueurs.h"
 #include "values/Octets.h"
 #include "values/SortesEvenement.h"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
 #include <utility>
 
 namespace dorvane::storage {
@@ -40,9 +43,11 @@ std::string LireMarque(Fichier& fichier) {
 }
 
 /// Whether the journal leads back to a later state than that of the file: an older copy was put in
-/// its place. A base never becomes shorter, nor does its header tell so.
+/// its place. A base never becomes shorter, nor does its header tell so, unless it told of more
+/// than there was.
 bool EstPosterieur(const EtatJournal& journal, Fichier& fichier) {
-    if (fichier.Taille() < journal.finCommise) return true;
+    const std::uint64_t taille = fichier.Taille();
+    if (taille < journal.finCommise) return true;
     constexpr std::size_t PlaceFin = 30;
     if (journal.enTete.size() < TailleEnTete) return false;
     std::string octets(TailleEnTete, '\0');
@@ -50,7 +55,8 @@ bool EstPosterieur(const EtatJournal& journal, Fichier& fichier) {
     const auto fin = [](std::string_view enTete) {
         return Chaine4VersNum(enTete.substr(PlaceFin, 4));
     };
-    return PorteMarque(octets) && fin(octets) < fin(journal.enTete);
+    return PorteMarque(octets) &&
+           fin(octets) < std::min<std::uint64_t>(fin(journal.enTete), taille);
 }
 
 /// Puts the journal aside under a name that nothing replays. False when the system refuses.
@@ -132,9 +138,19 @@ struct Ouvreur {
     }
 };
 
+bool EstNomReserve(const std::filesystem::path& chemin) {
+    constexpr std::array<std::string_view, 8> Extensions{
+        ".log", ".sav", ".verrou", ".nouveau", ".partiel", ".ancien", ".fus", ".tmp"};
+    const std::string extension = EnMinuscules(chemin.extension().native());
+    return std::ranges::find(Extensions, extension) != Extensions.end() ||
+           EnMinuscules(chemin.filename().native()) == "reorg.fic";
+}
+
 ResultatOuverture OuvrirBase(Disque& disque, const std::filesystem::path& chemin,
                              Progression& progression) {
     if (!disque.Existe(chemin)) return {Ouverture::Introuvable, nullptr};
+    // Its journal would be the file itself.
+    if (CheminJournal(chemin) == chemin) return {Ouverture::NomReserve, nullptr};
     ResultatVerrou verrou = disque.Verrouiller(chemin);
     if (verrou.etat != EtatVerrou::Pris) return {EtatDuVerrou(verrou.etat), nullptr};
     std::unique_ptr<Fichier> fichier = disque.Ouvrir(chemin, ModeOuverture::LireEcrire);
@@ -144,21 +160,20 @@ ResultatOuverture OuvrirBase(Disque& disque, const std::filesystem::path& chemin
     const EtatJournal journal = aReprendre ? ExaminerJournal(disque, cheminJournal) : EtatJournal{};
     // A commit that was cut may have left half a mark; the journal then holds the whole one.
     const bool marquee = PorteMarque(LireMarque(*fichier));
+    if (fichier->EnDefaut()) return {Ouverture::Refusee, nullptr};
     if (aReprendre && !journal.lisible) return {Ouverture::JournalIllisible, nullptr};
     if (!marquee && !PorteMarque(journal.enTete)) return {Ouverture::PasUneBase, nullptr};
     ResultatOuverture resultat;
     if (aReprendre) {
-        const std::string nom = chemin.filename().native().substr(0, 255);
-        if (!journal.base.empty() && journal.base != nom &&
-            disque.Existe(chemin.parent_path() / journal.base))
-            return {Ouverture::JournalDAutrui, nullptr};
+        if (EstDAutrui(disque, journal, chemin)) return {Ouverture::JournalDAutrui, nullptr};
         const bool pret =
             EstPosterieur(journal, *fichier)
                 ? EcarterJournal(disque, cheminJournal, resultat.journalEcarte)
                 : Reprendre(disque, cheminJournal, *fichier, progression, resultat.reprise);
         if (!pret) return {Ouverture::Abimee, nullptr};
     }
-    if (!PorteMarque(LireMarque(*fichier))) return {Ouverture::PasUneBase, nullptr};
+    if (!PorteMarque(LireMarque(*fichier)))
+        return {fichier->EnDefaut() ? Ouverture::Refusee : Ouverture::PasUneBase, nullptr};
     resultat.base = Ouvreur::Lire(disque, chemin, std::move(verrou.verrou), std::move(fichier));
     if (resultat.base->EnDefaut()) return {Ouverture::Refusee, nullptr};
     resultat.etat = Ouverture::Faite;
@@ -167,6 +182,7 @@ ResultatOuverture OuvrirBase(Disque& disque, const std::filesystem::path& chemin
 
 ResultatOuverture NouvelleBase(Disque& disque, const std::filesystem::path& chemin,
                                const OptionsBase& options) {
+    if (EstNomReserve(chemin)) return {Ouverture::NomReserve, nullptr};
     ResultatVerrou verrou = disque.Verrouiller(chemin);
     if (verrou.etat != EtatVerrou::Pris) return {EtatDuVerrou(verrou.etat), nullptr};
     std::filesystem::path provisoire = chemin;

@@ -16,7 +16,8 @@ class ParcoursReorganisation {
 public:
     /// All outlive the object.
     ParcoursReorganisation(Base& source, Base& cible, Progression& progression)
-        : cible_{cible},
+        : source_{source},
+          cible_{cible},
           progression_{progression},
           // Each live record is written once, and blocks hardly differ: what grows beyond that
           // comes of records that run into one another.
@@ -41,7 +42,7 @@ private:
     static constexpr std::uint32_t PasCompteur = 100;
 
     bool Continuer(std::uint32_t fait, std::uint32_t total) {
-        if (cible_.EnDefaut())
+        if (source_.EnDefaut() || cible_.EnDefaut())
             issue_ = IssueReorganisation::Refusee;
         else if (cible_.volume.FinFichier() > limite_)
             issue_ = IssueReorganisation::TropAbimee;
@@ -52,6 +53,7 @@ private:
         return false;
     }
 
+    Base& source_;
     Base& cible_;
     Progression& progression_;
     std::uint64_t limite_;

@@ -208,7 +208,10 @@ bool Volume::Journaliser() {
         if (position <= finCommise_ && !journal_.Contient(debut) && !Protegee(debut, octets.size()))
             journal_.Prendre(*fichier_, debut, static_cast<std::uint32_t>(octets.size()));
     }
-    if (fichier_->EnDefaut() || !journal_.Ecrire(finCommise_)) refuse_ = true;
+    // A file cut short by others ends before the commit that it tells of.
+    const auto fin =
+        static_cast<std::uint32_t>(std::min<std::uint64_t>(finCommise_, fichier_->Taille()));
+    if (fichier_->EnDefaut() || !journal_.Ecrire(fin)) refuse_ = true;
     return !refuse_;
 }
 
@@ -247,21 +250,26 @@ bool Volume::Commettre(std::string_view entete) {
 
 bool Volume::CopierVers(Disque& disque, const std::filesystem::path& chemin,
                         std::string_view entete) {
+    // What was taken for the content of a cell may come from a reading that failed.
+    if (plein_ || fichier_->DefautDe() == Defaut::Lecture) return false;
     const std::unique_ptr<Fichier> copie = disque.Ouvrir(chemin, ModeOuverture::Creer);
     if (!copie) return false;
     std::string tampon(1U << 18U, '\0');
-    for (std::uint64_t fait = 0; fait < finFichier_ && !copie->EnDefaut();) {
+    std::uint64_t fait = 0;
+    while (fait < finFichier_ && !copie->EnDefaut()) {
         const Position ici{static_cast<std::uint32_t>(fait + 1)};
         const std::size_t taille = std::min<std::uint64_t>(tampon.size(), finFichier_ - fait);
-        if (Lire(ici, std::span{tampon}.first(taille)) != taille) break;
-        copie->Ecrire(ici, std::span{tampon}.first(taille));
-        fait += taille;
+        const std::size_t lus = Lire(ici, std::span{tampon}.first(taille));
+        if (lus == 0) break;
+        copie->Ecrire(ici, std::span{tampon}.first(lus));
+        fait += lus;
     }
     for (const auto& [position, octets] : blocs_)
         copie->Ecrire(Position{position}, octets);
     copie->Ecrire(Position{1}, entete);
     copie->Vider();
-    if (!copie->EnDefaut() && copie->Taille() == finFichier_) return true;
+    const bool entiere = fait == finFichier_ && fichier_->DefautDe() != Defaut::Lecture;
+    if (entiere && !copie->EnDefaut() && copie->Taille() == finFichier_) return true;
     static_cast<void>(disque.Supprimer(chemin));
     return false;
 }

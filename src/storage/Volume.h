@@ -32,8 +32,8 @@ struct Zone {
 ///
 /// When the system refuses a write, all that waits goes on waiting, in memory (64 MB of appended
 /// bytes at most), and the next commit tries again: once there is room nothing is lost. When a
-/// reading or a flush fails, nobody knows what the disk holds: no commit follows, but a copy may
-/// still be made.
+/// flush fails, nobody knows what the disk holds: no commit follows, but a copy may still be made.
+/// After a reading that failed nobody knows what the base is: there is no copy either.
 ///
 /// Reading goes through pages of 4 KB (16 MB of them at most, taken as they are touched) and, for
 /// blocks, through copies of whole blocks (6 MB at most), so that a walk in any order asks the
@@ -83,8 +83,14 @@ public:
     /// refused: the file on the disk, once reopened, is the previous commit, and this may be called
     /// again.
     [[nodiscard]] bool Commettre(std::string_view entete);
+    /// The file is not under its name yet: as before the first commit, nothing needs a journal.
+    void OublierCommit() {
+        finCommise_ = 0;
+        zones_.clear();
+    }
     /// Writes what the commit of `entete` would leave into a new file at `chemin`, on another disk
-    /// perhaps. False when the system refuses; the file is then gone.
+    /// perhaps. False when the system refuses, after a reading that failed, and when not all could
+    /// be kept; no file is left.
     [[nodiscard]] bool CopierVers(Disque& disque, const std::filesystem::path& chemin,
                                   std::string_view entete);
 

@@ -24,7 +24,7 @@ namespace {
 
 constexpr const char* Chemin = "/famille.LGD";
 constexpr const char* CheminLog = "/famille.LOG";
-constexpr const char* Provisoire = "/famille.LGD~imp";
+constexpr const char* Provisoire = "/famille.LGD.nouveau";
 
 std::string Gedcom() {
     std::string texte = "0 HEAD\n1 NOTE base\n";
@@ -100,7 +100,7 @@ void CouperPartout(bool enSuspens) {
     const int total = temoin->operations;
     const std::string nouvelle = Relire(*temoin);
     REQUIRE(nouvelle != ancienne);
-    REQUIRE(total > 10);
+    REQUIRE(total > 8);
 
     int anciennes = 0;
     int nouvelles = 0;

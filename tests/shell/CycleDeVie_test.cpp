@@ -46,30 +46,6 @@ struct Bureau : SessionEssai {
 
 }  // namespace
 
-TEST_CASE(
-    "DeriverChemins: journal, exchange and GEDCOM replace the last three letters as written") {
-    const CheminsBase chemins = DeriverChemins("/d/Famille.lgd");
-    CHECK(chemins.journal == "/d/Famille.LOG");
-    CHECK(chemins.echange == "/d/Famille.LGR");
-    CHECK(chemins.gedcom == "/d/Famille.GED");
-    CHECK(chemins.nom == "Famille");
-    CHECK(DeriverChemins("/d/Été.LGD").nom == "Été"_1252);
-    CHECK(DeriverChemins("ab").journal == "LOG");
-}
-
-TEST_CASE("CheminSauvegarde: a name with two dots is cut at the first one, the journal's is not") {
-    CHECK(CheminSauvegarde("/d/a.b.LGD") == "/d/a.SAV");
-    CHECK(DeriverChemins("/d/a.b.LGD").journal == "/d/a.b.LOG");
-    CHECK(DeriverChemins("/d/a.b.LGD").nom == "a.b");
-    CHECK(CheminRestauration("/d/a.b.SAV") == "/d/a.LGD");
-}
-
-TEST_CASE("CheminSauvegarde: a dot in a folder does not count") {
-    CHECK(CheminSauvegarde("/a.d/b.c.LGD") == "/a.d/b.SAV");
-    CHECK(CheminSauvegarde("/a.d/b") == "/a.d/b.SAV");
-    CHECK(CheminRestauration("/a.d/b.SAV") == "/a.d/b.LGD");
-}
-
 TEST_CASE_FIXTURE(Bureau, "MnuNouveau: asks with the filter of bases and makes an empty one") {
     Nouveau(famille);
     REQUIRE(dialogue.demandesFichier.size() == 1);

@@ -43,7 +43,7 @@ TEST_CASE("Issue: what cannot be opened is the system's or the file's own fault"
           Issue::Refusee(Msg(message::BaseOccupee, "/d/a.LGD")));
     CHECK(IssueDOuverture(Ouverture::PasUneBase, "/d/a.LGD") ==
           Issue::Refusee(Msg(message::FichierPasUneBase, "/d/a.LGD")));
-    CHECK(IssueDOuverture(Ouverture::Abimee, "/d/a.LGD").cause == Cause::Refuse);
+    CHECK(IssueDOuverture(Ouverture::Abimee, "/d/a.LGD").cause == Cause::Systeme);
 }
 
 TEST_CASE(

@@ -103,15 +103,34 @@ TEST_CASE_FIXTURE(Fragile,
         CHECK(dialogue.questions.back().defaut == Reponse::Annuler);
         REQUIRE(session.BaseOuverte());
         CHECK(session.CheminBase == chemin);
-        CHECK_FALSE(ConfirmerSortie(session));
-        dialogue.reponses = {Reponse::Oui, Reponse::Annuler};
-        CHECK_FALSE(ConfirmerSortie(session));
+        doublures::EcrireFichier(session.Travail() / "Critfamille.tmp", "x");
+        CHECK_FALSE(Arret(session));
+        CHECK(session.BaseOuverte());
+        CHECK(fs::exists(session.Travail() / "Critfamille.tmp"));
         CHECK_FALSE(MnuOuvrir(session, sauvegarde));
         CHECK(session.CheminBase == chemin);
         disque.FaireDeLaPlace();
-        CHECK(MnuFermer(session));
+        CHECK(Arret(session));
         CHECK_FALSE(session.BaseOuverte());
+        CHECK_FALSE(fs::exists(session.Travail() / "Critfamille.tmp"));
         CHECK(Relire(chemin) == "Martin 2");
+    }
+    SUBCASE("a copy is written over no file of the base") {
+        dialogue.pendant = [this] { disque.FaireDeLaPlace(); };
+        for (const char* nom : {"/d/famille.LGD", "/d/famille.LOG", "/d/famille.SAV",
+                                "/d/famille.LGD.verrou", "/d/autre/../famille.LOG"}) {
+            CAPTURE(nom);
+            Casser(storage::Panne::Plein);
+            dialogue.reponses = {Reponse::Oui, Reponse::Annuler};
+            dialogue.fichiers = {nom};
+            CHECK(MnuFermer(session).cause == Cause::Arrete);
+            CHECK(std::ranges::count(dialogue.entendu, message::CopieNonEnregistree, &Phrase::no) ==
+                  1);
+            dialogue.entendu.clear();
+            REQUIRE(session.BaseOuverte());
+            CHECK(Relire(chemin) == "Martin 1");
+            CHECK_FALSE(disque.Existe(sauvegarde));
+        }
     }
     SUBCASE("no gives the changes up") {
         dialogue.reponses = {Reponse::Non};

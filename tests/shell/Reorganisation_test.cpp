@@ -47,6 +47,17 @@ struct Bureau : doublures::SessionEssai {
     std::string Contenu() { return storage::ContenuBase{*session.base}.Texte(); }
 };
 
+/// The bytes of a file of version 3.1 with two persons, with words in the language of the session.
+std::string VieilleBase(Session& session) {
+    const std::string metier = session.Message(MessageDeTag("OCCU"));
+    storage::BaseAncienne ancienne{"[Dorvane Version 3.1]"};
+    ancienne.Individus({{"DURAND;Jean;;vers;12 mars", "1820"}, {"MARTIN;Paul", "1850"}});
+    ancienne.MotsCles({{'|', "BIRN"}, {'\\', metier}});
+    const unsigned texte = ancienne.Ajouter("|DURAND\r\n" + metier + " meunier\n#");
+    ancienne.Colonne(1297, 4, '\0', {storage::BaseAncienne::Nombre(texte, 4)});
+    return ancienne.Finir();
+}
+
 }  // namespace
 
 TEST_CASE_FIXTURE(Bureau, "MnuReorganiser: asks for a copy first; no goes on, cancel stops") {
@@ -285,16 +296,36 @@ TEST_CASE_FIXTURE(Bureau,
     }
 }
 
+TEST_CASE(
+    "Reorganisation: a reading that fails, the conversion's too, is told and changes nothing") {
+    doublures::SessionEssai essai;
+    storage::DisqueMemoire disque;
+    Session session{essai.Lieux(),
+                    {essai.dialogue, essai.progression, essai.horloge, essai.ecran, disque}};
+    Demarrage(session);
+    const std::string vieille = VieilleBase(session);
+    for (int n = 1;; ++n) {
+        CAPTURE(n);
+        disque.Poser("/vieille.LGD", vieille);
+        essai.dialogue.entendu.clear();
+        disque.lectureRefusee = disque.lectures + n;
+        const Issue issue = ReecrireBase(session, "/vieille.LGD");
+        if (disque.lectures < disque.lectureRefusee) {
+            CHECK(issue);
+            CHECK(n > 3);
+            break;
+        }
+        CHECK(issue.cause == Cause::Systeme);
+        CHECK(essai.dialogue.entendu.size() == 1);
+        CHECK(disque.Octets("/vieille.LGD") == vieille);
+        CHECK_FALSE(disque.Existe("/Reorg.fic"));
+    }
+}
+
 TEST_CASE("Reorganisation: a file of version 3.1 comes out current and neutral") {
     doublures::SessionEssai essai;
     Demarrage(essai.session);
-    const std::string metier = essai.session.Message(MessageDeTag("OCCU"));
-    storage::BaseAncienne ancienne{"[Dorvane Version 3.1]"};
-    ancienne.Individus({{"DURAND;Jean;;vers;12 mars", "1820"}, {"MARTIN;Paul", "1850"}});
-    ancienne.MotsCles({{'|', "BIRN"}, {'\\', metier}});
-    const unsigned texte = ancienne.Ajouter("|DURAND\r\n" + metier + " meunier\n#");
-    ancienne.Colonne(1297, 4, '\0', {storage::BaseAncienne::Nombre(texte, 4)});
-    doublures::EcrireFichier(essai.dossier / "vieille.LGD", ancienne.Finir());
+    doublures::EcrireFichier(essai.dossier / "vieille.LGD", VieilleBase(essai.session));
 
     REQUIRE(OuvrirChemin(essai.session, essai.dossier / "vieille.LGD"));
     REQUIRE_FALSE(essai.session.base->entete.LibellesNeutres);

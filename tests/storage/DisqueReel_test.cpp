@@ -92,6 +92,20 @@ TEST_CASE_FIXTURE(Scene, "Lock: one left behind by a dead program locks nobody o
     CHECK(fin == 0);
     CHECK(disque.Existe(Chemin("base.LGD.verrou")));
     CHECK(disque.Verrouiller(chemin).etat == EtatVerrou::Pris);
+    // Another user's, whose rights let one read it only.
+    REQUIRE(::chmod(dossier.chemin.c_str(), 0777) == 0);
+    doublures::EcrireFichier(chemin.string() + ".verrou", "");
+    REQUIRE(::chmod((chemin.string() + ".verrou").c_str(), 0444) == 0);
+    const pid_t autre = ::fork();
+    if (autre == 0) {
+        constexpr uid_t Personne = 65534;
+        if (::geteuid() == 0 && ::setuid(Personne) != 0) ::_exit(2);
+        DisqueReel sien;
+        ::_exit(sien.Verrouiller(chemin).etat == EtatVerrou::Pris ? 0 : 1);
+    }
+    fin = -1;
+    REQUIRE(::waitpid(autre, &fin, 0) == autre);
+    CHECK(fin == 0);
 }
 
 TEST_CASE_FIXTURE(Scene, "Lock: a folder that does not exist refuses") {

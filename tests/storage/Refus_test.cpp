@@ -140,6 +140,72 @@ TEST_CASE_FIXTURE(Famille, "What was read wrongly is never committed, not even l
     Ajouter("apres", 1);
     CHECK_FALSE(base->Enregistrer());
     CHECK_FALSE(base->Enregistrer());
+    CHECK_FALSE(base->EnregistrerCopie(*disque, "copie.LGD"));
+    CHECK_FALSE(disque->Existe("copie.LGD"));
+}
+
+TEST_CASE_FIXTURE(Famille, "A copy during which a reading fails is none") {
+    for (int n = 1;; ++n) {
+        CAPTURE(n);
+        Relire();
+        Ajouter("apres", 1);
+        disque->lectureRefusee = disque->lectures + n;
+        const bool faite = base->EnregistrerCopie(*disque, "copie.LGD");
+        const bool lue = disque->lectures < disque->lectureRefusee;
+        CHECK(faite == lue);
+        CHECK(disque->Existe("copie.LGD") == lue);
+        if (lue) break;
+    }
+}
+
+TEST_CASE_FIXTURE(Famille, "A copy is refused once something could not be kept") {
+    Remplir(1);
+    Ajouter("refuse", 30);
+    CHECK_FALSE(base->Enregistrer());
+    CHECK_FALSE(base->volume.Ajouter(std::string(65U << 20U, 'x')));
+    DisqueMemoire ailleurs;
+    CHECK_FALSE(base->EnregistrerCopie(ailleurs, "copie.LGD"));
+    CHECK_FALSE(ailleurs.Existe("copie.LGD"));
+}
+
+TEST_CASE_FIXTURE(Famille, "A file cut short by others: its journal brings it back as it was") {
+    const std::string entiers = disque->Octets(Chemin);
+    for (const std::size_t perdus : {1U, 300U, 3000U}) {
+        disque->Poser(Chemin, entiers.substr(0, entiers.size() - perdus));
+        Relire();
+        const std::string avant = Tout(*base);
+        base.reset();
+        for (int n = 1;; ++n) {
+            CAPTURE(perdus);
+            CAPTURE(n);
+            const auto autre = disque->Survivre();
+            autre->panne = Panne::Arret;
+            autre->panneA = n;
+            const ResultatOuverture ouverte = OuvrirBase(*autre, Chemin, muet);
+            REQUIRE(ouverte.base);
+            for (std::uint32_t i = 1; i <= 40; ++i)
+                ouverte.base->R_NAISS.EcrireCellule(NoOrdre{i}, "1999");
+            const std::string apres = Tout(*ouverte.base);
+            const bool faite = ouverte.base->Enregistrer() && !autre->Mort();
+            const auto suite = autre->Survivre();
+            const ResultatOuverture relue = OuvrirBase(*suite, Chemin, muet);
+            REQUIRE(relue.etat == Ouverture::Faite);
+            CHECK(relue.journalEcarte.empty());
+            CHECK((Tout(*relue.base) == avant || Tout(*relue.base) == apres));
+            if (faite) break;
+        }
+    }
+}
+
+TEST_CASE_FIXTURE(Famille, "OuvrirBase: a file that cannot be read is not taken for no base") {
+    for (int n = 1;; ++n) {
+        CAPTURE(n);
+        base.reset();
+        disque->lectureRefusee = disque->lectures + n;
+        const Ouverture etat = OuvrirBase(*disque, Chemin, muet).etat;
+        if (disque->lectures < disque->lectureRefusee) break;
+        CHECK(etat == Ouverture::Refusee);
+    }
 }
 
 TEST_CASE_FIXTURE(Famille,
@@ -228,6 +294,63 @@ TEST_CASE_FIXTURE(Famille,
         CHECK((personnes == 0 || personnes == 40));
         if (!autre->Mort()) break;
     }
+}
+
+TEST_CASE_FIXTURE(
+    Famille, "NouvelleBase: committed but not in its place, it harms the old one with nothing") {
+    const std::string ancienne = Tout(*base);
+    REQUIRE(base->Fermer());
+    int refusees = 0;
+    for (int n = 1; n < 12; ++n) {
+        for (int m = 1; m < 12; ++m) {
+            CAPTURE(n);
+            CAPTURE(m);
+            const auto autre = disque->Survivre();
+            const ResultatOuverture nouvelle = NouvelleBase(*autre, Chemin, {});
+            REQUIRE(nouvelle.base);
+            nouvelle.base->R_TRI.AjouterIndividu(nouvelle.base->NouvelIndividu());
+            autre->panne = Panne::Refus;
+            autre->panneA = autre->operations + n;
+            // What was refused while the commit was prepared, it tries again by itself.
+            if (nouvelle.base->Enregistrer()) break;
+            ++refusees;
+            for (std::uint32_t i = 0; i < 200; ++i)
+                nouvelle.base->R_TRI.AjouterIndividu(nouvelle.base->NouvelIndividu());
+            autre->panne = Panne::Arret;
+            autre->panneA = autre->operations + m;
+            const bool faite = nouvelle.base->Enregistrer();
+            const auto apres = autre->Survivre();
+            const ResultatOuverture ouverte = OuvrirBase(*apres, Chemin, muet);
+            REQUIRE(ouverte.etat == Ouverture::Faite);
+            const bool neuve = ouverte.base->entete.NbTriIndividus == 201;
+            CHECK((neuve || Tout(*ouverte.base) == ancienne));
+            if (faite && !autre->Mort()) CHECK(neuve);
+        }
+    }
+    CHECK(refusees > 30);
+}
+
+TEST_CASE_FIXTURE(Famille,
+                  "NouvelleBase: the journal of a base of like name keeps it from its place") {
+    disque->panne = Panne::Arret;
+    disque->panneA = disque->operations + 6;
+    Ajouter("perdu", 5);
+    CHECK_FALSE(base->Enregistrer());
+    const auto apres = disque->Survivre();
+    const std::string journal = apres->Octets(CheminLog);
+    REQUIRE_FALSE(journal.empty());
+    {
+        const ResultatOuverture nouvelle = NouvelleBase(*apres, "famille.lgd", {});
+        REQUIRE(nouvelle.base);
+        nouvelle.base->marques.ModifBase = true;
+        CHECK_FALSE(nouvelle.base->Fermer());
+        // Before the lock is given back: another program may be next.
+        CHECK_FALSE(apres->Existe("famille.lgd.nouveau"));
+    }
+    CHECK_FALSE(apres->Existe("famille.lgd"));
+    CHECK_FALSE(apres->Existe("famille.lgd.nouveau"));
+    CHECK(apres->Octets(CheminLog) == journal);
+    CHECK(OuvrirBase(*apres, Chemin, muet).reprise);
 }
 
 TEST_CASE_FIXTURE(Famille, "Reorganisation: a reading that fails, whichever, leaves no new file") {

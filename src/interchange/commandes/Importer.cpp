@@ -19,15 +19,8 @@ namespace dorvane::interchange {
 namespace {
 
 /// The extension in small letters, with its dot.
-std::string Extension(const std::filesystem::path& chemin) {
-    std::string extension = chemin.extension().string();
-    for (char& c : extension)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return extension;
-}
-
 bool EstGedcom(const std::filesystem::path& fichier) {
-    return Extension(fichier) == ".ged";
+    return shell::ExtensionDe(fichier) == ".ged";
 }
 
 /// Limits that left records out are told at once, not only in the report.
@@ -128,7 +121,7 @@ Importation ImporterActesVers(shell::Session& session, const Releve& releve,
 
 shell::Issue ImporterFichier(shell::Session& session, const std::filesystem::path& fichier) {
     // A base is opened, never read as a text: the new one would take its place.
-    if (Extension(fichier) == ".lgd") return shell::Issue::Refusee();
+    if (shell::ExtensionDe(fichier) == ".lgd") return shell::Issue::Refusee();
     const auto importer = [&](const std::filesystem::path& base) {
         return ImporterVers(session, fichier, base);
     };

@@ -14,6 +14,7 @@
 #include "values/Texte1252.h"
 
 #include <algorithm>
+#include <cassert>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -87,12 +88,6 @@ std::string Extension(FormatExport format) {
     return format == FormatExport::Gedcom ? ".ged" : ".lgr";
 }
 
-std::string EnPetites(std::string texte) {
-    for (char& c : texte)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return texte;
-}
-
 /// The folder of the last export, else that of the base.
 fs::path DossierPropose(const shell::Session& session) {
     fs::path dernier =
@@ -100,15 +95,6 @@ fs::path DossierPropose(const shell::Session& session) {
     std::error_code erreur;
     if (!dernier.empty() && fs::is_directory(dernier, erreur)) return dernier;
     return session.CheminBase.parent_path();
-}
-
-bool EstDeLaBase(const shell::Session& session, const fs::path& fichier) {
-    std::error_code erreur;
-    return std::ranges::any_of(
-        std::initializer_list<fs::path>{session.CheminBase, session.CheminJournal},
-        [&](const fs::path& autre) {
-            return fichier == autre || fs::equivalent(fichier, autre, erreur);
-        });
 }
 
 /// Asks where to; told when it may not be there.
@@ -124,13 +110,13 @@ shell::Issue ChoisirFichier(shell::Session& session, FormatExport format, fs::pa
     demande.depart += extension;
     const std::optional<fs::path> choisi = session.dialogue.ChoisirFichier(demande);
     if (!choisi) return shell::Issue::Arretee();
-    fichier = shell::CheminEntier(*choisi);
+    fichier = fs::absolute(*choisi).lexically_normal();
     bool autreNom = false;
-    if (EnPetites(fichier.extension().string()) != extension) {
+    if (shell::ExtensionDe(fichier) != extension) {
         fichier += extension;
         autreNom = true;
     }
-    if (EstDeLaBase(session, fichier))
+    if (shell::EstFichierDeBase(fichier, session.CheminBase))
         return shell::Dire(session.dialogue, shell::Issue::Refusee(shell::Msg(
                                                  message::FichierDeLaBaseOuverte,
                                                  shell::CheminAffiche(fichier.filename()))));
@@ -147,11 +133,14 @@ shell::Issue ChoisirFichier(shell::Session& session, FormatExport format, fs::pa
     return shell::Issue::Faite();
 }
 
+OptionsGedcom OptionsDe(const DemandeExport& demande, ChoixExport choix) {
+    return {std::move(choix), demande.jeu, demande.reduit};
+}
+
 ResultatExport Ecrire(shell::Session& session, const fs::path& fichier,
                       const DemandeExport& demande, ChoixExport choix) {
     if (demande.format == FormatExport::Dorvane) return ExporterLgr(session, fichier, choix);
-    OptionsGedcom options{std::move(choix), demande.jeu, demande.reduit};
-    return ExporterGedcom(session, fichier, options);
+    return ExporterGedcom(session, fichier, OptionsDe(demande, std::move(choix)));
 }
 
 /// What a stopped export leaves is of use to nobody who has not asked for it.
@@ -259,8 +248,18 @@ Lancement LancerExport(shell::Session& session, const DemandeExport& demande) {
 
 ResultatExport ExporterVers(shell::Session& session, const DemandeExport& demande,
                             const fs::path& fichier) {
+    assert(session.base);
     return Ecrire(session, fichier, demande,
                   Selectionner(*session.base, demande).Choix(demande.reglages));
+}
+
+bool ComposerExport(shell::Session& session, const DemandeExport& demande, const std::string& nom,
+                    std::string& octets, ComptesExport& comptes) {
+    assert(session.base);
+    ChoixExport choix = Selectionner(*session.base, demande).Choix(demande.reglages);
+    if (demande.format == FormatExport::Dorvane)
+        return ComposerLgr(session, choix, octets, comptes);
+    return ComposerGedcom(session, nom, OptionsDe(demande, std::move(choix)), octets, comptes);
 }
 
 }  // namespace dorvane::interchange

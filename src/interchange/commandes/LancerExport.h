@@ -67,9 +67,14 @@ struct Lancement {
 /// gets it; the files of the open base are refused.
 [[nodiscard]] Lancement LancerExport(shell::Session& session, const DemandeExport& demande);
 
-/// Writes a file that is known, without a question; how it ended is not told. Stopped, it leaves
-/// what it has written at `shell::CheminPartiel`.
+/// Writes a file that is known from the open base, without a question; how it ended is not told.
+/// Stopped, it leaves what it has written at `shell::CheminPartiel`.
 [[nodiscard]] ResultatExport ExporterVers(shell::Session& session, const DemandeExport& demande,
                                           const std::filesystem::path& fichier);
+
+/// The bytes that it would write, for a file called `nom`. False when the user gave up.
+[[nodiscard]] bool ComposerExport(shell::Session& session, const DemandeExport& demande,
+                                  const std::string& nom, std::string& octets,
+                                  ComptesExport& comptes);
 
 }  // namespace dorvane::interchange

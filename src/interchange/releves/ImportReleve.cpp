@@ -55,7 +55,7 @@ bool RemplirReleve(shell::Session& session, storage::Base& base, const Releve& r
     EcrivainReleve ecrivain{base, releve.sorte};
     ecrivain.CreerDocument(
         session.Message(message::MotReleve) + ' ' + NomReleve(session, releve.sorte),
-        Utf8VersTexte(fichier.string()).octets);
+        shell::CheminAffiche(fichier));
     const auto avancer = [&session](std::uint32_t fait, std::uint32_t total) {
         return session.progression.Avancer(fait, total);
     };

@@ -285,16 +285,16 @@ void MDIForm1::closeEvent(QCloseEvent* evenement) {
         evenement->accept();
         return;
     }
-    if (!shell::ConfirmerSortie(session_)) {
-        evenement->ignore();
-        return;
-    }
-    arrete_ = true;
+    evenement->ignore();
+    if (!shell::ConfirmerSortie(session_)) return;
     Minuterie1_.stop();
     Minuterie2_.stop();
     MemoriserPlace(*this, session_);
-    shell::Arret(session_);
-    evenement->accept();
+    arrete_ = shell::Arret(session_);
+    evenement->setAccepted(arrete_);
+    if (arrete_) return;
+    Minuterie1_.start();
+    Minuterie2_.start();
 }
 
 void MDIForm1::dragEnterEvent(QDragEnterEvent* evenement) {

@@ -409,7 +409,7 @@ TEST_CASE_FIXTURE(Lecture, "A cancel at any step leaves no base, or the former o
         CHECK_FALSE(importation.issue);
         CHECK(dialogue.entendu == std::vector{shell::Msg(message::ImportAbandonne)});
         CHECK(doublures::LireFichier(chemin) == avant);
-        CHECK_FALSE(std::filesystem::exists(dossier / "essai.LGD~imp"));
+        CHECK_FALSE(std::filesystem::exists(dossier / "essai.LGD.nouveau"));
         CHECK(progression.cadres == 0);
     }
 }
