@@ -35,30 +35,46 @@ int SauvegarderBase(const std::filesystem::path& base) {
     if (const int statut = atelier.Ouvrir(base); statut != Fait) return statut;
     // Only a whole, closed file is copied: a leftover journal was replayed by the opening.
     if (const int statut = atelier.Fermer(); statut != Fait) return statut;
-    const std::filesystem::path copie = shell::CheminSauvegarde(base);
-    if (!shell::CopierTout(base, copie)) {
+    const std::filesystem::path& reel = atelier.session.CheminBase;
+    const std::filesystem::path copie = shell::CheminSauvegarde(reel);
+    if (!shell::CopierTout(reel, copie)) {
         atelier.dialogue.Informer(
             shell::Msg(message::SauvegardeNonEcrite, shell::CheminAffiche(copie)));
         return RefusSysteme;
     }
-    std::cout << copie.string() << '\n';
+    const std::filesystem::path montre =
+        base.is_absolute() ? copie : std::filesystem::proximate(copie);
+    std::cout << montre.string() << '\n';
     return Fait;
 }
 
-std::optional<std::string> LireArgument(Atelier& atelier, const std::string& utf8) {
+std::string LireArgument(Atelier& atelier, const std::string& utf8) {
     TexteRecu recu = Utf8VersTexte(utf8);
-    if (recu.remplaces == 0) return std::move(recu.octets);
-    atelier.dialogue.Informer(shell::Msg(message::ArgumentHorsJeuDeCaracteres, recu.octets,
-                                         std::to_string(recu.remplaces)));
-    return std::nullopt;
+    if (recu.remplaces != 0)
+        atelier.dialogue.Informer(shell::Msg(message::ArgumentHorsJeuDeCaracteres, recu.octets,
+                                             std::to_string(recu.remplaces)));
+    return std::move(recu.octets);
 }
 
-bool Prendre(Atelier& atelier, const std::optional<std::string>& option, std::string& champ) {
-    if (!option) return true;
-    std::optional<std::string> lu = LireArgument(atelier, *option);
-    if (!lu) return false;
-    champ = std::move(*lu);
-    return true;
+void Prendre(Atelier& atelier, const std::optional<std::string>& option, std::string& champ) {
+    if (option) champ = LireArgument(atelier, *option);
+}
+
+int VerifierCible(Atelier& atelier, const Cible& cible) {
+    std::error_code erreur;
+    const auto refuser = [&](NoMessage message, int statut = Refus) {
+        atelier.dialogue.Informer(shell::Msg(message, shell::CheminAffiche(cible.fichier)));
+        return statut;
+    };
+    if (!cible.lu.empty() && std::filesystem::equivalent(cible.fichier, cible.lu, erreur))
+        return refuser(message::CibleFichierLu, MauvaisUsage);
+    if (shell::EstFichierDeBase(shell::CheminEntier(cible.fichier), cible.base))
+        return refuser(message::CibleFichierDeLaBase);
+    const std::filesystem::file_status etat = std::filesystem::status(cible.fichier, erreur);
+    if (!std::filesystem::exists(etat)) return Fait;
+    if (!std::filesystem::is_regular_file(etat))
+        return refuser(message::CiblePasUnFichier, RefusSysteme);
+    return cible.remplacer ? Fait : refuser(message::FichierExisteSansRemplacer);
 }
 
 bool PersonneExiste(Atelier& atelier, std::uint32_t numero) {

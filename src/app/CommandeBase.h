@@ -31,13 +31,24 @@ void DeclarerBase(Verbe& verbe, OptionsBase& options);
 /// is copied: a journal that was left is replayed first. The answer is the exit status.
 [[nodiscard]] int SauvegarderBase(const std::filesystem::path& base);
 
-/// An argument in code page 1252. Nothing, and a message, when it holds a character that the code
-/// page lacks: it would be stored as something else.
-[[nodiscard]] std::optional<std::string> LireArgument(Atelier& atelier, const std::string& utf8);
+/// An argument in code page 1252. Characters that the code page lacks are replaced, which is told
+/// with their number.
+[[nodiscard]] std::string LireArgument(Atelier& atelier, const std::string& utf8);
 
-/// The same into `champ` when the option was given; false after a refusal.
-[[nodiscard]] bool Prendre(Atelier& atelier, const std::optional<std::string>& option,
-                           std::string& champ);
+/// The same into `champ` when the option was given.
+void Prendre(Atelier& atelier, const std::optional<std::string>& option, std::string& champ);
+
+/// Where a verb is to write.
+struct Cible {
+    std::filesystem::path fichier;
+    bool remplacer = false;        ///< what stands there may go
+    std::filesystem::path lu{};    ///< the file that the verb reads; empty: none
+    std::filesystem::path base{};  ///< the base that the verb has open; empty: none
+};
+
+/// The verb may write: there is nothing, or an ordinary file that may go, and it is neither the
+/// file that is read nor one of those of the base. Tells why not. The answer is the exit status.
+[[nodiscard]] int VerifierCible(Atelier& atelier, const Cible& cible);
 
 /// There is such a person; told when not.
 [[nodiscard]] bool PersonneExiste(Atelier& atelier, std::uint32_t numero);

@@ -1,5 +1,6 @@
 #include "app/Terminal.h"
 
+#include "messages/Outil.h"
 #include "values/Texte1252.h"
 
 #include <unistd.h>
@@ -24,8 +25,10 @@ void DialogueTerminal::Annoncer(const shell::Phrase& texte) {
 shell::Reponse DialogueTerminal::Demander(const shell::Question& question) {
     if (reponse) return *reponse;
     if (isatty(STDIN_FILENO) == 0) {
-        std::cerr << EnClair(question.texte) << '\n';
-        return question.defaut;
+        const bool annulable = question.boutons != shell::Boutons::OuiNon;
+        Informer(question.texte);
+        Informer(shell::Msg(annulable ? message::SansTerminalAbandon : message::SansTerminalNon));
+        return annulable ? shell::Reponse::Annuler : shell::Reponse::Non;
     }
     while (true) {
         std::cerr << EnClair(question.texte) << " [o/n] ";

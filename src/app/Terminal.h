@@ -18,7 +18,7 @@ public:
     /// The texts come from here; it outlives the object. Set once the session is there.
     const shell::Catalogue* catalogue = nullptr;
     /// What every question is answered; nothing: the terminal is asked, and without a terminal the
-    /// question's own default counts.
+    /// answer is the one that changes least, which is told.
     std::optional<shell::Reponse> reponse;
     /// What a command that asks for a file is given.
     std::filesystem::path fichier;

@@ -64,14 +64,11 @@ void Ecrire(const Json& objet, bool json) {
 }
 
 int Creer(const OptionsFichier& o) {
-    const fs::path base = o.base;
     Atelier atelier{{}};
-    std::error_code erreur;
-    if (fs::exists(base, erreur)) {
-        atelier.dialogue.Informer(
-            shell::Msg(message::FichierExisteSansRemplacer, shell::CheminAffiche(base)));
-        return Refus;
-    }
+    if (const int statut = VerifierCible(atelier, {o.base, o.remplacer}); statut != Fait)
+        return statut;
+    const fs::path base = shell::CheminEntier(o.base);
+    shell::ReprendreAvantRemplacement(atelier.session, base);
     const shell::ReglagesGeneraux& generaux = atelier.session.parametres.generaux;
     storage::ResultatOuverture nouvelle =
         storage::NouvelleBase(atelier.session.disque, base,
@@ -82,9 +79,6 @@ int Creer(const OptionsFichier& o) {
         if (nouvelle.base->Fermer()) return Fait;
         issue = shell::IssueDeCreation(storage::Ouverture::Refusee, base);
     }
-    nouvelle.base.reset();
-    // What could not be written is no base.
-    if (issue.cause == shell::Cause::Systeme) (void)atelier.session.disque.Supprimer(base);
     return Statut(shell::Dire(atelier.dialogue, issue));
 }
 
@@ -149,6 +143,10 @@ void DeclarerFichier(Verbe& v, OptionsFichier& o) {
     v.Ajouter("BASE", o.base).Requise();
 }
 
+void DeclarerRemplacer(Verbe& v, OptionsFichier& o) {
+    v.Drapeau("--remplacer", o.remplacer, "Remplace la base qui existe");
+}
+
 void DeclarerLecture(Verbe& v, OptionsFichier& o) {
     DeclarerFichier(v, o);
     v.Drapeau("--json", o.json);
@@ -158,7 +156,13 @@ void DeclarerLecture(Verbe& v, OptionsFichier& o) {
 
 void DeclarerVerbesBase(Verbe racine) {
     using O = OptionsFichier;
-    Declarer<O>(racine, "nouveau", "Crée une base vide", DeclarerFichier, Creer);
+    Declarer<O>(
+        racine, "nouveau", "Crée une base vide",
+        [](Verbe& v, O& o) {
+            DeclarerFichier(v, o);
+            DeclarerRemplacer(v, o);
+        },
+        Creer);
     Declarer<O>(racine, "infos", "Dit ce qu'une base contient", DeclarerLecture, DonnerInfos);
     Declarer<O>(racine, "lister", "Liste les personnes dans l'ordre de tri", DeclarerLecture,
                 Lister);
@@ -176,7 +180,7 @@ void DeclarerVerbesBase(Verbe racine) {
         racine, "restaurer", "Reprend une base d'un .SAV",
         [](Verbe& v, O& o) {
             v.Ajouter("SAV", o.base).Requise();
-            v.Drapeau("--remplacer", o.remplacer, "Remplace la base qui existe");
+            DeclarerRemplacer(v, o);
         },
         Restaurer);
 }

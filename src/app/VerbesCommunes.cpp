@@ -1,4 +1,4 @@
-#include "app/Atelier.h"
+#include "app/CommandeBase.h"
 #include "app/Verbes.h"
 #include "interchange/communes/LireListeCommunes.h"
 #include "messages/Communes.h"
@@ -27,10 +27,6 @@ struct OptionsCommunes {
     bool json = false;
 };
 
-std::string EnTexte(const std::string& chemin) {
-    return Utf8VersTexte(chemin).octets;
-}
-
 /// Reads a list, and tells of it what is left out.
 shell::Issue LireListe(Atelier& atelier, const std::string& nom,
                        interchange::ListeCommunes& liste) {
@@ -49,13 +45,10 @@ shell::Issue LireListe(Atelier& atelier, const std::string& nom,
 
 int CreerCommunes(const OptionsCommunes& o) {
     Atelier atelier{{}};
-    std::error_code erreur;
-    if (!o.remplacer && std::filesystem::exists(o.fichier, erreur)) {
-        shell::Question question;
-        question.texte = shell::Msg(message::ConfirmerRemplacerFichier, EnTexte(o.fichier));
-        question.defaut = shell::Reponse::Non;
-        if (atelier.dialogue.Demander(question) != shell::Reponse::Oui) return Refus;
-    }
+    if (const int statut =
+            VerifierCible(atelier, {.fichier = o.fichier, .remplacer = o.remplacer, .lu = o.liste});
+        statut != Fait)
+        return statut;
     interchange::ListeCommunes liste;
     if (!o.liste.empty())
         if (const shell::Issue lue = LireListe(atelier, o.liste, liste); !lue) return Statut(lue);
@@ -64,7 +57,8 @@ int CreerCommunes(const OptionsCommunes& o) {
     std::string octets;
     if (!storage::ComposerLgx(liste.communes, muet, octets) ||
         !storage::EcrireLgx(disque, o.fichier, o.fichier + ".nouveau", octets)) {
-        atelier.dialogue.Informer(shell::Msg(message::FichierCommunesNonEcrit, EnTexte(o.fichier)));
+        atelier.dialogue.Informer(
+            shell::Msg(message::FichierCommunesNonEcrit, shell::CheminAffiche(o.fichier)));
         return RefusSysteme;
     }
     std::cout << liste.communes.size() << '\n';
@@ -79,9 +73,9 @@ int AvecCommunes(const OptionsCommunes& o) {
     const storage::ResultatCommunes r = storage::BaseCommunes::OuvrirCommunes(disque, o.fichier);
     if (r.etat == storage::OuvertureCommunes::Faite) return travail(atelier, *r.base, o);
     const bool absente = r.etat == storage::OuvertureCommunes::Absente;
-    atelier.dialogue.Informer(
-        absente ? shell::Msg(message::FichierCommunesIntrouvable)
-                : shell::Msg(message::FichierPasUneBaseDeCommunes, EnTexte(o.fichier)));
+    atelier.dialogue.Informer(absente ? shell::Msg(message::FichierCommunesIntrouvable)
+                                      : shell::Msg(message::FichierPasUneBaseDeCommunes,
+                                                   shell::CheminAffiche(o.fichier)));
     return absente ? RefusSysteme : Refus;
 }
 
@@ -96,7 +90,7 @@ nlohmann::ordered_json EnJson(storage::NoCommune n, const storage::Commune& c) {
 }
 
 int ChercherCommunes(Atelier& /*atelier*/, storage::BaseCommunes& base, const OptionsCommunes& o) {
-    const std::string nom = EnTexte(o.nom);
+    const std::string nom = Utf8VersTexte(o.nom).octets;
     const std::vector<storage::NoCommune> trouvees =
         o.son     ? base.ChercherSoundex(ClePhonetique(nom))
         : o.debut ? base.ChercherDebut(nom, storage::BaseCommunes::MaxCommunes)
@@ -117,7 +111,8 @@ int ChercherCommunes(Atelier& /*atelier*/, storage::BaseCommunes& base, const Op
 int ReorganiserCommunes(Atelier& atelier, storage::BaseCommunes& base, const OptionsCommunes& o) {
     if (base.ReorganiserCommunes(atelier.progression) == storage::EcritureCommunes::Faite)
         return Fait;
-    atelier.dialogue.Informer(shell::Msg(message::FichierCommunesNonEcrit, EnTexte(o.fichier)));
+    atelier.dialogue.Informer(
+        shell::Msg(message::FichierCommunesNonEcrit, shell::CheminAffiche(o.fichier)));
     return RefusSysteme;
 }
 

@@ -2,17 +2,24 @@
 #include "app/Verbes.h"
 #include "interchange/commandes/LancerExport.h"
 #include "messages/Export.h"
-#include "values/Comparaison.h"
+#include "messages/Outil.h"
+#include "shell/CycleDeVie.h"
 
-#include <filesystem>
 #include <iostream>
+#include <optional>
 
 namespace dorvane::outil {
 
 namespace {
 
+using interchange::FormatExport;
+
+constexpr const char* SortieStandard = "-";
+
 struct OptionsExporter : OptionsBase {
     std::string sortie;
+    bool remplacer = false;
+    std::optional<FormatExport> format;         ///< nothing: as the extension says
     std::optional<interchange::JeuExport> jeu;  ///< nothing: the one of the settings
     bool reduit = false;
     std::uint32_t ascendants = 0;   ///< whose; 0: nobody's
@@ -21,14 +28,20 @@ struct OptionsExporter : OptionsBase {
     interchange::ReglagesSelection reglages;
 };
 
-bool EstLgr(const std::filesystem::path& sortie) {
-    return EnMajuscules(sortie.extension().string()) == ".LGR";
+/// The format that the line or the extension says; nothing for another extension.
+std::optional<FormatExport> FormatDe(const OptionsExporter& o) {
+    const std::string extension = shell::ExtensionDe(o.sortie);
+    if (o.format) return o.format;
+    if (extension == ".lgr") return FormatExport::Dorvane;
+    if (extension == ".ged" || o.sortie == SortieStandard) return FormatExport::Gedcom;
+    return std::nullopt;
 }
 
-interchange::DemandeExport Demander(const Atelier& atelier, const OptionsExporter& o) {
+interchange::DemandeExport Demander(const Atelier& atelier, const OptionsExporter& o,
+                                    FormatExport format) {
     using interchange::SensExport;
     interchange::DemandeExport demande;
-    if (EstLgr(o.sortie)) demande.format = interchange::FormatExport::Dorvane;
+    demande.format = format;
     demande.jeu =
         o.jeu.value_or(interchange::JeuDuReglage(atelier.session.parametres.generaux.jeuExport));
     demande.reduit = o.reduit;
@@ -41,17 +54,43 @@ interchange::DemandeExport Demander(const Atelier& atelier, const OptionsExporte
     return demande;
 }
 
+/// Writes the bytes of an export to the standard output; the counts are the caller's.
+interchange::ResultatExport Emettre(Atelier& atelier, const interchange::DemandeExport& demande) {
+    interchange::ResultatExport r{shell::Issue::Faite(), {}};
+    std::string octets;
+    const std::string nom = atelier.session.NomBase + ".ged";
+    if (!interchange::ComposerExport(atelier.session, demande, nom, octets, r.comptes))
+        r.issue = shell::Issue::Arretee();
+    else
+        std::cout << octets;
+    return r;
+}
+
 int Exporter(Atelier& atelier, const OptionsExporter& o) {
-    const interchange::DemandeExport demande = Demander(atelier, o);
+    const std::optional<FormatExport> format = FormatDe(o);
+    if (!format) {
+        atelier.dialogue.Informer(
+            shell::Msg(message::ExtensionDExportInconnue, shell::CheminAffiche(o.sortie)));
+        return MauvaisUsage;
+    }
+    const interchange::DemandeExport demande = Demander(atelier, o, *format);
+    const bool emise = o.sortie == SortieStandard;
     if (!demande.entiere && !PersonneExiste(atelier, demande.parcours.front().depart.valeur))
         return Refus;
+    if (!emise)
+        if (const int statut = VerifierCible(atelier, {.fichier = o.sortie,
+                                                       .remplacer = o.remplacer,
+                                                       .base = atelier.session.CheminBase});
+            statut != Fait)
+            return statut;
     const interchange::ResultatExport r =
-        interchange::ExporterVers(atelier.session, demande, o.sortie);
+        emise ? Emettre(atelier, demande)
+              : interchange::ExporterVers(atelier.session, demande, o.sortie);
     const interchange::ComptesExport& c = r.comptes;
     if (c.perdus > 0)
         atelier.dialogue.Informer(
             shell::Msg(message::CaracteresPerdusALExport, std::to_string(c.perdus)));
-    if (r.issue)
+    if (r.issue && !emise)
         std::cout << c.individus << ' ' << c.unions << ' ' << c.evenements << ' ' << c.documents
                   << '\n';
     return Statut(shell::Dire(atelier.dialogue, r.issue));
@@ -88,7 +127,13 @@ void DeclarerVerbesExport(Verbe racine) {
         "personnes, de familles, d'événements et de documents",
         [](Verbe& v, OptionsExporter& o) {
             using interchange::JeuExport;
-            v.Ajouter("SORTIE", o.sortie, "Le fichier .ged ou .lgr").Requise();
+            v.Ajouter("SORTIE", o.sortie, "Le fichier .ged ou .lgr, ou - pour la sortie standard")
+                .Requise();
+            v.Choix<FormatExport>(
+                "--format", o.format,
+                {{"gedcom", FormatExport::Gedcom}, {"lgr", FormatExport::Dorvane}},
+                "gedcom ou lgr, quelle que soit l'extension");
+            v.Drapeau("--remplacer", o.remplacer, "Remplace le fichier qui existe");
             v.Choix<JeuExport>("--jeu", o.jeu,
                                {{"ascii", JeuExport::Ascii},
                                 {"ansi", JeuExport::Ansi},

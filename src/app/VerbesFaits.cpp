@@ -103,17 +103,18 @@ bool LireLien(Atelier& atelier, const std::string& texte, storage::LienEvenement
             shell::Msg(message::ArgumentDeLienMalEcrit, Utf8VersTexte(texte).octets));
         return false;
     }
-    const Texte role = LireArgument(atelier, std::string{lu.ptr + 1, fin});
-    if (!role || !PersonneExiste(atelier, numero)) return false;
-    lien = {NoOrdre{numero}, shell::TagDeLibelle(atelier.session.catalogue, *role)};
+    if (!PersonneExiste(atelier, numero)) return false;
+    const std::string role = LireArgument(atelier, std::string{lu.ptr + 1, fin});
+    lien = {NoOrdre{numero}, shell::TagDeLibelle(atelier.session.catalogue, role)};
     return true;
 }
 
 bool PoserChamps(Atelier& atelier, const OptionsEvenement& o, records::SaisieEvenement& saisie) {
-    if (!Prendre(atelier, o.type, saisie.type) || !Prendre(atelier, o.date, saisie.date) ||
-        !Prendre(atelier, o.lieu, saisie.lieu) || !Prendre(atelier, o.libelle, saisie.libelle) ||
-        !Prendre(atelier, o.note, saisie.note))
-        return false;
+    Prendre(atelier, o.type, saisie.type);
+    Prendre(atelier, o.date, saisie.date);
+    Prendre(atelier, o.lieu, saisie.lieu);
+    Prendre(atelier, o.libelle, saisie.libelle);
+    Prendre(atelier, o.note, saisie.note);
     saisie.type = shell::TagDeLibelle(atelier.session.catalogue, saisie.type);
     for (const std::string& texte : o.personnes) {
         storage::LienEvenement lien;
@@ -152,21 +153,21 @@ int EffacerEvenement(Atelier& atelier, const OptionsEvenement& o) {
 }
 
 int LierEvenement(Atelier& atelier, const OptionsEvenement& o) {
-    const Texte role = LireArgument(atelier, o.role);
-    if (!role || !EvenementExiste(atelier, o.evenement) || !PersonneExiste(atelier, o.personne))
+    if (!EvenementExiste(atelier, o.evenement) || !PersonneExiste(atelier, o.personne))
         return Refus;
+    const std::string role = LireArgument(atelier, o.role);
     return records::LierPersonne(atelier.session, NoEvenement{o.evenement}, NoOrdre{o.personne},
-                                 shell::TagDeLibelle(atelier.session.catalogue, *role))
+                                 shell::TagDeLibelle(atelier.session.catalogue, role))
                ? Fait
                : Refus;
 }
 
 int DelierEvenement(Atelier& atelier, const OptionsEvenement& o) {
-    const Texte role = LireArgument(atelier, o.role);
-    if (!role || !EvenementExiste(atelier, o.evenement) || !PersonneExiste(atelier, o.personne))
+    if (!EvenementExiste(atelier, o.evenement) || !PersonneExiste(atelier, o.personne))
         return Refus;
+    const std::string role = LireArgument(atelier, o.role);
     return records::DelierPersonne(atelier.session, NoEvenement{o.evenement}, NoOrdre{o.personne},
-                                   shell::TagDeLibelle(atelier.session.catalogue, *role))
+                                   shell::TagDeLibelle(atelier.session.catalogue, role))
                ? Fait
                : Refus;
 }
@@ -209,11 +210,10 @@ Texte NomDeFichier(const shell::Session& session, const Texte& donne) {
 
 int Sauver(Atelier& atelier, const OptionsDocument& o, records::SaisieDocument saisie) {
     const Texte fichier = NomDeFichier(atelier.session, o.fichier);
-    if (!Prendre(atelier, o.titre, saisie.valeurs.titre) ||
-        !Prendre(atelier, fichier, saisie.valeurs.fichier) ||
-        !Prendre(atelier, o.type, saisie.valeurs.type) ||
-        !Prendre(atelier, o.note, saisie.valeurs.note))
-        return Refus;
+    Prendre(atelier, o.titre, saisie.valeurs.titre);
+    Prendre(atelier, fichier, saisie.valeurs.fichier);
+    Prendre(atelier, o.type, saisie.valeurs.type);
+    Prendre(atelier, o.note, saisie.valeurs.note);
     const records::IssueDocument issue = records::ValiderDocument(atelier.session, saisie);
     if (issue.etat == records::IssueDocument::Etat::Refuse) return Refus;
     if (o.document == 0) std::cout << saisie.document.valeur << '\n';

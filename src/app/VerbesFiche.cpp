@@ -46,14 +46,11 @@ void DeclarerChamps(Verbe& verbe, OptionsFiche& o) {
     verbe.Ajouter("--note", o.note, "Note libre");
 }
 
-bool PoserDate(Atelier& atelier, const Texte& option, std::string& jourMois, std::string& annee) {
-    std::string date;
-    if (!option) return true;
-    if (!Prendre(atelier, option, date)) return false;
-    const DateTapee coupee = CouperDateTapee(date);
+void PoserDate(Atelier& atelier, const Texte& option, std::string& jourMois, std::string& annee) {
+    if (!option) return;
+    const DateTapee coupee = CouperDateTapee(LireArgument(atelier, *option));
     jourMois = coupee.jourMois;
     annee = coupee.annee;
-    return true;
 }
 
 /// The row of a keyword of the sheet by its label or tag; told when the sheet has no such row.
@@ -71,13 +68,11 @@ storage::ValeurSlot* ChercherLigne(Atelier& atelier, records::RangeesSlots& rang
 bool PoserLignes(Atelier& atelier, const std::vector<std::string>& lignes,
                  records::RangeesSlots& rangees) {
     for (std::size_t i = 0; i + 2 < lignes.size(); i += 3) {
-        const Texte libelle = LireArgument(atelier, lignes[i]);
-        if (!libelle) return false;
-        storage::ValeurSlot* rangee = ChercherLigne(atelier, rangees, *libelle);
-        if (rangee == nullptr ||
-            !PoserDate(atelier, lignes[i + 1], rangee->jourMois, rangee->annee) ||
-            !Prendre(atelier, lignes[i + 2], rangee->lieu))
-            return false;
+        storage::ValeurSlot* rangee =
+            ChercherLigne(atelier, rangees, LireArgument(atelier, lignes[i]));
+        if (rangee == nullptr) return false;
+        PoserDate(atelier, lignes[i + 1], rangee->jourMois, rangee->annee);
+        Prendre(atelier, lignes[i + 2], rangee->lieu);
     }
     return true;
 }
@@ -92,25 +87,25 @@ bool PoserUnion(Atelier& atelier, const OptionsFiche& o, records::SaisieFiche& s
         return false;
     }
     records::SaisieUnion mariage = records::ChargerUnion(atelier.session, NoMariage{o.mariage});
-    if (!PoserDate(atelier, o.dateUnion, mariage.jourMois, mariage.debut) ||
-        !Prendre(atelier, o.finUnion, mariage.fin) ||
-        !Prendre(atelier, o.lieuUnion, mariage.lieu) ||
-        !Prendre(atelier, o.noteUnion, mariage.note))
-        return false;
+    PoserDate(atelier, o.dateUnion, mariage.jourMois, mariage.debut);
+    Prendre(atelier, o.finUnion, mariage.fin);
+    Prendre(atelier, o.lieuUnion, mariage.lieu);
+    Prendre(atelier, o.noteUnion, mariage.note);
     saisie.mariage = std::move(mariage);
     return true;
 }
 
 bool PoserChamps(Atelier& atelier, const OptionsFiche& o, records::SaisieFiche& saisie) {
     if (o.sexe) saisie.sexe = static_cast<Sexe>(o.sexe->front());
-    return Prendre(atelier, o.nom, saisie.nom) && Prendre(atelier, o.prenom, saisie.prenom) &&
-           Prendre(atelier, o.autres, saisie.autrePrenom) &&
-           PoserDate(atelier, o.naissance, saisie.jourMoisNaissance, saisie.anneeNaissance) &&
-           Prendre(atelier, o.lieuNaissance, saisie.lieuNaissance) &&
-           PoserDate(atelier, o.deces, saisie.jourMoisDeces, saisie.anneeDeces) &&
-           Prendre(atelier, o.lieuDeces, saisie.lieuDeces) &&
-           PoserLignes(atelier, o.lignes, saisie.slots) && Prendre(atelier, o.note, saisie.note) &&
-           PoserUnion(atelier, o, saisie);
+    Prendre(atelier, o.nom, saisie.nom);
+    Prendre(atelier, o.prenom, saisie.prenom);
+    Prendre(atelier, o.autres, saisie.autrePrenom);
+    PoserDate(atelier, o.naissance, saisie.jourMoisNaissance, saisie.anneeNaissance);
+    Prendre(atelier, o.lieuNaissance, saisie.lieuNaissance);
+    PoserDate(atelier, o.deces, saisie.jourMoisDeces, saisie.anneeDeces);
+    Prendre(atelier, o.lieuDeces, saisie.lieuDeces);
+    Prendre(atelier, o.note, saisie.note);
+    return PoserLignes(atelier, o.lignes, saisie.slots) && PoserUnion(atelier, o, saisie);
 }
 
 int CreerPersonne(Atelier& atelier, const OptionsFiche& o) {
@@ -160,8 +155,8 @@ int Lier(Atelier& atelier, const OptionsLien& o) {
         std::cout << mariage.valeur << '\n';
         return Fait;
     }
-    const Texte libelle = LireArgument(atelier, o.libelle);
-    return libelle && records::AjouterLien(session, ici, autre, *libelle) ? Fait : Refus;
+    return records::AjouterLien(session, ici, autre, LireArgument(atelier, o.libelle)) ? Fait
+                                                                                       : Refus;
 }
 
 /// The union of two persons; the one that is named when there are several.
@@ -176,9 +171,9 @@ NoMariage UnionDe(storage::Base& base, const OptionsLien& o) {
 }
 
 std::size_t RangDuLien(shell::Session& session, const OptionsLien& o) {
-    const Texte libelle = Utf8VersTexte(o.libelle).octets;
+    const std::string libelle = Utf8VersTexte(o.libelle).octets;
     for (const records::LienAffiche& lien : records::ListerLiens(session, NoOrdre{o.numero}))
-        if (lien.autre.valeur == o.autre && (o.libelle.empty() || lien.libelle == *libelle))
+        if (lien.autre.valeur == o.autre && (o.libelle.empty() || lien.libelle == libelle))
             return lien.rang;
     return 0;
 }

@@ -1,4 +1,4 @@
-#include "app/Atelier.h"
+#include "app/CommandeBase.h"
 #include "app/DecrirePersonne.h"
 #include "app/Verbes.h"
 #include "interchange/commandes/Importer.h"
@@ -69,16 +69,10 @@ int Importer(const OptionsImport& options) {
     Atelier atelier{options.langue};
     fs::path base = options.base;
     if (base.empty()) base = fs::path{options.fichier}.replace_extension(".LGD");
-    std::error_code erreur;
-    if (fs::equivalent(base, options.fichier, erreur)) {
-        std::cerr << base.string() << ": la base et le fichier sont un seul fichier\n";
-        return MauvaisUsage;
-    }
-    if (fs::exists(base, erreur) && !options.remplacer) {
-        atelier.dialogue.Informer(
-            shell::Msg(message::FichierExisteSansRemplacer, shell::CheminAffiche(base)));
-        return Refus;
-    }
+    if (const int statut = VerifierCible(
+            atelier, {.fichier = base, .remplacer = options.remplacer, .lu = options.fichier});
+        statut != Fait)
+        return statut;
     atelier.dialogue.reponse = options.trier ? shell::Reponse::Oui : shell::Reponse::Non;
     const interchange::Importation importation =
         interchange::ImporterVers(atelier.session, options.fichier, base);

@@ -67,8 +67,8 @@ int ListerMotsCles(Atelier& atelier, const OptionsMotCle& o) {
 
 int AjouterMotCle(Atelier& atelier, const OptionsMotCle& o) {
     records::SaisieMotCle saisie{{}, {}, o.indexe};
-    if (!Prendre(atelier, o.code, saisie.code) || !Prendre(atelier, o.libelle, saisie.libelle))
-        return Refus;
+    Prendre(atelier, o.code, saisie.code);
+    Prendre(atelier, o.libelle, saisie.libelle);
     const NoMotCle mot = records::AjouterMotCle(atelier.session, saisie);
     if (!mot) return Refus;
     std::cout << mot.valeur << '\n';
@@ -80,8 +80,8 @@ int ModifierMotCle(Atelier& atelier, const OptionsMotCle& o) {
     if (!avant) return Refus;
     records::SaisieMotCle saisie{std::string(1, avant->code), avant->libelle,
                                  o.indexe || (avant->indexe && !o.sansIndex)};
-    if (!Prendre(atelier, o.code, saisie.code) || !Prendre(atelier, o.libelle, saisie.libelle))
-        return Refus;
+    Prendre(atelier, o.code, saisie.code);
+    Prendre(atelier, o.libelle, saisie.libelle);
     return records::ModifierMotCle(atelier.session, avant->mot, saisie) ? Fait : Refus;
 }
 
@@ -149,11 +149,10 @@ struct OptionsRecherche : OptionsBase {
 };
 
 int ChercherNoms(Atelier& atelier, const OptionsRecherche& o) {
-    const Texte texte = LireArgument(atelier, o.texte);
-    if (!texte) return Refus;
+    const std::string texte = LireArgument(atelier, o.texte);
     shell::Session& session = atelier.session;
     records::RechercheNoms recherche{session};
-    if (!records::Rechercher(recherche, session, *texte, false, [] {})) return Refus;
+    if (!records::Rechercher(recherche, session, texte, false, [] {})) return Refus;
     Json liste = Json::array();
     for (const NoOrdre n : recherche.Resultat()) {
         const std::string nom = TexteVersUtf8(records::NomAffiche(session, n));

@@ -1,4 +1,4 @@
-#include "app/Atelier.h"
+#include "app/CommandeBase.h"
 #include "app/Verbes.h"
 #include "interchange/commandes/Importer.h"
 #include "messages/Dorvane.h"
@@ -50,12 +50,10 @@ int ImporterActes(const OptionsReleve& o) {
         atelier.dialogue.Informer(shell::Msg(message::FichierIllisible, nom));
         return RefusSysteme;
     }
-    std::error_code erreur;
-    if (fs::exists(base, erreur) && !o.remplacer) {
-        atelier.dialogue.Informer(
-            shell::Msg(message::FichierExisteSansRemplacer, shell::CheminAffiche(base)));
-        return Refus;
-    }
+    if (const int statut =
+            VerifierCible(atelier, {.fichier = base, .remplacer = o.remplacer, .lu = o.fichier});
+        statut != Fait)
+        return statut;
     const interchange::Releve releve = interchange::LireReleve(*octets, o.sorte);
     if (releve.lignes.empty()) {
         atelier.dialogue.Informer(shell::Msg(message::FichierSansLigneDeReleve, nom));

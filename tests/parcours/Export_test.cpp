@@ -1,6 +1,7 @@
 // Exports through `dorvane-outil` as built.
 #include "parcours/Poste.h"
 
+#include <filesystem>
 #include <string>
 
 #include <doctest/doctest.h>
@@ -15,7 +16,7 @@ struct PosteExport : Poste {
     PosteExport() { REQUIRE(Lancer("importer famille.ged").statut == 0); }
 
     Reponse Exporter(const std::string& options, const std::string& sortie = "x.ged") {
-        return Lancer("exporter famille.LGD " + sortie + ' ' + options);
+        return Lancer("exporter famille.LGD " + sortie + " --remplacer " + options);
     }
     std::string Fichier(const char* nom = "x.ged") { return LireFichier(dossier / nom); }
 };
@@ -44,7 +45,23 @@ TEST_CASE_FIXTURE(PosteExport, "Ancestors and descendants of a person, to a gene
     CHECK(Exporter("--ecarter-1900").sortie == "3 1 0 0\n");
 }
 
-TEST_CASE_FIXTURE(PosteExport, "The extension decides on the format") {
+TEST_CASE_FIXTURE(PosteExport, "A dash writes to the standard output, and nothing else with it") {
+    const Reponse ged = Exporter("--jeu utf8", "-");
+    CHECK(ged.statut == 0);
+    CHECK(ged.sortie.starts_with("0 HEAD\r\n"));
+    CHECK(ged.sortie.ends_with("0 TRLR\r\n"));
+    CHECK(Contient(ged.sortie, "1 FILE famille.ged\r\n"));
+    CHECK(ged.messages.empty());
+    CHECK(Exporter("--format lgr", "-").sortie.ends_with("[FIN]\r\n"));
+    CHECK_FALSE(std::filesystem::exists(dossier / "-"));
+}
+
+TEST_CASE_FIXTURE(PosteExport, "The extension decides on the format, unless it is given") {
+    CHECK(Exporter("", "x.txt").statut == 2);
+    CHECK(Exporter("", "x").statut == 2);
+    CHECK_FALSE(std::filesystem::exists(dossier / "x.txt"));
+    CHECK(Exporter("--format gedcom", "x.txt").statut == 0);
+    CHECK(Fichier("x.txt").starts_with("0 HEAD\r\n"));
     const Reponse lgr = Exporter("--ascendants 3", "x.LGR");
     CHECK(lgr.statut == 0);
     CHECK(lgr.sortie == "3 1 0 0\n");

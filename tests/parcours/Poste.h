@@ -42,7 +42,27 @@ struct Poste {
                 LireFichier(dossier / "messages")};
     }
 
+    /// The same with the standard output or descriptors led elsewhere: "| true", ">&-". The status
+    /// is that of the program itself.
+    Reponse LancerVers(const std::string& arguments, const std::string& vers) const {
+        return LancerShell("'" OUTIL "' " + arguments + ' ' + vers + "; exit ${PIPESTATUS[0]}");
+    }
+    /// The same once `avant` has been done in the shell.
+    Reponse LancerApres(const std::string& avant, const std::string& arguments) const {
+        return LancerShell(avant + "; '" OUTIL "' " + arguments);
+    }
+
     DossierTemporaire dossier;
+
+private:
+    Reponse LancerShell(const std::string& texte) const {
+        EcrireFichier(dossier / "commande", texte);
+        const std::string commande =
+            "cd '" + dossier.chemin.string() + "' && bash commande < entree > sortie 2> messages";
+        const int statut = std::system(commande.c_str());
+        return {WIFEXITED(statut) ? WEXITSTATUS(statut) : -1, LireFichier(dossier / "sortie"),
+                LireFichier(dossier / "messages")};
+    }
 };
 
 inline bool Contient(const std::string& texte, const std::string& morceau) {
