@@ -191,15 +191,16 @@ private:
     PoserLgr poser_;
 };
 
+shell::Issue Abandon() {
+    return shell::Issue::Arretee(shell::Msg(message::InfoIntegrationAbandonnee));
+}
+
 /// Everything up to the first change of the base.
 shell::Issue Preparer(shell::Session& session, std::string& octets, const std::string& nom,
                       ContenuLgr& contenu, RapportImport& rapport) {
-    shell::Issue abandon = shell::Issue::Arretee(shell::Msg(message::InfoIntegrationAbandonnee));
     shell::Issue lecture = LireContenuLgr(session, octets, nom, contenu, rapport);
-    if (lecture.cause == shell::Cause::Arrete) return abandon;
-    if (!lecture) return lecture;
-    if (shell::Issue place = VerifierPlace(session, contenu, nom); !place) return place;
-    return session.progression.Avancer(0, 0) ? shell::Issue::Faite() : abandon;
+    if (lecture.cause == shell::Cause::Arrete) return Abandon();
+    return lecture ? VerifierPlace(session, contenu, nom) : lecture;
 }
 
 }  // namespace
@@ -214,6 +215,8 @@ shell::Issue FusionnerLgr(shell::Session& session, const std::filesystem::path& 
                                         shell::Msg(message::EtatLectureFichier)};
     if (shell::Issue lue = Preparer(session, *octets, nom, contenu, rapport); !lue) return lue;
     if (shell::Issue permise = permettre(contenu); !permise) return permise;
+    // The last moment to give up, that of the question too.
+    if (!session.progression.Avancer(0, 0)) return Abandon();
     session.progression.Phase(shell::Msg(message::EtatEcritureBase));
     Ecriture{session, contenu, rapport}.Executer();
     return shell::Issue::Faite();
