@@ -13,7 +13,8 @@ class Session;
 namespace dorvane::interchange {
 
 /// What is written, and how.
-struct OptionsGedcom : ChoixExport {
+struct OptionsGedcom {
+    ChoixExport choix{};
     JeuExport jeu = JeuExport::Ansi;
     bool reduit = false;  ///< header without file, language and submitter
 };

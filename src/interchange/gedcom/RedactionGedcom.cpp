@@ -93,21 +93,22 @@ bool RedactionGedcom::AMotCle(std::string_view texte) const {
 }
 
 void RedactionGedcom::MarquerChoisis() {
-    const bool tous = options_.choisis.empty();
+    const bool tous = options_.choix.choisis.empty();
     for (std::uint32_t rang = 1; rang <= base_.entete.NbTriIndividus; ++rang) {
         const std::uint32_t n = base_.R_TRI.IndividuAuRang(rang).valeur;
         if (n == 0 || n >= individus_.size()) continue;
-        if (tous || (n < options_.choisis.size() && options_.choisis[n])) individus_[n] = true;
+        if (tous || (n < options_.choix.choisis.size() && options_.choix.choisis[n]))
+            individus_[n] = true;
     }
     for (std::uint32_t rang = 1; rang <= base_.entete.NbTriEvenements; ++rang)
         if (const std::uint32_t e = base_.R_TRI.EvtAuRang(rang).valeur;
             e != 0 && e < evenementsEnTable_.size())
             evenementsEnTable_[e] = true;
-    if (options_.complet) evenements_ = evenementsEnTable_;
+    if (options_.choix.complet) evenements_ = evenementsEnTable_;
     for (std::uint32_t rang = 1; rang <= base_.entete.NbTriDocuments; ++rang)
         if (const std::uint32_t d = base_.R_TRI.DocumentAuRang(rang).valeur;
             d != 0 && d < documents_.size())
-            documents_[d] = options_.complet;
+            documents_[d] = options_.choix.complet;
 }
 
 bool RedactionGedcom::EstEcrit(NoOrdre n) const {

@@ -114,8 +114,8 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: the whole file, byte for byte, in eac
 TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: the whole file of a selection, byte for byte") {
     OptionsGedcom options;
     options.reduit = true;
-    options.complet = false;
-    options.choisis = {false, true, false, true, false, false, true};
+    options.choix.complet = false;
+    options.choix.choisis = {false, true, false, true, false, false, true};
     REQUIRE(ExporterGedcom(session, dossier / "famille.ged", options).issue.cause ==
             shell::Cause::Fait);
     const std::string octets = doublures::LireFichier(dossier / "famille.ged");

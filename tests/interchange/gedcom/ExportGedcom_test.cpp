@@ -194,7 +194,7 @@ TEST_CASE_FIXTURE(Bureau, "ExporterGedcom: only the persons chosen, and no point
     F().Marier(pere, mere, "1849");
     F().Lier(pere, mere, "WITN");
     OptionsGedcom options;
-    options.choisis = {false, true, false};
+    options.choix.choisis = {false, true, false};
     const std::string fichier = Exporter(options);
     CHECK(fichier.find("@I2@") == std::string::npos);
     CHECK(fichier.find("0 @F1@ FAM\n1 HUSB @I1@\n") != std::string::npos);

@@ -28,8 +28,8 @@ TEST_CASE_FIXTURE(EssaiImport,
     std::string lignes = "0 @P@ INDI\n1 SEX M\n";
     for (int i = 0; i < 203; ++i) {
         const std::string n = std::to_string(i);
-        lignes +=
-            "0 @E" + n + "@ INDI\n1 SEX F\n0 @F" + n + "@ FAM\n1 HUSB @P@\n1 WIFE @E" + n + "@\n";
+        lignes.append("0 @E").append(n).append("@ INDI\n1 SEX F\n0 @F").append(n);
+        lignes.append("@ FAM\n1 HUSB @P@\n1 WIFE @E").append(n).append("@\n");
     }
     Importer(lignes);
     CHECK(base->entete.DernierMariage == 200);

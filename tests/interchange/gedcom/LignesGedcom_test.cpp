@@ -18,7 +18,7 @@ std::vector<std::string> Etiquettes(std::string_view texte, FinDeLigne fin) {
         if (sorte == LecteurDeLignes::Sorte::Ligne)
             lues.push_back(std::to_string(ligne.numero) + ':' + std::string{ligne.etiquette});
         else
-            lues.push_back(sorte == LecteurDeLignes::Sorte::Vide ? "vide" : "illisible");
+            lues.emplace_back(sorte == LecteurDeLignes::Sorte::Vide ? "vide" : "illisible");
     }
     return lues;
 }
