@@ -33,8 +33,8 @@ void Limite(benchmark::State& etat, JeuExport jeu) {
     const std::string ecrits(Composer(jeu).size(), 'x');
     for (auto _ : etat) {
         const auto lus = shell::LireTout(banc.dossier / "banc.LGD");
-        benchmark::DoNotOptimize(lus->size());
-        if (!shell::EcrireTout(banc.dossier / "limite.ged", ecrits)) std::abort();
+        benchmark::DoNotOptimize(lus);
+        if (!lus || !shell::EcrireTout(banc.dossier / "limite.ged", ecrits)) std::abort();
     }
     etat.counters["bytes"] = static_cast<double>(ecrits.size());
 }

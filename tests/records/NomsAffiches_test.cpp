@@ -8,7 +8,6 @@
 #include "storage/Base.h"
 #include "values/Texte1252.h"
 
-#include <ctime>
 
 #include <doctest/doctest.h>
 
@@ -149,28 +148,4 @@ TEST_CASE("MessageDuSexe: a sex that is not known has the word of an undetermine
     CHECK(MessageDuSexe(Sexe::Femme) == message::SexeFeminin);
     for (const Sexe sexe : {Sexe::Indetermine, Sexe::Vide, static_cast<Sexe>('X')})
         CHECK(MessageDuSexe(sexe) == message::SexeIndetermine);
-}
-
-TEST_CASE_FIXTURE(Famille,
-                  "NomEtDates: ten thousand random names take less than a tenth of a second") {
-    constexpr std::uint32_t Taille = 20000;
-    for (std::uint32_t i = 0; i < Taille; ++i) {
-        const NoOrdre n = B().NouvelIndividu();
-        B().R_NOM.EcrireNom(n, "Dupont" + std::to_string(i) + ";Jean;Marie;12/3;ABT");
-        B().R_NAISS.EcrireCellule(n, "1820");
-    }
-    REQUIRE(B().Enregistrer());
-    std::uint32_t tirage = 12345;
-    std::size_t longueur = 0;
-    const std::clock_t debut = std::clock();
-    for (int i = 0; i < 10000; ++i) {
-        tirage = tirage * 1103515245U + 12345U;
-        longueur += NomEtDates(session, NoOrdre{1 + (tirage >> 8U) % Taille}).size();
-    }
-    const double secondes = static_cast<double>(std::clock() - debut) / CLOCKS_PER_SEC;
-    MESSAGE("10000 names in " << secondes * 1000 << " ms of processor time");
-    CHECK(longueur > 100000);
-#ifdef NDEBUG
-    CHECK(secondes < 0.1);
-#endif
 }

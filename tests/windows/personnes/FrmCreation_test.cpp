@@ -40,13 +40,13 @@ struct Formulaire : FenetreEssai {
         Frapper(texte);
     }
     /// Any character, also those that no key of the test library makes.
-    void Frapper(const char* texte) {
+    void Frapper(const char* texte) const {
         for (const QChar c : QString::fromUtf8(texte)) {
             QKeyEvent appui{QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString{c}};
             QApplication::sendEvent(fenetre->focusWidget(), &appui);
         }
     }
-    void Entree() { QTest::keyClick(fenetre->focusWidget(), Qt::Key_Return); }
+    void Entree() const { QTest::keyClick(fenetre->focusWidget(), Qt::Key_Return); }
 
     std::unique_ptr<FrmCreation> fenetre;
     NoOrdre suivant{9};  ///< number of the next person
