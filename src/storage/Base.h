@@ -19,6 +19,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 
 namespace dorvane::storage {
 
@@ -127,6 +128,10 @@ private:
     /// Drops directory entries that lie outside a file of `taille` bytes; answers the last byte of
     /// the blocks that are left.
     [[nodiscard]] std::uint64_t VerifierRepertoires(std::uint64_t taille);
+    /// The last byte in use of a file of `taille` bytes whose header says `fin`: the whole file when
+    /// a cell names a record behind it. A last record that has no end is ended by what is written
+    /// next. Only a file that does not end with a record, as its header says, is walked.
+    [[nodiscard]] std::uint64_t FinDesFiches(std::uint64_t fin, std::uint64_t taille);
     void ViderColonnes();
     /// Gives all that waits to the volume; answers the 200 bytes of the header.
     [[nodiscard]] std::string PreparerEnTete();
@@ -156,6 +161,11 @@ struct ResultatOuverture {
 /// Whether a name is of those that the program gives to what lies beside a base: journal, backup,
 /// lock, working files, in capitals or not. A base of that name would be taken for one of them.
 [[nodiscard]] bool EstNomReserve(const std::filesystem::path& chemin);
+
+/// How many persons the header of the file at `chemin` tells of; nothing when it cannot be read or
+/// is no base. A journal beside it is not looked at.
+[[nodiscard]] std::optional<std::uint32_t> CompterPersonnes(Disque& disque,
+                                                            const std::filesystem::path& chemin);
 
 /// Opens the file at `chemin`: lock, version mark, journal, header, sort tables. `disque` outlives
 /// the base. `progression` shows the replay of a journal.

@@ -19,7 +19,6 @@ constexpr std::int64_t Decalage = 1000000;     // keeps the stored keys positive
 constexpr std::size_t TailleLien = 6;
 constexpr std::size_t TailleDocument = 2;
 constexpr std::size_t MorceauListe = 200;
-constexpr std::size_t SansLimite = std::numeric_limits<std::size_t>::max();
 
 /// A byte 0 would end the field.
 std::string SansZero(std::string_view champ) {
@@ -76,7 +75,7 @@ const DescriptionEvt& Evenements::Description(NoEvenement e) {
 }
 
 std::string Evenements::NoteEvt(NoEvenement e) {
-    return volume_.LireTexte(LireTete(e).note, SansLimite);
+    return volume_.LireTexte(LireTete(e).note, MaxTexte);
 }
 
 std::string Evenements::LireListe(Position debut, std::size_t taille) {
@@ -151,7 +150,7 @@ void Evenements::EcrireEvt(NoEvenement e, const PartiesEvt& parties) {
         tete.cle = static_cast<std::uint32_t>(cle);
     }
     if (parties.note) {
-        const std::string note = SansDiese(*parties.note);
+        const std::string note = SansDiese(*parties.note).substr(0, MaxTexte);
         tete.note = note.empty() ? Position{} : volume_.Ajouter(note, "#");
     }
     if (parties.liens) tete.liens = AjouterLiens(*parties.liens);

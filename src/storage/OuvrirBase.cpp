@@ -109,8 +109,10 @@ struct Ouvreur {
         constexpr std::uint64_t FinRepertoires = 3088;
         base->volume.FixerFin(static_cast<std::uint32_t>(
             std::min<std::uint64_t>(std::max(fin, FinRepertoires), 0xFFFFFFFEU)));
-        base->volume.ProtegerZones(base->ZonesDuCommit());
         base->R_TRI.ChargerTris();
+        base->volume.FixerFin(
+            static_cast<std::uint32_t>(base->FinDesFiches(base->volume.FinFichier(), taille)));
+        base->volume.ProtegerZones(base->ZonesDuCommit());
         base->marques = {};
         return base;
     }
@@ -144,6 +146,16 @@ bool EstNomReserve(const std::filesystem::path& chemin) {
     const std::string extension = EnMinuscules(chemin.extension().native());
     return std::ranges::find(Extensions, extension) != Extensions.end() ||
            EnMinuscules(chemin.filename().native()) == "reorg.fic";
+}
+
+std::optional<std::uint32_t> CompterPersonnes(Disque& disque,
+                                              const std::filesystem::path& chemin) {
+    const std::unique_ptr<Fichier> fichier = disque.Ouvrir(chemin, ModeOuverture::LectureSeule);
+    if (!fichier) return std::nullopt;
+    std::string octets(TailleEnTete, '\0');
+    fichier->Lire(Position{1}, octets);
+    if (fichier->EnDefaut() || !PorteMarque(octets)) return std::nullopt;
+    return DecoderEnTete(octets, {}).NbTriIndividus;
 }
 
 ResultatOuverture OuvrirBase(Disque& disque, const std::filesystem::path& chemin,

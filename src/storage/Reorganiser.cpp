@@ -32,7 +32,6 @@ constexpr std::uint32_t TailleTeteDoc = 4;
 constexpr std::size_t MaxDescription = 32100;
 constexpr std::size_t MaxFicheDoc = 32028;
 constexpr std::size_t MaxNoteDoc = 32050;
-constexpr std::size_t SansLimite = std::numeric_limits<std::size_t>::max();
 constexpr std::string_view FinDeListe{"\0\0", 2};
 
 /// A year as its cell holds it: reading has dropped the blanks behind it.
@@ -232,7 +231,7 @@ private:
                     return Position{Chaine4VersNum(std::string_view{tete}.substr(rang * 4, 4))};
                 };
                 bool fini = false;
-                const Position note = Recopier(champ(1), SansLimite);
+                const Position note = Recopier(champ(1), MaxTexte);
                 const Position liens = CopierLiensEvt(ancien);
                 const Position documents = CopierDocumentsEvt(ancien);
                 const Position description = Recopier(champ(4), MaxDescription, &fini);

@@ -2,16 +2,15 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace dorvane::storage {
 namespace {
 
 constexpr std::size_t Pas = 32;
 
-/// Bytes read in steps until `limite` is reached; no limit is the whole file.
+/// Bytes read in steps until `limite` is reached.
 std::size_t LimiteDeLecture(std::size_t limite) {
-    return limite == 0 ? std::numeric_limits<std::size_t>::max() : (limite + Pas - 1) / Pas * Pas;
+    return limite == 0 ? MaxTexte : (limite + Pas - 1) / Pas * Pas;
 }
 
 }  // namespace
@@ -69,7 +68,7 @@ std::string_view ColonneTextes<Cle>::LireTexte(Cle n) {
 
 template <class Cle>
 void ColonneTextes<Cle>::EcrireTexte(Cle n, std::string_view texte) {
-    std::string propre = SansDiese(texte);
+    std::string propre = SansDiese(texte.substr(0, MaxTexte));
     this->EcrireCellule(n, propre.empty() ? Position{} : this->volume_.Ajouter(propre, "#"));
     memo_ = std::move(propre);
     noMemo_ = n;

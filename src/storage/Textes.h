@@ -25,7 +25,7 @@ struct LigneNom {
 [[nodiscard]] std::string SansSeparateur(std::string_view champ);
 
 /// A column whose cells are positions of texts ended by "#". A new record is appended at each
-/// change. `limite`: bytes after which a text without an end is given up; 0 for none.
+/// change. `limite`: bytes after which a text without an end is given up; 0 for `MaxTexte`.
 template <class Cle>
 class ColonneTextes : public Colonne<Cle, FormePosition> {
 public:

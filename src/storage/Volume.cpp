@@ -112,12 +112,13 @@ std::string Volume::LireTexte(Position debut, std::size_t limite, bool* trouve, 
 }
 
 Position Volume::Ajouter(std::string_view debut, std::string_view suite) {
-    const std::uint64_t taille = debut.size() + suite.size();
+    const std::uint64_t taille = aTerminer_.size() + debut.size() + suite.size();
     if (finFichier_ + taille >= TailleMax || (EnDefaut() && queue_.size() + taille > MaxRefus))
         plein_ = true;
     if (plein_) return {};
-    queue_.append(debut).append(suite);
-    const Position position{finFichier_ + 1};
+    const Position position{finFichier_ + static_cast<std::uint32_t>(aTerminer_.size()) + 1};
+    queue_.append(aTerminer_).append(debut).append(suite);
+    aTerminer_.clear();
     finFichier_ += static_cast<std::uint32_t>(taille);
     if (queue_.size() >= maxQueue_ && !EnDefaut()) ViderQueue();
     return position;

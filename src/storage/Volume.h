@@ -16,6 +16,10 @@
 
 namespace dorvane::storage {
 
+/// Bytes of the longest text that is read or written. A text of a damaged file may have its end
+/// gigabytes further on; no family has written as much.
+inline constexpr std::size_t MaxTexte = 64U << 20U;
+
 /// A stretch of the file, smaller than a block, that a commit overwrites in place.
 struct Zone {
     Position debut{};
@@ -64,6 +68,10 @@ public:
                                         char fin = '#');
     /// The same, added to `sortie`. True when `fin` was seen.
     bool LireTexteDans(std::string& sortie, Position debut, std::size_t limite, char fin = '#');
+
+    /// These bytes go before what is appended next: they end a record that a damaged file leaves
+    /// open.
+    void Terminer(std::string octets) { aTerminer_ = std::move(octets); }
 
     /// Appends and answers the position; 0 when the file is full (4 GB), or when too much waits
     /// for a disk that refuses.
@@ -133,6 +141,7 @@ private:
     Journal journal_;
     std::uint32_t finFichier_;
     std::uint32_t finCommise_;  ///< last byte of the last commit; 0 when there is none
+    std::string aTerminer_;     ///< goes before what is appended next
     std::string queue_;         ///< appended bytes not yet written: they end at `finFichier_`
     std::map<std::uint32_t, std::string> blocs_;  ///< overwritten blocks that wait, by position
     std::size_t tailleBlocs_ = 0;

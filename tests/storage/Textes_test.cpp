@@ -97,3 +97,20 @@ TEST_CASE_FIXTURE(Essai, "A # in any text cuts no record") {
     CHECK(base->R_NOM.PrenomDe(NoOrdre{1}) == "C");
     CHECK(base->R_LIEN.TexteElement(NoOrdre{1}, 1) == "X-Y");
 }
+
+TEST_CASE_FIXTURE(Essai,
+                  "A text whose end lies gigabytes further on is given up in bounded memory") {
+    const NoOrdre n = Creer("Martin;Jean;;;", "1820");
+    base->R_TEXTE.EcrireTexte(n, "x");
+    REQUIRE(base->Enregistrer());
+    base->R_TEXTE.EcrireTexte(n, "le dernier");
+    REQUIRE(base->Fermer());
+    base.reset();
+    std::string octets = disque->Octets(Chemin);
+    REQUIRE(octets.ends_with("le dernier#"));
+    octets.pop_back();
+    disque->Poser(Chemin, octets + std::string(MaxTexte + 4096, '\0'));
+    Ouvrir();
+    CHECK(base->R_TEXTE.LireTexte(n).size() == MaxTexte);
+    CHECK(base->R_NOM.NomDe(n) == "Martin");
+}
