@@ -168,10 +168,15 @@ TEST_CASE_FIXTURE(Poste, "Folders, pipes and empty files in place of files are r
         REQUIRE(::mkfifo((dossier / tube).c_str(), 0600) == 0);
     EcrireFichier(dossier / "vide.GED", "");
     EcrireFichier(dossier / "vide.LGD", "");
+    EcrireFichier(dossier / "image.ged",
+                  std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\n1 BIRT\n0 x\n", 36));
+    EcrireFichier(dossier / "lettre.ged", "Chère cousine,\nvoici la famille.\n");
     const auto statut = [this](const std::string& ligne) { return Lancer(ligne).statut; };
     CHECK(statut("importer d") == 3);
     CHECK(statut("importer t.ged --base x.LGD") == 3);
     CHECK(statut("importer vide.GED --base x.LGD") == 1);
+    CHECK(statut("importer image.ged --base x.LGD") == 1);
+    CHECK(statut("importer lettre.ged --base x.LGD") == 1);
     CHECK(statut("importer famille.ged --base d --remplacer") == 3);
     CHECK(statut("importer famille.ged --base absent/x.LGD") == 3);
     CHECK(statut("infos d") == 3);

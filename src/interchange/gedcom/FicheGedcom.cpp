@@ -1,5 +1,6 @@
 #include "interchange/gedcom/FicheGedcom.h"
 
+#include "interchange/gedcom/NomGedcom.h"
 #include "messages/Messages.h"
 #include "values/Comparaison.h"
 #include "values/Marqueurs.h"
@@ -201,6 +202,7 @@ bool FicheGedcom::LireDate(const LigneGedcom& ligne) {
     }
     if (!date->EstVide()) return false;
     *date = LireDateGedcom(ligne.valeur);
+    if (OterArobases(date->jourMois)) contexte_.Noter(Constat::Remplace, ligne);
     return true;
 }
 
@@ -211,6 +213,7 @@ bool FicheGedcom::LireLieu(const LigneGedcom& ligne) {
         std::string& lieu = principaux_[static_cast<std::size_t>(principal_)].lieu;
         if (!lieu.empty()) return false;
         lieu = ligne.valeur;
+        if (OterArobases(lieu)) contexte_.Noter(Constat::Remplace, ligne);
         // These two begin the places of birth and death in the text of a person.
         if (contexte_.pile.Racine() == "INDI"_tag &&
             lieu.find_first_of("$~") != std::string::npos) {
@@ -223,6 +226,7 @@ bool FicheGedcom::LireLieu(const LigneGedcom& ligne) {
         std::string& valeur = slots_.At(slot_).valeur;
         // The place stands before what is there.
         std::string lieu{ligne.valeur};
+        if (OterArobases(lieu)) contexte_.Noter(Constat::Remplace, ligne);
         Joindre(lieu, valeur);
         valeur = std::move(lieu);
         courant_ = &valeur;

@@ -1,6 +1,7 @@
 #include "interchange/gedcom/ImportGedcom.h"
 
 #include "interchange/commun/FaireBase.h"
+#include "interchange/gedcom/LignesGedcom.h"
 #include "interchange/gedcom/PassesImport.h"
 #include "messages/Dorvane.h"
 #include "messages/Messages.h"
@@ -10,6 +11,7 @@
 #include "values/Texte1252.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,6 +40,22 @@ std::string_view Preparer(std::string& octets, RapportImport& rapport) {
         std::ranges::replace(octets, '\0', ' ');
     }
     return std::string_view{octets}.substr(marque);
+}
+
+/// A record stands in the text that a family file may hold: what has none is a picture, a text or
+/// nothing, whatever its name. In a file that is one, its first line tells.
+bool AUnEnregistrement(std::string_view texte, FinDeLigne fin) {
+    constexpr std::array Enregistrements{"HEAD"_tag, "INDI"_tag, "FAM"_tag,  "SOUR"_tag,
+                                         "NOTE"_tag, "OBJE"_tag, "REPO"_tag, "SUBM"_tag,
+                                         "SUBN"_tag, "TRLR"_tag};
+    LecteurDeLignes lecteur{texte, fin};
+    LigneGedcom ligne;
+    for (auto sorte = lecteur.Lire(ligne); sorte != LecteurDeLignes::Sorte::Fin;
+         sorte = lecteur.Lire(ligne))
+        if (sorte == LecteurDeLignes::Sorte::Ligne && ligne.niveau == 0 &&
+            std::ranges::find(Enregistrements, ligne.code) != Enregistrements.end())
+            return true;
+    return false;
 }
 
 /// The submitter of the file becomes the author in the settings of the base.
@@ -69,7 +87,8 @@ shell::Issue ImporterTexte(shell::Session& session, std::string octets,
                            const std::filesystem::path& base, RapportImport& rapport) {
     const std::string_view texte = Preparer(octets, rapport);
     const std::optional<FinDeLigne> fin = ChercherFinDeLigne(texte);
-    if (!fin) return shell::Issue::Refusee(shell::Litteral("Fichier GEDCOM inexploitable"_1252));
+    if (!fin || !AUnEnregistrement(texte, *fin))
+        return shell::Issue::Refusee(shell::Litteral("Fichier GEDCOM inexploitable"_1252));
 
     EnTeteLu entete;
     shell::Issue issue = FaireBase(

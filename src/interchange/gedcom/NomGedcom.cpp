@@ -70,6 +70,16 @@ std::string SansDoubleArobase(std::string_view valeur) {
     return texte;
 }
 
+bool OterArobases(std::string& texte) {
+    if (texte.find('@') == std::string::npos) return false;
+    RemplacerTout(texte, "@#D", "");
+    std::ranges::replace(texte, '@', ' ');
+    while (texte.find("  ") != std::string::npos)
+        RemplacerTout(texte, "  ", " ");
+    texte = std::string{SansBlancs(texte)};
+    return true;
+}
+
 bool RepeteLeNom(std::string_view piece, std::string_view nom) {
     // Nearly always it stands there letter for letter.
     const std::size_t ou = nom.find(piece);

@@ -31,6 +31,9 @@ inline constexpr std::size_t NomLePlusLong = 300;
 
 /// "@@" is how a file writes one "@".
 [[nodiscard]] std::string SansDoubleArobase(std::string_view valeur);
+/// Blanks in place of every "@" of a date or a place, where it would begin the place of a union. Of
+/// a calendar that is not read its name is left: "@#DJULIAN@ 5 MAR". True when there was one.
+[[nodiscard]] bool OterArobases(std::string& texte);
 
 /// Every word of `piece` stands in `nom`, case, accents and punctuation apart: the piece says
 /// nothing that the name does not say.

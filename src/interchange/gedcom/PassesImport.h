@@ -25,7 +25,7 @@ public:
           rapport_{rapport},
           textes_{session},
           contexte_{base, textes_, rapport, pile_},
-          marqueurs_{base},
+          marqueurs_{base, [texte](char c) { return texte.find(c) != std::string_view::npos; }},
           slotsIndividu_{marqueurs_},
           slotsMariage_{marqueurs_},
           liens_{contexte_},

@@ -5,6 +5,7 @@
 #include "values/Texte1252.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace dorvane::interchange {
 namespace {
@@ -18,7 +19,8 @@ bool EstJourEntier(const DateLue& date) {
 
 }  // namespace
 
-MarqueursImport::MarqueursImport(storage::Base& base) : base_{base} {
+MarqueursImport::MarqueursImport(storage::Base& base, Occupe occupe)
+    : base_{base}, occupe_{std::move(occupe)} {
     for (std::uint32_t k = 1; k <= base_.motsCles.Nombre(); ++k) {
         const storage::MotCle& type = base_.motsCles.LibelleType(NoMotCle{k});
         entrees_.push_back({type.libelle, type.symbole});
@@ -31,6 +33,7 @@ char MarqueursImport::Marqueur(std::string_view etiquette) {
     if (base_.motsCles.Nombre() >= storage::MaxMotsCles) return '\0';
     for (const char marqueur : ListeMarqueurs()) {
         if (std::ranges::find(entrees_, marqueur, &Entree::marqueur) != entrees_.end()) continue;
+        if (occupe_(marqueur)) continue;
         entrees_.push_back({std::string{etiquette}, marqueur});
         const storage::MotCle partage = base_.motsCles.LibelleType(NoMotCle{1});
         base_.motsCles.CreerType(NoMotCle{base_.motsCles.Nombre() + 1},

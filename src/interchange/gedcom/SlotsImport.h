@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,11 +13,15 @@
 namespace dorvane::interchange {
 
 /// The keywords of an import: which marker stands in front of the values of a tag. A tag that is a
-/// keyword of every base keeps its marker; others take the free markers in order of appearance.
+/// keyword of every base keeps its marker; others take, in order of appearance, the free markers
+/// that no text of the file holds: "£200" in a note would become a value of its own.
 class MarqueursImport {
 public:
+    /// A character, in code page 1252, stands in a text of the file.
+    using Occupe = std::function<bool(char)>;
+
     /// The keywords of `base`, which outlives the object, are known from the beginning.
-    explicit MarqueursImport(storage::Base& base);
+    MarqueursImport(storage::Base& base, Occupe occupe);
 
     /// Marker of a tag, entered as a keyword at its first sight; 0 when no marker is left.
     [[nodiscard]] char Marqueur(std::string_view etiquette);
@@ -27,6 +32,7 @@ private:
         char marqueur;
     };
     storage::Base& base_;
+    Occupe occupe_;
     std::vector<Entree> entrees_;
 };
 

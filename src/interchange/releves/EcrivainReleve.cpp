@@ -28,6 +28,14 @@ bool TientEncore(std::uint32_t individus, std::uint32_t evenements) {
     return individus <= storage::MaxIndividus && evenements < storage::MaxEvenements;
 }
 
+bool Contient(const Releve& releve, char c) {
+    return std::ranges::any_of(releve.lignes, [c](const LigneReleve& ligne) {
+        return std::ranges::any_of(ligne.champs, [c](const std::string& champ) {
+            return champ.find(c) != std::string::npos;
+        });
+    });
+}
+
 }  // namespace
 
 bool CompteActes::APlace(std::uint32_t personnes) const {
@@ -48,8 +56,11 @@ void CompteActes::CreerEvenement(const EvenementActe& /*evenement*/,
     ++evenements;
 }
 
-EcrivainReleve::EcrivainReleve(storage::Base& base, SorteReleve sorte)
-    : base_{base}, marqueurs_{base}, slots_{marqueurs_} {
+EcrivainReleve::EcrivainReleve(storage::Base& base, const Releve& releve)
+    : base_{base},
+      marqueurs_{base, [&releve](char c) { return Contient(releve, c); }},
+      slots_{marqueurs_} {
+    const SorteReleve sorte = releve.sorte;
     std::vector<std::string_view> premiers{tag::Prenom};
     if (sorte != SorteReleve::Ascendance) premiers.emplace_back(tag::AutresPrenoms);
     premiers.emplace_back(tag::Nom);

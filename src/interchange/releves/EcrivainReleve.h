@@ -82,8 +82,8 @@ public:
 /// tables at the end.
 class EcrivainReleve final : public SortieActes {
 public:
-    /// `base` is new and outlives the object. The keywords of the kind get numbers from 1.
-    EcrivainReleve(storage::Base& base, SorteReleve sorte);
+    /// `base` is new; both outlive the object. The keywords of the kind get numbers from 1.
+    EcrivainReleve(storage::Base& base, const Releve& releve);
 
     [[nodiscard]] bool APlace(std::uint32_t personnes) const override;
     NoOrdre Creer(const PersonneActe& personne) override;

@@ -52,7 +52,7 @@ RapportReleve ExaminerReleve(const shell::Session& session, const Releve& releve
 
 bool RemplirReleve(shell::Session& session, storage::Base& base, const Releve& releve,
                    const std::filesystem::path& fichier, RapportReleve& rapport) {
-    EcrivainReleve ecrivain{base, releve.sorte};
+    EcrivainReleve ecrivain{base, releve};
     ecrivain.CreerDocument(
         session.Message(message::MotReleve) + ' ' + NomReleve(session, releve.sorte),
         shell::CheminAffiche(fichier));

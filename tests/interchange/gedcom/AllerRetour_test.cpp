@@ -112,3 +112,27 @@ TEST_CASE_FIXTURE(Bureau, "Round trip: the file that DORVANE_ALLER_RETOUR names"
     CHECK(compte.Texte() == "");
     Montrer(compte);
 }
+
+TEST_CASE_FIXTURE(Bureau, "A mark of a place in dates and places is told, and costs no place") {
+    ImporterOctets(
+        "0 HEAD\n1 CHAR ANSI\n0 @I1@ INDI\n1 NAME Jean /Martin/\n1 SEX M\n1 BIRT\n"
+        "2 DATE vers @@ 1680\n2 PLAC x@@y\n1 OCCU a@@b\n1 NOTE c@@d et e@f\n1 BURI\n"
+        "2 DATE @#DHEBREW@ 2 TVT 5758\n0 @I2@ INDI\n1 NAME Anne /Durand/\n1 SEX F\n"
+        "0 @F1@ FAM\n1 HUSB @I1@\n1 WIFE @I2@\n1 MARR\n2 DATE @#DJULIAN@ 5 MAR 1700\n"
+        "2 PLAC Saint@@Malo\n0 TRLR\n");
+    CHECK(storage::LieuMariage(*base, NoMariage{1}) == "Saint Malo");
+    CHECK(base->R_DEBMAR.LireCellule(NoMariage{1}) == "1700");
+    CHECK(base->R_TXTMAR.LireTexte(NoMariage{1}) == "JULIAN 5 MAR @Saint.Malo\r\n");
+    CHECK(storage::LieuNaissance(*base, NoOrdre{1}) == "x y");
+    CHECK(base->R_TEXTE.LireTexte(NoOrdre{1}).find("a@b") != std::string_view::npos);
+    CHECK(importation.rapport.Nombre(Constat::Remplace, "FAM.MARR.PLAC") == 1);
+    CHECK(importation.rapport.Nombre(Constat::Remplace, "FAM.MARR.DATE") >= 1);
+    CHECK(importation.rapport.Nombre(Constat::Remplace, "INDI.BIRT.DATE") == 1);
+    std::string premier = Exporter();
+    ImporterOctets(premier);
+    const std::string deuxieme = Exporter();
+    for (int i = 0; i < 10; ++i) {
+        ImporterOctets(Exporter());
+        CHECK(Exporter() == deuxieme);
+    }
+}

@@ -9,7 +9,7 @@ using doublures::EssaiImport;
 TEST_CASE_FIXTURE(
     EssaiImport, "MarqueursImport: keywords of every base keep theirs, others take the next free") {
     Importer("0 @I1@ INDI\n");
-    MarqueursImport marqueurs{*base};
+    MarqueursImport marqueurs{*base, [](char) { return false; }};
     CHECK(marqueurs.Marqueur("OCCU") == '\\');
     CHECK(marqueurs.Marqueur("NICK") == u'µ'_1252);
     CHECK(marqueurs.Marqueur("EMIG") == u'£'_1252);
@@ -18,9 +18,18 @@ TEST_CASE_FIXTURE(
     CHECK(base->motsCles.LibelleType(NoMotCle{12}).libelle == "NICK");
 }
 
+TEST_CASE_FIXTURE(EssaiImport,
+                  "MarqueursImport: no marker that a text of the file holds is given") {
+    Importer(
+        "0 @I1@ INDI\n1 NAME Jean /Martin/\n1 EMIG\n2 PLAC Québec\n1 NOTE £200, µ, §3 et ¬ ± 5\n");
+    CHECK(base->entete.SlotsIndividu[0].symbole == u'¹'_1252);
+    CHECK(storage::SlotsDe(*base, NoOrdre{1})[0].lieu == "Québec"_1252);
+    CHECK(storage::NoteDe(*base, NoOrdre{1}) == "£200, µ, §3 et ¬ ± 5"_1252);
+}
+
 TEST_CASE_FIXTURE(EssaiImport, "MarqueursImport: when no marker is left there is none") {
     Importer("0 @I1@ INDI\n");
-    MarqueursImport marqueurs{*base};
+    MarqueursImport marqueurs{*base, [](char) { return false; }};
     for (int i = 0; i < 14; ++i)
         CHECK(marqueurs.Marqueur("T" + std::to_string(i)) != '\0');
     CHECK(marqueurs.Marqueur("PLUS") == '\0');
