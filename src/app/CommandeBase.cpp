@@ -37,7 +37,7 @@ int SauvegarderBase(const std::filesystem::path& base) {
     if (const int statut = atelier.Fermer(); statut != Fait) return statut;
     const std::filesystem::path& reel = atelier.session.CheminBase;
     const std::filesystem::path copie = shell::CheminSauvegarde(reel);
-    if (!shell::CopierTout(reel, copie)) {
+    if (!shell::EcrireSauvegarde(atelier.session, reel)) {
         atelier.dialogue.Informer(
             shell::Msg(message::SauvegardeNonEcrite, shell::CheminAffiche(copie)));
         return RefusSysteme;

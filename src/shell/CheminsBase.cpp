@@ -1,3 +1,4 @@
+#include "shell/CopiesDatees.h"
 #include "shell/CycleDeVie.h"
 #include "storage/Journal.h"
 #include "values/Comparaison.h"
@@ -57,7 +58,7 @@ fs::path CheminSauvegarde(const fs::path& base) {
 }
 
 fs::path CheminRestauration(const fs::path& sauvegarde) {
-    return AuPremierPoint(sauvegarde, ".LGD");
+    return AuPremierPoint(SansDate(sauvegarde), ".LGD");
 }
 
 fs::path FichierTemporaire(const Session& session, std::string_view debut) {

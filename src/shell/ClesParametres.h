@@ -50,6 +50,7 @@ void ParcourirGeneraux(ReglagesGeneraux& g, Visite visite) {
     visite("Fichier Communes", g.fichierCommunes);
     visite("Généanet", g.geneanet);
     visite("Fréquence Sauvegarde", g.frequenceSauvegarde);
+    visite("Sauvegardes Gardées", g.sauvegardesGardees);
     visite("Assistant", g.assistant);
     visite("Barre de menus", g.barreMenus);
     visite("Barre de fenêtres", g.barreFenetres);

@@ -30,7 +30,8 @@ struct CheminsBase {
 /// "a.SAV" while its journal is "a.b.LOG".
 [[nodiscard]] std::filesystem::path CheminSauvegarde(const std::filesystem::path& base);
 
-/// The path of the base that a backup restores: cut at the first dot of the name, then ".LGD".
+/// The path of the base that a backup restores: without the minute of one of another day, cut at
+/// the first dot of the name, then ".LGD".
 [[nodiscard]] std::filesystem::path CheminRestauration(const std::filesystem::path& sauvegarde);
 
 /// What follows the last dot of a file name, with the dot, in small letters: ".ged". Empty without.
@@ -84,9 +85,13 @@ Issue MnuRestauration(Session& session);
 /// Commits if anything changed; the base stays open.
 Issue MnuEnregistrer(Session& session);
 
-/// Copies the closed base to its backup path and opens it again. Done when the copy stands; tells
-/// why it does not, and then the base stays closed.
+/// Copies the closed base to its backup path and opens it again; the backup that stood there is
+/// kept under the name of its day, with as many others as the settings say. Done when the copy
+/// stands; tells why it does not, and then the base stays closed.
 Issue Sauvegarder(Session& session);
+
+/// The same copy of a base that nobody has open, without a word. False when the system refuses.
+[[nodiscard]] bool EcrireSauvegarde(Session& session, const std::filesystem::path& base);
 
 /// One tick of the timer, every 60 seconds.
 void Minuterie1(Session& session);

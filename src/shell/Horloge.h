@@ -1,5 +1,8 @@
 #pragma once
 
+#include <filesystem>
+#include <optional>
+
 namespace dorvane::shell {
 
 /// A moment of local time. `mois` 1 to 12, `jour` 1 to 31, `annee` in full.
@@ -13,6 +16,9 @@ struct Moment {
 
     friend bool operator==(const Moment&, const Moment&) = default;
 };
+
+/// When the system says that a file was last changed; nothing when it does not.
+[[nodiscard]] std::optional<Moment> MomentDuFichier(const std::filesystem::path& chemin);
 
 /// The only way to know the time: a file that bears a date is then the same at every test.
 class Horloge {

@@ -88,6 +88,7 @@ struct ReglagesGeneraux {
     std::filesystem::path fichierCommunes;  ///< base of communes
     std::filesystem::path geneanet;         ///< folder of the hand-over
     int frequenceSauvegarde = 15;           ///< minutes
+    int sauvegardesGardees = 5;             ///< backups of other days, 0 to 99
     bool assistant = false;
     bool barreMenus = false;    ///< the icon bar shows
     bool barreFenetres = true;  ///< the window bar shows

@@ -3,6 +3,7 @@
 #include "doublures/SessionEssai.h"
 #include "messages/Dorvane.h"
 #include "messages/Messages.h"
+#include "shell/CopiesDatees.h"
 #include "shell/Demarrage.h"
 #include "storage/Base.h"
 #include "values/Texte1252.h"
@@ -324,6 +325,7 @@ TEST_CASE_FIXTURE(Bureau,
     Creer("Martin");
     MnuSauvegarde(session);
     Creer("Perdu");
+    REQUIRE(MnuEnregistrer(session));
     dialogue.fichiers.emplace_back(dossier / "Famille.SAV");
     SUBCASE("no") {
         dialogue.reponses = {Reponse::Non};
@@ -337,9 +339,17 @@ TEST_CASE_FIXTURE(Bureau,
         CHECK(session.CheminBase == famille);
         CHECK(session.base->entete.DernierIndividu == 1);
         CHECK(NomDe(1) == "Martin");
+        // What was replaced is kept, and leads back to the same base.
+        const std::vector<fs::path> gardees = ListerDatees(dossier / "Famille.SAV");
+        REQUIRE(gardees.size() == 1);
+        CHECK(storage::CompterPersonnes(disque, gardees[0]) == 2);
+        CHECK(CheminRestauration(gardees[0]) == famille);
     }
     REQUIRE(dialogue.questions.size() == 1);
-    CHECK(dialogue.questions[0].texte == Msg(message::ConfirmerRemplacerBaseParSauvegarde));
+    const std::string question = session.catalogue.Composer(dialogue.questions[0].texte);
+    CHECK(question.starts_with("Base : 2 personnes, 20"));
+    CHECK(question.find("Sauvegarde : 1 personnes, 20") != std::string::npos);
+    CHECK(question.ends_with(session.Message(message::ConfirmerRemplacerBaseParSauvegarde)));
     CHECK(dialogue.questions[0].titre == Msg(message::TitreRemplacementBase));
     CHECK(dialogue.questions[0].defaut == Reponse::Non);
     CHECK(dialogue.demandesFichier.back().titre == Msg(message::TitreRestaurationSauvegarde));

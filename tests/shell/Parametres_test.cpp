@@ -61,6 +61,7 @@ TEST_CASE_FIXTURE(Foyer,
     const std::pair<const char*, const char*> cles[] = {
         {"Langue", "Français"},
         {"Fréquence Sauvegarde", "15"},
+        {"Sauvegardes Gardées", "5"},
         {"Assistant", "0"},
         {"Barre de menus", "0"},
         {"Barre de fenêtres", "1"},

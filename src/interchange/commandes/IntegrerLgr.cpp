@@ -34,26 +34,22 @@ shell::Issue PermettreIncomplet(shell::Session& session, const ContenuLgr& conte
                : shell::Issue::Arretee(shell::Msg(message::InfoIntegrationAbandonnee));
 }
 
-/// Says what will be added, and that a copy is the only way back; the copy is made on a yes.
+/// A merge has no way back but a copy. That it failed was told.
+shell::Issue Copier(shell::Session& session) {
+    return {shell::Sauvegarder(session).cause};
+}
+
+/// Says what will be added, and that a copy is made first.
 shell::Issue Permettre(shell::Session& session, const ContenuLgr& contenu, const std::string& nom) {
     shell::Question question;
     question.texte = shell::Msg(message::ConfirmerIntegration, nom, DireContenu(session, contenu));
-    question.texte.suite = message::ProposerCopieAvantOperation;
+    question.texte.suite = message::CopieAvantIntegration;
     question.titre = shell::Msg(message::TitreIntegration);
-    question.boutons = shell::Boutons::OuiNonAnnuler;
+    question.boutons = shell::Boutons::ValiderAnnuler;
+    question.defaut = shell::Reponse::Annuler;
     question.grave = true;
-    switch (session.dialogue.Demander(question)) {
-        case shell::Reponse::Oui: {
-            // A copy that failed was told.
-            const shell::Issue copie = shell::Sauvegarder(session);
-            return {copie.cause};
-        }
-        case shell::Reponse::Non:
-            return shell::Issue::Faite();
-        case shell::Reponse::Annuler:
-            break;
-    }
-    return shell::Issue::Arretee();
+    return session.dialogue.Demander(question) == shell::Reponse::Oui ? Copier(session)
+                                                                      : shell::Issue::Arretee();
 }
 
 Integration Integrer(shell::Session& session, const std::filesystem::path& fichier,
@@ -73,7 +69,7 @@ Integration Integrer(shell::Session& session, const std::filesystem::path& fichi
 }  // namespace
 
 Integration IntegrerLgr(shell::Session& session, const std::filesystem::path& fichier) {
-    return Integrer(session, fichier, {});
+    return Integrer(session, fichier, [&](const ContenuLgr&) { return Copier(session); });
 }
 
 shell::Issue IntegrerFichier(shell::Session& session, const std::filesystem::path& fichier) {

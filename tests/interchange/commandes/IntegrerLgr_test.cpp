@@ -297,14 +297,14 @@ TEST_CASE_FIXTURE(Fusion, "When entries of the index run short, new words are en
 
 TEST_CASE_FIXTURE(Fusion, "The menu asks for the file, merges it in and shows the report") {
     dialogue.fichiers.emplace_back(fichier);
-    dialogue.reponses = {shell::Reponse::Non};
+    dialogue.reponses = {shell::Reponse::Oui};
     doublures::EcrireFichier(fichier, texte);
     CHECK(MnuIntegrer(session));
     CHECK(dialogue.demandesFichier.back().filtre == "Export Dorvane (*.lgr) |*.lgr|");
     CHECK(B().entete.NbTriIndividus == 6);
     CHECK(ecran.titres == std::vector{shell::Msg(message::TitreIntegration)});
     CHECK(ecran.rapport.find("Personnes : 3") != std::string::npos);
-    CHECK_FALSE(std::filesystem::exists(shell::CheminSauvegarde(session.CheminBase)));
+    CHECK(std::filesystem::exists(shell::CheminSauvegarde(session.CheminBase)));
     progression.cadres = 1;
     CHECK(MnuIntegrer(session).cause == shell::Cause::Refuse);
     CHECK(dialogue.entendu.back().no == message::OperationImpossible);
@@ -322,8 +322,9 @@ TEST_CASE_FIXTURE(Fusion, "Before it is merged in, the question says what the fi
     CHECK(question.texte.valeur == fichier.filename().string());
     CHECK(question.texte.valeur2 ==
           "personnes : 3, unions : 1, \xE9v\xE9nements : 1, documents : 2");
-    CHECK(question.texte.suite == message::ProposerCopieAvantOperation);
-    CHECK(question.boutons == shell::Boutons::OuiNonAnnuler);
+    CHECK(question.texte.suite == message::CopieAvantIntegration);
+    CHECK(question.boutons == shell::Boutons::ValiderAnnuler);
+    CHECK(question.defaut == shell::Reponse::Annuler);
     // It was closed without an answer: nothing happened, and nothing more is said.
     CHECK(dialogue.entendu.size() == 1);
     CHECK(Etat() == avant);
