@@ -122,7 +122,7 @@ TEST_CASE_FIXTURE(PosteCibles, "An output that nobody reads, or that is full, en
           "exporter famille.LGD -", "controler famille.LGD", "calculer Replie Été", "--help"}) {
         CAPTURE(ligne);
         CHECK(LancerVers(ligne, "> /dev/full").statut == 3);
-        CHECK(LancerVers(ligne, "| true").statut == 3);
+        CHECK(LancerApres("exec 3> >(:); wait $!", std::string{ligne} + " >&3").statut == 3);
     }
 }
 
