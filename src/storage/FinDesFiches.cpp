@@ -13,8 +13,12 @@ namespace {
 enum class Forme {
     Texte,  ///< with "#"
     Liste,  ///< with an entry of zeros
-    Tete,   ///< by its length
+    Tete,   ///< by its length: of an event
+    Zone,   ///< the same: directories that the header names
 };
+
+constexpr std::uint64_t TailleTeteEvt = 20;
+constexpr std::uint64_t TailleZone = 1664;  // of the largest
 
 struct Fiche {
     Position debut{};
@@ -46,7 +50,7 @@ Fiche ChercherDerniere(Base& b, std::uint64_t taille) {
     for (const Position zone :
          {b.entete.PosRepEvt, b.entete.PosRepTriEvt, b.entete.PosRepLstEvt,
           b.entete.PosSuiteIndividus, b.entete.PosSuiteIndex, b.entete.PosSuiteMariages})
-        derniere.Voir(zone, Forme::Tete);
+        derniere.Voir(zone, Forme::Zone);
     const std::uint32_t individus = b.entete.DernierIndividu;
     derniere.VoirColonne<NoOrdre>(b.R_NOM, individus, Forme::Texte);
     derniere.VoirColonne<NoOrdre>(b.R_TEXTE, individus, Forme::Texte);
@@ -66,19 +70,26 @@ Fiche ChercherDerniere(Base& b, std::uint64_t taille) {
     return derniere.Trouvee();
 }
 
-/// What a record lacks at its end, in a file that ends behind it; empty: nothing.
-std::string FinManquante(Volume& volume, const Fiche& fiche, std::uint64_t fin) {
+/// The record has its end within a file of `fin` bytes.
+bool EstFinie(Volume& volume, const Fiche& fiche, std::uint64_t fin) {
+    const std::uint64_t reste = fin + 1 - fiche.debut.valeur;
+    if (fiche.forme == Forme::Tete) return reste >= TailleTeteEvt;
+    if (fiche.forme == Forme::Zone) return reste >= TailleZone;
+    if (fiche.forme == Forme::Texte) {
+        bool finie = false;
+        static_cast<void>(volume.LireTexte(fiche.debut, reste, &finie));
+        return finie;
+    }
+    std::string octets(std::min<std::uint64_t>(reste, 2), '\0');
+    volume.Lire(Position{static_cast<std::uint32_t>(fin + 1 - octets.size())}, octets);
+    return octets == std::string(2, '\0');
+}
+
+/// What ends a record that lacks its end.
+std::string FinManquante(Forme forme) {
     // Whatever the width of its entries, two of them are zeros then.
     constexpr std::size_t FinDeListe = 12;
-    const std::size_t reste = fin + 1 - fiche.debut.valeur;
-    bool finie = true;
-    if (fiche.forme == Forme::Texte)
-        static_cast<void>(volume.LireTexte(fiche.debut, reste, &finie));
-    if (!finie) return "#";
-    if (fiche.forme != Forme::Liste) return {};
-    std::string octets(std::min<std::size_t>(reste, 2), '\0');
-    volume.Lire(Position{static_cast<std::uint32_t>(fin + 1 - octets.size())}, octets);
-    return octets == std::string(2, '\0') ? std::string{} : std::string(FinDeListe, '\0');
+    return forme == Forme::Texte ? "#" : std::string(forme == Forme::Liste ? FinDeListe : 0, '\0');
 }
 
 }  // namespace
@@ -90,8 +101,8 @@ std::uint64_t Base::FinDesFiches(std::uint64_t fin, std::uint64_t taille) {
     if (fin == taille && (dernier == '#' || dernier == '\0')) return fin;
     const Fiche derniere = ChercherDerniere(*this, taille);
     if (!derniere.debut) return fin;
-    if (derniere.debut.valeur > fin) fin = taille;
-    volume.Terminer(FinManquante(volume, derniere, fin));
+    if (derniere.debut.valeur > fin || !EstFinie(volume, derniere, fin)) fin = taille;
+    if (!EstFinie(volume, derniere, fin)) volume.Terminer(FinManquante(derniere.forme));
     return fin;
 }
 

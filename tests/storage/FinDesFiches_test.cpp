@@ -14,6 +14,16 @@ struct Abimee : Essai {
         SeanceEssai seance{*base, 11};
         for (int i = 0; i < 400; ++i)
             seance.Agir();
+        // Texts and lists behind the last block.
+        for (int fois = 0; fois < 3; ++fois) {
+            Rouvrir();
+            for (NoOrdre n{1}; n.valeur <= base->entete.DernierIndividu; ++n.valeur) {
+                base->R_TEXTE.EcrireTexte(n, "texte " + std::to_string(n.valeur));
+                base->R_NOM.EcrireNom(n, "Nom" + std::to_string(n.valeur) + ";;;;");
+            }
+            for (NoEvenement e{1}; e.valeur <= base->entete.DernierEvenement; ++e.valeur)
+                base->R_EVT.EcrireEvt(e, {.note = "note " + std::to_string(e.valeur)});
+        }
         REQUIRE(base->Fermer());
         base.reset();
     }
