@@ -1,5 +1,6 @@
 #include "records/FicheDocument.h"
 
+#include "messages/Dorvane.h"
 #include "messages/Faits.h"
 #include "messages/Messages.h"
 #include "records/Incidents.h"
@@ -137,8 +138,12 @@ IssueDocument ValiderDocument(shell::Session& session, SaisieDocument& saisie) {
 bool SupprimerDocument(shell::Session& session, NoDocument document) {
     if (!session.base || !session.base->R_IMAGE.LireCellule(document)) return false;
     storage::Base& base = *session.base;
-    if (!ConfirmerRetrait(session, shell::Litteral(TitreAffiche(session, document)))) return false;
     const UsagesDocument usages = ChercherUsages(session, document);
+    const std::size_t nombre = usages.individus.size() + usages.evenements.size();
+    if (!ConfirmerRetrait(session,
+                          shell::Msg(message::ConfirmerSupprimerDocument,
+                                     TitreAffiche(session, document), std::to_string(nombre))))
+        return false;
     for (const NoOrdre individu : usages.individus) {
         const std::vector<NoDocument> liste = base.R_LSTIMG.Elements(individu);
         for (auto fois = std::count(liste.begin(), liste.end(), document); fois > 0; --fois)

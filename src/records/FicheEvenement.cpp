@@ -1,5 +1,6 @@
 #include "records/FicheEvenement.h"
 
+#include "messages/Dorvane.h"
 #include "messages/Faits.h"
 #include "messages/Messages.h"
 #include "records/EcrireEvenement.h"
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <set>
 #include <utility>
 
 namespace dorvane::records {
@@ -27,6 +29,14 @@ constexpr std::size_t MaxDescription = 32000;  // bytes of the three texts and w
 std::string DateEnMots(shell::Session& session, NoEvenement e) {
     const std::int32_t cle = session.base->R_EVT.CleDateEvt(e);
     return cle == storage::CleSansDate ? std::string{} : AfficherDateEvenement(cle, session.Mots());
+}
+
+/// A person with two roles counts once.
+std::size_t NombreDePersonnes(const LiensEvenement& liens) {
+    std::set<NoOrdre> personnes;
+    for (const LienEvenement& lien : liens)
+        personnes.insert(lien.individu);
+    return personnes.size();
 }
 
 /// Outer blanks, as foreign files bring them, are no difference.
@@ -187,9 +197,12 @@ IssueEvenement EcrireSaisie(shell::Session& session, SaisieEvenement& saisie) {
 
 bool SupprimerEvenement(shell::Session& session, NoEvenement evenement) {
     if (!session.base || !session.base->R_EVT.LireCellule(evenement)) return false;
-    if (!ConfirmerRetrait(session, shell::Litteral(ResumeEvenement(session, evenement))))
-        return false;
     storage::Base& base = *session.base;
+    const std::size_t nombre = NombreDePersonnes(base.R_EVT.Liens(evenement));
+    if (!ConfirmerRetrait(session,
+                          shell::Msg(message::ConfirmerSupprimerEvenement,
+                                     ResumeEvenement(session, evenement), std::to_string(nombre))))
+        return false;
     RetirerDesFiches(base, evenement);
     if (base.R_TRI.RangEvt(evenement) != 0) base.R_TRI.RetirerEvt(evenement);
     base.R_EVT.EffacerEvt(evenement);

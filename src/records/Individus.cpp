@@ -1,8 +1,10 @@
 #include "records/Individus.h"
 
+#include "messages/Dorvane.h"
 #include "messages/Messages.h"
 #include "records/ControleFiche.h"
 #include "records/NomsAffiches.h"
+#include "records/Questions.h"
 #include "records/Rangement.h"
 #include "records/TexteFiche.h"
 #include "shell/Numerotation.h"
@@ -155,11 +157,12 @@ bool SupprimerIndividu(shell::Session& session, NoOrdre n) {
         session.dialogue.Informer(shell::Msg(refus), titre);
         return false;
     }
-    const shell::Phrase question{
-        {}, std::string{SansBlancs(NomEtDates(session, n))}, {}, message::ConfirmerSuppression};
-    if (!session.dialogue.Confirmer(
-            {question.valeur.empty() ? shell::Msg(message::ConfirmerSuppression) : question, titre,
-             shell::Boutons::OuiNon, shell::Reponse::Non, true}))
+    const std::string nom = NomEtDates(session, n);
+    const std::string_view montre = SansBlancs(nom);
+    if (!ConfirmerRetrait(session, montre.empty()
+                                       ? shell::Msg(message::ConfirmerSupprimerPersonneSansNom,
+                                                    std::to_string(n.valeur))
+                                       : shell::Msg(message::ConfirmerSupprimerPersonne, montre)))
         return false;
     const std::uint32_t rang = base.R_TRI.RangIndividu(n);
     Vider(base, n, rang);

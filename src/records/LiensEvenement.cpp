@@ -1,8 +1,10 @@
+#include "messages/Dorvane.h"
 #include "records/EcrireEvenement.h"
 #include "records/Famille.h"
 #include "records/FicheEvenement.h"
 #include "records/NomsAffiches.h"
 #include "records/Questions.h"
+#include "shell/Libelles.h"
 #include "shell/Session.h"
 #include "storage/Base.h"
 
@@ -50,7 +52,12 @@ bool DelierPersonne(shell::Session& session, NoEvenement evenement, NoOrdre indi
         return candidat.individu == individu && (role.empty() || candidat.role == role);
     });
     if (lien == liens.end()) return false;
-    if (!ConfirmerRetrait(session, shell::Litteral(NomAffiche(session, individu)))) return false;
+    std::string qui = NomAffiche(session, individu);
+    if (!lien->role.empty())
+        qui.append(" (").append(shell::LibelleDeTag(session.catalogue, lien->role)).append(")");
+    if (!ConfirmerRetrait(session, shell::Msg(message::ConfirmerRetirerDEvenement, qui,
+                                              ResumeEvenement(session, evenement))))
+        return false;
     liens.erase(lien);
     storage::PartiesEvt parties;
     parties.liens = std::move(liens);

@@ -1,7 +1,7 @@
 #include "records/MotsUsuels.h"
 
 #include "messages/Dorvane.h"
-#include "messages/Messages.h"
+#include "records/Questions.h"
 #include "shell/Libelles.h"
 #include "values/Comparaison.h"
 #include "values/Texte1252.h"
@@ -36,13 +36,6 @@ bool EstAcceptable(std::string_view mot) {
     });
 }
 
-bool ConfirmerSuppression(shell::Session& session) {
-    return session.dialogue.Confirmer({.texte = shell::Msg(message::ConfirmerSuppression),
-                                       .titre = shell::Msg(message::TitreSuppression),
-                                       .defaut = shell::Reponse::Non,
-                                       .grave = true});
-}
-
 /// The settings could not be written: they are as they were in memory, and the user knows.
 bool Dire(shell::Session& session, bool ecrit) {
     if (!ecrit) session.dialogue.Informer(shell::Msg(message::ReglagesNonEnregistres));
@@ -71,7 +64,8 @@ bool AjouterMotUsuel(shell::Session& session, std::string_view rubrique, std::st
 }
 
 bool SupprimerMotUsuel(shell::Session& session, std::string_view rubrique, std::string_view mot) {
-    if (!Contient(ListerMotsUsuels(session, rubrique), mot) || !ConfirmerSuppression(session))
+    if (!Contient(ListerMotsUsuels(session, rubrique), mot) ||
+        !ConfirmerRetrait(session, shell::Msg(message::ConfirmerSupprimerMotUsuel, mot, rubrique)))
         return false;
     return Dire(session,
                 session.parametres.SupprimerMot(SectionDe(session, rubrique),
@@ -87,7 +81,10 @@ bool AjouterRubrique(shell::Session& session, std::string_view rubrique) {
 }
 
 bool SupprimerRubrique(shell::Session& session, std::string_view rubrique) {
-    if (!Contient(ListerRubriques(session), rubrique) || !ConfirmerSuppression(session))
+    if (!Contient(ListerRubriques(session), rubrique)) return false;
+    const std::size_t mots = ListerMotsUsuels(session, rubrique).size();
+    if (!ConfirmerRetrait(session, shell::Msg(message::ConfirmerSupprimerRubrique, rubrique,
+                                              std::to_string(mots))))
         return false;
     session.parametres.magasin.SupprimerSection(SectionDe(session, rubrique));
     return Dire(session, session.parametres.SupprimerMot(

@@ -1,5 +1,7 @@
 #include "shell/Catalogue.h"
 
+#include "values/Comparaison.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -61,6 +63,42 @@ void LireTable(const Catalogue::Lecteur& lecteur, std::int32_t position,
         table[i] = LireEntier(std::span{octets}.subspan(4 * i).template first<4>());
 }
 
+/// A name begins with a capital; numbers, and most names of files, do not.
+bool CommenceParVoyelle(std::string_view valeur) {
+    constexpr std::string_view Voyelles = "AEIOU\x8C\xC6";
+    if (valeur.empty() || EnMinuscule(valeur[0]) == valeur[0]) return false;
+    return Voyelles.find(Replie(valeur.substr(0, 1))) != std::string_view::npos;
+}
+
+/// "Descendants de " in front of "Antoinette" becomes "Descendants d'".
+void Elider(std::string& texte, std::string_view valeur) {
+    if (!CommenceParVoyelle(valeur)) return;
+    for (const std::string_view mot : {" de ", " que "}) {
+        const bool seul = texte == mot.substr(1);
+        if (!seul && !texte.ends_with(mot)) continue;
+        texte.replace(texte.size() - 2, 2, "'");
+        return;
+    }
+}
+
+/// The template with its values, in one pass: a "&2" inside the first value stays as the user wrote
+/// it.
+std::string Remplir(std::string_view modele, const Phrase& phrase) {
+    std::string texte;
+    for (std::size_t i = 0; i < modele.size(); ++i) {
+        const char suivant = i + 1 < modele.size() ? modele[i + 1] : ' ';
+        if (modele[i] == '&' && (suivant == '1' || suivant == '2')) {
+            const std::string& valeur = suivant == '1' ? phrase.valeur : phrase.valeur2;
+            Elider(texte, valeur);
+            texte += valeur;
+            ++i;
+        } else {
+            texte += modele[i];
+        }
+    }
+    return texte;
+}
+
 }  // namespace
 
 bool Catalogue::Ouvrir(const std::filesystem::path& chemin) {
@@ -112,21 +150,9 @@ std::string Catalogue::LireTexte(std::int32_t position) const {
 }
 
 std::string Catalogue::Composer(const Phrase& phrase) const {
-    if (!phrase.no) return phrase.valeur;
-    const std::string modele = Message(phrase.no);
-    // In one pass, so that a "&2" inside the first value stays as the user wrote it.
-    std::string texte;
-    for (std::size_t i = 0; i < modele.size(); ++i) {
-        const char suivant = i + 1 < modele.size() ? modele[i + 1] : ' ';
-        if (modele[i] == '&' && (suivant == '1' || suivant == '2')) {
-            texte += suivant == '1' ? phrase.valeur : phrase.valeur2;
-            ++i;
-        } else {
-            texte += modele[i];
-        }
-    }
+    std::string texte = phrase.no ? Remplir(Message(phrase.no), phrase) : phrase.valeur;
     if (phrase.suite) {
-        texte += '\n';
+        if (!texte.empty()) texte += '\n';
         texte += Message(phrase.suite);
     }
     return texte;

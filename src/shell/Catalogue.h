@@ -38,7 +38,8 @@ public:
     /// The text of a message, in code page 1252; empty when there is none.
     [[nodiscard]] std::string Message(NoMessage no) const;
 
-    /// The text with "&1", "&2" and what follows filled in; a literal as it stands.
+    /// The text with "&1" and "&2" filled in, a literal as it stands, and what follows on a line of
+    /// its own. "de" and "que" lose their "e" in front of a name that begins with a vowel.
     [[nodiscard]] std::string Composer(const Phrase& phrase) const;
 
     /// Forgets the block held in memory.

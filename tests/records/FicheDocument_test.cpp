@@ -277,7 +277,8 @@ TEST_CASE_FIXTURE(Scene,
     CHECK(Intacte());
     Repondre({Oui});
     CHECK(SupprimerDocument(session, a));
-    CHECK(Dit() == Mots{"(Acte)+ConfirmerSuppression", "(Acte)+ConfirmerSuppression"});
+    CHECK(Dit() == Mots{"ConfirmerSupprimerDocument(Acte, 3)+ConfirmerSuppression",
+                        "ConfirmerSupprimerDocument(Acte, 3)+ConfirmerSuppression"});
     CHECK_FALSE(base.R_IMAGE.LireCellule(a));
     CHECK(base.R_LSTIMG.Elements(louis) == Documents{b});
     CHECK(base.R_LSTIMG.Elements(rose) == Documents{b});

@@ -355,7 +355,8 @@ TEST_CASE_FIXTURE(Scene, "ValiderEvenement: one person may have two roles in an 
     CHECK(DelierPersonne(session, e, paul, "WITN"));
     CHECK(EvtsDe(paul) == std::vector<std::uint32_t>{1});
     CHECK(base.R_LSTEVT.TexteElement(paul, 1) == "MAIN");
-    CHECK(Dit() == Mots{"(Paul Martin)+ConfirmerSuppression"});
+    CHECK(Dit() == Mots{std::string{"ConfirmerRetirerDEvenement(Paul Martin (Témoin), Recensement, "
+                                    "1er janvier 1830 : Paul Martin)+ConfirmerSuppression"_1252}});
 }
 
 TEST_CASE_FIXTURE(Scene,
@@ -367,7 +368,9 @@ TEST_CASE_FIXTURE(Scene,
     CHECK_FALSE(SupprimerEvenement(session, e));
     CHECK(dialogue.titres.back().no == message::TitreSuppression);
     CHECK(dialogue.questions.back().defaut == Non);
-    CHECK(Dit() == Mots{"(Mariage, 4 mai 1815 : Louis Martin, Rose Blanc)+ConfirmerSuppression"});
+    CHECK(Dit() ==
+          Mots{"ConfirmerSupprimerEvenement(Mariage, 4 mai 1815 : Louis Martin, Rose Blanc, "
+               "2)+ConfirmerSuppression"});
     CHECK(Intacte());
     Repondre({Oui});
     CHECK(SupprimerEvenement(session, e));

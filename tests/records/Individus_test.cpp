@@ -1,6 +1,7 @@
 #include "records/Individus.h"
 
 #include "doublures/FicheEssai.h"
+#include "messages/Dorvane.h"
 #include "messages/Fiche.h"
 #include "messages/Messages.h"
 #include "records/AccordEvenements.h"
@@ -290,8 +291,8 @@ TEST_CASE_FIXTURE(Suppression, "SupprimerIndividu: what holds a person is told i
 TEST_CASE_FIXTURE(Suppression,
                   "SupprimerIndividu: asks with the name, and a no leaves all as it is") {
     CHECK_FALSE(SupprimerIndividu(session, jean));
-    CHECK(dialogue.entendu ==
-          Phrases{{NoMessage{}, "Jean Dupont (o1800)", "", message::ConfirmerSuppression}});
+    CHECK(dialogue.entendu == Phrases{{message::ConfirmerSupprimerPersonne, "Jean Dupont (o1800)",
+                                       "", message::ConfirmerSuppression}});
     CHECK(dialogue.titres == Phrases{titre});
     CHECK(dialogue.questions[0].defaut == shell::Reponse::Non);
     CHECK(Ordre() == std::vector{jean, anne});

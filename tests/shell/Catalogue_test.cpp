@@ -6,6 +6,7 @@
 #include "messages/Dorvane.h"
 #include "messages/Messages.h"
 #include "shell/CompilerCatalogue.h"
+#include "values/Texte1252.h"
 
 #include <algorithm>
 #include <cstring>
@@ -65,6 +66,41 @@ CatalogueCompile Compiler(std::string_view tsv, std::string_view colonne = "fr")
 }
 
 }  // namespace
+
+TEST_CASE_FIXTURE(SessionEssai, "Composer: what follows stands on a line of its own") {
+    session.catalogue.Ouvrir(dossier / "partage/Français.mes");
+    Phrase literale = Litteral("Acte");
+    literale.suite = message::ConfirmerSuppression;
+    CHECK(session.catalogue.Composer(literale) == "Acte\nConfirmez-vous la suppression ?");
+    Phrase seule = Litteral("");
+    seule.suite = message::ConfirmerSuppression;
+    CHECK(session.catalogue.Composer(seule) == "Confirmez-vous la suppression ?");
+    Phrase remplie = Msg(message::TitreFamilleDe, "Paul");
+    remplie.suite = message::ConfirmerSuppression;
+    CHECK(session.catalogue.Composer(remplie) ==
+          "Famille de Paul\nConfirmez-vous la suppression ?");
+}
+
+TEST_CASE_FIXTURE(SessionEssai,
+                  "Composer: \"de\" and \"que\" lose their \"e\" before a name in a vowel") {
+    session.catalogue.Ouvrir(dossier / "partage/Français.mes");
+    const auto famille = [this](std::string_view nom) {
+        return TexteVersUtf8(session.catalogue.Composer(Msg(message::TitreFamilleDe, nom)));
+    };
+    CHECK(famille("Antoinette") == "Famille d'Antoinette");
+    CHECK(famille("Émile"_1252) == "Famille d'Émile");
+    CHECK(famille("Œdipe"_1252) == "Famille d'Œdipe");
+    CHECK(famille("Paul") == "Famille de Paul");
+    CHECK(famille("Henri") == "Famille de Henri");
+    CHECK(famille("Yann") == "Famille de Yann");
+    CHECK(famille("essai.LGD") == "Famille de essai.LGD");
+    CHECK(famille("1850") == "Famille de 1850");
+    CHECK(famille("") == "Famille de ");
+    CHECK(session.catalogue.Composer(Msg(message::DemanderSiEpouseEstLaMere, "Anne", "Ida")) ==
+          std::string{"Ida est-elle la mère d'Anne ?"_1252});
+    session.catalogue.Ouvrir(dossier / "partage/English.mes");
+    CHECK(famille("Antoinette") == "Family of Antoinette");
+}
 
 TEST_CASE("Catalogue: message 1000 is entry 1000 of block 1, and 1001 entry 1 of block 2") {
     Plan plan;
