@@ -98,7 +98,8 @@ bool Arret(Session& session) {
 
 bool ConfirmerSortie(Session& session) {
     return CommandePermise(session) &&
-           session.dialogue.Confirmer(Msg(message::ConfirmerQuitterDorvane));
+           session.dialogue.Confirmer(
+               Question{Msg(message::ConfirmerQuitterDorvane), {}, Boutons::OuiNonAnnuler});
 }
 
 void OuvrirFichierDepose(Session& session, const fs::path& chemin) {

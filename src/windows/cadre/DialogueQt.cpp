@@ -71,6 +71,22 @@ private:
     int profondeur_ = 0;
 };
 
+/// Who asked is the window in use again once the box has gone: a desktop may turn to the main one.
+class RetourAuDemandeur {
+public:
+    explicit RetourAuDemandeur(QWidget* fenetre) : fenetre_{fenetre} {}
+    ~RetourAuDemandeur() {
+        if (fenetre_ != nullptr && fenetre_->isVisible()) fenetre_->activateWindow();
+    }
+    RetourAuDemandeur(const RetourAuDemandeur&) = delete;
+    RetourAuDemandeur& operator=(const RetourAuDemandeur&) = delete;
+
+    [[nodiscard]] QWidget* Fenetre() const { return fenetre_; }
+
+private:
+    QPointer<QWidget> fenetre_;
+};
+
 void Placer(QFileDialog& dialogue, const std::filesystem::path& depart) {
     if (depart.empty()) return;
     const QString chemin = CheminVersQt(depart);
@@ -124,7 +140,8 @@ QString DialogueQt::Titre(const shell::Phrase& titre) const {
 
 void DialogueQt::Informer(const shell::Phrase& texte, const shell::Phrase& titre) {
     const SansSablier sansSablier;
-    QMessageBox boite{Dessous()};
+    const RetourAuDemandeur retour{Dessous()};
+    QMessageBox boite{retour.Fenetre()};
     Preparer(boite, Composer(texte), Titre(titre));
     boite.setIcon(QMessageBox::Information);
     boite.exec();
@@ -136,7 +153,8 @@ void DialogueQt::Annoncer(const shell::Phrase& texte) {
 
 Reponse DialogueQt::Demander(const shell::Question& question) {
     const SansSablier sansSablier;
-    QMessageBox boite{Dessous()};
+    const RetourAuDemandeur retour{Dessous()};
+    QMessageBox boite{retour.Fenetre()};
     Preparer(boite, Composer(question.texte), Titre(question.titre));
     boite.setIcon(question.grave ? QMessageBox::Warning : QMessageBox::Question);
     boite.setStandardButtons(Offerts(question.boutons));
@@ -150,13 +168,15 @@ Reponse DialogueQt::Demander(const shell::Question& question) {
 
 NoOrdre DialogueQt::ChoisirPersonne(const shell::DemandePersonne& demande) {
     const SansSablier sansSablier;
-    FrmNom fenetre{*session_, demande, Dessous()};
+    const RetourAuDemandeur retour{Dessous()};
+    FrmNom fenetre{*session_, demande, retour.Fenetre()};
     return fenetre.exec() == QDialog::Accepted ? fenetre.Choisie() : NoOrdre{};
 }
 
 std::optional<std::filesystem::path> DialogueQt::ChoisirFichier(const DemandeFichier& demande) {
     const SansSablier sansSablier;
-    QFileDialog dialogue{Dessous()};
+    const RetourAuDemandeur retour{Dessous()};
+    QFileDialog dialogue{retour.Fenetre()};
     if (!demande.titre.EstVide()) dialogue.setWindowTitle(Composer(demande.titre));
     if (!demande.filtre.empty()) dialogue.setNameFilters(FiltresFichiers(demande.filtre));
     switch (demande.sorte) {

@@ -27,6 +27,7 @@
 #include "windows/controles/FenetreFille.h"
 #include "windows/controles/FrmRapport.h"
 #include "windows/controles/Icones.h"
+#include "windows/controles/LangueSaisies.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/SuiviLieu.h"
 #include "windows/controles/Unicode.h"
@@ -41,6 +42,14 @@ namespace {
 constexpr int PeriodeMinuterie1 = 60000;  ///< ms: automatic save
 constexpr int PeriodeMinuterie2 = 500;    ///< ms: the window bar follows the open windows
 constexpr int DureeAnnonce = 10000;       ///< ms that a text stays in the status bar
+
+/// The title of a window as its own frame shows it: "[*]" is a star while something is not saved.
+QString TitreDeBouton(const QWidget& fenetre) {
+    QString titre = fenetre.windowTitle();
+    titre.replace(QStringLiteral("[*]"),
+                  fenetre.isWindowModified() ? QStringLiteral("*") : QString{});
+    return titre.replace(u'&', QStringLiteral("&&"));
+}
 
 }  // namespace
 
@@ -212,9 +221,8 @@ void MDIForm1::SuivreFenetres() {
     const QList<QAction*> boutons = fenetres_->actions();
     bool pareil = boutons.size() == ouvertes.size();
     for (qsizetype i = 0; pareil && i < boutons.size(); ++i)
-        pareil =
-            boutons[i]->data().value<QWidget*>() == ouvertes[i] &&
-            boutons[i]->text() == ouvertes[i]->windowTitle().replace(u'&', QStringLiteral("&&"));
+        pareil = boutons[i]->data().value<QWidget*>() == ouvertes[i] &&
+                 boutons[i]->text() == TitreDeBouton(*ouvertes[i]);
     // One window needs no bar to choose it.
     fenetres_->setVisible(session_.parametres.generaux.barreFenetres && ouvertes.size() > 1);
     if (pareil) return;
@@ -223,8 +231,7 @@ void MDIForm1::SuivreFenetres() {
         bouton->deleteLater();
     }
     for (QWidget* fenetre : ouvertes) {
-        QAction* bouton =
-            fenetres_->addAction(fenetre->windowTitle().replace(u'&', QStringLiteral("&&")));
+        QAction* bouton = fenetres_->addAction(TitreDeBouton(*fenetre));
         bouton->setData(QVariant::fromValue(fenetre));
         connect(bouton, &QAction::triggered, fenetre, [fenetre] {
             fenetre->window()->show();
@@ -241,10 +248,11 @@ void MDIForm1::Minuterie() {
 }
 
 void MDIForm1::ChangerLangue(const QString& nom) {
+    const MotsDeLangue avant{session_};
     if (!shell::ChoisirLangue(session_, nom.toStdString())) return;
     TraduireQt();
-    for (FenetreFille* fille : Filles())
-        fille->Traduire();
+    for (FenetreFille* fille : findChildren<FenetreFille*>())
+        fille->ChangerLangue(avant);
     Actualiser();
 }
 

@@ -6,7 +6,6 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QShortcut>
 #include <QTimer>
 
 #include "messages/Communes.h"
@@ -87,9 +86,6 @@ void FrmCommune::Connecter() {
         connect(champ, &QLineEdit::textChanged, this, &FrmCommune::SuivreFiche);
     connect(ui_->TxtCommentaire, &QPlainTextEdit::textChanged, this, &FrmCommune::SuivreFiche);
     connect(ui_->MnuMaj, &QPushButton::clicked, this, &FrmCommune::Enregistrer);
-    connect(new QShortcut{QKeySequence::Save, this}, &QShortcut::activated, this, [this] {
-        if (ui_->MnuMaj->isEnabled()) Enregistrer();
-    });
     connect(ui_->CmdNouvelle, &QPushButton::clicked, this, &FrmCommune::Nouvelle);
     connect(ui_->CmdSupprimer, &QPushButton::clicked, this, &FrmCommune::Supprimer);
     connect(ui_->CmdRattachement, &QToolButton::clicked, this, &FrmCommune::AllerAuRattachement);
@@ -252,17 +248,13 @@ void FrmCommune::Utiliser(const Commune& commune) {
 bool FrmCommune::ConfirmerFermeture() {
     if (travaille_) return false;
     if (!Modifiee()) return true;
-    switch (S().dialogue.Demander({.texte = shell::Msg(message::ProposerEnregistrerCommune),
-                                   .boutons = shell::Boutons::OuiNonAnnuler})) {
-        case shell::Reponse::Oui:
-            return Enregistrer();
-        case shell::Reponse::Non:
-            Montrer(numero_);
-            return true;
-        case shell::Reponse::Annuler:
-            break;
-    }
-    return false;
+    return QuitterSaisie(
+        shell::Msg(message::ProposerEnregistrerCommune), [this] { return Enregistrer(); },
+        [this] { Montrer(numero_); });
+}
+
+bool FrmCommune::EnregistrerSaisie() {
+    return !ui_->MnuMaj->isEnabled() || Enregistrer();
 }
 
 void FrmCommune::reject() {

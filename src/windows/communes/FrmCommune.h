@@ -44,6 +44,7 @@ public:
     void reject() override;
 
 protected:
+    [[nodiscard]] bool EnregistrerSaisie() override;
     bool eventFilter(QObject* objet, QEvent* evenement) override;
     void changeEvent(QEvent* evenement) override;
     void done(int resultat) override;

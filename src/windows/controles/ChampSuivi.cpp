@@ -25,8 +25,12 @@ QColor Teinte(const QPalette& palette) {
 
 }  // namespace
 
+bool EstMarque(const QWidget& widget) {
+    return !widget.accessibleDescription().isEmpty();
+}
+
 void MarquerModifie(QWidget& widget, bool modifie, const shell::Session& session) {
-    if (modifie == !widget.accessibleDescription().isEmpty()) return;
+    if (modifie == EstMarque(widget)) return;
     // The palette of the desktop again, and not one of a moment ago.
     QPalette palette;
     if (modifie) {
@@ -53,6 +57,16 @@ void RelireChamp(QLineEdit& champ, std::string_view texte, bool garder) {
         champ.setProperty(Stocke, TexteVersQt(texte));
     else
         PoserChamp(champ, texte);
+}
+
+void ReecrireChamp(QLineEdit& champ, const std::function<QString(const QString&)>& reecrire) {
+    const QVariant stocke = champ.property(Stocke);
+    if (stocke.isValid()) champ.setProperty(Stocke, reecrire(stocke.toString()));
+    const QString texte = reecrire(champ.text());
+    if (texte == champ.text()) return;
+    const int curseur = champ.cursorPosition();
+    champ.setText(texte);
+    champ.setCursorPosition(curseur);
 }
 
 void MarquerChamp(QLineEdit& champ, const shell::Session& session) {

@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,12 @@ void RelireChamp(QLineEdit& champ, std::string_view texte, bool garder);
 
 /// Sets or takes away the mark by what the field says now.
 void MarquerChamp(QLineEdit& champ, const shell::Session& session);
+
+/// Writes what the field says, and what it is compared with, in other words. The cursor stays.
+void ReecrireChamp(QLineEdit& champ, const std::function<QString(const QString&)>& reecrire);
+
+/// The field looks like a changed one.
+[[nodiscard]] bool EstMarque(const QWidget& widget);
 
 /// Gives any widget the look of a changed one, or takes it away.
 void MarquerModifie(QWidget& widget, bool modifie, const shell::Session& session);

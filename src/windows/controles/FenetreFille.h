@@ -2,7 +2,7 @@
 
 #include <QDialog>
 
-#include "values/Numeros.h"
+#include "values/Phrase.h"
 
 #include <cstdint>
 #include <functional>
@@ -12,6 +12,8 @@ class Session;
 }
 
 namespace dorvane::windows {
+
+class MotsDeLangue;
 
 /// Size and place of a window as it was last left, kept in the settings under its name. Nothing
 /// when there is none; false then.
@@ -28,6 +30,10 @@ public:
 
     /// Takes over the language in use. Called once the controls are there, and after a change.
     virtual void Traduire();
+
+    /// The language has changed; `avant` is the former one. What is typed is written in the new
+    /// words, and what is shown is read again.
+    virtual void ChangerLangue(const MotsDeLangue& avant);
 
     /// Another window has changed the base: reads again what this one shows. What the user has
     /// typed and not saved stays.
@@ -48,16 +54,30 @@ Q_SIGNALS:
     void baseChangee();
 
 protected:
+    bool event(QEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
     void showEvent(QShowEvent* evenement) override;
     void done(int resultat) override;
 
-    /// Gives the window up when something is not saved: asks `question`; yes saves with
-    /// `enregistrer`, no closes, cancel stays.
-    void Renoncer(NoMessage question, const std::function<void()>& enregistrer);
+    /// Ctrl+S, before the base is saved: writes what is typed in this window. False when the base
+    /// is not to be saved now: something was refused, or was not for the base.
+    [[nodiscard]] virtual bool EnregistrerSaisie() { return true; }
+
+    /// Asks what becomes of entries that are not saved: yes saves them, no gives them up, and
+    /// cancel, which is also Escape and the closing of the box, leaves all as it is. True when the
+    /// entries are settled.
+    [[nodiscard]] bool QuitterSaisie(const Phrase& question,
+                                     const std::function<bool()>& enregistrer,
+                                     const std::function<void()>& abandonner);
+
+    /// The same for a window that goes with its entries: `enregistrer` closes it itself.
+    void Renoncer(const Phrase& question, const std::function<void()>& enregistrer);
 
     [[nodiscard]] shell::Session& S() const { return session_; }
 
 private:
+    void QuitterProgramme();
+
     shell::Session& session_;
     bool placee_ = false;
 };

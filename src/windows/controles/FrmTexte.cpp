@@ -187,10 +187,15 @@ void FrmTexte::Sauver() {
     accept();
 }
 
+bool FrmTexte::EnregistrerSaisie() {
+    Sauver();
+    return false;
+}
+
 /// Escape and the close button lose nothing without a question.
 void FrmTexte::reject() {
     if (!ui_->TxtTexte->EstModifiee()) return FenetreFille::reject();
-    Renoncer(message::ProposerEnregistrerTexte, [this] { Sauver(); });
+    Renoncer(shell::Msg(message::ProposerEnregistrerTexte), [this] { Sauver(); });
 }
 
 }  // namespace dorvane::windows

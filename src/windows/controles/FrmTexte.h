@@ -31,6 +31,8 @@ public:
 
 protected:
     void reject() override;
+    /// The text goes to the window below; nothing of it is in the base yet.
+    [[nodiscard]] bool EnregistrerSaisie() override;
 
 private:
     void FaireBarre();

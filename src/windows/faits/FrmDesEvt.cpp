@@ -20,6 +20,7 @@
 #include "windows/controles/Completeur.h"
 #include "windows/controles/FrmTexte.h"
 #include "windows/controles/Icones.h"
+#include "windows/controles/LangueSaisies.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/OuvrirDocument.h"
 #include "windows/controles/Remplaces.h"
@@ -106,6 +107,7 @@ void FrmDesEvt::PreparerListes() {
     Completer(*ui_->CboTypeEvt);
     Completer(*ui_->CboRole);
     new Completeur{*ui_->TxtLieu, S(), records::mots::Lieux};
+    SuivreLangue(*ui_->TxtDate, SorteSaisie::DateEvenement);
     for (QWidget* liste :
          {static_cast<QWidget*>(ui_->GrdLiens), static_cast<QWidget*>(ui_->LstDoc)})
         liste->installEventFilter(this);
@@ -173,7 +175,35 @@ void FrmDesEvt::Traduire() {
     setWindowTitle(resume.empty() ? TexteEcran(S(), message::TitreNouvelEvenement)
                                   : TexteEcran(resume));
     RemplirTypes();
+    const QString role = ui_->CboRole->currentText();
     RemplirRoles();
+    if (!role.isEmpty()) ui_->CboRole->setEditText(role);
+    SuivreDate();
+}
+
+/// A kind or a role may be typed in any case: it is the entry of the list that it stands for.
+void FrmDesEvt::TraduireListe(QComboBox& liste, const MotsDeLangue& avant) {
+    const std::string saisi = QtVersTexte(liste.currentText()).octets;
+    const std::string tag = TagDe(liste);
+    const bool offert = liste.findData(QByteArray::fromStdString(tag)) >= 0;
+    const QSignalBlocker silence{liste};
+    liste.setEditText(TexteVersQt(offert ? shell::LibelleDeTag(S().catalogue, tag)
+                                         : avant.Traduire(saisi, SorteSaisie::Libelle, S())));
+}
+
+void FrmDesEvt::ChangerLangue(const MotsDeLangue& avant) {
+    for (QComboBox* liste : {ui_->CboTypeEvt, ui_->CboRole})
+        if (!liste->currentText().isEmpty()) TraduireListe(*liste, avant);
+    FenetreFille::ChangerLangue(avant);
+    static_cast<void>(Lire());
+    const int rangee = ui_->GrdLiens->currentIndex().row();
+    liens_->Relire();
+    ui_->GrdLiens->setCurrentIndex(liens_->index(rangee, 0));
+}
+
+bool FrmDesEvt::EnregistrerSaisie() {
+    CmdMajClique();
+    return !isVisible();
 }
 
 void FrmDesEvt::RemplirTypes() {
@@ -326,7 +356,7 @@ void FrmDesEvt::CmdMajClique() {
 void FrmDesEvt::reject() {
     static_cast<void>(Lire());
     if (!records::EvenementModifie(S(), saisie_)) return FenetreFille::reject();
-    Renoncer(message::ProposerEnregistrerEvenement, [this] { CmdMajClique(); });
+    Renoncer(shell::Msg(message::ProposerEnregistrerEvenement), [this] { CmdMajClique(); });
 }
 
 void FrmDesEvt::done(int resultat) {

@@ -38,6 +38,7 @@ public:
     [[nodiscard]] bool Ecrit() const { return ecrit_; }
 
     void Traduire() override;
+    void ChangerLangue(const MotsDeLangue& avant) override;
 
     /// Escape and the closing of the window ask first when something is not saved.
     void reject() override;
@@ -45,11 +46,13 @@ public:
 protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
     void done(int resultat) override;
+    [[nodiscard]] bool EnregistrerSaisie() override;
 
 private:
     void PreparerListes();
     void Connecter();
     void RemplirTypes();
+    void TraduireListe(QComboBox& liste, const MotsDeLangue& avant);
     void RemplirRoles();
     void Montrer();
     [[nodiscard]] std::size_t Lire();

@@ -196,7 +196,12 @@ void FrmDesImage::CmdValiderClique() {
 void FrmDesImage::reject() {
     static_cast<void>(Lire());
     if (!S().base || !records::DocumentModifie(S(), saisie_)) return FenetreFille::reject();
-    Renoncer(message::ProposerEnregistrerDocument, [this] { CmdValiderClique(); });
+    Renoncer(shell::Msg(message::ProposerEnregistrerDocument), [this] { CmdValiderClique(); });
+}
+
+bool FrmDesImage::EnregistrerSaisie() {
+    CmdValiderClique();
+    return !isVisible();
 }
 
 void FrmDesImage::dragEnterEvent(QDragEnterEvent* evenement) {

@@ -38,6 +38,7 @@ public:
 protected:
     void dragEnterEvent(QDragEnterEvent* evenement) override;
     void dropEvent(QDropEvent* evenement) override;
+    [[nodiscard]] bool EnregistrerSaisie() override;
 
 private:
     void RemplirTypes();

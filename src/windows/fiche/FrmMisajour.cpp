@@ -268,13 +268,17 @@ void FrmMisajour::AllerAuChamp(Champ champ) {
 
 bool FrmMisajour::Demander() {
     if (!Modifiee()) return true;
-    if (S().dialogue.Confirmer(shell::Msg(message::ProposerEnregistrerFiche))) return Valider();
-    Charger();
-    return true;
+    return QuitterSaisie(
+        shell::Msg(message::ProposerEnregistrerFiche), [this] { return Valider(); },
+        [this] { Charger(); });
 }
 
 bool FrmMisajour::ConfirmerFermeture() {
     return !isVisible() || Demander();
+}
+
+bool FrmMisajour::EnregistrerSaisie() {
+    return !Modifiee() || Valider();
 }
 
 void FrmMisajour::reject() {

@@ -44,6 +44,7 @@ public:
 
 protected:
     void done(int resultat) override;
+    [[nodiscard]] bool EnregistrerSaisie() override;
 
 private:
     enum Onglet { Faits, Unions, Liens };

@@ -11,6 +11,7 @@
 #include "storage/Base.h"
 #include "windows/controles/ChampSuivi.h"
 #include "windows/controles/Icones.h"
+#include "windows/controles/LangueSaisies.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/Unicode.h"
 #include "windows/personnes/FrmLiens.h"
@@ -31,6 +32,7 @@ PageLiens::PageLiens(shell::Session& session, ServicesFiche& fiche, QWidget* par
     });
     connect(ui_->CmdLienAjout, &QPushButton::clicked, this, &PageLiens::Ajouter);
     connect(ui_->CmdLienSup, &QPushButton::clicked, this, &PageLiens::Retirer);
+    SuivreLangue(*ui_->TxtLien, SorteSaisie::Libelle);
     connect(ui_->TxtLien, &QLineEdit::textChanged, this, [this] {
         if (charge_) return;
         MarquerChamp(*ui_->TxtLien, S());

@@ -206,6 +206,7 @@ void PageUnions::Traduire() {
     Habiller(*ui_->CmdSupEnft, "Abandonner", message::BulleRetirerEnfant);
     ui_->L_Conjoint->DireVide(TexteEcran(S(), message::AucuneUnionFiche));
     ui_->L_Enfants->DireVide(TexteEcran(S(), message::AucunEnfantFiche));
+    Changer();
 }
 
 QString PageUnions::Compte() const {

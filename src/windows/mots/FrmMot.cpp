@@ -12,6 +12,7 @@
 #include "storage/Base.h"
 #include "windows/controles/ChampSuivi.h"
 #include "windows/controles/Completeur.h"
+#include "windows/controles/LangueSaisies.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/Remplaces.h"
 #include "windows/controles/Unicode.h"
@@ -75,6 +76,7 @@ void FrmMot::FaireRangees() {
         if (definition.slots[k].drapeau == '1') {
             rangee.jourMois = FaireChamp("TxtIndJ", k, slots_[k].jourMois,
                                          message::InviteJourEtMoisRubrique, rubrique);
+            SuivreLangue(*rangee.jourMois, SorteSaisie::JourMois);
             rangee.annee =
                 FaireChamp("TxtIndA", k, slots_[k].annee, message::InviteAnneeRubrique, rubrique);
             rangee.annee->setMaxLength(TailleAnnee);
@@ -128,6 +130,17 @@ void FrmMot::Reprendre() {
     }
 }
 
+void FrmMot::ChangerLangue(const MotsDeLangue& avant) {
+    FenetreFille::ChangerLangue(avant);
+    // As the fields show it now.
+    slots_ = records::ChargerFiche(S(), individu_).slots;
+}
+
+bool FrmMot::EnregistrerSaisie() {
+    Valider();
+    return !isVisible();
+}
+
 records::RangeesSlots FrmMot::Lire(std::size_t& remplaces) const {
     records::RangeesSlots valeurs = slots_;
     for (std::size_t k = 0; k < rangees_.size() && rangees_[k].lieu != nullptr; ++k) {
@@ -153,7 +166,7 @@ void FrmMot::Valider() {
 void FrmMot::reject() {
     std::size_t remplaces = 0;
     if (Lire(remplaces) == slots_) return FenetreFille::reject();
-    Renoncer(message::ProposerEnregistrerRubriques, [this] { Valider(); });
+    Renoncer(shell::Msg(message::ProposerEnregistrerRubriques), [this] { Valider(); });
 }
 
 }  // namespace dorvane::windows

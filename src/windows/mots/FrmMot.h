@@ -27,11 +27,13 @@ public:
            QWidget* parent);
     ~FrmMot() override;
 
+    void ChangerLangue(const MotsDeLangue& avant) override;
     /// Asks first when something is not saved.
     void reject() override;
 
 protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
+    [[nodiscard]] bool EnregistrerSaisie() override;
 
 private:
     struct Rangee {

@@ -4,11 +4,13 @@
 #include <QHeaderView>
 #include <QSignalBlocker>
 
+#include "messages/Dorvane.h"
 #include "messages/Messages.h"
 #include "messages/Mots.h"
 #include "shell/Session.h"
 #include "windows/controles/ChampSuivi.h"
 #include "windows/controles/Icones.h"
+#include "windows/controles/LangueSaisies.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/Remplaces.h"
 #include "windows/controles/Unicode.h"
@@ -23,6 +25,10 @@ enum Colonnes { Libelle, Code, Index, NbColonnes };
 
 constexpr int LargeurCode = 60;
 constexpr int LargeurIndex = 100;
+
+std::string CodeDe(const records::LigneMotCle& mot) {
+    return mot.mot ? std::string{mot.code} : std::string{};
+}
 
 }  // namespace
 
@@ -49,7 +55,8 @@ FrmMotCle::FrmMotCle(shell::Session& session, QWidget* parent)
     ui_->Tx_LMClé->setMaximumWidth(LargeurCode);
     ui_->CmdMotUp->setIcon(Icone("Monter"));
     ui_->CmdMotDown->setIcon(Icone("Descendre"));
-    connect(&liste, &QTableWidget::currentCellChanged, this, &FrmMotCle::MontrerMot);
+    connect(&liste, &QTableWidget::currentCellChanged, this, [this] { MontrerMot(); });
+    SuivreLangue(*ui_->Tx_MClé, SorteSaisie::Libelle);
     connect(ui_->Tx_MClé, &QLineEdit::textChanged, this, &FrmMotCle::ActiverBoutons);
     connect(ui_->Tx_LMClé, &QLineEdit::textChanged, this, &FrmMotCle::ActiverBoutons);
     connect(ui_->C_Ajout, &QPushButton::clicked, this, &FrmMotCle::Ajouter);
@@ -104,7 +111,11 @@ void FrmMotCle::Traduire() {
 }
 
 void FrmMotCle::Recharger() {
-    ListerMots(Choisi().mot);
+    Relire(true);
+}
+
+void FrmMotCle::Relire(bool garder) {
+    ListerMots(Choisi().mot, garder);
     for (const Panneau& panneau : panneaux_)
         ListerLignes(panneau, panneau.liste->currentRow());
 }
@@ -125,7 +136,7 @@ std::optional<records::SaisieMotCle> FrmMotCle::Saisie() const {
     return saisie;
 }
 
-void FrmMotCle::ListerMots(NoMotCle choisi) {
+void FrmMotCle::ListerMots(NoMotCle choisi, bool garder) {
     mots_ = S().base ? records::ListerMotsCles(S()) : std::vector<records::LigneMotCle>{};
     QTableWidget& liste = *ui_->LstMClé;
     {
@@ -145,7 +156,7 @@ void FrmMotCle::ListerMots(NoMotCle choisi) {
         liste.setCurrentCell(ici == mots_.end() ? 0 : static_cast<int>(ici - mots_.begin()),
                              Libelle);
     }
-    MontrerMot();
+    MontrerMot(garder);
 }
 
 void FrmMotCle::ListerLignes(const Panneau& panneau, int rang) {
@@ -161,13 +172,46 @@ void FrmMotCle::ListerLignes(const Panneau& panneau, int rang) {
     ActiverBoutons();
 }
 
-void FrmMotCle::MontrerMot() {
+void FrmMotCle::MontrerMot(bool garder) {
     const records::LigneMotCle mot = Choisi();
-    ui_->Tx_MClé->setText(TexteVersQt(mot.libelle));
-    ui_->Tx_LMClé->setText(mot.mot ? TexteVersQt({&mot.code, 1}) : QString{});
-    ui_->ChxIndex->setChecked(mot.indexe);
-    ui_->ChkDatée->setChecked(mot.datable);
+    const bool garde = garder && mot.mot == montre_.mot;
+    const bool indexChange = garde && ui_->ChxIndex->isChecked() != montre_.indexe;
+    montre_ = mot;
+    RelireChamp(*ui_->Tx_MClé, mot.libelle, garde);
+    RelireChamp(*ui_->Tx_LMClé, CodeDe(mot), garde);
+    if (!indexChange) ui_->ChxIndex->setChecked(mot.indexe);
+    if (!garde) ui_->ChkDatée->setChecked(mot.datable);
     ActiverBoutons();
+}
+
+bool FrmMotCle::CodeChange() const {
+    return QtVersTexte(ui_->Tx_LMClé->text()).octets != CodeDe(montre_);
+}
+
+bool FrmMotCle::Modifie() const {
+    return CodeChange() || QtVersTexte(ui_->Tx_MClé->text()).octets != montre_.libelle ||
+           ui_->ChxIndex->isChecked() != montre_.indexe;
+}
+
+bool FrmMotCle::Enregistrer() {
+    return CodeChange() || !montre_.mot ? Ajouter() : Modifier();
+}
+
+bool FrmMotCle::EnregistrerSaisie() {
+    return !S().base || !Modifie() || Enregistrer();
+}
+
+bool FrmMotCle::ConfirmerFermeture() {
+    if (!S().base || !Modifie()) return true;
+    const bool nouveau = CodeChange() || !montre_.mot;
+    return QuitterSaisie(
+        shell::Msg(nouveau ? message::ProposerAjouterMotCle : message::ProposerEnregistrerMotCle,
+                   QtVersTexte(ui_->Tx_MClé->text()).octets),
+        [this] { return Enregistrer(); }, [this] { MontrerMot(); });
+}
+
+void FrmMotCle::reject() {
+    if (ConfirmerFermeture()) FenetreFille::reject();
 }
 
 void FrmMotCle::ActiverBoutons() {
@@ -193,29 +237,34 @@ void FrmMotCle::Changer(bool change) {
     if (change) Q_EMIT baseChangee();
 }
 
-void FrmMotCle::Ajouter() {
+bool FrmMotCle::Ajouter() {
     const auto saisie = Saisie();
     const NoMotCle nouveau = saisie ? records::AjouterMotCle(S(), *saisie) : NoMotCle{};
     if (!nouveau) {
         ui_->Tx_LMClé->setFocus();
         ui_->Tx_LMClé->selectAll();
-        return;
+        return false;
     }
     ListerMots(nouveau);
     Changer(true);
+    return true;
 }
 
-void FrmMotCle::Modifier() {
+bool FrmMotCle::Modifier() {
     const NoMotCle mot = Choisi().mot;
     const auto saisie = Saisie();
-    if (!saisie || !records::ModifierMotCle(S(), mot, *saisie)) return ui_->Tx_MClé->setFocus();
-    Recharger();
+    if (!saisie || !records::ModifierMotCle(S(), mot, *saisie)) {
+        ui_->Tx_MClé->setFocus();
+        return false;
+    }
+    Relire(false);
     Changer(true);
+    return true;
 }
 
 void FrmMotCle::Supprimer() {
     if (!records::SupprimerMotCle(S(), Choisi().mot)) return;
-    Recharger();
+    Relire(false);
     Changer(true);
 }
 

@@ -28,6 +28,12 @@ public:
 
     void Traduire() override;
     void Recharger() override;
+    [[nodiscard]] bool ConfirmerFermeture() override;
+    /// Escape and the closing of the window ask first when something is not saved.
+    void reject() override;
+
+protected:
+    [[nodiscard]] bool EnregistrerSaisie() override;
 
 private:
     /// The list of one sheet with its buttons.
@@ -43,12 +49,18 @@ private:
     void Relier(const Panneau& panneau);
     [[nodiscard]] records::LigneMotCle Choisi() const;
     [[nodiscard]] std::optional<records::SaisieMotCle> Saisie() const;
-    void ListerMots(NoMotCle choisi);
+    /// `garder`: what is typed for the keyword that was shown stays.
+    void Relire(bool garder);
+    void ListerMots(NoMotCle choisi, bool garder = false);
     void ListerLignes(const Panneau& panneau, int rang);
-    void MontrerMot();
+    void MontrerMot(bool garder = false);
+    [[nodiscard]] bool Modifie() const;
+    [[nodiscard]] bool CodeChange() const;
+    /// Adds the keyword when its code is another one, else changes it. False when refused.
+    bool Enregistrer();
     void ActiverBoutons();
-    void Ajouter();
-    void Modifier();
+    bool Ajouter();
+    bool Modifier();
     void Supprimer();
     void Deplacer(int sens);
     void Changer(bool change);
@@ -56,6 +68,7 @@ private:
     std::unique_ptr<Ui::FrmMotCle> ui_;
     std::vector<Panneau> panneaux_;
     std::vector<records::LigneMotCle> mots_;
+    records::LigneMotCle montre_;  ///< the keyword in the fields, as it is stored
 };
 
 }  // namespace dorvane::windows

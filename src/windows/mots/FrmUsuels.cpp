@@ -4,10 +4,12 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
+#include "messages/Dorvane.h"
 #include "messages/Mots.h"
 #include "records/MotsUsuels.h"
 #include "shell/Session.h"
 #include "windows/controles/ChampSuivi.h"
+#include "windows/controles/LangueSaisies.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/Remplaces.h"
 #include "windows/controles/Unicode.h"
@@ -51,6 +53,8 @@ FrmUsuels::FrmUsuels(shell::Session& session, QWidget* parent)
          {static_cast<QWidget*>(ui_->TxtMot), static_cast<QWidget*>(ui_->TxtRubrique),
           static_cast<QWidget*>(ui_->LstMot)})
         champ->installEventFilter(this);
+    for (QLineEdit* champ : {ui_->TxtMot, ui_->TxtRubrique})
+        SuivreLangue(*champ, SorteSaisie::Libelle);
     Traduire();
     ui_->TxtMot->setFocus();
 }
@@ -128,6 +132,36 @@ void FrmUsuels::AjouterRubrique() {
 
 void FrmUsuels::SupprimerRubrique() {
     if (records::SupprimerRubrique(S(), Rubrique())) ListerRubriques({});
+}
+
+bool FrmUsuels::Verser(const QLineEdit& champ) {
+    if (&champ == ui_->TxtMot)
+        AjouterMot();
+    else
+        AjouterRubrique();
+    return champ.text().trimmed().isEmpty();
+}
+
+bool FrmUsuels::ConfirmerFermeture() {
+    for (QLineEdit* champ : {ui_->TxtMot, ui_->TxtRubrique}) {
+        const QString saisi = champ->text().trimmed();
+        if (saisi.isEmpty()) continue;
+        if (!QuitterSaisie(
+                shell::Msg(message::ProposerAjouterMotUsuel, QtVersTexte(saisi).octets),
+                [this, champ] { return Verser(*champ); }, [champ] { champ->clear(); }))
+            return false;
+    }
+    return true;
+}
+
+void FrmUsuels::reject() {
+    if (ConfirmerFermeture()) FenetreFille::reject();
+}
+
+bool FrmUsuels::EnregistrerSaisie() {
+    for (const QLineEdit* champ : {ui_->TxtMot, ui_->TxtRubrique})
+        if (!champ->text().trimmed().isEmpty() && !Verser(*champ)) return false;
+    return true;
 }
 
 /// Enter does what the button beside the field does; Delete takes the selected word away.

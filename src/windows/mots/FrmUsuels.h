@@ -5,6 +5,8 @@
 #include <memory>
 #include <string>
 
+class QLineEdit;
+
 namespace Ui {
 class FrmUsuels;
 }
@@ -20,8 +22,12 @@ public:
     ~FrmUsuels() override;
 
     void Traduire() override;
+    [[nodiscard]] bool ConfirmerFermeture() override;
+    /// Escape and the closing of the window ask first when a word is typed and not added.
+    void reject() override;
 
 protected:
+    [[nodiscard]] bool EnregistrerSaisie() override;
     bool eventFilter(QObject* objet, QEvent* evenement) override;
 
 private:
@@ -32,6 +38,8 @@ private:
     void AjouterMot();
     void SupprimerMot();
     void AjouterRubrique();
+    /// Adds what is typed in one of the two fields; false when it still stands there.
+    bool Verser(const QLineEdit& champ);
     void SupprimerRubrique();
 
     std::unique_ptr<Ui::FrmUsuels> ui_;

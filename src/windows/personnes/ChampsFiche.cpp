@@ -9,6 +9,7 @@
 #include "windows/controles/ChampSuivi.h"
 #include "windows/controles/Completeur.h"
 #include "windows/controles/Icones.h"
+#include "windows/controles/LangueSaisies.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/Unicode.h"
 
@@ -41,6 +42,7 @@ QString TexteAvis(const shell::Session& session, AvisDate avis) {
 }
 
 void SuivreJourMois(QLineEdit& champ, const shell::Session& session) {
+    SuivreLangue(champ, SorteSaisie::JourMois);
     QObject::connect(&champ, &QLineEdit::editingFinished, &champ, [&champ, &session] {
         const std::string saisi = QtVersTexte(champ.text()).octets;
         const std::string ecrit = QuitterJourMois(saisi, session.Ordre(), session.Mots());

@@ -29,7 +29,7 @@ namespace dorvane::windows {
 /// The name of a date that is odd, for the label beside it; empty when it is not.
 [[nodiscard]] QString TexteAvis(const shell::Session& session, records::AvisDate avis);
 
-/// The day-month field is written in words when it loses the focus.
+/// The day-month field is written in words when it loses the focus, and when the language changes.
 void SuivreJourMois(QLineEdit& champ, const shell::Session& session);
 /// The field takes the case of the base when it loses the focus.
 void SuivreCasse(QLineEdit& champ, const shell::Session& session, records::Casse casse);

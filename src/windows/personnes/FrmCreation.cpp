@@ -5,6 +5,7 @@
 #include "messages/Fiche.h"
 #include "records/Individus.h"
 #include "shell/Session.h"
+#include "windows/controles/LangueSaisies.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/Remplaces.h"
 
@@ -71,6 +72,17 @@ void FrmCreation::Traduire() {
     ui_->Rangées->Traduire();
 }
 
+void FrmCreation::ChangerLangue(const MotsDeLangue& avant) {
+    for (std::string* date : {&depart_.jourMoisNaissance, &depart_.jourMoisDeces})
+        *date = avant.Traduire(*date, SorteSaisie::JourMois, S());
+    FenetreFille::ChangerLangue(avant);
+}
+
+bool FrmCreation::EnregistrerSaisie() {
+    Creer();
+    return !isVisible();
+}
+
 records::SaisieFiche FrmCreation::Lire(std::size_t& remplaces) const {
     records::SaisieFiche fiche;
     ui_->Champs->Lire(fiche, remplaces);
@@ -95,20 +107,8 @@ void FrmCreation::Creer() {
 
 void FrmCreation::reject() {
     std::size_t remplaces = 0;
-    if (Lire(remplaces) != depart_) {
-        const shell::Reponse reponse =
-            S().dialogue.Demander({shell::Msg(message::ProposerCreerPersonne),
-                                   {},
-                                   shell::Boutons::OuiNonAnnuler,
-                                   shell::Reponse::Oui,
-                                   false});
-        if (reponse == shell::Reponse::Annuler) return;
-        if (reponse == shell::Reponse::Oui) {
-            Creer();
-            return;
-        }
-    }
-    FenetreFille::reject();
+    if (Lire(remplaces) == depart_) return FenetreFille::reject();
+    Renoncer(shell::Msg(message::ProposerCreerPersonne), [this] { Creer(); });
 }
 
 }  // namespace dorvane::windows

@@ -51,8 +51,12 @@ public:
                                        QWidget* parent);
 
     void Traduire() override;
+    void ChangerLangue(const MotsDeLangue& avant) override;
     /// Escape and the closing of the window ask first when something was typed.
     void reject() override;
+
+protected:
+    [[nodiscard]] bool EnregistrerSaisie() override;
 
 private:
     [[nodiscard]] records::SaisieFiche Lire(std::size_t& remplaces) const;

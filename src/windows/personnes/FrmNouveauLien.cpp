@@ -4,6 +4,7 @@
 #include <QCompleter>
 #include <QLineEdit>
 
+#include "messages/Dorvane.h"
 #include "messages/Fiche.h"
 #include "records/Liens.h"
 #include "records/MotsUsuels.h"
@@ -12,6 +13,7 @@
 #include "shell/Session.h"
 #include "values/SortesEvenement.h"
 #include "windows/controles/ChampSuivi.h"
+#include "windows/controles/LangueSaisies.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/Remplaces.h"
 #include "windows/controles/Unicode.h"
@@ -33,12 +35,11 @@ FrmNouveauLien::FrmNouveauLien(shell::Session& session, NoOrdre individu, NoOrdr
       individu_{individu},
       autre_{autre} {
     ui_->setupUi(this);
-    ui_->CboLien->addItems(MotsDeLiens(session));
+    SuivreLangue(*ui_->CboLien->lineEdit(), SorteSaisie::Libelle);
     ui_->CboLien->completer()->setCaseSensitivity(Qt::CaseInsensitive);
     ui_->CboLien->completer()->setCompletionMode(QCompleter::PopupCompletion);
-    ui_->CboLien->clearEditText();
     connect(ui_->CmdValider, &QPushButton::clicked, this, &FrmNouveauLien::Valider);
-    connect(ui_->CmdAnnuler, &QPushButton::clicked, this, &QDialog::reject);
+    connect(ui_->CmdAnnuler, &QPushButton::clicked, this, &FrmNouveauLien::reject);
     FrmNouveauLien::Traduire();
     ui_->CboLien->setFocus();
 }
@@ -56,6 +57,23 @@ void FrmNouveauLien::Traduire() {
     FenetreFille::Traduire();
     setWindowTitle(TexteEcran(S().catalogue.Composer(
         shell::Msg(message::TitreLienAvec, records::NomAffiche(S(), autre_)))));
+    const QString saisi = ui_->CboLien->currentText();
+    ui_->CboLien->clear();
+    ui_->CboLien->addItems(MotsDeLiens(S()));
+    ui_->CboLien->setCurrentIndex(-1);
+    ui_->CboLien->setEditText(saisi);
+}
+
+bool FrmNouveauLien::EnregistrerSaisie() {
+    Valider();
+    return !isVisible();
+}
+
+void FrmNouveauLien::reject() {
+    const QString saisi = ui_->CboLien->currentText().trimmed();
+    if (saisi.isEmpty()) return FenetreFille::reject();
+    Renoncer(shell::Msg(message::ProposerEnregistrerLien, QtVersTexte(saisi).octets),
+             [this] { Valider(); });
 }
 
 void FrmNouveauLien::Valider() {

@@ -26,6 +26,11 @@ public:
     static bool Lier(shell::Session& session, NoOrdre individu, NoOrdre autre, QWidget* parent);
 
     void Traduire() override;
+    /// Escape and the closing of the window ask first when a label is typed.
+    void reject() override;
+
+protected:
+    [[nodiscard]] bool EnregistrerSaisie() override;
 
 private:
     void Valider();

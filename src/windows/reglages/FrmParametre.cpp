@@ -12,6 +12,7 @@
 #include "windows/controles/Remplaces.h"
 #include "windows/reglages/PagesParametre.h"
 
+#include <algorithm>
 #include <array>
 
 namespace dorvane::windows {
@@ -110,11 +111,21 @@ shell::Reglages FrmParametre::Lire(std::size_t& remplaces) const {
 
 void FrmParametre::reject() {
     std::size_t remplaces = 0;
-    if (shell::MemesReglages(Lire(remplaces), montres_)) return FenetreFille::reject();
-    Renoncer(message::ProposerEnregistrerReglages, [this] { Valider(); });
+    const QList<PageParametre*> pages = findChildren<PageParametre*>();
+    const bool enAttente = std::ranges::any_of(pages, &PageParametre::MotEnAttente);
+    if (!enAttente && shell::MemesReglages(Lire(remplaces), montres_))
+        return FenetreFille::reject();
+    Renoncer(shell::Msg(message::ProposerEnregistrerReglages), [this] { Valider(); });
+}
+
+bool FrmParametre::EnregistrerSaisie() {
+    Valider();
+    return !isVisible();
 }
 
 void FrmParametre::Valider() {
+    for (PageParametre* page : findChildren<PageParametre*>())
+        if (page->MotEnAttente()) page->VerserMot();
     std::size_t remplaces = 0;
     shell::Reglages reglages = Lire(remplaces);
     if (!AccepterRemplaces(S(), remplaces)) return;

@@ -30,6 +30,9 @@ public:
     /// Asks first when something is not saved.
     void reject() override;
 
+protected:
+    [[nodiscard]] bool EnregistrerSaisie() override;
+
 private:
     void Ajouter(PageParametre* page);
     /// What the pages say now, over what was set when the window opened.

@@ -34,6 +34,10 @@ public:
     virtual void Charger(const shell::Reglages& reglages) = 0;
     /// Takes over what is shown; answers how many characters the settings cannot hold.
     virtual std::size_t Lire(shell::Reglages& reglages) = 0;
+    /// A word is typed for a list of the page and not added to it yet.
+    [[nodiscard]] virtual bool MotEnAttente() const { return false; }
+    /// Adds it.
+    virtual void VerserMot() {}
     /// Texts that no caption gives: rows of lists, examples.
     virtual void Traduire() {}
 
@@ -77,6 +81,8 @@ public:
     ParametreParticules(shell::Session& session, QWidget* parent);
     void Charger(const shell::Reglages& reglages) override;
     std::size_t Lire(shell::Reglages& reglages) override;
+    [[nodiscard]] bool MotEnAttente() const override;
+    void VerserMot() override;
     void Traduire() override;
 
 private:
@@ -123,6 +129,8 @@ public:
     ParametreEvenements(shell::Session& session, QWidget* parent);
     void Charger(const shell::Reglages& reglages) override;
     std::size_t Lire(shell::Reglages& reglages) override;
+    [[nodiscard]] bool MotEnAttente() const override;
+    void VerserMot() override;
     void Traduire() override;
 
 private:

@@ -16,6 +16,7 @@
 #include "values/SortesEvenement.h"
 #include "windows/controles/ChampSuivi.h"
 #include "windows/controles/Icones.h"
+#include "windows/controles/LangueSaisies.h"
 #include "windows/controles/Legendes.h"
 #include "windows/controles/ListeOrdonnee.h"
 #include "windows/controles/Remplaces.h"
@@ -49,6 +50,7 @@ ParametreEvenements::ParametreEvenements(shell::Session& session, QWidget* paren
     roles_->setColumnWidth(Sexe, LargeurColonne);
     roles_->setColumnWidth(Obligatoire, LargeurColonne);
     type_->setObjectName(QStringLiteral("TxtTypeEvt"));
+    SuivreLangue(*type_, SorteSaisie::Libelle);
     ajouterRole_->setObjectName(QStringLiteral("CmdRoleAjt"));
     ajouterRole_->setIcon(Icone("Ajouter"));
     retirerRole_->setObjectName(QStringLiteral("CmdRoleSup"));
@@ -137,12 +139,21 @@ void ParametreEvenements::AjouterType() {
     type_->clear();
 }
 
+bool ParametreEvenements::MotEnAttente() const {
+    return !type_->text().trimmed().isEmpty();
+}
+
+void ParametreEvenements::VerserMot() {
+    AjouterType();
+}
+
 void ParametreEvenements::AjouterRole(const shell::RoleEvenement& role) {
     const int ligne = roles_->rowCount();
     roles_->insertRow(ligne);
     auto* libelle = new QComboBox;
     libelle->setEditable(true);
     libelle->setFrame(false);
+    SuivreLangue(*libelle->lineEdit(), SorteSaisie::Libelle);
     libelle->setAccessibleName(TexteEcran(S(), message::ColonneRoleReglages));
     for (const std::string& mot :
          records::ListerMotsUsuels(S(), shell::LibelleDeTag(S().catalogue, tag::Relation)))

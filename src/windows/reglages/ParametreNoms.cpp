@@ -264,6 +264,14 @@ void ParametreParticules::Ajouter() {
     mot_->setFocus();
 }
 
+bool ParametreParticules::MotEnAttente() const {
+    return !mot_->text().trimmed().isEmpty();
+}
+
+void ParametreParticules::VerserMot() {
+    Ajouter();
+}
+
 void ParametreParticules::Retirer() {
     if (table_->currentRow() >= 0) table_->removeRow(table_->currentRow());
 }
