@@ -421,6 +421,7 @@ TEST_CASE_FIXTURE(FenetreEssai,
     });
     suivant.start(10);
     Action("MnuRestauration").trigger();
-    CHECK(question.startsWith(QStringLiteral("La base existe")));
+    CHECK(question.startsWith(QStringLiteral("Base\u00A0: ")));
+    CHECK(question.contains(QStringLiteral("La base existe")));
     CHECK(S().BaseOuverte());
 }

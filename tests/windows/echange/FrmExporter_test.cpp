@@ -445,7 +445,7 @@ TEST_CASE_FIXTURE(Export,
     CHECK(Fiche().startsWith(QStringLiteral("Personnes\u00A0: 8 ")));
     {
         Enchainement suite;
-        Fichier(suite, "autres.lgr").Boite(QMessageBox::Yes, QStringLiteral("personnes\u00A0: 8"));
+        Fichier(suite, "autres.lgr").Boite(QMessageBox::Ok, QStringLiteral("personnes\u00A0: 8"));
         Action("MnuIntégrer").trigger();
     }
     CHECK(S().base->entete.NbTriIndividus == 16);
