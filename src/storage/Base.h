@@ -128,9 +128,9 @@ private:
     /// Drops directory entries that lie outside a file of `taille` bytes; answers the last byte of
     /// the blocks that are left.
     [[nodiscard]] std::uint64_t VerifierRepertoires(std::uint64_t taille);
-    /// The last byte in use of a file of `taille` bytes whose header says `fin`: the whole file when
-    /// a cell names a record behind it. A last record that has no end is ended by what is written
-    /// next. Only a file that does not end with a record, as its header says, is walked.
+    /// The last byte in use of a file of `taille` bytes whose header says `fin`: the whole file
+    /// when a cell names a record behind it. A last record that has no end is ended by what is
+    /// written next. Only a file that does not end with a record, as its header says, is walked.
     [[nodiscard]] std::uint64_t FinDesFiches(std::uint64_t fin, std::uint64_t taille);
     void ViderColonnes();
     /// Gives all that waits to the volume; answers the 200 bytes of the header.

@@ -148,8 +148,7 @@ bool EstNomReserve(const std::filesystem::path& chemin) {
            EnMinuscules(chemin.filename().native()) == "reorg.fic";
 }
 
-std::optional<std::uint32_t> CompterPersonnes(Disque& disque,
-                                              const std::filesystem::path& chemin) {
+std::optional<std::uint32_t> CompterPersonnes(Disque& disque, const std::filesystem::path& chemin) {
     const std::unique_ptr<Fichier> fichier = disque.Ouvrir(chemin, ModeOuverture::LectureSeule);
     if (!fichier) return std::nullopt;
     std::string octets(TailleEnTete, '\0');

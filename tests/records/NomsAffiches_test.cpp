@@ -8,7 +8,6 @@
 #include "storage/Base.h"
 #include "values/Texte1252.h"
 
-
 #include <doctest/doctest.h>
 
 using namespace dorvane;
