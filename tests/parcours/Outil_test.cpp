@@ -169,7 +169,7 @@ TEST_CASE_FIXTURE(Poste, "Folders, pipes and empty files in place of files are r
     EcrireFichier(dossier / "vide.GED", "");
     EcrireFichier(dossier / "vide.LGD", "");
     EcrireFichier(dossier / "image.ged",
-                  std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\n1 BIRT\n0 x\n", 36));
+                  std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\n1 BIRT\n0 x\n", 28));
     EcrireFichier(dossier / "lettre.ged", "Chère cousine,\nvoici la famille.\n");
     const auto statut = [this](const std::string& ligne) { return Lancer(ligne).statut; };
     CHECK(statut("importer d") == 3);

@@ -42,7 +42,7 @@ struct Abimee : Essai {
         base->R_IMAGE.EcrireDoc(base->NouveauDocument(), {"titre", "a.jpg", "", "note"});
         base->R_EVT.EcrireEvt(base->NouvelEvenement(), {.note = "note d'événement"});
         Rouvrir();
-        const std::string tout = Inventaire{*base}.Texte();
+        std::string tout = Inventaire{*base}.Texte();
         base.reset();
         return tout;
     }
