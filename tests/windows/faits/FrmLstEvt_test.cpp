@@ -83,7 +83,9 @@ TEST_CASE_FIXTURE(Essai, "FrmLstEvt: Del takes an event away after a yes") {
     C<QTableView>("GrdEvts").setFocus();
     auto texte = Repondre(QMessageBox::No);
     Touche(Qt::Key_Delete);
-    CHECK(texte->startsWith("Mariage, 4 mai 1815, Brest"));
+    CHECK(texte->startsWith(QStringLiteral("L'événement « Mariage, 4 mai 1815, Brest")
+                                .replace(QStringLiteral("« "), QStringLiteral("«\u00A0"))));
+    CHECK(texte->contains("\nConfirmez-vous la suppression"));
     CHECK(Dates() == "1815 1841 1889");
     Repondre(QMessageBox::Yes);
     Touche(Qt::Key_Delete);

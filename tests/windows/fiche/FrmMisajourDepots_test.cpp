@@ -192,6 +192,7 @@ TEST_CASE_FIXTURE(Depots, "FrmMisajour: a person dropped on the links is asked t
             Qualifier(suite, "Αμί");
             suite.Boite(QMessageBox::No, QStringLiteral("Caractères"));
             Qualifier(suite, "");
+            suite.Boite(QMessageBox::No, QStringLiteral("n'est pas enregistré"));
             CHECK(Deposer(*Liste("GrdLiens").viewport(), NoOrdre{1}));
         }
         CHECK(records::ListerLiens(S(), NoOrdre{1}).empty());

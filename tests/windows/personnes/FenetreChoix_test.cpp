@@ -110,7 +110,7 @@ TEST_CASE_FIXTURE(Famille,
     CHECK(Noms(fenetre) == QStringList{"Louis Martin"});
     const auto question = RepondreBoite(QMessageBox::Yes);
     DoubleCliquer(fenetre, 0);
-    CHECK(*question == QStringLiteral("Rose Blanc est-elle la mère de Anne Évrard\u00A0?"));
+    CHECK(*question == QStringLiteral("Rose Blanc est-elle la mère d'Anne Évrard\u00A0?"));
     CHECK(fenetre.result() == QDialog::Accepted);
     CHECK_FALSE(fenetre.isVisible());
     CHECK(B().R_PERE.LireCellule(NoOrdre{4}) == NoOrdre{1});
